@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace vantor {
+
+/// One graphics device, identified by its id.
+struct GPUStats {
+    std::string id;  ///< stable for the device; the record's identity
+    std::string name;
+    bool isUnifiedMemory = false;               ///< shares the system's memory
+    std::optional<double> utilization;          ///< busy fraction 0 to 1
+    std::optional<double> temperatureCelsius;
+    std::optional<std::uint64_t> vramUsedBytes;
+    std::optional<std::uint64_t> vramTotalBytes;
+    std::optional<std::uint64_t> recommendedWorkingSetBytes;
+
+    bool operator==(const GPUStats&) const = default;
+
+    /// What tells this row from the others across refreshes; equality compares everything.
+    const std::string& identity() const { return id; }
+};
+
+}  // namespace vantor

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/network_interface_stats.h"
+
+namespace vantor {
+
+/// The host's network: its name, the interface of the default route, and every interface.
+struct NetworkStats {
+    std::string hostname;
+    std::optional<std::string> primaryInterfaceName;  ///< carries the default route
+    std::optional<std::string> primaryIPv4Address;    ///< numeric, of the primary interface
+    std::optional<std::string> primaryIPv6Address;
+    double downloadBytesPerSecond = 0;  ///< of the primary interface, not a sum
+    double uploadBytesPerSecond = 0;
+    std::vector<NetworkInterfaceStats> interfaces;
+
+    bool operator==(const NetworkStats&) const = default;
+
+    /// What stands in until the first reading.
+    static const NetworkStats& empty();
+};
+
+}  // namespace vantor

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "model/process_stats.h"
+
+namespace vantor {
+
+/// What one pass over the processes found.
+struct ProcessSample {
+    std::vector<ProcessStats> all;             ///< in the order of the kernel's listing
+    std::vector<ProcessStats> sortedByCPU;     ///< at most 18, busiest first, then lower pid first
+    std::vector<ProcessStats> sortedByMemory;  ///< at most 18, largest first, then lower pid first
+
+    bool operator==(const ProcessSample&) const = default;
+
+    /// Three empty lists: also what a failed listing looks like.
+    static const ProcessSample& empty();
+};
+
+}  // namespace vantor

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/process_sample.h"
+#include "model/system_snapshot.h"
+
+/// Records as JSON values, each field under its own name. A field that always has a value is always
+/// written; an optional one only when present, and a missing key reads as absent.
+///
+/// `Record` is any record of this folder (the definitions are instantiated for each of them).
+/// Pure functions, any thread.
+namespace vantor {
+
+/// Absent when a floating value anywhere in the record is infinite or not a number: JSON has no
+/// word for those, and writing another one would be a lie.
+template <class Record>
+std::optional<nlohmann::json> encode(const Record& record);
+
+/// Absent when a field that always has a value is missing, or any field has another type or does
+/// not fit its own. Unknown keys are ignored.
+template <class Record>
+std::optional<Record> decode(const nlohmann::json& value);
+
+/// UTC with whole seconds, e.g. 2026-11-14T17:53:42Z.
+std::string encodeTimestamp(Timestamp timestamp);
+
+/// The reverse of encodeTimestamp; absent for any other form or an impossible date.
+std::optional<Timestamp> decodeTimestamp(std::string_view text);
+
+}  // namespace vantor

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <vector>
+
+#include "model/cpu_stats.h"
+#include "model/gpu_stats.h"
+#include "model/memory_stats.h"
+#include "model/network_stats.h"
+#include "model/power_stats.h"
+#include "model/process_stats.h"
+#include "model/system_info_stats.h"
+#include "model/volume_stats.h"
+
+namespace vantor {
+
+/// Wall-clock instants; everything else in the program measures with the monotonic uptime.
+using Timestamp = std::chrono::system_clock::time_point;
+
+/// The whole machine at one moment.
+struct SystemSnapshot {
+    Timestamp timestamp;  ///< when it was last committed
+    CPUStats cpu;
+    MemoryStats memory;
+    NetworkStats network;
+    std::vector<GPUStats> gpus;
+    std::vector<VolumeStats> volumes;
+    std::vector<ProcessStats> processes;
+    SystemInfoStats system;
+    std::optional<PowerStats> power;  ///< absent on machines without a battery
+
+    bool operator==(const SystemSnapshot&) const = default;
+
+    /// What stands in until the first commit. Its timestamp is the earliest that the clock's type
+    /// can hold, so any real one is later.
+    static const SystemSnapshot& empty();
+};
+
+}  // namespace vantor

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vantor {
+
+/// One mounted volume, identified by its mount path.
+struct VolumeStats {
+    std::string name;  ///< display name
+    std::string path;  ///< where it is mounted; the record's identity
+    std::uint64_t totalBytes = 0;
+    std::uint64_t availableBytes = 0;
+    bool isInternal = false;
+    bool isRemovable = false;
+    bool isReadOnly = false;
+
+    bool operator==(const VolumeStats&) const = default;
+
+    /// What tells this row from the others across refreshes; equality compares everything.
+    const std::string& identity() const { return path; }
+};
+
+}  // namespace vantor

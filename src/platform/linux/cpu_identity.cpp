@@ -1,0 +1,129 @@
+#include "platform/linux/cpu_identity.h"
+
+#include <charconv>
+#include <cmath>
+#include <set>
+#include <tuple>
+
+#include "platform/linux/cpu_list.h"
+#include "platform/linux/kernel_file.h"
+
+namespace vantor {
+
+namespace {
+
+std::string_view trim(std::string_view text) {
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+    return text;
+}
+
+std::optional<std::vector<std::uint32_t>> readCPUList(const LinuxRoots& roots, const char* name) {
+    const auto text = readKernelFile(roots.sys / "devices/system/cpu" / name);
+    auto list = text ? parseCPUList(*text) : std::nullopt;
+    if (!list || list->empty()) return std::nullopt;
+    return list;
+}
+
+std::optional<std::int32_t> countList(const LinuxRoots& roots, const char* name) {
+    const auto list = readCPUList(roots, name);
+    if (!list) return std::nullopt;
+    return static_cast<std::int32_t>(list->size());
+}
+
+std::optional<std::int64_t> readInteger(const std::filesystem::path& path) {
+    const auto text = readKernelText(path);
+    if (!text) return std::nullopt;
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(text->data(), text->data() + text->size(), value);
+    if (error != std::errc{} || end != text->data() + text->size()) return std::nullopt;
+    return value;
+}
+
+std::optional<std::string> readDeviceTreeModel(const LinuxRoots& roots) {
+    if (auto model = readKernelText(roots.proc / "device-tree/model")) return model;
+    return readKernelText(roots.sys / "firmware/devicetree/base/model");
+}
+
+std::filesystem::path processorFolder(const LinuxRoots& roots, std::uint32_t id) {
+    return roots.sys / "devices/system/cpu" / ("cpu" + std::to_string(id));
+}
+
+}  // namespace
+
+std::optional<std::string> findInCPUInfo(std::string_view text, std::string_view key) {
+    while (!text.empty()) {
+        const auto lineEnd = text.find('\n');
+        const std::string_view line = text.substr(0, lineEnd);
+        text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 1);
+        const auto colon = line.find(':');
+        if (colon == std::string_view::npos || trim(line.substr(0, colon)) != key) continue;
+        const auto value = trim(line.substr(colon + 1));
+        if (!value.empty()) return std::string(value);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> frequencyInName(std::string_view name) {
+    const auto at = name.rfind('@');
+    if (at == std::string_view::npos) return std::nullopt;
+    const std::string_view text = trim(name.substr(at + 1));
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number,
+                                              std::chars_format::fixed);
+    const auto unit = trim(text.substr(static_cast<std::size_t>(end - text.data())));
+    const double scale = unit == "GHz" ? 1e9 : unit == "MHz" ? 1e6 : 0;
+    const double hertz = number * scale;
+    if (error != std::errc{} || !(hertz >= 1 && hertz < 1e15)) return std::nullopt;
+    return static_cast<std::uint64_t>(std::llround(hertz));
+}
+
+std::optional<std::string> readProcessorName(const LinuxRoots& roots) {
+    if (const auto text = readKernelFile(roots.proc / "cpuinfo")) {
+        if (auto name = findInCPUInfo(*text, "model name")) return name;
+    }
+    return readDeviceTreeModel(roots);
+}
+
+std::optional<std::string> readHardwareModel(const LinuxRoots& roots) {
+    if (auto name = readKernelText(roots.sys / "class/dmi/id/product_name")) return name;
+    return readDeviceTreeModel(roots);
+}
+
+std::optional<std::int32_t> countOnlineProcessors(const LinuxRoots& roots) {
+    return countList(roots, "online");
+}
+
+std::optional<std::int32_t> countPresentProcessors(const LinuxRoots& roots) {
+    return countList(roots, "present");
+}
+
+std::optional<std::int32_t> countPhysicalCores(const LinuxRoots& roots) {
+    const auto online = readCPUList(roots, "online");
+    if (!online) return std::nullopt;
+    // A core's number is unique within its die only; kernels without dies have no such file, and
+    // some ARM firmware gives no package (-1).
+    std::set<std::tuple<std::int64_t, std::int64_t, std::int64_t>> cores;
+    for (const std::uint32_t id : *online) {
+        const auto topology = processorFolder(roots, id) / "topology";
+        const auto core = readInteger(topology / "core_id");
+        if (!core) return std::nullopt;
+        cores.emplace(readInteger(topology / "physical_package_id").value_or(-1),
+                      readInteger(topology / "die_id").value_or(-1), *core);
+    }
+    return static_cast<std::int32_t>(cores.size());
+}
+
+std::optional<std::uint64_t> readNominalFrequencyHz(const LinuxRoots& roots) {
+    if (const auto online = readCPUList(roots, "online")) {
+        const auto file = processorFolder(roots, online->front()) / "cpufreq/base_frequency";
+        const auto kilohertz = readInteger(file);
+        if (kilohertz && *kilohertz > 0 && *kilohertz < 1'000'000'000) {
+            return static_cast<std::uint64_t>(*kilohertz) * 1000;
+        }
+    }
+    const auto name = readProcessorName(roots);
+    return name ? frequencyInName(*name) : std::nullopt;
+}
+
+}  // namespace vantor

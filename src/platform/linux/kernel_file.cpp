@@ -1,0 +1,67 @@
+#include "platform/linux/kernel_file.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace vantor {
+
+namespace {
+
+constexpr std::size_t firstBufferSize = 16 * 1024;
+constexpr std::size_t largestBufferSize = 16 * 1024 * 1024;
+
+ssize_t readFromStart(int fd, std::vector<char>& buffer) {
+    ssize_t count = 0;
+    do {
+        count = ::pread(fd, buffer.data(), buffer.size(), 0);
+    } while (count < 0 && errno == EINTR);
+    return count;
+}
+
+}  // namespace
+
+bool KernelFile::open() {
+    file_ = FileDescriptor{::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
+    return static_cast<bool>(file_);
+}
+
+std::optional<std::string_view> KernelFile::read() {
+    if (!file_ && !open()) return std::nullopt;
+    if (buffer_.empty()) buffer_.resize(firstBufferSize);
+    ssize_t count = readFromStart(file_.get(), buffer_);
+    // A full buffer may hide more. The kernel makes the text anew for each read from the start, so
+    // reading on would join the end of one moment to the start of another: read it all again.
+    while (count >= 0 && static_cast<std::size_t>(count) == buffer_.size() &&
+           buffer_.size() < largestBufferSize) {
+        buffer_.resize(buffer_.size() * 2);
+        count = readFromStart(file_.get(), buffer_);
+    }
+    if (count < 0) {
+        file_.reset();  // the next read tries a fresh descriptor
+        return std::nullopt;
+    }
+    return std::string_view(buffer_.data(), static_cast<std::size_t>(count));
+}
+
+std::optional<std::string> readKernelFile(const std::filesystem::path& path) {
+    KernelFile file(path);
+    const auto content = file.read();
+    if (!content) return std::nullopt;
+    return std::string(*content);
+}
+
+std::optional<std::string> readKernelText(const std::filesystem::path& path) {
+    const auto content = readKernelFile(path);
+    if (!content) return std::nullopt;
+    std::string_view text = *content;
+    constexpr std::string_view blanks(" \t\r\n\0", 5);
+    const auto first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return std::nullopt;
+    text.remove_prefix(first);
+    text.remove_suffix(text.size() - text.find_last_not_of(blanks) - 1);
+    return std::string(text);
+}
+
+}  // namespace vantor

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/linux/file_descriptor.h"
+
+namespace vantor {
+
+/// A small file of /proc or /sys that is read again and again: kept open, read from its start in
+/// one call into a buffer that is kept too. One thread at a time.
+class KernelFile {
+  public:
+    explicit KernelFile(std::filesystem::path path) : path_(std::move(path)) {}
+
+    /// The whole content, valid until the next read; absent when it cannot be opened or read.
+    std::optional<std::string_view> read();
+
+  private:
+    bool open();
+
+    std::filesystem::path path_;
+    FileDescriptor file_;
+    std::vector<char> buffer_;
+};
+
+/// The whole content of a file that is read once; absent when it cannot be read.
+std::optional<std::string> readKernelFile(const std::filesystem::path& path);
+
+/// The same without the blanks and line ends around it (device-tree texts end with a zero byte,
+/// which goes too); absent also when nothing is left.
+std::optional<std::string> readKernelText(const std::filesystem::path& path);
+
+}  // namespace vantor

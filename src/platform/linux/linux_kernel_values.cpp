@@ -1,0 +1,66 @@
+#include "platform/linux/linux_kernel_values.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/linux/cpu_identity.h"
+
+namespace vantor {
+
+namespace {
+
+using Bytes = std::optional<std::vector<std::byte>>;
+
+template <class T>
+Bytes toBytes(const std::optional<T>& value) {
+    if (!value) return std::nullopt;
+    std::vector<std::byte> bytes(sizeof(T));
+    std::memcpy(bytes.data(), &*value, sizeof(T));
+    return bytes;
+}
+
+Bytes toBytes(const std::optional<std::string>& text) {
+    if (!text) return std::nullopt;
+    std::vector<std::byte> bytes(text->size() + 1);
+    std::memcpy(bytes.data(), text->data(), text->size());
+    return bytes;
+}
+
+struct Entry {
+    std::string_view name;
+    Bytes (*read)(const LinuxRoots&);
+};
+
+constexpr std::array entries{
+    Entry{"machdep.cpu.brand_string",
+          [](const LinuxRoots& roots) { return toBytes(readProcessorName(roots)); }},
+    Entry{"hw.model", [](const LinuxRoots& roots) { return toBytes(readHardwareModel(roots)); }},
+    Entry{"hw.logicalcpu",
+          [](const LinuxRoots& roots) { return toBytes(countOnlineProcessors(roots)); }},
+    Entry{"hw.physicalcpu",
+          [](const LinuxRoots& roots) { return toBytes(countPhysicalCores(roots)); }},
+    Entry{"hw.cpufrequency",
+          [](const LinuxRoots& roots) { return toBytes(readNominalFrequencyHz(roots)); }},
+};
+
+}  // namespace
+
+int LinuxKernelValues::sysctlbyname(const std::string& name, std::span<std::byte> buffer,
+                                    std::size_t& size) {
+    const auto entry = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& e) { return e.name == name; });
+    const Bytes value = entry == entries.end() ? std::nullopt : entry->read(roots_);
+    if (!value) return ENOENT;
+    size = value->size();
+    if (buffer.empty()) return 0;
+    if (buffer.size() < value->size()) return ENOMEM;
+    std::copy(value->begin(), value->end(), buffer.begin());
+    return 0;
+}
+
+}  // namespace vantor

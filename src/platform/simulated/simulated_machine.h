@@ -1,0 +1,87 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "platform/machine.h"
+#include "platform/simulated/simulated_host_processors.h"
+#include "platform/simulated/simulated_kernel_values.h"
+#include "platform/simulated/wound_clock.h"
+
+namespace vantor {
+
+/// Load averages by script.
+class SimulatedLoadAverages : public LoadAverages {
+  public:
+    std::vector<double> values{0.5, 0.25, 0.125};
+    int answer = 3;  ///< what the call returns; below 1 is a failure
+
+    int getloadavg(std::span<double> averages) override;
+};
+
+/// Surroundings by script; the uptime is the wound clock's.
+class SimulatedProcessInfo : public ProcessInfo {
+  public:
+    explicit SimulatedProcessInfo(std::shared_ptr<const WoundClock> clock)
+        : clock_(std::move(clock)) {}
+
+    std::int64_t processors = 4;
+    std::int64_t activeProcessors = 4;
+    std::array<int, 3> version{14, 0, 0};
+
+    double systemUptime() const override { return clock_->seconds(); }
+    std::int64_t processorCount() const override { return processors; }
+    std::int64_t activeProcessorCount() const override { return activeProcessors; }
+    bool isOperatingSystemAtLeast(int major, int minor, int patch) const override;
+
+  private:
+    std::shared_ptr<const WoundClock> clock_;
+};
+
+/// A date that follows the wound clock from a fixed day on.
+class SimulatedWallClock : public WallClock {
+  public:
+    explicit SimulatedWallClock(std::shared_ptr<const WoundClock> clock)
+        : clock_(std::move(clock)) {}
+    std::chrono::system_clock::time_point now() const override;
+
+  private:
+    std::shared_ptr<const WoundClock> clock_;
+};
+
+/// A whole machine made of numbers and a clock wound by hand: deterministic and scriptable.
+class SimulatedMachine : public Machine {
+  public:
+    explicit SimulatedMachine(
+        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+
+    /// A laptop with four processors and a name.
+    static std::shared_ptr<SimulatedMachine> laptop(
+        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+
+    /// A machine on which every call fails.
+    static std::shared_ptr<SimulatedMachine> broken(
+        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+
+    const std::shared_ptr<WoundClock>& clock() const { return clock_; }
+
+    SimulatedHostProcessors& hostProcessors() override { return hostProcessors_; }
+    SimulatedKernelValues& kernelValues() override { return kernelValues_; }
+    SimulatedLoadAverages& loadAverages() override { return loadAverages_; }
+    SimulatedProcessInfo& processInfo() override { return processInfo_; }
+    SimulatedWallClock& wallClock() override { return wallClock_; }
+    const PlatformWords& words() const override { return words_; }
+
+  private:
+    std::shared_ptr<WoundClock> clock_;
+    SimulatedHostProcessors hostProcessors_;
+    SimulatedKernelValues kernelValues_;
+    SimulatedLoadAverages loadAverages_;
+    SimulatedProcessInfo processInfo_;
+    SimulatedWallClock wallClock_;
+    PlatformWords words_{"Live macOS performance intelligence"};
+};
+
+}  // namespace vantor

@@ -1,0 +1,101 @@
+#include "platform/threads/threaded_serial_queue.h"
+
+#include <condition_variable>
+#include <cstddef>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace vantor {
+
+struct ThreadedSerialQueueFactory::Census {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int threads = 0;
+};
+
+class ThreadedSerialQueueFactory::Queue : public SerialQueue {
+  public:
+    Queue(std::string label, ThreadRole role, std::shared_ptr<Census> census)
+        : shared_(std::make_shared<Shared>()),
+          label_(std::move(label)),
+          role_(std::move(role)),
+          census_(std::move(census)) {}
+    Queue(const Queue&) = delete;
+    Queue& operator=(const Queue&) = delete;
+
+    ~Queue() override {
+        const std::lock_guard lock(shared_->mutex);
+        shared_->closed = true;
+        shared_->changed.notify_one();
+    }
+
+    void submit(Task task) override {
+        const std::lock_guard lock(shared_->mutex);
+        shared_->waiting.push_back(std::move(task));
+        if (!std::exchange(shared_->started, true)) start();
+        shared_->changed.notify_one();
+    }
+
+  private:
+    struct Shared {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::vector<Task> waiting;
+        bool started = false;
+        bool closed = false;
+    };
+
+    void start() {
+        {
+            const std::lock_guard lock(census_->mutex);
+            ++census_->threads;
+        }
+        std::thread([shared = shared_, census = census_, label = label_, role = role_] {
+            if (role) role(label);
+            run(*shared);
+            const std::lock_guard lock(census->mutex);
+            --census->threads;
+            census->changed.notify_all();
+        }).detach();
+    }
+
+    static void run(Shared& shared) {
+        std::vector<Task> batch;  // trades places with the list of waiting tasks: no allocation
+        std::unique_lock lock(shared.mutex);
+        while (true) {
+            shared.changed.wait(lock, [&] { return shared.closed || !shared.waiting.empty(); });
+            if (shared.waiting.empty()) return;
+            batch.swap(shared.waiting);
+            lock.unlock();
+            for (Task& task : batch) {
+                task();
+                task = Task{};  // whatever it owned goes before the next one runs
+            }
+            batch.clear();
+            lock.lock();
+        }
+    }
+
+    std::shared_ptr<Shared> shared_;
+    std::string label_;
+    ThreadRole role_;
+    std::shared_ptr<Census> census_;
+};
+
+ThreadedSerialQueueFactory::ThreadedSerialQueueFactory(ThreadRole role)
+    : role_(std::move(role)), census_(std::make_shared<Census>()) {}
+
+ThreadedSerialQueueFactory::~ThreadedSerialQueueFactory() = default;
+
+std::unique_ptr<SerialQueue> ThreadedSerialQueueFactory::makeQueue(std::string_view label) {
+    return std::make_unique<Queue>(std::string(label), role_, census_);
+}
+
+bool ThreadedSerialQueueFactory::waitForThreads(std::chrono::milliseconds limit) {
+    std::unique_lock lock(census_->mutex);
+    return census_->changed.wait_for(lock, limit, [&] { return census_->threads == 0; });
+}
+
+}  // namespace vantor

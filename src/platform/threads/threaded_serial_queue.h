@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/serial_queue.h"
+
+namespace vantor {
+
+/// Makes queues that run on a thread of their own, started by the first task.
+///
+/// The threads are detached: a probe stuck in the kernel cannot be interrupted, and a program that
+/// joined it could never quit. What a task needs it must therefore own.
+class ThreadedSerialQueueFactory : public SerialQueueFactory {
+  public:
+    /// Called first thing on each new thread, to name it and lower its priority.
+    using ThreadRole = std::function<void(const std::string& label)>;
+
+    explicit ThreadedSerialQueueFactory(ThreadRole role = {});
+    ~ThreadedSerialQueueFactory() override;
+
+    std::unique_ptr<SerialQueue> makeQueue(std::string_view label) override;
+
+    /// Waits until every thread of every destroyed queue has ended; false when that took longer.
+    /// For orderly ends; nothing depends on it.
+    bool waitForThreads(std::chrono::milliseconds limit);
+
+  private:
+    struct Census;
+    class Queue;
+
+    ThreadRole role_;
+    std::shared_ptr<Census> census_;
+};
+
+}  // namespace vantor

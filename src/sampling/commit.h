@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "model/system_snapshot.h"
+#include "sampling/dashboard_state.h"
+#include "sampling/pending_update.h"
+
+/// How arrived results become the state that the views read. Pure functions.
+namespace vantor {
+
+/// The number of samples that a history may hold for that setting.
+std::size_t historyLimit(std::int64_t historyLength);
+
+/// Appends, then drops the oldest values beyond `limit`. Storage is kept.
+void appendToHistory(double value, std::vector<double>& history, std::size_t limit);
+
+/// Drops the oldest values beyond `limit` from each history; false when none was longer.
+bool trimHistories(Histories& histories, std::size_t limit);
+
+/// Folds `update` into `state` and stamps it with `now`; false when nothing changed (the state's
+/// timestamp is then not worth publishing). The update's records are moved from.
+bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now);
+
+}  // namespace vantor

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/process_sample.h"
+#include "model/system_snapshot.h"
+
+namespace vantor {
+
+/// The bounded series that the charts draw, each oldest first.
+struct Histories {
+    std::vector<double> cpu;       ///< total usage, 0 to 1
+    std::vector<double> memory;    ///< used fraction, 0 to 1
+    std::vector<double> download;  ///< bytes per second
+    std::vector<double> upload;
+    std::vector<double> gpu;  ///< utilization of one device, 0 to 1
+
+    bool operator==(const Histories&) const = default;
+};
+
+/// One counter per section, wrapping. A view redraws when its section's counter is not the one that
+/// it drew last.
+struct Revisions {
+    std::uint64_t cpu = 0;
+    std::uint64_t memory = 0;
+    std::uint64_t network = 0;
+    std::uint64_t gpu = 0;
+    std::uint64_t storage = 0;
+    std::uint64_t system = 0;  ///< of the system record and of power, which share a card
+    std::uint64_t processes = 0;
+
+    bool operator==(const Revisions&) const = default;
+};
+
+/// Everything that the views show, published as one value.
+struct DashboardState {
+    SystemSnapshot snapshot = SystemSnapshot::empty();
+    Histories histories;
+    Revisions revisions;
+    std::vector<ProcessStats> processesByCPU;
+    std::vector<ProcessStats> processesByMemory;
+    std::optional<std::string> gpuHistoryDeviceID;  ///< whose utilization histories.gpu holds
+
+    bool operator==(const DashboardState&) const = default;
+};
+
+}  // namespace vantor

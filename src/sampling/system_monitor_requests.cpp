@@ -1,0 +1,71 @@
+#include <utility>
+
+#include "sampling/system_monitor.h"
+
+/// The road out: which provider is asked with which interval, and how its answer finds back to the
+/// main thread.
+namespace vantor {
+
+namespace {
+
+constexpr double volumesInterval = 15.0;
+constexpr double powerInterval = 10.0;
+
+}  // namespace
+
+/// A completion that takes a result from the provider's queue to `receive` on the main thread.
+template <class Result>
+auto SystemMonitor::deliverTo(void (SystemMonitor::*receive)(Result, std::uint64_t),
+                              std::uint64_t generation) {
+    return [weak = weak_from_this(), loop = mainLoop_, receive, generation](Result result) {
+        loop->post([weak, receive, generation, result = std::move(result)]() mutable {
+            if (const auto self = weak.lock()) {
+                (self.get()->*receive)(std::move(result), generation);
+            }
+        });
+    };
+}
+
+void SystemMonitor::requestFastProviders(bool force, std::uint64_t generation) {
+    const double interval = fastInterval(settings_->refreshInterval());
+    // The cpu record is the reader's own: it is copied before it leaves the provider's queue.
+    sampler().requestCPU(
+        interval, force,
+        [deliver = deliverTo(&SystemMonitor::receiveCPU, generation)](const CPUStats* stats) {
+            deliver(stats ? std::optional<CPUStats>(*stats) : std::nullopt);
+        });
+    sampler().requestMemory(interval, force, deliverTo(&SystemMonitor::receiveMemory, generation));
+    sampler().requestNetwork(settings_->includePointToPointInterfaces(), interval, force,
+                             deliverTo(&SystemMonitor::receiveNetwork, generation));
+    sampler().requestSystemInfo(systemInfoInterval(settings_->refreshInterval()), force,
+                                deliverTo(&SystemMonitor::receiveSystemInfo, generation));
+}
+
+void SystemMonitor::requestSlowProviders(bool force, std::uint64_t generation) {
+    requestProcesses(force, generation);
+    requestGPUs(force, generation);
+    requestVolumes(force, generation);
+    requestPower(force, generation);
+}
+
+void SystemMonitor::requestProcesses(bool force, std::uint64_t generation) {
+    sampler().requestProcesses(fastInterval(settings_->refreshInterval()), force,
+                               deliverTo(&SystemMonitor::receiveProcesses, generation));
+}
+
+void SystemMonitor::requestGPUs(bool force, std::uint64_t generation) {
+    sampler().requestGPUs(fastInterval(settings_->refreshInterval()), force,
+                          deliverTo(&SystemMonitor::receiveGPUs, generation));
+}
+
+void SystemMonitor::requestVolumes(bool force, std::uint64_t generation) {
+    sampler().requestVolumes(volumesInterval, force,
+                             deliverTo(&SystemMonitor::receiveVolumes, generation));
+}
+
+void SystemMonitor::requestPower(bool force, std::uint64_t generation) {
+    sampler().requestPower(powerInterval, force,
+                           deliverTo(&SystemMonitor::receivePower, generation));
+}
+
+}  // namespace vantor

@@ -1,0 +1,127 @@
+#include "settings/app_settings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+constexpr std::string_view refreshIntervalKey = "refreshInterval";
+constexpr std::string_view historyLengthKey = "historyLength";
+constexpr std::string_view showMenuBarKey = "showMenuBar";
+constexpr std::string_view pointToPointKey = "includePointToPointInterfaces";
+constexpr std::string_view appearanceKey = "appearance";
+
+constexpr double defaultRefreshInterval = 0.5;
+constexpr std::int64_t defaultHistoryLength = 90;
+
+using Value = DefaultsStore::Value;
+
+double loadDouble(const DefaultsStore& store, std::string_view key, double otherwise) {
+    const auto value = store.value(key);
+    if (!value) return otherwise;
+    if (const auto* number = std::get_if<double>(&*value)) return *number;
+    if (const auto* whole = std::get_if<std::int64_t>(&*value)) return static_cast<double>(*whole);
+    return otherwise;
+}
+
+std::int64_t loadInteger(const DefaultsStore& store, std::string_view key,
+                         std::int64_t otherwise) {
+    const auto value = store.value(key);
+    if (!value) return otherwise;
+    if (const auto* whole = std::get_if<std::int64_t>(&*value)) return *whole;
+    // A store may hand a whole number back as a floating one.
+    if (const auto* number = std::get_if<double>(&*value)) {
+        constexpr double exact = 9007199254740992.0;  // past 2^53 a double is no count
+        if (std::abs(*number) <= exact && std::trunc(*number) == *number) {
+            return static_cast<std::int64_t>(*number);
+        }
+    }
+    return otherwise;
+}
+
+bool loadBool(const DefaultsStore& store, std::string_view key, bool otherwise) {
+    const auto value = store.value(key);
+    if (!value) return otherwise;
+    if (const auto* flag = std::get_if<bool>(&*value)) return *flag;
+    // People who edit such files by hand write 0 and 1.
+    if (const auto* whole = std::get_if<std::int64_t>(&*value); whole && (*whole | 1) == 1) {
+        return *whole == 1;
+    }
+    return otherwise;
+}
+
+Appearance loadAppearance(const DefaultsStore& store) {
+    const auto value = store.value(appearanceKey);
+    const auto* text = value ? std::get_if<std::string>(&*value) : nullptr;
+    return text ? appearanceFromText(*text) : Appearance::dark;
+}
+
+}  // namespace
+
+AppSettings::AppSettings(std::shared_ptr<DefaultsStore> defaults,
+                         std::shared_ptr<ApplicationAppearance> application)
+    : defaults_(std::move(defaults)),
+      application_(std::move(application)),
+      refreshInterval_(nearestRefreshInterval(
+          loadDouble(*defaults_, refreshIntervalKey, defaultRefreshInterval))),
+      historyLength_(clampHistoryLength(
+          loadInteger(*defaults_, historyLengthKey, defaultHistoryLength))),
+      showMenuBar_(loadBool(*defaults_, showMenuBarKey, true)),
+      includePointToPointInterfaces_(loadBool(*defaults_, pointToPointKey, false)),
+      appearance_(loadAppearance(*defaults_)) {
+    applyAppearance();
+}
+
+void AppSettings::setRefreshInterval(double seconds) {
+    refreshInterval_.set(seconds);
+    defaults_->setValue(refreshIntervalKey, Value{refreshInterval()});
+}
+
+void AppSettings::setHistoryLength(std::int64_t samples) {
+    historyLength_.set(samples);
+    defaults_->setValue(historyLengthKey, Value{historyLength()});
+}
+
+void AppSettings::setShowMenuBar(bool shown) {
+    showMenuBar_.set(shown);
+    defaults_->setValue(showMenuBarKey, Value{showMenuBar()});
+}
+
+void AppSettings::setIncludePointToPointInterfaces(bool included) {
+    includePointToPointInterfaces_.set(included);
+    defaults_->setValue(pointToPointKey, Value{includePointToPointInterfaces()});
+}
+
+void AppSettings::setAppearance(Appearance appearance) {
+    appearance_.set(appearance);
+    defaults_->setValue(appearanceKey, Value{std::string(appearanceText(this->appearance()))});
+    applyAppearance();
+}
+
+double AppSettings::nearestRefreshInterval(double seconds) {
+    if (!std::isfinite(seconds)) return defaultRefreshInterval;
+    double best = refreshIntervals.front();
+    for (const double offered : refreshIntervals) {
+        if (std::abs(offered - seconds) < std::abs(best - seconds)) best = offered;
+    }
+    return best;
+}
+
+std::int64_t AppSettings::clampHistoryLength(std::int64_t samples) {
+    return std::clamp(samples, shortestHistory, longestHistory);
+}
+
+void AppSettings::applyAppearance() {
+    switch (appearance()) {
+        case Appearance::system: application_->followSystem(); break;
+        case Appearance::dark: application_->forceDark(); break;
+        case Appearance::light: application_->forceLight(); break;
+    }
+}
+
+}  // namespace vantor

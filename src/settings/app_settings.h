@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "platform/published.h"
+#include "settings/appearance.h"
+#include "settings/application_appearance.h"
+#include "settings/defaults_store.h"
+
+namespace vantor {
+
+/// The user's five preferences: loaded and repaired once, published on every change, written back
+/// at once. Main thread.
+///
+/// Setters keep what they are given: a value outside the offered ones is stored as it is and
+/// repaired at the next load; whoever uses a value clamps it where that matters.
+class AppSettings {
+  public:
+    /// The refresh intervals on offer, in seconds.
+    static constexpr std::array refreshIntervals{0.5, 1.0, 2.0, 5.0, 10.0};
+    static constexpr std::int64_t shortestHistory = 30;  ///< samples
+    static constexpr std::int64_t longestHistory = 300;
+
+    /// Reads the five keys without writing anything, then applies the appearance once.
+    AppSettings(std::shared_ptr<DefaultsStore> defaults,
+                std::shared_ptr<ApplicationAppearance> application);
+
+    double refreshInterval() const { return refreshInterval_.value(); }
+    std::int64_t historyLength() const { return historyLength_.value(); }
+    bool showMenuBar() const { return showMenuBar_.value(); }
+    bool includePointToPointInterfaces() const { return includePointToPointInterfaces_.value(); }
+    Appearance appearance() const { return appearance_.value(); }
+
+    void setRefreshInterval(double seconds);
+    void setHistoryLength(std::int64_t samples);
+    void setShowMenuBar(bool shown);
+    void setIncludePointToPointInterfaces(bool included);
+    void setAppearance(Appearance appearance);
+
+    /// The streams of values; observers are told before the value changes.
+    Published<double>& refreshIntervalStream() { return refreshInterval_; }
+    Published<std::int64_t>& historyLengthStream() { return historyLength_; }
+    Published<bool>& showMenuBarStream() { return showMenuBar_; }
+    Published<bool>& includePointToPointInterfacesStream() {
+        return includePointToPointInterfaces_;
+    }
+    Published<Appearance>& appearanceStream() { return appearance_; }
+
+    /// The offered interval nearest to a stored one; the smaller of two equally near; 0.5 for one
+    /// that is not finite.
+    static double nearestRefreshInterval(double seconds);
+
+    /// `samples` held within the bounds of a history.
+    static std::int64_t clampHistoryLength(std::int64_t samples);
+
+  private:
+    void applyAppearance();
+
+    std::shared_ptr<DefaultsStore> defaults_;
+    std::shared_ptr<ApplicationAppearance> application_;
+    Published<double> refreshInterval_;
+    Published<std::int64_t> historyLength_;
+    Published<bool> showMenuBar_;
+    Published<bool> includePointToPointInterfaces_;
+    Published<Appearance> appearance_;
+};
+
+}  // namespace vantor
