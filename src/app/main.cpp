@@ -1,0 +1,6 @@
+#include "app/vantor_app.h"
+#include "platform/native_machine.h"
+
+int main(int argc, char** argv) {
+    return vantor::runVantor(argc, argv, vantor::makeNativeMachine());
+}

@@ -1,0 +1,110 @@
+#include "app/qt_main_loop.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QTimerEvent>
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace vantor {
+
+namespace {
+
+const auto wakeUp = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+}  // namespace
+
+struct QtMainLoop::Inbox {
+    std::mutex mutex;
+    std::vector<Task> tasks;
+    QObject* receiver = nullptr;  // none once the loop is gone
+};
+
+/// Lives on the main thread: one event wakes it for all the tasks that wait by then.
+class QtMainLoop::Receiver : public QObject {
+  public:
+    explicit Receiver(std::shared_ptr<Inbox> inbox) : inbox_(std::move(inbox)) {
+        inbox_->receiver = this;
+    }
+    Receiver(const Receiver&) = delete;
+    Receiver& operator=(const Receiver&) = delete;
+    ~Receiver() override {
+        std::vector<Task> dropped;
+        const std::lock_guard lock(inbox_->mutex);
+        inbox_->receiver = nullptr;
+        dropped.swap(inbox_->tasks);
+    }
+
+    TimerID start(std::chrono::milliseconds delay, Task task) {
+        const auto id = static_cast<TimerID>(startTimer(delay, Qt::PreciseTimer));
+        timers_.emplace(id, std::move(task));
+        return id;
+    }
+
+    void stop(TimerID timer) {
+        const auto found = timers_.find(timer);
+        if (found == timers_.end()) return;
+        killTimer(static_cast<int>(timer));
+        const Task dropped = std::move(found->second);  // ends after the entry is gone
+        timers_.erase(found);
+    }
+
+  protected:
+    bool event(QEvent* event) override {
+        if (event->type() != wakeUp) return QObject::event(event);
+        {
+            const std::lock_guard lock(inbox_->mutex);
+            running_.swap(inbox_->tasks);
+        }
+        for (Task& task : running_)
+            task();
+        running_.clear();
+        return true;
+    }
+
+    void timerEvent(QTimerEvent* event) override {
+        const auto found = timers_.find(static_cast<TimerID>(event->timerId()));
+        if (found == timers_.end()) return;
+        killTimer(event->timerId());
+        Task task = std::move(found->second);
+        timers_.erase(found);
+        task();
+    }
+
+  private:
+    std::shared_ptr<Inbox> inbox_;
+    std::vector<Task> running_;
+    std::map<TimerID, Task> timers_;
+};
+
+QtMainLoop::QtMainLoop()
+    : inbox_(std::make_shared<Inbox>()), receiver_(std::make_unique<Receiver>(inbox_)) {}
+
+QtMainLoop::~QtMainLoop() = default;
+
+void QtMainLoop::post(Task task) {
+    const std::lock_guard lock(inbox_->mutex);
+    if (!inbox_->receiver) return;
+    inbox_->tasks.push_back(std::move(task));
+    if (inbox_->tasks.size() > 1) return;  // its event is on the way
+    // The toolkit takes ownership of posted events.
+    QCoreApplication::postEvent(inbox_->receiver, std::make_unique<QEvent>(wakeUp).release());
+}
+
+MainLoop::TimerID QtMainLoop::runAfter(std::chrono::nanoseconds delay, Task task) {
+    // Never early, and a little late on purpose: a provider's run starts a moment after its
+    // request, and a tick exactly one interval after the last would find the gate still closed.
+    constexpr std::chrono::milliseconds slack{2};
+    const auto held = std::max(delay, std::chrono::nanoseconds::zero());
+    return receiver_->start(std::chrono::ceil<std::chrono::milliseconds>(held) + slack,
+                            std::move(task));
+}
+
+void QtMainLoop::cancel(TimerID timer) {
+    receiver_->stop(timer);
+}
+
+}  // namespace vantor

@@ -1,0 +1,167 @@
+#include "ui/cards/core_activity.h"
+
+#include <QHelpEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/formatters.h"
+#include "ui/pixels.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double unscaledCellHeight = 26;
+constexpr double narrowestCell = 24;
+constexpr double cellSpacing = 4;
+constexpr double cellCorner = 4;
+constexpr double numberSize = 7;
+// An ordinary screen cannot draw digits smaller than this legibly.
+constexpr double smallestNumberPixels = 9;
+constexpr double idleBelow = 0.01;
+
+QFont numberFont(double scale) {
+    QFont font = Typography::font(numberSize, QFont::Bold);
+    font.setPixelSize(
+        static_cast<int>(std::lround(std::max(numberSize * scale, smallestNumberPixels))));
+    return font;
+}
+
+}  // namespace
+
+QColor CoreActivity::fill(double usage) {
+    if (!(usage >= idleBelow)) return VantorTheme::faded(VantorTheme::cyan(), 0.18);
+    return VantorTheme::faded(VantorTheme::green(), 0.55 + 0.45 * std::min(usage, 1.0));
+}
+
+QString CoreActivity::help(std::size_t index, double usage) {
+    return QStringLiteral("Core %1: ").arg(index + 1) + Formatters::percent(usage, 1);
+}
+
+CoreGridGeometry CoreGridGeometry::make(std::size_t count, double width, double scale) {
+    CoreGridGeometry grid;
+    grid.cellHeight = unscaledCellHeight * scale;
+    if (count == 0 || !(width > 0)) return grid;
+    const double narrowest = narrowestCell * scale;
+    const auto fitting = static_cast<std::size_t>(
+        std::max(1.0, std::floor((width + cellSpacing) / (narrowest + cellSpacing))));
+    const std::size_t rows = (count + fitting - 1) / fitting;
+    const std::size_t columns = (count + rows - 1) / rows;
+    grid.rows = static_cast<int>(rows);
+    grid.columns = static_cast<int>(columns);
+    grid.cellWidth =
+        (width - cellSpacing * static_cast<double>(columns - 1)) / static_cast<double>(columns);
+    return grid;
+}
+
+double CoreGridGeometry::height() const {
+    return rows == 0 ? cellHeight : rows * cellHeight + (rows - 1) * cellSpacing;
+}
+
+QRectF CoreGridGeometry::cell(std::size_t index) const {
+    if (columns == 0) return {};
+    const auto column = static_cast<double>(index % static_cast<std::size_t>(columns));
+    const auto row = static_cast<double>(index / static_cast<std::size_t>(columns));
+    return {column * (cellWidth + cellSpacing), row * (cellHeight + cellSpacing), cellWidth,
+            cellHeight};
+}
+
+std::size_t CoreGridGeometry::cellAt(QPointF place, std::size_t count) const {
+    for (std::size_t i = 0; i < count; ++i) {
+        if (cell(i).contains(place)) return i;
+    }
+    return count;
+}
+
+CoreActivityView::CoreActivityView(QWidget* parent) : PaintedView(parent) {
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void CoreActivityView::show(std::span<const double> usage) {
+    const bool sameCount = usage.size() == usage_.size();
+    if (!sameCount) {
+        usage_.assign(usage.begin(), usage.end());
+        updateGeometry();
+        update();
+        return;
+    }
+    const auto grid = geometry(width());
+    for (std::size_t i = 0; i < usage.size(); ++i) {
+        if (CoreActivity::fill(usage[i]) == CoreActivity::fill(usage_[i])) continue;
+        update(grid.cell(i).toAlignedRect());
+    }
+    usage_.assign(usage.begin(), usage.end());
+    announceValue();
+}
+
+CoreGridGeometry CoreActivityView::geometry(double width) const {
+    return CoreGridGeometry::make(usage_.size(), width, Typography::lengthScale());
+}
+
+QString CoreActivityView::accessibleValueText() const {
+    QStringList texts;
+    for (std::size_t i = 0; i < usage_.size(); ++i) {
+        texts << CoreActivity::help(i, usage_[i]);
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+int CoreActivityView::heightForWidth(int width) const {
+    return static_cast<int>(std::ceil(geometry(width).height()));
+}
+
+QSize CoreActivityView::sizeHint() const {
+    const int width = Typography::scaled(400);
+    return {width, heightForWidth(width)};
+}
+
+QSize CoreActivityView::minimumSizeHint() const {
+    const int side = Typography::scaled(unscaledCellHeight);
+    return {side, side};
+}
+
+bool CoreActivityView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const auto grid = geometry(width());
+    const std::size_t index = grid.cellAt(help->pos(), usage_.size());
+    if (index < usage_.size()) {
+        QToolTip::showText(help->globalPos(), CoreActivity::help(index, usage_[index]), this,
+                           grid.cell(index).toAlignedRect());
+    } else {
+        QToolTip::hideText();
+    }
+    return true;
+}
+
+void CoreActivityView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(numberFont(Typography::lengthScale()));
+    const auto grid = geometry(width());
+    for (std::size_t i = 0; i < usage_.size(); ++i) {
+        const QRectF cell = grid.cell(i);
+        if (event->region().intersects(cell.toAlignedRect())) paintCell(painter, cell, i);
+    }
+}
+
+void CoreActivityView::paintCell(QPainter& painter, const QRectF& cell, std::size_t index) const {
+    const QColor fill = CoreActivity::fill(usage_[index]);
+    const QRectF area = Pixels::snapped(painter, cell);
+    QPainterPath shape;
+    shape.addRoundedRect(area, cellCorner, cellCorner);
+    vantorBackground(painter, fill, shape);
+    vantorForeground(painter, VantorTheme::labelOn(fill, colorScheme(*this)));
+    Typography::drawDigitText(painter, area, Qt::AlignHCenter | Qt::AlignVCenter,
+                              QString::number(index + 1));
+}
+
+}  // namespace vantor

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "ui/components/painted_view.h"
+
+namespace vantor {
+
+/// One cell for each logical processor, coloured by how busy it is.
+///
+/// Cells are numbered from 1 in the kernel's order, as people count: the readings carry no numbers
+/// of their own, and offline processors have no cell.
+struct CoreActivity {
+    static QColor fill(double usage);  ///< a processor below 1 % counts as idle
+    static QString help(std::size_t index, double usage);
+};
+
+/// How the cells of `count` processors share a width: as few rows as cells of a readable width
+/// allow, all rows but the last equally long.
+struct CoreGridGeometry {
+    int columns = 0;
+    int rows = 0;
+    double cellWidth = 0;
+    double cellHeight = 0;
+
+    static CoreGridGeometry make(std::size_t count, double width, double scale);
+
+    double height() const;
+    QRectF cell(std::size_t index) const;
+
+    /// The cell at a place, or `count` for none.
+    std::size_t cellAt(QPointF place, std::size_t count) const;
+};
+
+/// Draws the cells; its height follows from its width and the number of processors.
+class CoreActivityView : public PaintedView {
+  public:
+    explicit CoreActivityView(QWidget* parent = nullptr);
+
+    void show(std::span<const double> usage);
+    std::size_t count() const { return usage_.size(); }
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
+    QString accessibleLabel() const override { return QStringLiteral("Core Activity"); }
+    QString accessibleValueText() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    CoreGridGeometry geometry(double width) const;
+    void paintCell(QPainter& painter, const QRectF& cell, std::size_t index) const;
+
+    std::vector<double> usage_;
+};
+
+}  // namespace vantor

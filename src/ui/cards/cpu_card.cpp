@@ -1,0 +1,146 @@
+#include "ui/cards/cpu_card.h"
+
+#include <QHBoxLayout>
+#include <QStringList>
+#include <QVBoxLayout>
+
+#include "ui/components/make_child.h"
+#include "ui/formatters.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double gaugeLineWidth = 12;
+constexpr int gaugeSpacing = 20;
+constexpr int rowSpacing = 10;
+constexpr int chartHeight = 62;
+constexpr int sectionSpacing = 8;
+// Enough to name the culprit; more is the process explorer's business.
+constexpr std::size_t processRows = 5;
+
+QString notPublished() {
+    return QStringLiteral("Not published");
+}
+QString unknownYet() {
+    return QStringLiteral("—");
+}
+
+}  // namespace
+
+CPUCard CPUCard::of(const DashboardState& state) {
+    return {state.snapshot.cpu, state.histories.cpu, state.processesByCPU, state.revisions.cpu,
+            state.revisions.processes};
+}
+
+DashboardCard CPUCard::frame() const {
+    const QString subtitle = isWaiting() ? QString::fromStdString(stats.model)
+                                         : QStringLiteral("%1 physical • %2 logical cores")
+                                               .arg(stats.physicalCoreCount)
+                                               .arg(stats.logicalCoreCount);
+    return {QStringLiteral("CPU"), subtitle, QStringLiteral("cpu"), VantorTheme::cyan()};
+}
+
+RingGauge CPUCard::gauge() const {
+    const QString title = isWaiting() ? unknownYet() : Formatters::percent(stats.totalUsage, 0);
+    return {stats.totalUsage, title, QStringLiteral("CPU Load"), VantorTheme::cyan(),
+            gaugeLineWidth};
+}
+
+std::array<MetricRow, 4> CPUCard::rows() const {
+    const auto share = [&](double value) {
+        return isWaiting() ? unknownYet() : Formatters::percent(value, 1);
+    };
+    const QString absent = isWaiting() ? unknownYet() : notPublished();
+    const QString nominal =
+        stats.nominalFrequencyHz
+            ? Formatters::fixed(static_cast<double>(*stats.nominalFrequencyHz) / 1e9, 2) +
+                  QStringLiteral(" GHz")
+            : absent;
+    const QString temperature =
+        stats.temperatureCelsius
+            ? Formatters::fixed(*stats.temperatureCelsius, 0) + QStringLiteral(" °C")
+            : absent;
+    return {MetricRow{QStringLiteral("User"), share(stats.userUsage), VantorTheme::orange()},
+            MetricRow{QStringLiteral("System"), share(stats.systemUsage), VantorTheme::blue()},
+            MetricRow{QStringLiteral("Nominal"), nominal, VantorTheme::pink()},
+            MetricRow{QStringLiteral("Temperature"), temperature, VantorTheme::purple()}};
+}
+
+QString CPUCard::loadAverageText() const {
+    QStringList averages;
+    for (const double average : stats.loadAverage)
+        averages << Formatters::fixed(average, 2);
+    if (averages.isEmpty()) averages << unknownYet();
+    return QStringLiteral("Load avg ") + averages.join(QStringLiteral("  "));
+}
+
+CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
+    : DashboardCardView(CPUCard::of(DashboardState{}).frame(), parent) {
+    const DashboardState waiting;
+    const CPUCard card = CPUCard::of(waiting);
+    addGaugeAndRows(card);
+    loadAverage_ = makeChild<TextLineView>(this, card.loadAverageText(), Typography::caption,
+                                           QFont::Normal, TextLineView::Tone::secondary);
+    body().addWidget(loadAverage_);
+    // The whole range, not the values' own: a machine that idles must look idle.
+    history_ = makeChild<SparklineView>(this, QStringLiteral("CPU history"),
+                                        Sparkline{{}, VantorTheme::cyan(), std::pair{0.0, 1.0}},
+                                        chartHeight);
+    body().addWidget(history_);
+    auto* activity = makeInnerLayout<QVBoxLayout>();
+    activity->setSpacing(sectionSpacing);
+    activity->addWidget(makeChild<TextLineView>(this, QStringLiteral("Core Activity"),
+                                                Typography::caption, QFont::Normal,
+                                                TextLineView::Tone::secondary));
+    cores_ = makeChild<CoreActivityView>(this);
+    activity->addWidget(cores_);
+    body().addLayout(activity);
+    const bool hasDashedSymbol = versions.isOperatingSystemAtLeast(12, 0, 0);
+    processes_ = makeChild<ProcessMiniListView>(
+        this, QStringLiteral("Top CPU Processes"), ProcessMiniList::Metric::cpu, processRows,
+        hasDashedSymbol ? QStringLiteral("app.dashed") : QStringLiteral("app"));
+    body().addWidget(processes_);
+    body().addStretch();
+}
+
+void CPUCardView::addGaugeAndRows(const CPUCard& card) {
+    auto* top = makeInnerLayout<QHBoxLayout>();
+    top->setSpacing(gaugeSpacing);
+    gauge_ = makeChild<RingGaugeView>(this, card.gauge());
+    top->addWidget(gauge_, 0, Qt::AlignVCenter);
+    auto* rows = makeInnerLayout<QVBoxLayout>();
+    rows->setSpacing(rowSpacing);
+    rows->addStretch();
+    const auto values = card.rows();
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        rows_[i] = makeChild<MetricRowView>(this, values[i]);
+        rows->addWidget(rows_[i]);
+    }
+    rows->addStretch();
+    top->addLayout(rows, 1);
+    body().addLayout(top);
+}
+
+void CPUCardView::show(const CPUCard& card) {
+    if (card.revision != revision_) {
+        showCard(card.frame());
+        header().setToolTip(QString::fromStdString(card.stats.model).toHtmlEscaped());
+        gauge_->show(card.gauge());
+        const auto values = card.rows();
+        for (std::size_t i = 0; i < rows_.size(); ++i)
+            rows_[i]->show(values[i]);
+        loadAverage_->show(card.loadAverageText());
+        history_->show(card.history, card.gauge().title);
+        cores_->show(card.stats.perCoreUsage);
+        revision_ = card.revision;
+    }
+    if (card.processRevision != processRevision_) {
+        processes_->show(card.processes);
+        processRevision_ = card.processRevision;
+    }
+}
+
+}  // namespace vantor

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "model/cpu_stats.h"
+#include "model/process_stats.h"
+#include "platform/process_info.h"
+#include "sampling/dashboard_state.h"
+#include "ui/cards/core_activity.h"
+#include "ui/cards/process_mini_list.h"
+#include "ui/components/dashboard_card.h"
+#include "ui/components/metric_row.h"
+#include "ui/components/ring_gauge.h"
+#include "ui/components/sparkline.h"
+#include "ui/components/text_line.h"
+
+namespace vantor {
+
+/// What the processor's card shows, borrowed from the published state. Two are equal when their
+/// revisions are: a commit that did not touch them redraws nothing.
+struct CPUCard {
+    const CPUStats& stats;
+    std::span<const double> history;
+    std::span<const ProcessStats> processes;
+    std::uint64_t revision = 0;
+    std::uint64_t processRevision = 0;
+
+    static CPUCard of(const DashboardState& state);
+
+    bool operator==(const CPUCard& other) const {
+        return revision == other.revision && processRevision == other.processRevision;
+    }
+
+    /// Before the first reading: what is not known yet is said so, and never shown as a number.
+    bool isWaiting() const { return revision == 0; }
+
+    DashboardCard frame() const;
+    RingGauge gauge() const;
+    std::array<MetricRow, 4> rows() const;
+    QString loadAverageText() const;
+};
+
+/// Draws the card.
+class CPUCardView : public DashboardCardView {
+  public:
+    explicit CPUCardView(const ProcessInfo& versions, QWidget* parent = nullptr);
+
+    /// Shows the card unless it is the one shown already.
+    void show(const CPUCard& card);
+
+    /// The last revision shown.
+    std::uint64_t revision() const { return revision_; }
+
+    RingGaugeView& gauge() { return *gauge_; }
+    MetricRowView& row(std::size_t index) { return *rows_.at(index); }
+    TextLineView& loadAverage() { return *loadAverage_; }
+    SparklineView& history() { return *history_; }
+    CoreActivityView& cores() { return *cores_; }
+    ProcessMiniListView& processes() { return *processes_; }
+
+  private:
+    void addGaugeAndRows(const CPUCard& card);
+
+    RingGaugeView* gauge_ = nullptr;  // all owned by this widget, as its children
+    std::array<MetricRowView*, 4> rows_{};
+    TextLineView* loadAverage_ = nullptr;
+    SparklineView* history_ = nullptr;
+    CoreActivityView* cores_ = nullptr;
+    ProcessMiniListView* processes_ = nullptr;
+    std::uint64_t revision_ = 0;
+    std::uint64_t processRevision_ = 0;
+};
+
+}  // namespace vantor

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+#include <vector>
+
+#include "model/process_stats.h"
+#include "ui/components/painted_view.h"
+
+namespace vantor {
+
+/// The few processes that use the most of something.
+struct ProcessMiniList {
+    enum class Metric { cpu, memory };
+
+    QString title;
+    std::span<const ProcessStats> processes;
+    Metric metric = Metric::cpu;
+
+    /// What a row says on its right side.
+    static QString value(const ProcessStats& process, Metric metric);
+};
+
+/// Draws the list with room for a fixed number of rows, so that the card does not change its height
+/// when the first processes arrive.
+class ProcessMiniListView : public PaintedView {
+  public:
+    /// `symbol` stands before each row.
+    ProcessMiniListView(QString title, ProcessMiniList::Metric metric, std::size_t rowLimit,
+                        QString symbol, QWidget* parent = nullptr);
+
+    void show(std::span<const ProcessStats> processes);
+    std::size_t rowLimit() const { return rowLimit_; }
+    std::size_t rowCount() const { return rows_.size(); }
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::List; }
+    QString accessibleLabel() const override { return title_; }
+    QString accessibleValueText() const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    struct Row {
+        QString name;
+        QString command;
+        QString value;
+        bool operator==(const Row&) const = default;
+    };
+
+    double titleHeight() const;
+    double rowHeight() const;
+    QRectF rowArea(std::size_t index) const;
+
+    QString title_;
+    ProcessMiniList::Metric metric_;
+    std::size_t rowLimit_;
+    QString symbol_;
+    std::vector<Row> rows_;
+};
+
+}  // namespace vantor

@@ -1,0 +1,146 @@
+#include "ui/components/capsule_button.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/pixels.h"
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double horizontalPadding = 12;
+constexpr double verticalPadding = 8;
+constexpr double symbolSpacing = 6;
+constexpr double groundOpacity = 0.07;
+constexpr double hoverOpacity = 0.12;
+constexpr double pressedOpacity = 0.18;
+constexpr double disabledOpacity = 0.38;
+constexpr double focusWidth = 2;
+
+QFont labelFont() {
+    return Typography::font(Typography::caption, QFont::DemiBold);
+}
+
+double symbolSize() {
+    return std::round(QFontMetricsF(labelFont()).height());
+}
+
+}  // namespace
+
+CapsuleButtonView::CapsuleButtonView(CapsuleButton button, QWidget* parent)
+    : QAbstractButton(parent), systemImage_(std::move(button.systemImage)) {
+    setText(button.title);
+    widestTitle_ = button.title;
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+    connect(this, &QAbstractButton::clicked, this, [action = std::move(button.action)] {
+        if (action) action();
+    });
+}
+
+void CapsuleButtonView::show(const QString& title, const QString& systemImage) {
+    if (title == text() && systemImage == systemImage_) return;
+    setText(title);
+    systemImage_ = systemImage;
+    reserveWidthFor(title);
+    update();
+}
+
+void CapsuleButtonView::reserveWidthFor(const QString& title) {
+    if (widthFor(title) <= widthFor(widestTitle_)) return;
+    widestTitle_ = title;
+    updateGeometry();
+}
+
+double CapsuleButtonView::widthFor(const QString& title) const {
+    return symbolSize() + symbolSpacing +
+           Typography::digitTextWidth(title, QFontMetricsF(labelFont(), this));
+}
+
+QSize CapsuleButtonView::sizeHint() const {
+    const double height = QFontMetricsF(labelFont(), this).height();
+    return {static_cast<int>(std::ceil(widthFor(widestTitle_) + 2 * horizontalPadding)),
+            static_cast<int>(std::ceil(height + 2 * verticalPadding))};
+}
+
+void CapsuleButtonView::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void CapsuleButtonView::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void CapsuleButtonView::focusInEvent(QFocusEvent* event) {
+    // A mouse user knows where the pointer is; the ring is for those who came by key.
+    showsFocus_ = event->reason() != Qt::MouseFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
+void CapsuleButtonView::keyPressEvent(QKeyEvent* event) {
+    showsFocus_ = true;
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+        return;
+    }
+    QAbstractButton::keyPressEvent(event);
+}
+
+void CapsuleButtonView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    paintGround(painter);
+    paintLabel(painter);
+}
+
+void CapsuleButtonView::paintGround(QPainter& painter) const {
+    const ColorScheme scheme = colorScheme(*this);
+    const QRectF area = Pixels::snapped(painter, rect());
+    double opacity = groundOpacity;
+    if (isEnabled() && isDown()) {
+        opacity = pressedOpacity;
+    } else if (isEnabled() && underMouse()) {
+        opacity = hoverOpacity;
+    }
+    QPainterPath capsule;
+    capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
+    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), opacity),
+                     capsule);
+    if (!hasFocus() || !showsFocus_) return;
+    const double inset = focusWidth / 2;
+    const QRectF ring = area.adjusted(inset, inset, -inset, -inset);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
+}
+
+void CapsuleButtonView::paintLabel(QPainter& painter) const {
+    const QColor color = VantorTheme::primaryLabel(colorScheme(*this));
+    painter.setFont(labelFont());
+    const double symbol = symbolSize();
+    const double textWidth =
+        Typography::digitTextWidth(text(), QFontMetricsF(painter.font(), this));
+    const double left = (width() - symbol - symbolSpacing - textWidth) / 2;
+    const bool trailing = isSymbolTrailing() != isRightToLeft();
+    const double symbolLeft = trailing ? left + textWidth + symbolSpacing : left;
+    const double textLeft = trailing ? left : left + symbol + symbolSpacing;
+    Symbols::draw(painter, {symbolLeft, (height() - symbol) / 2, symbol, symbol}, systemImage_,
+                  color);
+    vantorForeground(painter, color);
+    Typography::drawDigitText(painter, {textLeft, 0, textWidth, static_cast<double>(height())},
+                              Qt::AlignLeft | Qt::AlignVCenter, text());
+}
+
+}  // namespace vantor

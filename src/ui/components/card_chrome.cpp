@@ -1,0 +1,26 @@
+#include "ui/components/card_chrome.h"
+
+#include "ui/pixels.h"
+
+namespace vantor::CardChrome {
+
+void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QColor& border) {
+    const QColor fill = scheme == ColorScheme::dark
+                            ? QColor::fromRgbF(0.075f, 0.085f, 0.115f, 0.96f)
+                            : QColor::fromRgbF(1, 1, 1, 0.9f);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF outer = Pixels::snapped(painter, area);
+    QPainterPath shape;
+    shape.addRoundedRect(outer, cornerRadius, cornerRadius);
+    vantorBackground(painter, fill, shape);
+    const double width = Pixels::snappedLineWidth(painter, 1);
+    const double inset = width / 2;
+    painter.setPen(QPen(border, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(outer.adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
+                            cornerRadius - inset);
+    painter.restore();
+}
+
+}  // namespace vantor::CardChrome

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QPainter>
+
+#include "ui/theme.h"
+
+/// The ground that cards and the header stand on.
+namespace vantor::CardChrome {
+
+inline constexpr double cornerRadius = 22;
+
+/// Fills `area` as a rounded rectangle in the scheme's card colour and strokes it one point wide
+/// inside its edge.
+void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QColor& border);
+
+}  // namespace vantor::CardChrome

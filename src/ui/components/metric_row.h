@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include <optional>
+
+#include "ui/components/painted_view.h"
+
+namespace vantor {
+
+/// A label and its value, with a dot of colour when the value has one.
+struct MetricRow {
+    QString label;
+    QString value;
+    std::optional<QColor> color;
+
+    bool operator==(const MetricRow&) const = default;
+};
+
+/// Where the parts of a row lie, for a right-to-left layout mirrored by the view.
+struct MetricRowGeometry {
+    std::optional<QRectF> dot;
+    double labelLeft = 0;
+
+    static MetricRowGeometry make(double height, bool hasDot);
+};
+
+/// Draws a row across its whole width: dot and label leading, the value trailing.
+class MetricRowView : public PaintedView {
+  public:
+    explicit MetricRowView(MetricRow row, QWidget* parent = nullptr);
+
+    void show(const MetricRow& row);
+    const MetricRow& row() const { return row_; }
+
+    QString accessibleLabel() const override { return row_.label; }
+    QString accessibleValueText() const override { return row_.value; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    MetricRow row_;
+};
+
+}  // namespace vantor

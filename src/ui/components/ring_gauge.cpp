@@ -1,0 +1,77 @@
+#include "ui/components/ring_gauge.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double frame = 126;
+constexpr double titleSize = 24;
+constexpr double textSpacing = 2;
+
+}  // namespace
+
+RingGaugeGeometry RingGaugeGeometry::make(const QRectF& bounds, double value, double lineWidth) {
+    const double side = std::max(0.0, std::min(bounds.width(), bounds.height()) - lineWidth);
+    QRectF circle(0, 0, side, side);
+    circle.moveCenter(bounds.center());
+    const double share = value > 0 ? std::min(value, 1.0) : 0;  // not a number draws nothing either
+    return {circle, share * 360};
+}
+
+RingGaugeView::RingGaugeView(RingGauge gauge, QWidget* parent)
+    : PaintedView(parent), gauge_(std::move(gauge)) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void RingGaugeView::show(const RingGauge& gauge) {
+    if (gauge == gauge_) return;
+    gauge_ = gauge;
+    update();
+    announceValue();
+}
+
+QSize RingGaugeView::sizeHint() const {
+    const int side = Typography::scaled(frame);
+    return {side, side};
+}
+
+void RingGaugeView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    const double width = gauge_.lineWidth * Typography::lengthScale();
+    const auto geometry = RingGaugeGeometry::make(rect(), gauge_.value, width);
+
+    const QColor track = VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.08);
+    painter.setPen(QPen(track, width, Qt::SolidLine, Qt::FlatCap));
+    painter.drawEllipse(geometry.circle);
+    if (geometry.sweep > 0) {
+        // The toolkit counts sixteenths of a degree, counterclockwise from three o'clock.
+        painter.setPen(QPen(gauge_.accent, width, Qt::SolidLine, Qt::RoundCap));
+        painter.drawArc(geometry.circle, 90 * 16, static_cast<int>(-geometry.sweep * 16));
+    }
+
+    const QFont titleFont = Typography::font(titleSize, QFont::Bold);
+    const QFont detailFont = Typography::font(Typography::caption2, QFont::Medium);
+    const double titleHeight = QFontMetricsF(titleFont, this).height();
+    const double detailHeight = QFontMetricsF(detailFont, this).height();
+    const double top = (height() - titleHeight - textSpacing - detailHeight) / 2;
+    painter.setFont(titleFont);
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawDigitText(painter, QRectF(0, top, this->width(), titleHeight), Qt::AlignHCenter,
+                              gauge_.title);
+    painter.setFont(detailFont);
+    vantorSecondaryForeground(painter, scheme);
+    const QRectF detail(width, top + titleHeight + textSpacing, this->width() - 2 * width,
+                        detailHeight);
+    Typography::drawLine(painter, detail, Qt::AlignHCenter, gauge_.detail);
+}
+
+}  // namespace vantor

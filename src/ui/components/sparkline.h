@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QColor>
+#include <QPainterPath>
+#include <QPointF>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "ui/components/painted_view.h"
+
+namespace vantor {
+
+/// A short series as a line over a faint area, oldest first.
+struct Sparkline {
+    std::vector<double> values;
+    QColor accent;
+    std::optional<std::pair<double, double>> fixedRange;  ///< lower and upper; else the values' own
+
+    bool operator==(const Sparkline&) const = default;
+};
+
+/// Where the points of a series lie in an area of that size.
+struct SparklineGeometry {
+    std::vector<QPointF> points;
+    double height = 0;
+
+    /// No points for no values or an area without width or height. A series of equal values lies
+    /// along the bottom.
+    static SparklineGeometry make(std::span<const double> values, double width, double height,
+                                  std::optional<std::pair<double, double>> fixedRange);
+
+    QPainterPath line() const;
+    QPainterPath fill() const;  ///< the line, closed along the bottom
+};
+
+/// Draws a series across its whole width, 62 points high unless told otherwise.
+class SparklineView : public PaintedView {
+  public:
+    SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent = nullptr);
+
+    /// Shows other values in the same style. `value` is the newest one, as a reader would say it.
+    void show(std::span<const double> values, const QString& value);
+    const Sparkline& sparkline() const { return sparkline_; }
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
+    QString accessibleLabel() const override { return label_; }
+    QString accessibleValueText() const override { return value_; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString label_;
+    QString value_;
+    Sparkline sparkline_;
+    int height_;
+};
+
+}  // namespace vantor

@@ -1,0 +1,97 @@
+#include "ui/dashboard/dashboard_header.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+#include "ui/components/card_chrome.h"
+#include "ui/components/make_child.h"
+#include "ui/dashboard/flow_layout.h"
+#include "ui/dashboard/horizontal_fit.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int padding = 16;
+constexpr int controlSpacing = 8;
+constexpr int leastGap = 24;
+constexpr int stackedSpacing = 14;
+
+}  // namespace
+
+QString DashboardHeader::statusText() const {
+    return isPaused ? QStringLiteral("Paused") : QStringLiteral("Live");
+}
+
+QString DashboardHeader::pauseTitle() const {
+    return isPaused ? QStringLiteral("Resume") : QStringLiteral("Pause");
+}
+
+QString DashboardHeader::pauseSymbol() const {
+    return isPaused ? QStringLiteral("play.fill") : QStringLiteral("pause.fill");
+}
+
+QString DashboardHeader::intervalText(double seconds) {
+    if (seconds == 0.5) return QStringLiteral("0.5 s");
+    // A setting can hold any number until the next load repairs it; it is used as 0.5 to 10.
+    const bool isShowable = std::isfinite(seconds) && std::abs(seconds) < 1e9;
+    return QString::number(isShowable ? std::llround(seconds) : 1) + QStringLiteral(" s");
+}
+
+DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
+                                         std::optional<double> legacyBreakpoint, QWidget* parent)
+    : QWidget(parent), header_(std::move(header)) {
+    auto* layout = makeLayout<QVBoxLayout>(this);
+    layout->setContentsMargins(padding, padding, padding, padding);
+    auto* identity = makeChild<IdentityView>(this, subtitle);
+    fit_ = makeChild<VantorHorizontalFit>(this, identity, makeControls(), leastGap, stackedSpacing,
+                                          legacyBreakpoint);
+    layout->addWidget(fit_);
+    show(header_.refreshInterval, header_.isPaused);
+}
+
+QWidget* DashboardHeaderView::makeControls() {
+    auto* controls = makeChild<QWidget>(this);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    controls->setSizePolicy(policy);
+    auto* flow = std::make_unique<FlowLayout>(controlSpacing, controls).release();
+    status_ = makeChild<StatusPillView>(controls);
+    flow->addWidget(status_);
+    interval_ = makeChild<IntervalMenuView>(controls, header_.onRefreshIntervalChange);
+    flow->addWidget(interval_);
+    const std::array buttons{
+        CapsuleButton{header_.pauseTitle(), header_.pauseSymbol(), header_.onTogglePause},
+        CapsuleButton{QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"),
+                      header_.onRefresh},
+        CapsuleButton{QStringLiteral("Export"), QStringLiteral("square.and.arrow.up"),
+                      header_.onExport},
+        CapsuleButton{QStringLiteral("Quit"), QStringLiteral("power"), header_.onQuit}};
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        buttons_[i] = makeChild<CapsuleButtonView>(controls, buttons[i]);
+        flow->addWidget(buttons_[i]);
+    }
+    pauseButton().reserveWidthFor(QStringLiteral("Resume"));
+    exportButton().setEnabled(header_.onExport != nullptr);
+    return controls;
+}
+
+void DashboardHeaderView::show(double refreshInterval, bool isPaused) {
+    header_.refreshInterval = refreshInterval;
+    header_.isPaused = isPaused;
+    status_->show(isPaused);
+    interval_->show(refreshInterval);
+    pauseButton().show(header_.pauseTitle(), header_.pauseSymbol());
+}
+
+void DashboardHeaderView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const ColorScheme scheme = colorScheme(*this);
+    CardChrome::paint(painter, rect(), scheme,
+                      VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.08));
+}
+
+}  // namespace vantor

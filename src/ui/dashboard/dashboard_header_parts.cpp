@@ -1,0 +1,177 @@
+#include <QAction>
+#include <QActionGroup>
+#include <QLinearGradient>
+#include <QMenu>
+#include <QPainter>
+
+#include <cmath>
+
+#include "settings/app_settings.h"
+#include "ui/components/make_child.h"
+#include "ui/dashboard/dashboard_header.h"
+#include "ui/pixels.h"
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double pillHorizontalPadding = 12;
+constexpr double pillVerticalPadding = 8;
+constexpr double pillDot = 8;
+constexpr double pillSpacing = 7;
+
+constexpr double tileSide = 46;
+constexpr double tileCorner = 14;
+constexpr double tileSymbol = 27;  // what a symbol of font size 22 measures
+constexpr double identitySpacing = 13;
+constexpr double nameSize = 23;
+constexpr double subtitleSize = 12;
+
+QFont pillFont() {
+    return Typography::font(Typography::caption, QFont::DemiBold);
+}
+QFont nameFont() {
+    return Typography::font(nameSize, QFont::Bold);
+}
+QFont subtitleFont() {
+    return Typography::font(subtitleSize);
+}
+
+QString statusText(bool isPaused) {
+    DashboardHeader header;
+    header.isPaused = isPaused;
+    return header.statusText();
+}
+
+}  // namespace
+
+StatusPillView::StatusPillView(QWidget* parent) : PaintedView(parent) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void StatusPillView::show(bool isPaused) {
+    if (isPaused == isPaused_) return;
+    isPaused_ = isPaused;
+    update();
+    announceValue();
+}
+
+QString StatusPillView::accessibleValueText() const {
+    return statusText(isPaused_);
+}
+
+QSize StatusPillView::sizeHint() const {
+    const QFontMetricsF metrics(pillFont(), this);
+    // Room for either word: the controls beside the pill must not move when the user pauses.
+    const double text = std::max(metrics.horizontalAdvance(statusText(true)),
+                                 metrics.horizontalAdvance(statusText(false)));
+    return {static_cast<int>(std::ceil(2 * pillHorizontalPadding + pillDot + pillSpacing + text)),
+            static_cast<int>(std::ceil(metrics.height() + 2 * pillVerticalPadding))};
+}
+
+void StatusPillView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor label = VantorTheme::primaryLabel(colorScheme(*this));
+    const QRectF area = Pixels::snapped(painter, rect());
+    QPainterPath capsule;
+    capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
+    vantorBackground(painter, VantorTheme::faded(label, 0.07), capsule);
+    painter.setFont(pillFont());
+    const QString text = accessibleValueText();
+    const double textWidth = QFontMetricsF(painter.font(), this).horizontalAdvance(text);
+    const double left = (width() - pillDot - pillSpacing - textWidth) / 2;
+    QPainterPath dot;
+    dot.addEllipse(QRectF(left, (height() - pillDot) / 2, pillDot, pillDot));
+    vantorBackground(painter, isPaused_ ? VantorTheme::orange() : VantorTheme::green(), dot);
+    vantorForeground(painter, label);
+    Typography::drawLine(
+        painter, {left + pillDot + pillSpacing, 0, textWidth + 1, static_cast<double>(height())},
+        Qt::AlignLeft | Qt::AlignVCenter, text);
+}
+
+IdentityView::IdentityView(std::string_view subtitle, QWidget* parent)
+    : PaintedView(parent),
+      subtitle_(QString::fromUtf8(subtitle.data(), static_cast<qsizetype>(subtitle.size()))) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize IdentityView::sizeHint() const {
+    const QFontMetricsF name(nameFont(), this);
+    const QFontMetricsF subtitle(subtitleFont(), this);
+    const double side = Typography::scaled(tileSide);
+    const double text =
+        std::max(name.horizontalAdvance(accessibleLabel()), subtitle.horizontalAdvance(subtitle_));
+    return {static_cast<int>(std::ceil(side + identitySpacing + text)),
+            static_cast<int>(std::ceil(std::max(side, name.height() + subtitle.height())))};
+}
+
+QSize IdentityView::minimumSizeHint() const {
+    return {Typography::scaled(tileSide), sizeHint().height()};
+}
+
+void IdentityView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    const double side = Typography::scaled(tileSide);
+    const QRectF tile = Pixels::snapped(painter, {0, (height() - side) / 2, side, side});
+    const double corner = tileCorner * side / tileSide;
+    QLinearGradient gradient(tile.topLeft(), tile.bottomRight());
+    gradient.setColorAt(0, VantorTheme::cyan());
+    gradient.setColorAt(1, VantorTheme::purple());
+    QPainterPath shape;
+    shape.addRoundedRect(tile, corner, corner);
+    painter.fillPath(shape, gradient);
+    const double inset = (side - tileSymbol * side / tileSide) / 2;
+    Symbols::draw(painter, tile.adjusted(inset, inset, -inset, -inset),
+                  QStringLiteral("waveform.path.ecg"), Qt::white);
+
+    const double left = side + identitySpacing;
+    const double nameHeight = QFontMetricsF(nameFont(), this).height();
+    const double subtitleHeight = QFontMetricsF(subtitleFont(), this).height();
+    const double top = (height() - nameHeight - subtitleHeight) / 2;
+    painter.setFont(nameFont());
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawLine(painter, {left, top, width() - left, nameHeight}, Qt::AlignLeft,
+                         accessibleLabel());
+    painter.setFont(subtitleFont());
+    vantorSecondaryForeground(painter, scheme);
+    Typography::drawLine(painter, {left, top + nameHeight, width() - left, subtitleHeight},
+                         Qt::AlignLeft, subtitle_);
+}
+
+IntervalMenuView::IntervalMenuView(std::function<void(double)> onChange, QWidget* parent)
+    : CapsuleButtonView({QString(), QStringLiteral("chevron.up.chevron.down"), [this] { open(); }},
+                        parent),
+      menu_(makeChild<QMenu>(this)) {
+    auto* group = makeChild<QActionGroup>(this);
+    for (const double interval : AppSettings::refreshIntervals) {
+        QAction* action = menu_->addAction(DashboardHeader::intervalText(interval));
+        action->setCheckable(true);
+        action->setData(interval);
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [onChange, interval] {
+            if (onChange) onChange(interval);
+        });
+        reserveWidthFor(action->text());
+    }
+    setToolTip(QStringLiteral("Refresh interval"));
+}
+
+void IntervalMenuView::show(double interval) {
+    CapsuleButtonView::show(DashboardHeader::intervalText(interval), systemImage());
+    setAccessibleName(QStringLiteral("Refresh interval ") + text());
+    for (QAction* action : menu_->actions())
+        action->setChecked(action->data() == interval);
+}
+
+void IntervalMenuView::open() {
+    menu_->popup(mapToGlobal(
+        QPoint(isRightToLeft() ? width() - menu_->sizeHint().width() : 0, height() + 4)));
+}
+
+}  // namespace vantor

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QLocale>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+#include "platform/machine.h"
+#include "platform/published.h"
+#include "sampling/system_monitor.h"
+#include "settings/app_settings.h"
+#include "ui/app_metadata.h"
+#include "ui/dashboard/adaptive_grid.h"
+
+namespace vantor {
+
+class CPUCardView;
+class DashboardHeaderView;
+class TextLineView;
+class VantorHorizontalFit;
+
+/// What the footer says of the last commit: its time of day, or that there has been none.
+QString lastUpdateText(Timestamp timestamp, const QLocale& locale);
+
+/// The content of the main window: header, cards and footer in one scroll view over the theme's
+/// background. Starts the sampling when it first appears; shows whatever the monitor publishes.
+class DashboardView : public QWidget {
+  public:
+    struct Environment {
+        std::shared_ptr<AppSettings> settings;
+        std::shared_ptr<SystemMonitor> monitor;
+        std::shared_ptr<Machine> machine;
+        const AppMetadata& metadata;
+        AdaptiveColumns dashboardColumns;
+        std::function<void()> onQuit;
+        /// Called once, after the first live figures have been painted.
+        std::function<void()> onFirstLiveFrame;
+    };
+
+    explicit DashboardView(Environment environment, QWidget* parent = nullptr);
+    ~DashboardView() override;
+
+    DashboardHeaderView& header() { return *header_; }
+    CPUCardView& cpuCard() { return *cpuCard_; }
+    TextLineView& lastUpdate() { return *lastUpdate_; }
+    VantorHorizontalFit& footer() { return *footer_; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void build();
+    QWidget* makeScrollView(QWidget* content);
+    void observe();
+    void show(const DashboardState& state);
+    void reportFirstLiveFrame();
+
+    Environment environment_;
+    DashboardHeaderView* header_ = nullptr;  // all owned by this widget, as its children
+    CPUCardView* cpuCard_ = nullptr;
+    VantorHorizontalFit* footer_ = nullptr;
+    TextLineView* lastUpdate_ = nullptr;
+    Subscription stateObservation_;
+    Subscription pauseObservation_;
+    Subscription intervalObservation_;
+    bool hasShownLiveData_ = false;
+};
+
+}  // namespace vantor

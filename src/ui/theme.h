@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+class QFormLayout;
+class QWidget;
+
+namespace vantor {
+
+enum class ColorScheme { dark, light };
+
+/// The colour scheme that a widget is shown in, as its palette tells.
+ColorScheme colorScheme(const QWidget& widget);
+
+/// The accents and the background; constants, sRGB.
+namespace VantorTheme {
+
+QColor cyan();    ///< processor
+QColor blue();    ///< storage, secondary values
+QColor purple();  ///< graphics
+QColor pink();    ///< memory
+QColor green();   ///< network, "Live", low values
+QColor orange();  ///< upload, "Paused", system, raised values
+QColor red();     ///< critical values
+
+/// The window's background over `area`, from the top leading to the bottom trailing corner.
+QLinearGradient background(ColorScheme scheme, const QRectF& area);
+
+QColor primaryLabel(ColorScheme scheme);
+QColor secondaryLabel(ColorScheme scheme);
+
+/// `color` at `opacity` of its own.
+QColor faded(QColor color, double opacity);
+
+/// Black or white, whichever can be read better on `fill` over the cards of that scheme.
+QColor labelOn(const QColor& fill, ColorScheme scheme);
+
+}  // namespace VantorTheme
+
+/// Fills `shape` with `color` behind what is painted next.
+void vantorBackground(QPainter& painter, const QColor& color, const QPainterPath& shape);
+
+/// Sets what text and lines are painted with.
+void vantorForeground(QPainter& painter, const QColor& color);
+void vantorPrimaryForeground(QPainter& painter, ColorScheme scheme);
+void vantorSecondaryForeground(QPainter& painter, ColorScheme scheme);
+
+/// Gives a form the look of grouped rows.
+void vantorGroupedFormStyle(QFormLayout& form);
+
+}  // namespace vantor
