@@ -26,8 +26,9 @@ Bytes toBytes(const std::optional<T>& value) {
 
 Bytes toBytes(const std::optional<std::string>& text) {
     if (!text) return std::nullopt;
-    std::vector<std::byte> bytes(text->size() + 1);
-    std::memcpy(bytes.data(), text->data(), text->size());
+    const auto letters = std::as_bytes(std::span(*text));
+    std::vector<std::byte> bytes(letters.begin(), letters.end());
+    bytes.push_back(std::byte{0});
     return bytes;
 }
 

@@ -1,0 +1,64 @@
+# What the scripts share: installing what is missing, and saying what happens. Sourced, not run.
+
+say() { printf '\n== %s\n' "$*"; }
+fail() {
+    printf '\nvantor: %s\n' "$*" >&2
+    exit 1
+}
+
+build_packages="g++ cmake ninja-build nlohmann-json3-dev qt6-base-dev libqt6svg6-dev"
+screen_packages="xvfb x11-utils imagemagick fonts-inter fonts-dejavu-core"
+test_packages="libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox procps"
+clang_packages="clang libclang-rt-14-dev"
+lint_packages="clang-format clang-tidy"
+
+is_debian() { command -v apt-get >/dev/null && command -v dpkg-query >/dev/null; }
+
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "this needs root or sudo: $*"
+    fi
+}
+
+# install_missing PACKAGE...: installs those that are not there. On other systems it names them and
+# goes on; what is really missing shows when it is needed.
+install_missing() {
+    local missing=() package
+    if ! is_debian; then
+        echo "This system is not Debian. Please have these, by whatever names it gives them: $*"
+        return
+    fi
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    say "Installing ${missing[*]}"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get update -q ||
+        fail "the list of packages could not be fetched"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends \
+        "${missing[@]}" || fail "these packages could not be installed: ${missing[*]}"
+}
+
+need_command() {
+    command -v "$1" >/dev/null || fail "$1 is missing; please install ${2:-$1}"
+}
+
+# build PRESET [TARGET...]: configures where needed and builds, showing progress.
+build() {
+    local preset=$1
+    shift
+    need_command cmake
+    need_command ninja ninja-build
+    say "Configuring ($preset)"
+    cmake --preset "$preset" || fail "configuring the $preset build failed"
+    say "Building ($preset)"
+    cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the $preset build failed"
+}
