@@ -1,6 +1,7 @@
 #include "app/dashboard_window.h"
 
 #include <QIcon>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "ui/components/make_child.h"
@@ -12,12 +13,15 @@ DashboardWindow::DashboardWindow(DashboardView::Environment environment)
     setWindowTitle(QStringLiteral("Vantor"));
     setWindowIcon(QIcon(QStringLiteral(":/vantor.svg")));
     setMinimumSize(smallestSize);
-    resize(defaultSize);
+    // On a screen that is smaller than the default, as much of it as there is.
+    const QSize frame(16, 48);  // what a window manager's frame may add
+    resize(defaultSize.boundedTo(screen()->availableSize() - frame).expandedTo(smallestSize));
     // The view paints every pixel; clearing the window first would be work for nothing.
     setAttribute(Qt::WA_NoSystemBackground);
     auto* layout = makeLayout<QVBoxLayout>(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(dashboard_);
+    dashboard_->setFocus();
 }
 
 }  // namespace vantor

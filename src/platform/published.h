@@ -65,11 +65,11 @@ class Published {
 
     /// Tells `observer` of every coming value, equal ones included; not of the present one.
     [[nodiscard]] Subscription observe(Observer observer) {
-        const auto entry = std::make_shared<Observer>(std::move(observer));
+        const auto entry = std::make_shared<Entry>(Entry{std::move(observer)});
         observers_->push_back(entry);
         return Subscription{[list = std::weak_ptr(observers_), entry] {
             if (const auto observers = list.lock()) std::erase(*observers, entry);
-            *entry = nullptr;
+            entry->isActive = false;
         }};
     }
 
@@ -83,13 +83,17 @@ class Published {
     }
 
   private:
-    using Observers = std::vector<std::shared_ptr<Observer>>;
+    struct Entry {
+        Observer observer;  // stays whole when its subscription ends while it is being told
+        bool isActive = true;
+    };
+    using Observers = std::vector<std::shared_ptr<Entry>>;
 
     void tell(const T& next) {
         if (observers_->empty()) return;
         const Observers told = *observers_;  // a copy: observers may come and go meanwhile
-        for (const auto& observer : told) {
-            if (const auto held = observer; *held) (*held)(next);
+        for (const auto& entry : told) {
+            if (entry->isActive) entry->observer(next);
         }
     }
 

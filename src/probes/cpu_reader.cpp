@@ -153,7 +153,7 @@ void CPUReader::updateLoadAverage() {
 const CPUReader::HardwareInfo& CPUReader::hardwareInfo() {
     if (cachedHardwareInfo_) return *cachedHardwareInfo_;
     const Sysctl sysctl(machine_->kernelValues());
-    HardwareInfo& info = cachedHardwareInfo_.emplace();
+    HardwareInfo& info = cachedHardwareInfo_.emplace(HardwareInfo{});
     if (auto brand = sysctl.string("machdep.cpu.brand_string")) {
         info.model = std::move(*brand);
     } else {

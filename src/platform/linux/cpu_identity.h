@@ -25,7 +25,7 @@ std::optional<std::int32_t> countPresentProcessors(const LinuxRoots& roots);
 /// Distinct cores among the processors online, from their topology folders.
 std::optional<std::int32_t> countPhysicalCores(const LinuxRoots& roots);
 
-/// base_frequency of the first processor that has one (the intel_pstate driver), else the
+/// base_frequency of the first processor online (the intel_pstate driver has one), else the
 /// "@ n GHz" of the processor's name.
 std::optional<std::uint64_t> readNominalFrequencyHz(const LinuxRoots& roots);
 

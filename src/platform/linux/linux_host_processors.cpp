@@ -19,6 +19,13 @@ std::array<std::uint32_t, 4> words(const ProcStat::Ticks& ticks) {
 }  // namespace
 
 ProcStat::Ticks LinuxHostProcessors::SteadyTicks::update(const ProcStat::Ticks& raw) {
+    // When one counter starts again, what it did in this interval is lost. The others must lose it
+    // too: busy ticks without the idle ones beside them would read as 100 %.
+    if (user.restartsAt(raw.user) || system.restartsAt(raw.system) || idle.restartsAt(raw.idle) ||
+        nice.restartsAt(raw.nice)) {
+        return {user.restart(raw.user), system.restart(raw.system), idle.restart(raw.idle),
+                nice.restart(raw.nice)};
+    }
     return {user.update(raw.user), system.update(raw.system), idle.update(raw.idle),
             nice.update(raw.nice)};
 }

@@ -68,7 +68,10 @@ void ProcStat::parse(std::string_view text) {
         }
         at = isWhole ? lineEnd + 1 : end;
     }
-    if (processors.empty()) processorsAreWhole = false;
+    // Other lines follow in a whole file; the front of a processor's name means that it was cut.
+    const std::string_view rest(at, static_cast<std::size_t>(end - at));
+    const bool isCut = !rest.empty() && std::string_view("cpu").starts_with(rest);
+    if (isCut || processors.empty()) processorsAreWhole = false;
 }
 
 }  // namespace vantor

@@ -17,12 +17,19 @@ class SteadyCounter {
     static constexpr std::uint64_t restartThreshold = 1000;
 
     std::uint64_t update(std::uint64_t raw) {
-        if (raw < highest_ && highest_ - raw > restartThreshold) {
-            carried_ += highest_ - raw;
-            highest_ = raw;
-        } else if (raw > highest_) {
-            highest_ = raw;
-        }
+        if (restartsAt(raw)) return restart(raw);
+        if (raw > highest_) highest_ = raw;
+        return carried_ + highest_;
+    }
+
+    bool restartsAt(std::uint64_t raw) const {
+        return raw < highest_ && highest_ - raw > restartThreshold;
+    }
+
+    /// Holds the value and counts on from `raw`, wherever that is.
+    std::uint64_t restart(std::uint64_t raw) {
+        carried_ += highest_ - raw;  // modulo 2^64, like the sum
+        highest_ = raw;
         return carried_ + highest_;
     }
 

@@ -49,7 +49,10 @@ void ThreadedMainLoop::run() {
         } else if (!posted_.empty()) {
             batch.swap(posted_);
             lock.unlock();
-            for (Task& posted : batch) posted();
+            for (Task& posted : batch) {
+                if (stopped_) break;
+                posted();
+            }
             batch.clear();
             lock.lock();
         } else if (timers_.empty()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <map>
 #include <mutex>
@@ -35,7 +36,7 @@ class ThreadedMainLoop : public MainLoop {
     std::vector<Task> posted_;
     std::map<Key, Task> timers_;
     TimerID lastTimer_ = 0;
-    bool stopped_ = false;
+    std::atomic<bool> stopped_ = false;  // written under the mutex, read also without it
 };
 
 }  // namespace vantor

@@ -83,8 +83,15 @@ void CapsuleButtonView::leaveEvent(QEvent* event) {
 }
 
 void CapsuleButtonView::focusInEvent(QFocusEvent* event) {
-    // A mouse user knows where the pointer is; the ring is for those who came by key.
-    showsFocus_ = event->reason() != Qt::MouseFocusReason;
+    // The ring is for those who come by key. A mouse user knows where the pointer is, and a window
+    // that becomes active again shows what it showed before.
+    const auto reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+        reason == Qt::ShortcutFocusReason) {
+        showsFocus_ = true;
+    } else if (reason == Qt::MouseFocusReason) {
+        showsFocus_ = false;
+    }
     QAbstractButton::focusInEvent(event);
 }
 

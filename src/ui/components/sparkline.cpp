@@ -88,7 +88,7 @@ void SparklineView::paintEvent(QPaintEvent*) {
     painter.translate(inset, inset);
     vantorBackground(painter, VantorTheme::faded(sparkline_.accent, fillOpacity), geometry.fill());
     painter.strokePath(geometry.line(), QPen(sparkline_.accent, lineWidth, Qt::SolidLine,
-                                             Qt::RoundCap, Qt::RoundJoin));
+                                             Qt::FlatCap, Qt::RoundJoin));
 }
 
 }  // namespace vantor

@@ -101,6 +101,7 @@ QWidget* DashboardView::makeScrollView(QWidget* content) {
         view = makeChild<LegacyVantorScrollView>(this, Qt::Vertical);
     }
     view->setWidget(content);
+    setFocusProxy(view);
     content->setAutoFillBackground(false);  // setWidget turns it on, and the background is ours
     return view;
 }

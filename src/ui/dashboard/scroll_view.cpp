@@ -61,7 +61,9 @@ LegacyVantorScrollView::LegacyVantorScrollView(Qt::Orientations axes, QWidget* p
                                                    : Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
     setAutoFillBackground(false);
-    setFocusPolicy(Qt::NoFocus);
+    // Not a stop of the Tab key, but where the arrow and page keys arrive when nothing else has the
+    // focus.
+    setFocusPolicy(Qt::ClickFocus);
 }
 
 VantorScrollView::VantorScrollView(Qt::Orientations axes, QWidget* parent)

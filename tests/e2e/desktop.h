@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace vantor {
+
+/// A virtual display with a window manager, and a home folder that nobody else uses.
+class Desktop {
+  public:
+    /// Starts both; the test has failed when isUp() is false.
+    explicit Desktop(QSize screen);
+    ~Desktop();
+
+    bool isUp() const { return isUp_; }
+    const QProcessEnvironment& environment() const { return environment_; }
+
+    /// The user's settings file on this desktop.
+    QString settingsFile() const;
+
+    /// Runs a tool on this display to its end; gives what it printed.
+    QString run(const QString& tool, const QStringList& arguments) const;
+
+    /// What is on the screen now.
+    QImage picture() const;
+
+    void key(const QString& name) const;
+    void clickAt(QPoint place) const;
+
+  private:
+    QTemporaryDir home_;
+    QProcessEnvironment environment_;
+    QProcess server_;
+    QProcess windowManager_;
+    bool isUp_ = false;
+};
+
+/// The program under test, on a desktop.
+class RunningProgram {
+  public:
+    explicit RunningProgram(const Desktop& desktop);
+    ~RunningProgram();
+
+    /// Until it has a window and has drawn live figures.
+    bool waitForLiveData();
+    bool isRunning() const { return process_.state() == QProcess::Running; }
+    bool waitForEnd(int milliseconds);
+    int exitStatus() const { return process_.exitCode(); }
+    bool endedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }
+
+    /// The id of its window, empty while it has none.
+    QString window() const;
+    QRect windowArea() const;
+
+    /// Whether the keyboard is the window's.
+    bool isActive() const;
+
+    /// Whether it has more windows than its first: a menu is one.
+    bool hasOpenMenu() const;
+
+    /// The button that shows the keyboard's focus, as a place on the screen; empty when none does.
+    QRect focusedButton() const;
+
+  private:
+    const Desktop& desktop_;
+    QProcess process_;
+};
+
+/// Asks again and again until it is so; false when it is not after `milliseconds`.
+bool eventually(const std::function<bool()>& isSo, int milliseconds = 10'000);
+
+/// How many pixels of `area` have about that colour.
+int countColor(const QImage& picture, const QRect& area, const QColor& color);
+
+}  // namespace vantor

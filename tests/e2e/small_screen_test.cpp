@@ -1,0 +1,19 @@
+#include <gtest/gtest.h>
+
+#include "e2e/desktop.h"
+
+namespace vantor {
+namespace {
+
+TEST(ProgramOnASmallScreen, FitsTheScreen) {
+    const Desktop desktop({1024, 640});
+    ASSERT_TRUE(desktop.isUp());
+    RunningProgram program(desktop);
+    ASSERT_TRUE(program.waitForLiveData());
+    const QRect area = program.windowArea();
+    EXPECT_TRUE(QRect(0, 0, 1024, 640).contains(area))
+        << area.x() << "," << area.y() << " " << area.width() << "x" << area.height();
+}
+
+}  // namespace
+}  // namespace vantor
