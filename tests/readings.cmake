@@ -1,0 +1,47 @@
+vantor_add_tests(model_tests LABEL core SOURCES
+    model/equality_test.cpp
+    model/placeholders_test.cpp
+    model/record_coding_test.cpp
+    model/record_values_test.cpp
+    model/timestamp_test.cpp)
+
+vantor_add_tests(probes_tests LABEL core SOURCES
+    probes/cpu_reader_cores_test.cpp
+    probes/cpu_reader_identity_test.cpp
+    probes/cpu_reader_test.cpp
+    probes/cpu_ticks_test.cpp
+    probes/sysctl_test.cpp
+    probes/utf8_test.cpp)
+
+vantor_add_tests(platform_tests LABEL core SOURCES
+    platform/published_test.cpp
+    platform/simulated/manual_main_loop_test.cpp
+    platform/simulated/manual_serial_queue_test.cpp
+    platform/threads/threaded_main_loop_test.cpp
+    platform/threads/threaded_serial_queue_test.cpp
+    platform/unique_function_test.cpp)
+
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    vantor_add_tests(linux_tests LABEL core SOURCES
+        platform/linux/cpu_identity_test.cpp
+        platform/linux/cpu_list_test.cpp
+        platform/linux/kernel_file_test.cpp
+        platform/linux/linux_host_processors_test.cpp
+        platform/linux/linux_kernel_values_test.cpp
+        platform/linux/linux_load_averages_test.cpp
+        platform/linux/linux_process_info_test.cpp
+        platform/linux/live_processors_test.cpp
+        platform/linux/proc_stat_test.cpp
+        platform/linux/recorded_proc_stat_test.cpp
+        platform/linux/steady_counter_test.cpp
+        support/fake_kernel_tree.cpp)
+endif()
+
+vantor_add_tests(settings_tests LABEL core SOURCES
+    settings/app_settings_test.cpp
+    settings/appearance_test.cpp
+    settings/settings_loading_test.cpp)
+
+vantor_add_tests(house_tests LABEL core SOURCES
+    house/floor_rules.cpp
+    house/floors_test.cpp)

@@ -1,0 +1,21 @@
+# What tests of widgets share: the main that makes the toolkit's application, and looking at pixels.
+add_library(vantor_widget_testing STATIC
+    ui/main.cpp
+    ui/picture.cpp
+    ui/rendering.cpp)
+target_include_directories(vantor_widget_testing PUBLIC ${CMAKE_SOURCE_DIR}/tests)
+target_compile_definitions(vantor_widget_testing PRIVATE
+    VANTOR_TESTS_DIR="${CMAKE_SOURCE_DIR}/tests" VANTOR_BUILD_DIR="${CMAKE_BINARY_DIR}")
+target_link_libraries(vantor_widget_testing PUBLIC vantor_ui GTest::gmock PRIVATE vantor_warnings)
+
+vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
+    ui/app_metadata_test.cpp
+    ui/byte_count_formatter_test.cpp
+    ui/formatters_test.cpp
+    ui/metric_row_test.cpp
+    ui/pixels_test.cpp
+    ui/ring_gauge_test.cpp
+    ui/sparkline_test.cpp
+    ui/symbols_test.cpp
+    ui/theme_test.cpp
+    ui/typography_test.cpp)

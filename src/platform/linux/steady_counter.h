@@ -6,11 +6,11 @@ namespace vantor {
 
 /// Makes a counter that only grows out of a kernel counter that does not quite.
 ///
-/// idle and iowait step back by a few ticks on real kernels (they are corrected afterwards), and the
-/// reader would take any step back for a 32-bit wrap: 100 % out of nothing. So a small step back
-/// holds the highest value seen until the counter has caught up. A processor that was taken offline
-/// and back may start its idle time again from zero: waiting for that to catch up would show it busy
-/// for hours, so a large step back is a new start, from which growth is added on.
+/// idle and iowait step back by a few ticks on real kernels (they are corrected afterwards), and
+/// the reader would take any step back for a 32-bit wrap: 100 % out of nothing. So a small step
+/// back holds the highest value seen until the counter has caught up. A processor that was taken
+/// offline and back may start its idle time again from zero: waiting for that to catch up would
+/// show it busy for hours, so a large step back is a new start, from which growth is added on.
 class SteadyCounter {
   public:
     /// Ten seconds of one processor at the usual 100 ticks; corrections are a few ticks.
