@@ -3,45 +3,47 @@
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
 
+// The placeholders are never destroyed: a reading may still be under way on a provider's thread when
+// the program ends, and nobody waits for it.
 namespace vantor {
 
 const CPUStats& CPUStats::empty() {
-    static const CPUStats placeholder = [] {
-        CPUStats stats;
-        stats.model = "Detecting processor…";
-        stats.idleUsage = 1.0;
+    static const auto* const placeholder = [] {
+        auto* const stats = new CPUStats;
+        stats->model = "Detecting processor…";
+        stats->idleUsage = 1.0;
         return stats;
     }();
-    return placeholder;
+    return *placeholder;
 }
 
 const NetworkStats& NetworkStats::empty() {
-    static const NetworkStats placeholder = [] {
-        NetworkStats stats;
-        stats.hostname = "Detecting host…";
+    static const auto* const placeholder = [] {
+        auto* const stats = new NetworkStats;
+        stats->hostname = "Detecting host…";
         return stats;
     }();
-    return placeholder;
+    return *placeholder;
 }
 
 const ProcessSample& ProcessSample::empty() {
-    static const ProcessSample placeholder;
-    return placeholder;
+    static const auto* const placeholder = new ProcessSample;
+    return *placeholder;
 }
 
 const SystemSnapshot& SystemSnapshot::empty() {
-    static const SystemSnapshot placeholder = [] {
-        SystemSnapshot snapshot;
-        snapshot.timestamp = Timestamp::min();
-        snapshot.cpu = CPUStats::empty();
-        snapshot.network = NetworkStats::empty();
-        snapshot.system.hostName = "Detecting host…";
-        snapshot.system.hardwareModel = "Detecting hardware…";
-        snapshot.system.operatingSystem = "Detecting macOS…";
-        snapshot.system.thermalState = "Unknown";
+    static const auto* const placeholder = [] {
+        auto* const snapshot = new SystemSnapshot;
+        snapshot->timestamp = Timestamp::min();
+        snapshot->cpu = CPUStats::empty();
+        snapshot->network = NetworkStats::empty();
+        snapshot->system.hostName = "Detecting host…";
+        snapshot->system.hardwareModel = "Detecting hardware…";
+        snapshot->system.operatingSystem = "Detecting macOS…";
+        snapshot->system.thermalState = "Unknown";
         return snapshot;
     }();
-    return placeholder;
+    return *placeholder;
 }
 
 }  // namespace vantor

@@ -1,6 +1,8 @@
 #include "ui/formatters.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -50,7 +52,13 @@ QString uptime(double seconds) {
 }
 
 QString fixed(double value, int precision) {
-    return QString::number(value, 'f', precision);
+    // The toolkit rounds exact halves up, where printf rounds them to even.
+    constexpr std::size_t mostDigits = std::numeric_limits<double>::max_exponent10 + 32;
+    std::array<char, mostDigits> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                            std::chars_format::fixed, precision);
+    if (error != std::errc{}) return QString::number(value, 'f', precision);
+    return QString::fromLatin1(digits.data(), end - digits.data());
 }
 
 }  // namespace vantor::Formatters

@@ -96,7 +96,8 @@ QColor labelOn(const QColor& fill, ColorScheme scheme) {
     const double ground = luminance(over(fill, card));
     const double contrastOfWhite = 1.05 / (ground + 0.05);
     const double contrastOfBlack = (ground + 0.05) / 0.05;
-    return contrastOfWhite >= contrastOfBlack ? rgb(1, 1, 1, 0.92) : rgb(0, 0, 0, 0.85);
+    // Opaque: on a fill of middle brightness there is no contrast to give away.
+    return contrastOfWhite >= contrastOfBlack ? rgb(1, 1, 1) : rgb(0, 0, 0);
 }
 
 }  // namespace VantorTheme

@@ -32,9 +32,12 @@ class ThreadedSerialQueueFactory::Queue : public SerialQueue {
     }
 
     void submit(Task task) override {
-        const std::lock_guard lock(shared_->mutex);
-        shared_->waiting.push_back(std::move(task));
-        if (!std::exchange(shared_->started, true)) start();
+        {
+            const std::lock_guard lock(shared_->mutex);
+            shared_->waiting.push_back(std::move(task));
+            if (!std::exchange(shared_->started, true)) start();
+        }
+        // Not under the lock, which the thread would wake up only to wait for.
         shared_->changed.notify_one();
     }
 

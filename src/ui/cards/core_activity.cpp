@@ -93,7 +93,7 @@ void CoreActivityView::show(std::span<const double> usage) {
         update();
         return;
     }
-    const auto grid = geometry(width());
+    const auto grid = gridFor(width());
     for (std::size_t i = 0; i < usage.size(); ++i) {
         if (CoreActivity::fill(usage[i]) == CoreActivity::fill(usage_[i])) continue;
         update(grid.cell(i).toAlignedRect());
@@ -102,7 +102,7 @@ void CoreActivityView::show(std::span<const double> usage) {
     announceValue();
 }
 
-CoreGridGeometry CoreActivityView::geometry(double width) const {
+CoreGridGeometry CoreActivityView::gridFor(double width) const {
     return CoreGridGeometry::make(usage_.size(), width, Typography::lengthScale());
 }
 
@@ -115,7 +115,7 @@ QString CoreActivityView::accessibleValueText() const {
 }
 
 int CoreActivityView::heightForWidth(int width) const {
-    return static_cast<int>(std::ceil(geometry(width).height()));
+    return static_cast<int>(std::ceil(gridFor(width).height()));
 }
 
 QSize CoreActivityView::sizeHint() const {
@@ -131,7 +131,7 @@ QSize CoreActivityView::minimumSizeHint() const {
 bool CoreActivityView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    const auto grid = geometry(width());
+    const auto grid = gridFor(width());
     const std::size_t index = grid.cellAt(help->pos(), usage_.size());
     if (index < usage_.size()) {
         QToolTip::showText(help->globalPos(), CoreActivity::help(index, usage_[index]), this,
@@ -146,7 +146,7 @@ void CoreActivityView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(numberFont(Typography::lengthScale()));
-    const auto grid = geometry(width());
+    const auto grid = gridFor(width());
     for (std::size_t i = 0; i < usage_.size(); ++i) {
         const QRectF cell = grid.cell(i);
         if (event->region().intersects(cell.toAlignedRect())) paintCell(painter, cell, i);

@@ -59,7 +59,7 @@ class CoreActivityView : public PaintedView {
     bool event(QEvent* event) override;
 
   private:
-    CoreGridGeometry geometry(double width) const;
+    CoreGridGeometry gridFor(double width) const;
     void paintCell(QPainter& painter, const QRectF& cell, std::size_t index) const;
 
     std::vector<double> usage_;

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "ui/components/make_child.h"
+#include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -127,7 +128,7 @@ void CPUCardView::addGaugeAndRows(const CPUCard& card) {
 void CPUCardView::show(const CPUCard& card) {
     if (card.revision != revision_) {
         showCard(card.frame());
-        header().setToolTip(QString::fromStdString(card.stats.model).toHtmlEscaped());
+        header().setToolTip(toolTipText(QString::fromStdString(card.stats.model)));
         gauge_->show(card.gauge());
         const auto values = card.rows();
         for (std::size_t i = 0; i < rows_.size(); ++i)

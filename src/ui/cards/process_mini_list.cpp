@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -99,7 +100,7 @@ bool ProcessMiniListView::event(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (!rowArea(i).contains(help->pos())) continue;
-        QToolTip::showText(help->globalPos(), rows_[i].command.toHtmlEscaped(), this,
+        QToolTip::showText(help->globalPos(), toolTipText(rows_[i].command), this,
                            rowArea(i).toAlignedRect());
         return true;
     }
