@@ -120,6 +120,18 @@ TEST_F(Program, CannotBeMadeSmallerThanItsSmallestSize) {
     EXPECT_TRUE(eventually([this] { return program_->windowArea().size() == QSize(720, 560); }));
 }
 
+TEST_F(Program, AtItsSmallestSizeTheControlsAreUnderTheName) {
+    start();
+    desktop_.run(QStringLiteral("xdotool"), {QStringLiteral("windowsize"), program_->window(),
+                                             QStringLiteral("720"), QStringLiteral("560")});
+    ASSERT_TRUE(eventually([this] { return program_->windowArea().size() == QSize(720, 560); }));
+    tabTo(pauseStop);
+    const QRect button = program_->focusedButton();
+    EXPECT_GT(button.top() - program_->windowArea().top(), 70);
+    desktop_.clickAt(button.center());
+    EXPECT_TRUE(eventually([this] { return showsInHeader(VantorTheme::orange()); }));
+}
+
 TEST_F(Program, LightIsLight) {
     write(desktop_.settingsFile(), "[General]\nappearance=light\n");
     start();

@@ -80,7 +80,7 @@ std::size_t CoreGridGeometry::cellAt(QPointF place, std::size_t count) const {
 }
 
 CoreActivityView::CoreActivityView(QWidget* parent) : PaintedView(parent) {
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

@@ -81,11 +81,10 @@ QSize SparklineView::sizeHint() const {
 void SparklineView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Half the stroke's width on each side, or a line along an edge would be cut in half.
-    const double inset = lineWidth / 2;
-    const auto geometry = SparklineGeometry::make(sparkline_.values, width() - lineWidth,
-                                                  height() - lineWidth, sparkline_.fixedRange);
-    painter.translate(inset, inset);
+    // Half the stroke's width above and below, or a line along an edge would be cut in half.
+    const auto geometry = SparklineGeometry::make(sparkline_.values, width(), height() - lineWidth,
+                                                  sparkline_.fixedRange);
+    painter.translate(0, lineWidth / 2);
     vantorBackground(painter, VantorTheme::faded(sparkline_.accent, fillOpacity), geometry.fill());
     painter.strokePath(geometry.line(), QPen(sparkline_.accent, lineWidth, Qt::SolidLine,
                                              Qt::FlatCap, Qt::RoundJoin));

@@ -55,7 +55,7 @@ DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_vie
 
 QWidget* DashboardHeaderView::makeControls() {
     auto* controls = makeChild<QWidget>(this);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     controls->setSizePolicy(policy);
     auto* flow = std::make_unique<FlowLayout>(controlSpacing, controls).release();

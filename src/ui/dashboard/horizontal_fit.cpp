@@ -32,7 +32,7 @@ VantorHorizontalFit::VantorHorizontalFit(QWidget* leading, QWidget* trailing, in
       legacyBreakpoint_(legacyBreakpoint) {
     leading_->setParent(this);
     trailing_->setParent(this);
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
