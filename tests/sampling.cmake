@@ -15,13 +15,16 @@ vantor_add_tests(sampling_thread_tests LABEL core SOURCES
     sampling/monitor_stress_test.cpp
     sampling/sampler_stress_test.cpp)
 
-# Quits by itself while one of its threads hangs for ever.
-add_executable(hanging_probe_program sampling/hanging_probe_program.cpp)
-target_include_directories(hanging_probe_program PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-target_link_libraries(hanging_probe_program PRIVATE vantor_core vantor_warnings)
-add_dependencies(sampling_thread_tests hanging_probe_program)
-target_compile_definitions(sampling_thread_tests PRIVATE
-    VANTOR_HANGING_PROGRAM="$<TARGET_FILE:hanging_probe_program>")
+# Programs that end while a thread of theirs hangs for ever, or is at work.
+foreach(end hanging_end busy_end)
+    add_executable(${end}_program sampling/${end}_program.cpp)
+    target_include_directories(${end}_program PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${end}_program PRIVATE vantor_core vantor_warnings)
+    add_dependencies(sampling_thread_tests ${end}_program)
+    string(TOUPPER ${end} END)
+    target_compile_definitions(sampling_thread_tests PRIVATE
+        VANTOR_${END}_PROGRAM="$<TARGET_FILE:${end}_program>")
+endforeach()
 
 # A program of its own, because it replaces operator new; the sanitizers replace it themselves.
 if(NOT VANTOR_SANITIZE)

@@ -11,9 +11,20 @@ target_link_libraries(vantor_widget_testing PUBLIC vantor_ui GTest::gmock PRIVAT
 vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/app_metadata_test.cpp
     ui/byte_count_formatter_test.cpp
+    ui/capsule_button_test.cpp
+    ui/core_activity_test.cpp
+    ui/cpu_card_test.cpp
+    ui/cpu_card_view_test.cpp
+    ui/dashboard_card_test.cpp
+    ui/dashboard_header_test.cpp
+    ui/dashboard_view_test.cpp
+    ui/footer_test.cpp
     ui/formatters_test.cpp
+    ui/horizontal_fit_test.cpp
+    ui/layouts_test.cpp
     ui/metric_row_test.cpp
     ui/pixels_test.cpp
+    ui/process_mini_list_test.cpp
     ui/ring_gauge_test.cpp
     ui/sparkline_test.cpp
     ui/symbols_test.cpp

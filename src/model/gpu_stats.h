@@ -10,8 +10,8 @@ namespace vantor {
 struct GPUStats {
     std::string id;  ///< stable for the device; the record's identity
     std::string name;
-    bool isUnifiedMemory = false;               ///< shares the system's memory
-    std::optional<double> utilization;          ///< busy fraction 0 to 1
+    bool isUnifiedMemory = false;       ///< shares the system's memory
+    std::optional<double> utilization;  ///< busy fraction 0 to 1
     std::optional<double> temperatureCelsius;
     std::optional<std::uint64_t> vramUsedBytes;
     std::optional<std::uint64_t> vramTotalBytes;

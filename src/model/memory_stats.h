@@ -6,8 +6,8 @@ namespace vantor {
 
 /// Physical memory in bytes. usedBytes + availableBytes is always totalBytes.
 struct MemoryStats {
-    std::uint64_t totalBytes = 0;       ///< installed
-    std::uint64_t usedBytes = 0;        ///< active + wired + compressed, at most totalBytes
+    std::uint64_t totalBytes = 0;  ///< installed
+    std::uint64_t usedBytes = 0;   ///< active + wired + compressed, at most totalBytes
     std::uint64_t activeBytes = 0;
     std::uint64_t wiredBytes = 0;
     std::uint64_t compressedBytes = 0;  ///< held by the compressor

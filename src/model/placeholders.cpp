@@ -3,8 +3,8 @@
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
 
-// The placeholders are never destroyed: a reading may still be under way on a provider's thread when
-// the program ends, and nobody waits for it.
+// The placeholders are never destroyed: a reading may still be under way on a provider's thread
+// when the program ends, and nobody waits for it.
 namespace vantor {
 
 const CPUStats& CPUStats::empty() {

@@ -116,8 +116,7 @@ bool decodeValue(const json& in, T& value) {
 }
 
 bool readNumber(std::string_view digits, int& number) {
-    const auto [end, error] =
-        std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     return error == std::errc{} && end == digits.data() + digits.size() && digits.front() != '-';
 }
 

@@ -12,7 +12,7 @@
 namespace vantor {
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, CPUStats>
+requires std::same_as<std::remove_const_t<R>, CPUStats>
 void forEachField(R& r, V&& visit) {
     visit("model", r.model);
     visit("totalUsage", r.totalUsage);
@@ -28,7 +28,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, MemoryStats>
+requires std::same_as<std::remove_const_t<R>, MemoryStats>
 void forEachField(R& r, V&& visit) {
     visit("totalBytes", r.totalBytes);
     visit("usedBytes", r.usedBytes);
@@ -40,7 +40,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, NetworkInterfaceStats>
+requires std::same_as<std::remove_const_t<R>, NetworkInterfaceStats>
 void forEachField(R& r, V&& visit) {
     visit("name", r.name);
     visit("ipv4Address", r.ipv4Address);
@@ -53,7 +53,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, NetworkStats>
+requires std::same_as<std::remove_const_t<R>, NetworkStats>
 void forEachField(R& r, V&& visit) {
     visit("hostname", r.hostname);
     visit("primaryInterfaceName", r.primaryInterfaceName);
@@ -65,7 +65,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, GPUStats>
+requires std::same_as<std::remove_const_t<R>, GPUStats>
 void forEachField(R& r, V&& visit) {
     visit("id", r.id);
     visit("name", r.name);
@@ -78,7 +78,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, VolumeStats>
+requires std::same_as<std::remove_const_t<R>, VolumeStats>
 void forEachField(R& r, V&& visit) {
     visit("name", r.name);
     visit("path", r.path);
@@ -90,7 +90,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, ProcessStats>
+requires std::same_as<std::remove_const_t<R>, ProcessStats>
 void forEachField(R& r, V&& visit) {
     visit("pid", r.pid);
     visit("name", r.name);
@@ -100,7 +100,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, ProcessSample>
+requires std::same_as<std::remove_const_t<R>, ProcessSample>
 void forEachField(R& r, V&& visit) {
     visit("all", r.all);
     visit("sortedByCPU", r.sortedByCPU);
@@ -108,7 +108,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, SystemInfoStats>
+requires std::same_as<std::remove_const_t<R>, SystemInfoStats>
 void forEachField(R& r, V&& visit) {
     visit("hostName", r.hostName);
     visit("hardwareModel", r.hardwareModel);
@@ -122,7 +122,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, PowerStats>
+requires std::same_as<std::remove_const_t<R>, PowerStats>
 void forEachField(R& r, V&& visit) {
     visit("name", r.name);
     visit("chargeFraction", r.chargeFraction);
@@ -133,7 +133,7 @@ void forEachField(R& r, V&& visit) {
 }
 
 template <class R, class V>
-    requires std::same_as<std::remove_const_t<R>, SystemSnapshot>
+requires std::same_as<std::remove_const_t<R>, SystemSnapshot>
 void forEachField(R& r, V&& visit) {
     visit("timestamp", r.timestamp);
     visit("cpu", r.cpu);

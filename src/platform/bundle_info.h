@@ -7,7 +7,8 @@
 namespace vantor {
 
 /// The facts a program carries about itself, by key ("CFBundleShortVersionString",
-/// "CFBundleVersion"). macOS: the bundle's information dictionary; elsewhere: the build. Any thread.
+/// "CFBundleVersion"). macOS: the bundle's information dictionary; elsewhere: the build. Any
+/// thread.
 class BundleInfo {
   public:
     virtual ~BundleInfo() = default;

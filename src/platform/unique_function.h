@@ -21,9 +21,9 @@ class UniqueFunction<R(Args...), Capacity> {
     UniqueFunction() = default;
 
     template <class F>
-        requires(!std::same_as<std::remove_cvref_t<F>, UniqueFunction> &&
-                 std::is_invocable_r_v<R, std::remove_cvref_t<F>&, Args...>)
-    UniqueFunction(F&& callable) {  // NOLINT(google-explicit-constructor): meant to convert
+    requires(!std::same_as<std::remove_cvref_t<F>, UniqueFunction> &&
+             std::is_invocable_r_v<R, std::remove_cvref_t<F>&, Args...>)
+        UniqueFunction(F&& callable) {  // NOLINT(google-explicit-constructor): meant to convert
         using Callable = std::remove_cvref_t<F>;
         if constexpr (fits<Callable>) {
             emplace<Callable>(std::forward<F>(callable));
@@ -54,9 +54,9 @@ class UniqueFunction<R(Args...), Capacity> {
 
   private:
     template <class F>
-    static constexpr bool fits = sizeof(F) <= Capacity &&
-                                 alignof(F) <= alignof(std::max_align_t) &&
-                                 std::is_nothrow_move_constructible_v<F>;
+    static constexpr bool fits =
+        sizeof(F) <= Capacity &&
+        alignof(F) <= alignof(std::max_align_t) && std::is_nothrow_move_constructible_v<F>;
 
     template <class F>
     struct Boxed {

@@ -18,7 +18,9 @@ std::uint64_t addOrStop(std::uint64_t a, std::uint64_t b) {
     return sum;
 }
 
-double clampShare(double share) { return share <= 0 ? 0 : share > 1 ? 1 : share; }
+double clampShare(double share) {
+    return share <= 0 ? 0 : share > 1 ? 1 : share;
+}
 
 }  // namespace
 

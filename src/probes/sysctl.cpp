@@ -19,8 +19,7 @@ template <class T>
 std::optional<T> readInteger(KernelValues& values, const std::string& name) {
     T value{};
     std::size_t size = sizeof value;
-    const int error =
-        values.sysctlbyname(name, std::as_writable_bytes(std::span{&value, 1}), size);
+    const int error = values.sysctlbyname(name, std::as_writable_bytes(std::span{&value, 1}), size);
     if (error != 0 || size != sizeof value) return std::nullopt;
     return value;
 }

@@ -113,8 +113,8 @@ void appendToHistory(double value, std::vector<double>& history, std::size_t lim
 
 bool trimHistories(Histories& histories, std::size_t limit) {
     bool trimmed = false;
-    for (auto* history : {&histories.cpu, &histories.memory, &histories.download,
-                          &histories.upload, &histories.gpu}) {
+    for (auto* history : {&histories.cpu, &histories.memory, &histories.download, &histories.upload,
+                          &histories.gpu}) {
         trimmed = dropOldest(*history, limit) || trimmed;
     }
     return trimmed;

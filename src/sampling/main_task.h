@@ -8,8 +8,8 @@
 
 namespace vantor {
 
-/// The handle of an activity on the main thread that posts, sleeps and can be cancelled. A cancelled
-/// one never runs again, not even a step that is already posted. Main thread.
+/// The handle of an activity on the main thread that posts, sleeps and can be cancelled. A
+/// cancelled one never runs again, not even a step that is already posted. Main thread.
 class MainTask : public std::enable_shared_from_this<MainTask> {
   public:
     explicit MainTask(std::shared_ptr<MainLoop> loop) : loop_(std::move(loop)) {}
@@ -34,10 +34,11 @@ class MainTask : public std::enable_shared_from_this<MainTask> {
     /// Runs `step` after `delay`, unless cancelled.
     void sleep(std::chrono::nanoseconds delay, Task step) {
         if (cancelled_) return;
-        timer_ = loop_->runAfter(delay, [self = shared_from_this(), step = std::move(step)]() mutable {
-            self->timer_ = 0;
-            if (!self->cancelled_) step();
-        });
+        timer_ =
+            loop_->runAfter(delay, [self = shared_from_this(), step = std::move(step)]() mutable {
+                self->timer_ = 0;
+                if (!self->cancelled_) step();
+            });
     }
 
   private:

@@ -60,10 +60,8 @@ void SystemMonitor::observeSettings() {
             if (const auto self = weak.lock()) work(*self);
         });
     };
-    refreshIntervalObservation_ =
-        settings_->refreshIntervalStream().observeChanges([post](const double&) {
-            post([](SystemMonitor& self) { self.restartForNewInterval(); });
-        });
+    refreshIntervalObservation_ = settings_->refreshIntervalStream().observeChanges(
+        [post](const double&) { post([](SystemMonitor& self) { self.restartForNewInterval(); }); });
     historyLengthObservation_ =
         settings_->historyLengthStream().observeChanges([post](const std::int64_t& length) {
             post([length](SystemMonitor& self) { self.trimHistoriesTo(length); });
@@ -184,10 +182,18 @@ void SystemMonitor::runStage(const std::shared_ptr<MainTask>& task, int stage,
                              std::uint64_t generation) {
     if (!isDashboardLiveResizeActive_) {
         switch (stage) {
-            case 1: requestProcesses(true, generation); break;
-            case 2: requestGPUs(true, generation); break;
-            case 3: requestPower(true, generation); break;
-            default: requestVolumes(true, generation); break;
+            case 1:
+                requestProcesses(true, generation);
+                break;
+            case 2:
+                requestGPUs(true, generation);
+                break;
+            case 3:
+                requestPower(true, generation);
+                break;
+            default:
+                requestVolumes(true, generation);
+                break;
         }
     }
     if (stage < lastStage) return sleepUntilStage(task, stage + 1, generation);

@@ -46,8 +46,8 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     /// Pauses (results in flight are dropped and the baselines forgotten), or starts again.
     void togglePause();
 
-    /// Asks all providers at once, also during a pause; starts the loop instead when there should be
-    /// one and is none.
+    /// Asks all providers at once, also during a pause; starts the loop instead when there should
+    /// be one and is none.
     void forceRefresh();
 
     /// While the user resizes the window, ticks ask for nothing and nothing is committed.
@@ -63,8 +63,8 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     static double systemInfoInterval(double refreshInterval);
     static std::chrono::nanoseconds loopSleep(double refreshInterval);
 
-    /// What the providers' completions deliver to. A result of another generation, an absent one, an
-    /// empty process list and a power failure change nothing.
+    /// What the providers' completions deliver to. A result of another generation, an absent one,
+    /// an empty process list and a power failure change nothing.
     void receiveCPU(std::optional<CPUStats> result, std::uint64_t generation);
     void receiveMemory(std::optional<MemoryStats> result, std::uint64_t generation);
     void receiveNetwork(std::optional<NetworkStats> result, std::uint64_t generation);

@@ -72,9 +72,9 @@ void SystemMonitor::commitPendingUpdate() {
     PendingUpdate update = std::exchange(pendingUpdate_, PendingUpdate{});
     if (update.isEmpty()) return;
     spareState_ = dashboardState_.value();
-    const bool changed = applyUpdate(std::move(update), spareState_,
-                                     historyLimit(settings_->historyLength()),
-                                     machine_->wallClock().now());
+    const bool changed =
+        applyUpdate(std::move(update), spareState_, historyLimit(settings_->historyLength()),
+                    machine_->wallClock().now());
     if (changed) dashboardState_.publish(spareState_);
 }
 

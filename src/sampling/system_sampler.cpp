@@ -35,7 +35,8 @@ SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactor
 }
 
 SystemSampler::~SystemSampler() {
-    for (const Provider& provider : providers_) provider.gate->invalidate();
+    for (const Provider& provider : providers_)
+        provider.gate->invalidate();
 }
 
 template <class Operation, class Answer>
@@ -68,13 +69,12 @@ void SystemSampler::requestCPU(double minimumInterval, bool force,
 void SystemSampler::requestMemory(double minimumInterval, bool force,
                                   Completion<std::optional<MemoryStats>> completion) {
     schedule(
-        memory, minimumInterval, force,
-        [](SystemSampler&) { return std::optional<MemoryStats>{}; }, std::move(completion));
+        memory, minimumInterval, force, [](SystemSampler&) { return std::optional<MemoryStats>{}; },
+        std::move(completion));
 }
 
 void SystemSampler::requestNetwork(bool /*includePointToPointInterfaces*/, double minimumInterval,
-                                   bool force,
-                                   Completion<std::optional<NetworkStats>> completion) {
+                                   bool force, Completion<std::optional<NetworkStats>> completion) {
     schedule(
         network, minimumInterval, force,
         [](SystemSampler&) { return std::optional<NetworkStats>{}; }, std::move(completion));
@@ -125,7 +125,8 @@ void SystemSampler::resetDeltaBaselines() {
 
 std::vector<std::shared_ptr<const ProviderGate>> SystemSampler::gates() const {
     std::vector<std::shared_ptr<const ProviderGate>> gates;
-    for (const Provider& provider : providers_) gates.push_back(provider.gate);
+    for (const Provider& provider : providers_)
+        gates.push_back(provider.gate);
     return gates;
 }
 

@@ -24,8 +24,8 @@ namespace vantor {
 ///
 /// Requests come from the main thread. An admitted one runs its probe on the provider's queue and
 /// hands the result to `completion` there; a refused one never answers. Work in flight keeps the
-/// gate and the machine, not the sampler: destroying the sampler invalidates the gates, never waits,
-/// and ends the waiting runs without an answer.
+/// gate and the machine, not the sampler: destroying the sampler invalidates the gates, never
+/// waits, and ends the waiting runs without an answer.
 class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
   public:
     template <class Result>
@@ -49,8 +49,7 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
                         Completion<std::optional<NetworkStats>> completion);
     void requestSystemInfo(double minimumInterval, bool force,
                            Completion<SystemInfoStats> completion);
-    void requestProcesses(double minimumInterval, bool force,
-                          Completion<ProcessSample> completion);
+    void requestProcesses(double minimumInterval, bool force, Completion<ProcessSample> completion);
     void requestGPUs(double minimumInterval, bool force,
                      Completion<std::optional<std::vector<GPUStats>>> completion);
     void requestVolumes(double minimumInterval, bool force,

@@ -29,8 +29,7 @@ double loadDouble(const DefaultsStore& store, std::string_view key, double other
     return otherwise;
 }
 
-std::int64_t loadInteger(const DefaultsStore& store, std::string_view key,
-                         std::int64_t otherwise) {
+std::int64_t loadInteger(const DefaultsStore& store, std::string_view key, std::int64_t otherwise) {
     const auto value = store.value(key);
     if (!value) return otherwise;
     if (const auto* whole = std::get_if<std::int64_t>(&*value)) return *whole;
@@ -69,8 +68,8 @@ AppSettings::AppSettings(std::shared_ptr<DefaultsStore> defaults,
       application_(std::move(application)),
       refreshInterval_(nearestRefreshInterval(
           loadDouble(*defaults_, refreshIntervalKey, defaultRefreshInterval))),
-      historyLength_(clampHistoryLength(
-          loadInteger(*defaults_, historyLengthKey, defaultHistoryLength))),
+      historyLength_(
+          clampHistoryLength(loadInteger(*defaults_, historyLengthKey, defaultHistoryLength))),
       showMenuBar_(loadBool(*defaults_, showMenuBarKey, true)),
       includePointToPointInterfaces_(loadBool(*defaults_, pointToPointKey, false)),
       appearance_(loadAppearance(*defaults_)) {
@@ -118,9 +117,15 @@ std::int64_t AppSettings::clampHistoryLength(std::int64_t samples) {
 
 void AppSettings::applyAppearance() {
     switch (appearance()) {
-        case Appearance::system: application_->followSystem(); break;
-        case Appearance::dark: application_->forceDark(); break;
-        case Appearance::light: application_->forceLight(); break;
+        case Appearance::system:
+            application_->followSystem();
+            break;
+        case Appearance::dark:
+            application_->forceDark();
+            break;
+        case Appearance::light:
+            application_->forceLight();
+            break;
     }
 }
 

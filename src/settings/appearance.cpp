@@ -4,9 +4,12 @@ namespace vantor {
 
 std::string_view appearanceText(Appearance appearance) {
     switch (appearance) {
-        case Appearance::system: return "system";
-        case Appearance::light: return "light";
-        case Appearance::dark: break;
+        case Appearance::system:
+            return "system";
+        case Appearance::light:
+            return "light";
+        case Appearance::dark:
+            break;
     }
     return "dark";
 }

@@ -9,8 +9,7 @@ namespace vantor {
 enum class Appearance { system, dark, light };
 
 /// All cases, in the order in which they are offered.
-inline constexpr std::array allAppearances{Appearance::system, Appearance::dark,
-                                           Appearance::light};
+inline constexpr std::array allAppearances{Appearance::system, Appearance::dark, Appearance::light};
 
 /// The text that an appearance is stored as and identified by.
 std::string_view appearanceText(Appearance appearance);

@@ -13,8 +13,10 @@ namespace vantor {
 namespace {
 
 std::string_view trim(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
+        text.remove_prefix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t'))
+        text.remove_suffix(1);
     return text;
 }
 
@@ -69,8 +71,8 @@ std::optional<std::uint64_t> frequencyInName(std::string_view name) {
     if (at == std::string_view::npos) return std::nullopt;
     const std::string_view text = trim(name.substr(at + 1));
     double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number,
-                                              std::chars_format::fixed);
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
     const auto unit = trim(text.substr(static_cast<std::size_t>(end - text.data())));
     const double scale = unit == "GHz" ? 1e9 : unit == "MHz" ? 1e6 : 0;
     const double hertz = number * scale;

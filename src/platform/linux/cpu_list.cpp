@@ -18,7 +18,8 @@ bool readNumber(std::string_view& text, std::uint32_t& number) {
 }  // namespace
 
 std::optional<std::vector<std::uint32_t>> parseCPUList(std::string_view text) {
-    while (!text.empty() && (text.back() == '\n' || text.back() == ' ')) text.remove_suffix(1);
+    while (!text.empty() && (text.back() == '\n' || text.back() == ' '))
+        text.remove_suffix(1);
     std::vector<std::uint32_t> numbers;
     while (!text.empty()) {
         std::uint32_t first = 0;
@@ -28,7 +29,8 @@ std::optional<std::vector<std::uint32_t>> parseCPUList(std::string_view text) {
             text.remove_prefix(1);
             if (!readNumber(text, last) || last < first) return std::nullopt;
         }
-        for (std::uint32_t n = first; n <= last; ++n) numbers.push_back(n);
+        for (std::uint32_t n = first; n <= last; ++n)
+            numbers.push_back(n);
         if (text.empty()) break;
         if (text.front() != ',' || text.size() == 1) return std::nullopt;
         text.remove_prefix(1);

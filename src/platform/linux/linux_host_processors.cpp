@@ -10,7 +10,9 @@ namespace {
 // More than any kernel is built for; a larger number is a damaged file, not a machine.
 constexpr std::uint32_t processorLimit = 65536;
 
-constexpr std::uint32_t low(std::uint64_t ticks) { return static_cast<std::uint32_t>(ticks); }
+constexpr std::uint32_t low(std::uint64_t ticks) {
+    return static_cast<std::uint32_t>(ticks);
+}
 
 std::array<std::uint32_t, 4> words(const ProcStat::Ticks& ticks) {
     return {low(ticks.user), low(ticks.system), low(ticks.idle), low(ticks.nice)};
@@ -35,7 +37,9 @@ HostProcessors::Port LinuxHostProcessors::acquirePort() {
     return lastPort_;
 }
 
-void LinuxHostProcessors::releasePort(Port) { readPort_ = 0; }
+void LinuxHostProcessors::releasePort(Port) {
+    readPort_ = 0;
+}
 
 void LinuxHostProcessors::readFor(Port port) {
     if (readPort_ == port) return;
@@ -67,7 +71,8 @@ std::optional<HostProcessors::ProcessorArray> LinuxHostProcessors::processorTick
         const bool wasThere = known.reading + 1 == reading_;
         const auto before = words(wasThere ? known.last : now);
         const auto after = words(now);
-        for (std::size_t i = 0; i < after.size(); ++i) *place++ += after[i] - before[i];
+        for (std::size_t i = 0; i < after.size(); ++i)
+            *place++ += after[i] - before[i];
         known.last = now;
         known.reading = reading_;
     }

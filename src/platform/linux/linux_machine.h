@@ -13,10 +13,7 @@ namespace vantor {
 class LinuxMachine : public Machine {
   public:
     explicit LinuxMachine(const LinuxRoots& roots = {})
-        : hostProcessors_(roots),
-          kernelValues_(roots),
-          loadAverages_(roots),
-          processInfo_(roots) {}
+        : hostProcessors_(roots), kernelValues_(roots), loadAverages_(roots), processInfo_(roots) {}
 
     HostProcessors& hostProcessors() override { return hostProcessors_; }
     KernelValues& kernelValues() override { return kernelValues_; }

@@ -14,8 +14,8 @@ namespace {
 // starves its own monitor.
 constexpr std::int32_t utilityNiceness = 5;
 
-// A probe needs the processor rarely and briefly, but soon: a run that starts late is a tick that is
-// refused. Since Linux 6.12 a thread may ask for short slices, which are scheduled earlier at no
+// A probe needs the processor rarely and briefly, but soon: a run that starts late is a tick that
+// is refused. Since Linux 6.12 a thread may ask for short slices, which are scheduled earlier at no
 // larger share; older kernels ignore it.
 constexpr std::uint64_t sliceNanoseconds = 100'000;
 

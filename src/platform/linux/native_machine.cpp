@@ -4,6 +4,8 @@
 
 namespace vantor {
 
-std::shared_ptr<Machine> makeNativeMachine() { return std::make_shared<LinuxMachine>(); }
+std::shared_ptr<Machine> makeNativeMachine() {
+    return std::make_shared<LinuxMachine>();
+}
 
 }  // namespace vantor

@@ -29,7 +29,8 @@ std::optional<ProcStat::Ticks> readTicks(const char* at, const char* end) {
     std::array<std::uint64_t, fieldCount> fields{};
     std::size_t count = 0;
     while (count < fieldCount) {
-        while (at != end && *at == ' ') ++at;
+        while (at != end && *at == ' ')
+            ++at;
         if (at == end) break;
         if (!readNumber(at, end, fields[count])) return std::nullopt;
         if (at != end && *at != ' ') return std::nullopt;
@@ -50,7 +51,8 @@ void ProcStat::parse(std::string_view text) {
     const char* const end = at + text.size();
     while (end - at >= 4 && at[0] == 'c' && at[1] == 'p' && at[2] == 'u') {
         const char* lineEnd = at;
-        while (lineEnd != end && *lineEnd != '\n') ++lineEnd;
+        while (lineEnd != end && *lineEnd != '\n')
+            ++lineEnd;
         // A line without its end was cut, and its last number may be the front of a longer one.
         const bool isWhole = lineEnd != end;
         const char* field = at + 3;

@@ -30,7 +30,8 @@ std::size_t ManualMainLoop::runPosted() {
         const std::lock_guard lock(mutex_);
         batch.swap(posted_);
     }
-    for (Task& task : batch) task();
+    for (Task& task : batch)
+        task();
     return batch.size();
 }
 

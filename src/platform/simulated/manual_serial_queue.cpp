@@ -28,7 +28,9 @@ std::unique_ptr<SerialQueue> ManualSerialQueueFactory::makeQueue(std::string_vie
     return std::make_unique<Queue>(shared_, std::string(label));
 }
 
-const std::vector<std::string>& ManualSerialQueueFactory::labels() const { return shared_->labels; }
+const std::vector<std::string>& ManualSerialQueueFactory::labels() const {
+    return shared_->labels;
+}
 
 std::size_t ManualSerialQueueFactory::waiting(std::string_view label) const {
     const auto found = shared_->waiting.find(label);

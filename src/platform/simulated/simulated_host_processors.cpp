@@ -26,7 +26,9 @@ HostProcessors::Port SimulatedHostProcessors::acquirePort() {
     return 7;
 }
 
-void SimulatedHostProcessors::releasePort(Port) { --portsOutstanding; }
+void SimulatedHostProcessors::releasePort(Port) {
+    --portsOutstanding;
+}
 
 std::optional<std::size_t> SimulatedHostProcessors::totalTicks(Port,
                                                                std::span<std::uint32_t> counters) {
@@ -36,7 +38,8 @@ std::optional<std::size_t> SimulatedHostProcessors::totalTicks(Port,
     const std::array values{total.user, total.system, total.idle, total.nice};
     std::copy_n(values.begin(), std::min(values.size(), counters.size()), counters.begin());
     add(total, growth);
-    for (Ticks& processor : processors) add(processor, growth);
+    for (Ticks& processor : processors)
+        add(processor, growth);
     return totalCounters;
 }
 

@@ -54,8 +54,7 @@ class SimulatedWallClock : public WallClock {
 /// A whole machine made of numbers and a clock wound by hand: deterministic and scriptable.
 class SimulatedMachine : public Machine {
   public:
-    explicit SimulatedMachine(
-        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+    explicit SimulatedMachine(std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
     /// A laptop with four processors and a name.
     static std::shared_ptr<SimulatedMachine> laptop(

@@ -16,7 +16,8 @@ class WoundClock {
 
   private:
     // Not zero: code that takes an uptime of 0 for "never" must not work by luck.
-    std::atomic<std::chrono::nanoseconds::rep> now_{std::chrono::nanoseconds{std::chrono::seconds{1}}.count()};
+    std::atomic<std::chrono::nanoseconds::rep> now_{
+        std::chrono::nanoseconds{std::chrono::seconds{1}}.count()};
 };
 
 }  // namespace vantor
