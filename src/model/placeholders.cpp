@@ -2,48 +2,57 @@
 #include "model/network_stats.h"
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
+#include "model/undying.h"
 
-// The placeholders are never destroyed: a reading may still be under way on a provider's thread
-// when the program ends, and nobody waits for it.
 namespace vantor {
 
+namespace {
+
+CPUStats emptyCPU() {
+    CPUStats stats;
+    stats.model = "Detecting processor…";
+    stats.idleUsage = 1.0;
+    return stats;
+}
+
+NetworkStats emptyNetwork() {
+    NetworkStats stats;
+    stats.hostname = "Detecting host…";
+    return stats;
+}
+
+SystemSnapshot emptySnapshot() {
+    SystemSnapshot snapshot;
+    snapshot.timestamp = Timestamp::min();
+    snapshot.cpu = emptyCPU();
+    snapshot.network = emptyNetwork();
+    snapshot.system.hostName = "Detecting host…";
+    snapshot.system.hardwareModel = "Detecting hardware…";
+    snapshot.system.operatingSystem = "Detecting macOS…";
+    snapshot.system.thermalState = "Unknown";
+    return snapshot;
+}
+
+}  // namespace
+
 const CPUStats& CPUStats::empty() {
-    static const auto* const placeholder = [] {
-        auto* const stats = new CPUStats;
-        stats->model = "Detecting processor…";
-        stats->idleUsage = 1.0;
-        return stats;
-    }();
-    return *placeholder;
+    static const Undying placeholder(emptyCPU());
+    return placeholder.get();
 }
 
 const NetworkStats& NetworkStats::empty() {
-    static const auto* const placeholder = [] {
-        auto* const stats = new NetworkStats;
-        stats->hostname = "Detecting host…";
-        return stats;
-    }();
-    return *placeholder;
+    static const Undying placeholder(emptyNetwork());
+    return placeholder.get();
 }
 
 const ProcessSample& ProcessSample::empty() {
-    static const auto* const placeholder = new ProcessSample;
-    return *placeholder;
+    static const Undying placeholder(ProcessSample{});
+    return placeholder.get();
 }
 
 const SystemSnapshot& SystemSnapshot::empty() {
-    static const auto* const placeholder = [] {
-        auto* const snapshot = new SystemSnapshot;
-        snapshot->timestamp = Timestamp::min();
-        snapshot->cpu = CPUStats::empty();
-        snapshot->network = NetworkStats::empty();
-        snapshot->system.hostName = "Detecting host…";
-        snapshot->system.hardwareModel = "Detecting hardware…";
-        snapshot->system.operatingSystem = "Detecting macOS…";
-        snapshot->system.thermalState = "Unknown";
-        return snapshot;
-    }();
-    return *placeholder;
+    static const Undying placeholder(emptySnapshot());
+    return placeholder.get();
 }
 
 }  // namespace vantor

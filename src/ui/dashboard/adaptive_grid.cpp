@@ -1,8 +1,5 @@
 #include "ui/dashboard/adaptive_grid.h"
 
-#include <QStyle>
-#include <QWidget>
-
 #include <algorithm>
 #include <cmath>
 
@@ -18,50 +15,11 @@ double AdaptiveColumns::width(double available) const {
 }
 
 AdaptiveGridLayout::AdaptiveGridLayout(AdaptiveColumns columns, QWidget* parent)
-    : QLayout(parent), columns_(columns) {
-    setContentsMargins(0, 0, 0, 0);
-}
-
-AdaptiveGridLayout::~AdaptiveGridLayout() = default;
-
-void AdaptiveGridLayout::addItem(QLayoutItem* item) {
-    items_.push_back(std::unique_ptr<QLayoutItem>(item));  // the toolkit hands over ownership
-    invalidate();
-}
-
-QLayoutItem* AdaptiveGridLayout::itemAt(int index) const {
-    if (index < 0 || index >= count()) return nullptr;
-    return items_[static_cast<std::size_t>(index)].get();
-}
-
-QLayoutItem* AdaptiveGridLayout::takeAt(int index) {
-    if (index < 0 || index >= count()) return nullptr;
-    const auto at = items_.begin() + index;
-    QLayoutItem* item = at->release();
-    items_.erase(at);
-    invalidate();
-    return item;
-}
-
-int AdaptiveGridLayout::heightForWidth(int width) const {
-    return layOut(QRect(0, 0, width, 0), false);
-}
+    : WrappingLayout(parent), columns_(columns) {}
 
 QSize AdaptiveGridLayout::sizeHint() const {
     const int width = static_cast<int>(columns_.maximum);
     return {width, heightForWidth(width)};
-}
-
-QSize AdaptiveGridLayout::minimumSize() const {
-    QSize size(0, 0);
-    for (const auto& item : items_)
-        size = size.expandedTo(item->minimumSize());
-    return size;
-}
-
-void AdaptiveGridLayout::setGeometry(const QRect& area) {
-    QLayout::setGeometry(area);
-    layOut(area, true);
 }
 
 int AdaptiveGridLayout::layOut(const QRect& area, bool place) const {
@@ -70,23 +28,21 @@ int AdaptiveGridLayout::layOut(const QRect& area, bool place) const {
     const int spacing = static_cast<int>(columns_.spacing);
     const int used = (width + spacing) * static_cast<int>(columns) - spacing;
     const int left = area.left() + std::max(0, (area.width() - used) / 2);
-    const auto* widget = parentWidget();
-    const Qt::LayoutDirection direction = widget ? widget->layoutDirection() : Qt::LeftToRight;
     int top = area.top();
-    for (std::size_t first = 0; first < items_.size(); first += columns) {
-        const std::size_t last = std::min(first + columns, items_.size());
+    for (std::size_t first = 0; first < items().size(); first += columns) {
+        const std::size_t last = std::min(first + columns, items().size());
         int height = 0;
         for (std::size_t i = first; i < last; ++i) {
-            const auto& item = items_[i];
+            const auto& item = items()[i];
             height = std::max(height, item->hasHeightForWidth() ? item->heightForWidth(width)
                                                                 : item->sizeHint().height());
         }
         for (std::size_t i = first; place && i < last; ++i) {
             const int column = static_cast<int>(i - first);
             const QRect cell(left + column * (width + spacing), top, width, height);
-            items_[i]->setGeometry(QStyle::visualRect(direction, area, cell));
+            placeItem(*items()[i], cell, area);
         }
-        top += height + (last < items_.size() ? spacing : 0);
+        top += height + (last < items().size() ? spacing : 0);
     }
     return top - area.top();
 }

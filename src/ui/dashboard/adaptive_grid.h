@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QLayout>
-#include <QLayoutItem>
-
-#include <memory>
-#include <vector>
+#include "ui/dashboard/wrapping_layout.h"
 
 namespace vantor {
 
@@ -23,27 +19,17 @@ struct AdaptiveColumns {
 
 /// Lays widgets out row by row in such columns; the cells of a row are as high as its highest, and
 /// the columns together stand in the middle of the space.
-class AdaptiveGridLayout : public QLayout {
+class AdaptiveGridLayout : public WrappingLayout {
   public:
     explicit AdaptiveGridLayout(AdaptiveColumns columns, QWidget* parent = nullptr);
-    ~AdaptiveGridLayout() override;
 
-    void addItem(QLayoutItem* item) override;
-    int count() const override { return static_cast<int>(items_.size()); }
-    QLayoutItem* itemAt(int index) const override;
-    QLayoutItem* takeAt(int index) override;
-    Qt::Orientations expandingDirections() const override { return {}; }
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int width) const override;
     QSize sizeHint() const override;
-    QSize minimumSize() const override;
-    void setGeometry(const QRect& area) override;
+
+  protected:
+    int layOut(const QRect& area, bool place) const override;
 
   private:
-    int layOut(const QRect& area, bool place) const;
-
     AdaptiveColumns columns_;
-    std::vector<std::unique_ptr<QLayoutItem>> items_;
 };
 
 }  // namespace vantor

@@ -1,34 +1,18 @@
 #pragma once
 
-#include <QLayout>
-#include <QLayoutItem>
-
-#include <memory>
-#include <vector>
+#include "ui/dashboard/wrapping_layout.h"
 
 namespace vantor {
 
 /// Lays widgets out in a row that breaks where it must, each line centred vertically.
-class FlowLayout : public QLayout {
+class FlowLayout : public WrappingLayout {
   public:
     explicit FlowLayout(int spacing, QWidget* parent = nullptr);
-    ~FlowLayout() override;
 
-    void addItem(QLayoutItem* item) override;
-    int count() const override { return static_cast<int>(items_.size()); }
-    QLayoutItem* itemAt(int index) const override;
-    QLayoutItem* takeAt(int index) override;
-    Qt::Orientations expandingDirections() const override { return {}; }
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int width) const override;
-    QSize sizeHint() const override;     ///< of everything in one line
-    QSize minimumSize() const override;  ///< of the largest item alone
-    void setGeometry(const QRect& area) override;
+    QSize sizeHint() const override;  ///< of everything in one line
 
-  private:
-    int layOut(const QRect& area, bool place) const;
-
-    std::vector<std::unique_ptr<QLayoutItem>> items_;
+  protected:
+    int layOut(const QRect& area, bool place) const override;
 };
 
 }  // namespace vantor
