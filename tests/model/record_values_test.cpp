@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <limits>
+#include <ostream>
+
+#include "model/filled_records.h"
+#include "model/record_coding.h"
+
+namespace vantor {
+namespace {
+
+using nlohmann::json;
+
+TEST(SnapshotCoding, WritesNoPowerKeyForAMachineWithoutBattery) {
+    SystemSnapshot snapshot = filled::snapshot();
+    snapshot.power.reset();
+    const auto written = encode(snapshot);
+    ASSERT_TRUE(written);
+    EXPECT_FALSE(written->contains("power"));
+    EXPECT_EQ(decode<SystemSnapshot>(*written), snapshot);
+}
+
+TEST(SnapshotCoding, KeepsThePlaceholder) {
+    const auto written = encode(SystemSnapshot::empty());
+    ASSERT_TRUE(written);
+    EXPECT_EQ(decode<SystemSnapshot>(*written), SystemSnapshot::empty());
+}
+
+TEST(CPUCoding, KeepsAnEmptyListOfProcessors) {
+    CPUStats cpu = filled::cpu();
+    cpu.perCoreUsage.clear();
+    const auto written = encode(cpu);
+    ASSERT_TRUE(written);
+    EXPECT_EQ(written->at("perCoreUsage"), json::array());
+    EXPECT_EQ(decode<CPUStats>(*written), cpu);
+}
+
+TEST(CPUCoding, KeepsFewerThanThreeLoadAverages) {
+    for (const std::vector<double>& averages : {std::vector<double>{}, {1.5}, {1.5, 2.5}}) {
+        CPUStats cpu = filled::cpu();
+        cpu.loadAverage = averages;
+        const auto written = encode(cpu);
+        ASSERT_TRUE(written);
+        EXPECT_EQ(decode<CPUStats>(*written), cpu);
+    }
+}
+
+TEST(CPUCoding, ReadsAWholeNumberAsAFraction) {
+    json written = *encode(filled::cpu());
+    written["idleUsage"] = 1;
+    const auto cpu = decode<CPUStats>(written);
+    ASSERT_TRUE(cpu);
+    EXPECT_EQ(cpu->idleUsage, 1.0);
+}
+
+TEST(CPUCoding, KeepsTheLastBitOfAFraction) {
+    CPUStats cpu = filled::cpu();
+    cpu.totalUsage = 1.0 / 3.0;
+    cpu.perCoreUsage = {std::numeric_limits<double>::denorm_min(), 1 - 1e-16};
+    const std::string text = encode(cpu)->dump();
+    EXPECT_EQ(decode<CPUStats>(json::parse(text)), cpu);
+}
+
+struct IntegerRow {
+    const char* name;
+    const char* key;
+    json value;
+    bool fits;
+
+    friend void PrintTo(const IntegerRow& row, std::ostream* out) { *out << row.name; }
+};
+
+class ProcessIntegers : public testing::TestWithParam<IntegerRow> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ProcessIntegers,
+    testing::Values(IntegerRow{"LargestPid", "pid", 2147483647, true},
+                    IntegerRow{"SmallestPid", "pid", -2147483648LL, true},
+                    IntegerRow{"PidPast31Bits", "pid", 2147483648LL, false},
+                    IntegerRow{"PidBelow31Bits", "pid", -2147483649LL, false},
+                    IntegerRow{"PidPast63Bits", "pid", std::uint64_t{1} << 63, false},
+                    IntegerRow{"LargestByteCount", "residentMemoryBytes", UINT64_MAX, true},
+                    IntegerRow{"NegativeByteCount", "residentMemoryBytes", -1, false},
+                    IntegerRow{"ByteCountPast64Bits", "residentMemoryBytes", 18446744073709551616.0,
+                               false}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_P(ProcessIntegers, AreReadOnlyWhenTheyFit) {
+    json written = *encode(filled::process());
+    written[GetParam().key] = GetParam().value;
+    const auto process = decode<ProcessStats>(written);
+    ASSERT_EQ(process.has_value(), GetParam().fits);
+    if (!process) return;
+    EXPECT_EQ(encode(*process), written);
+}
+
+TEST(CPUCoding, ReadsSignedCountsUpTo63Bits) {
+    json written = *encode(filled::cpu());
+    written["logicalCoreCount"] = INT64_MIN;
+    ASSERT_TRUE(decode<CPUStats>(written));
+    EXPECT_EQ(decode<CPUStats>(written)->logicalCoreCount, INT64_MIN);
+    written["logicalCoreCount"] = std::uint64_t{1} << 63;
+    EXPECT_FALSE(decode<CPUStats>(written));
+}
+
+struct FloatingField {
+    const char* name;
+    void (*set)(SystemSnapshot&, double);
+
+    friend void PrintTo(const FloatingField& row, std::ostream* out) { *out << row.name; }
+};
+
+class NonFinite : public testing::TestWithParam<FloatingField> {};
+
+using S = SystemSnapshot;
+INSTANTIATE_TEST_SUITE_P(
+    Fields, NonFinite,
+    testing::Values(
+        FloatingField{"TotalUsage", [](S& s, double v) { s.cpu.totalUsage = v; }},
+        FloatingField{"UserUsage", [](S& s, double v) { s.cpu.userUsage = v; }},
+        FloatingField{"SystemUsage", [](S& s, double v) { s.cpu.systemUsage = v; }},
+        FloatingField{"IdleUsage", [](S& s, double v) { s.cpu.idleUsage = v; }},
+        FloatingField{"CoreUsage", [](S& s, double v) { s.cpu.perCoreUsage.back() = v; }},
+        FloatingField{"LoadAverage", [](S& s, double v) { s.cpu.loadAverage.front() = v; }},
+        FloatingField{"CPUTemperature", [](S& s, double v) { s.cpu.temperatureCelsius = v; }},
+        FloatingField{"Download", [](S& s, double v) { s.network.downloadBytesPerSecond = v; }},
+        FloatingField{"Upload", [](S& s, double v) { s.network.uploadBytesPerSecond = v; }},
+        FloatingField{"InterfaceDownload",
+                      [](S& s, double v) { s.network.interfaces[0].downloadBytesPerSecond = v; }},
+        FloatingField{"InterfaceUpload",
+                      [](S& s, double v) { s.network.interfaces[0].uploadBytesPerSecond = v; }},
+        FloatingField{"Utilization", [](S& s, double v) { s.gpus[0].utilization = v; }},
+        FloatingField{"GPUTemperature", [](S& s, double v) { s.gpus[0].temperatureCelsius = v; }},
+        FloatingField{"ProcessUsage", [](S& s, double v) { s.processes[0].cpuPercent = v; }},
+        FloatingField{"Uptime", [](S& s, double v) { s.system.uptimeSeconds = v; }},
+        FloatingField{"Charge", [](S& s, double v) { s.power->chargeFraction = v; }}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_P(NonFinite, ValueKeepsTheWholeSnapshotFromBeingWritten) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const double value : {std::numeric_limits<double>::quiet_NaN(), infinity, -infinity}) {
+        SystemSnapshot snapshot = filled::snapshot();
+        GetParam().set(snapshot, value);
+        EXPECT_EQ(encode(snapshot), std::nullopt) << value;
+    }
+}
+
+TEST(ProcessSampleCoding, RefusesAValueThatIsNotANumberInAnyList) {
+    for (auto list :
+         {&ProcessSample::all, &ProcessSample::sortedByCPU, &ProcessSample::sortedByMemory}) {
+        ProcessSample sample = filled::processSample();
+        (sample.*list).back().cpuPercent = std::numeric_limits<double>::quiet_NaN();
+        EXPECT_EQ(encode(sample), std::nullopt);
+    }
+}
+
+}  // namespace
+}  // namespace vantor

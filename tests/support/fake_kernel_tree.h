@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "platform/linux/linux_roots.h"
+
+namespace vantor {
+
+/// A folder with a made-up /proc and /sys, gone with this object.
+class FakeKernelTree {
+  public:
+    FakeKernelTree();
+    FakeKernelTree(const FakeKernelTree&) = delete;
+    FakeKernelTree& operator=(const FakeKernelTree&) = delete;
+    ~FakeKernelTree();
+
+    LinuxRoots roots() const { return {root_ / "proc", root_ / "sys"}; }
+
+    /// Writes a file in place, as a kernel file changes: whoever has it open sees the new content.
+    void proc(std::string_view path, std::string_view content) const;
+    void sys(std::string_view path, std::string_view content) const;
+
+    /// The folder of one processor of /sys with its place in the machine.
+    void core(unsigned processor, std::string_view package, std::string_view die,
+              std::string_view core) const;
+
+    void removeProc(std::string_view path) const;
+    void removeSys(std::string_view path) const;
+
+  private:
+    std::filesystem::path root_;
+};
+
+}  // namespace vantor
