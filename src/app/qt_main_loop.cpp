@@ -55,13 +55,17 @@ class QtMainLoop::Receiver : public QObject {
   protected:
     bool event(QEvent* event) override {
         if (event->type() != wakeUp) return QObject::event(event);
+        // Held here and not in a member: a task may open a dialog, whose own loop gets here again.
+        std::vector<Task> running;
+        running.swap(spare_);
         {
             const std::lock_guard lock(inbox_->mutex);
-            running_.swap(inbox_->tasks);
+            running.swap(inbox_->tasks);
         }
-        for (Task& task : running_)
+        for (Task& task : running)
             task();
-        running_.clear();
+        running.clear();
+        spare_.swap(running);
         return true;
     }
 
@@ -76,7 +80,7 @@ class QtMainLoop::Receiver : public QObject {
 
   private:
     std::shared_ptr<Inbox> inbox_;
-    std::vector<Task> running_;
+    std::vector<Task> spare_;  // empty: its storage takes the next tasks
     std::map<TimerID, Task> timers_;
 };
 

@@ -72,7 +72,7 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     void receiveProcesses(ProcessSample result, std::uint64_t generation);
     void receiveGPUs(std::optional<std::vector<GPUStats>> result, std::uint64_t generation);
     void receiveVolumes(std::optional<std::vector<VolumeStats>> result, std::uint64_t generation);
-    void receivePower(PowerReadResult result, std::uint64_t generation);
+    void receivePower(const PowerReadResult& result, std::uint64_t generation);
 
   private:
     SystemMonitor(std::shared_ptr<AppSettings> settings, std::shared_ptr<Machine> machine,
@@ -100,8 +100,8 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     void requestGPUs(bool force, std::uint64_t generation);
     void requestVolumes(bool force, std::uint64_t generation);
     void requestPower(bool force, std::uint64_t generation);
-    template <class Result>
-    auto deliverTo(void (SystemMonitor::*receive)(Result, std::uint64_t), std::uint64_t generation);
+    template <class Result, class Receive>
+    auto deliverTo(Receive receive, std::uint64_t generation);
 
     template <class Section, class Result>
     void accept(Section& section, Result&& result);

@@ -53,7 +53,7 @@ void SystemMonitor::receiveVolumes(std::optional<std::vector<VolumeStats>> resul
     if (generation == generation_ && result) accept(pendingUpdate_.volumes, std::move(result));
 }
 
-void SystemMonitor::receivePower(PowerReadResult result, std::uint64_t generation) {
+void SystemMonitor::receivePower(const PowerReadResult& result, std::uint64_t generation) {
     if (generation != generation_ || !result.isUpdate()) return;
     pendingUpdate_.hasPowerUpdate = true;
     accept(pendingUpdate_.power, result.stats());

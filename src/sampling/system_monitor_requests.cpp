@@ -14,9 +14,8 @@ constexpr double powerInterval = 10.0;
 }  // namespace
 
 /// A completion that takes a result from the provider's queue to `receive` on the main thread.
-template <class Result>
-auto SystemMonitor::deliverTo(void (SystemMonitor::*receive)(Result, std::uint64_t),
-                              std::uint64_t generation) {
+template <class Result, class Receive>
+auto SystemMonitor::deliverTo(Receive receive, std::uint64_t generation) {
     return [weak = weak_from_this(), loop = mainLoop_, receive, generation](Result result) {
         loop->post([weak, receive, generation, result = std::move(result)]() mutable {
             if (const auto self = weak.lock()) {
@@ -29,16 +28,20 @@ auto SystemMonitor::deliverTo(void (SystemMonitor::*receive)(Result, std::uint64
 void SystemMonitor::requestFastProviders(bool force, std::uint64_t generation) {
     const double interval = fastInterval(settings_->refreshInterval());
     // The cpu record is the reader's own: it is copied before it leaves the provider's queue.
-    sampler().requestCPU(
+    sampler().requestCPU(interval, force,
+                         [deliver = deliverTo<std::optional<CPUStats>>(
+                              &SystemMonitor::receiveCPU, generation)](const CPUStats* stats) {
+                             deliver(stats ? std::optional<CPUStats>(*stats) : std::nullopt);
+                         });
+    sampler().requestMemory(
         interval, force,
-        [deliver = deliverTo(&SystemMonitor::receiveCPU, generation)](const CPUStats* stats) {
-            deliver(stats ? std::optional<CPUStats>(*stats) : std::nullopt);
-        });
-    sampler().requestMemory(interval, force, deliverTo(&SystemMonitor::receiveMemory, generation));
-    sampler().requestNetwork(settings_->includePointToPointInterfaces(), interval, force,
-                             deliverTo(&SystemMonitor::receiveNetwork, generation));
-    sampler().requestSystemInfo(systemInfoInterval(settings_->refreshInterval()), force,
-                                deliverTo(&SystemMonitor::receiveSystemInfo, generation));
+        deliverTo<std::optional<MemoryStats>>(&SystemMonitor::receiveMemory, generation));
+    sampler().requestNetwork(
+        settings_->includePointToPointInterfaces(), interval, force,
+        deliverTo<std::optional<NetworkStats>>(&SystemMonitor::receiveNetwork, generation));
+    sampler().requestSystemInfo(
+        systemInfoInterval(settings_->refreshInterval()), force,
+        deliverTo<SystemInfoStats>(&SystemMonitor::receiveSystemInfo, generation));
 }
 
 void SystemMonitor::requestSlowProviders(bool force, std::uint64_t generation) {
@@ -49,23 +52,26 @@ void SystemMonitor::requestSlowProviders(bool force, std::uint64_t generation) {
 }
 
 void SystemMonitor::requestProcesses(bool force, std::uint64_t generation) {
-    sampler().requestProcesses(fastInterval(settings_->refreshInterval()), force,
-                               deliverTo(&SystemMonitor::receiveProcesses, generation));
+    sampler().requestProcesses(
+        fastInterval(settings_->refreshInterval()), force,
+        deliverTo<ProcessSample>(&SystemMonitor::receiveProcesses, generation));
 }
 
 void SystemMonitor::requestGPUs(bool force, std::uint64_t generation) {
-    sampler().requestGPUs(fastInterval(settings_->refreshInterval()), force,
-                          deliverTo(&SystemMonitor::receiveGPUs, generation));
+    sampler().requestGPUs(
+        fastInterval(settings_->refreshInterval()), force,
+        deliverTo<std::optional<std::vector<GPUStats>>>(&SystemMonitor::receiveGPUs, generation));
 }
 
 void SystemMonitor::requestVolumes(bool force, std::uint64_t generation) {
     sampler().requestVolumes(volumesInterval, force,
-                             deliverTo(&SystemMonitor::receiveVolumes, generation));
+                             deliverTo<std::optional<std::vector<VolumeStats>>>(
+                                 &SystemMonitor::receiveVolumes, generation));
 }
 
 void SystemMonitor::requestPower(bool force, std::uint64_t generation) {
     sampler().requestPower(powerInterval, force,
-                           deliverTo(&SystemMonitor::receivePower, generation));
+                           deliverTo<PowerReadResult>(&SystemMonitor::receivePower, generation));
 }
 
 }  // namespace vantor

@@ -45,7 +45,7 @@ QString uptime(double seconds) {
     const auto minutes = static_cast<std::int64_t>(wholeMinutes);
     const auto days = minutes / 1440;
     const auto hours = minutes % 1440 / 60;
-    const QString tail = QString::number(minutes % 60) + u'm';
+    QString tail = QString::number(minutes % 60) + u'm';
     if (days > 0) return QStringLiteral("%1d %2h ").arg(days).arg(hours) + tail;
     if (hours > 0) return QStringLiteral("%1h ").arg(hours) + tail;
     return tail;

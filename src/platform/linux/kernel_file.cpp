@@ -9,8 +9,8 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t firstBufferSize = 16 * 1024;
-constexpr std::size_t largestBufferSize = 16 * 1024 * 1024;
+constexpr std::size_t firstBufferSize = std::size_t{16} * 1024;
+constexpr std::size_t largestBufferSize = std::size_t{16} * 1024 * 1024;
 
 ssize_t readFromStart(int fd, std::vector<char>& buffer) {
     ssize_t count = 0;

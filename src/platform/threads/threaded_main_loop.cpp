@@ -41,25 +41,26 @@ void ThreadedMainLoop::run() {
     std::vector<Task> batch;
     std::unique_lock lock(mutex_);
     while (!stopped_) {
-        if (Task task; takeDue(task)) {
+        // In turn, so that neither timers nor posted tasks that make more of their kind can keep
+        // the others waiting for ever.
+        batch.swap(posted_);
+        Task due;
+        const bool isDue = takeDue(due);
+        if (isDue || !batch.empty()) {
             lock.unlock();
-            task();
-            task = Task{};
-            lock.lock();
-        } else if (!posted_.empty()) {
-            batch.swap(posted_);
-            lock.unlock();
-            for (Task& posted : batch) {
+            for (Task& task : batch) {
                 if (stopped_) break;
-                posted();
+                task();
             }
             batch.clear();
+            if (isDue && !stopped_) due();
+            due = Task{};
             lock.lock();
         } else if (timers_.empty()) {
             changed_.wait(lock);
         } else {
-            const auto due = timers_.begin()->first.first;  // a copy: the entry may go meanwhile
-            changed_.wait_until(lock, due);
+            const auto next = timers_.begin()->first.first;  // a copy: the entry may go meanwhile
+            changed_.wait_until(lock, next);
         }
     }
 }

@@ -24,8 +24,8 @@ class ThreadedSerialQueueFactory : public SerialQueueFactory {
 
     std::unique_ptr<SerialQueue> makeQueue(std::string_view label) override;
 
-    /// Waits until every thread of every destroyed queue has ended; false when that took longer.
-    /// For orderly ends; nothing depends on it.
+    /// Waits until no queue has a thread any more, for which all must have been destroyed; false
+    /// when that takes longer. For orderly ends; nothing depends on it.
     bool waitForThreads(std::chrono::milliseconds limit);
 
   private:

@@ -66,8 +66,9 @@ double CoreGridGeometry::height() const {
 
 QRectF CoreGridGeometry::cell(std::size_t index) const {
     if (columns == 0) return {};
-    const auto column = static_cast<double>(index % static_cast<std::size_t>(columns));
-    const auto row = static_cast<double>(index / static_cast<std::size_t>(columns));
+    const int place = static_cast<int>(index);
+    const int row = place / columns;
+    const int column = place % columns;
     return {column * (cellWidth + cellSpacing), row * (cellHeight + cellSpacing), cellWidth,
             cellHeight};
 }

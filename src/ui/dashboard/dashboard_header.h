@@ -78,7 +78,8 @@ class IdentityView : public PaintedView {
 /// Offers the refresh intervals in a menu; its label is the current one.
 class IntervalMenuView : public CapsuleButtonView {
   public:
-    explicit IntervalMenuView(std::function<void(double)> onChange, QWidget* parent = nullptr);
+    explicit IntervalMenuView(const std::function<void(double)>& onChange,
+                              QWidget* parent = nullptr);
     void show(double interval);
     QMenu& menu() { return *menu_; }
 

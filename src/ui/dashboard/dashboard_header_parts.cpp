@@ -144,7 +144,7 @@ void IdentityView::paintEvent(QPaintEvent*) {
                          Qt::AlignLeft, subtitle_);
 }
 
-IntervalMenuView::IntervalMenuView(std::function<void(double)> onChange, QWidget* parent)
+IntervalMenuView::IntervalMenuView(const std::function<void(double)>& onChange, QWidget* parent)
     : CapsuleButtonView({QString(), QStringLiteral("chevron.up.chevron.down"), [this] { open(); }},
                         parent),
       menu_(makeChild<QMenu>(this)) {

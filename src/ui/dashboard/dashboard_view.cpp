@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -31,9 +32,13 @@ QString lastUpdateText(Timestamp timestamp, const QLocale& locale) {
     if (timestamp == SystemSnapshot::empty().timestamp) {
         return QStringLiteral("Collecting live data…");
     }
-    // The locale's long form is the one with seconds; its time zone is of no interest here.
+    // The locale's long form is the one with seconds. Its time zone is of no interest here, nor
+    // what sets it apart ("HH:mm:ss (t)", "HH:mm:ss, t"); quoted words stay.
+    static const QRegularExpression zone(QStringLiteral("('[^']*')|,?\\s*[(\\[]?t[)\\]]?"));
     QString format = locale.timeFormat(QLocale::LongFormat);
-    format.remove(u't');
+    format.replace(zone, QStringLiteral("\\1"));
+    // The part of the day in words, which some locales ask for and the toolkit would spell "B".
+    format.replace(u'B', QStringLiteral("AP"));
     const auto milliseconds =
         std::chrono::duration_cast<std::chrono::milliseconds>(timestamp.time_since_epoch());
     const QTime time = QDateTime::fromMSecsSinceEpoch(milliseconds.count()).time();
