@@ -9,6 +9,7 @@ target_compile_definitions(vantor_widget_testing PRIVATE
 target_link_libraries(vantor_widget_testing PUBLIC vantor_ui GTest::gmock PRIVATE vantor_warnings)
 
 vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
+    ui/accessibility_test.cpp
     ui/app_metadata_test.cpp
     ui/byte_count_formatter_test.cpp
     ui/capsule_button_test.cpp
@@ -17,12 +18,14 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/cpu_card_view_test.cpp
     ui/dashboard_card_test.cpp
     ui/dashboard_header_test.cpp
+    ui/dashboard_header_texts_test.cpp
     ui/dashboard_view_test.cpp
     ui/footer_test.cpp
     ui/formatters_test.cpp
     ui/horizontal_fit_test.cpp
     ui/layouts_test.cpp
     ui/metric_row_test.cpp
+    ui/picture_test.cpp
     ui/pixels_test.cpp
     ui/process_mini_list_test.cpp
     ui/ring_gauge_test.cpp
@@ -30,3 +33,24 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/symbols_test.cpp
     ui/theme_test.cpp
     ui/typography_test.cpp)
+
+add_executable(quitting_program app/quitting_program.cpp)
+target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)
+
+vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app SOURCES
+    app/appearance_test.cpp
+    app/damaged_store_test.cpp
+    app/qt_defaults_store_test.cpp
+    app/qt_main_loop_test.cpp
+    app/stored_settings_test.cpp
+    app/vantor_app_test.cpp)
+target_compile_definitions(app_tests PRIVATE
+    VANTOR_QUITTING_PROGRAM="$<TARGET_FILE:quitting_program>")
+add_dependencies(app_tests quitting_program)
+
+# Takes what the components look like now for what they are meant to look like. To be reviewed
+# picture by picture before it is committed.
+add_custom_target(update_pictures
+    COMMAND ui_tests --gtest_filter=*Picture* --update-pictures
+    COMMENT "Drawing the pictures in tests/ui/pictures anew"
+    USES_TERMINAL VERBATIM)

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include <memory>
+
+#include "app/qt_application_appearance.h"
+#include "ui/cards/cpu_card.h"
+#include "ui/dashboard/dashboard_header.h"
+#include "ui/dashboard_world.h"
+
+namespace vantor {
+namespace {
+
+class AppearanceTest : public testing::Test {
+  protected:
+    QtApplicationAppearance appearance;
+    QWidget window;
+
+    void TearDown() override { QApplication::setPalette(paletteOf(ColorScheme::dark)); }
+    static void expectReadable() {
+        const QPalette palette = QApplication::palette();
+        for (const auto& [text, ground] :
+             {std::pair{QPalette::WindowText, QPalette::Window},
+              std::pair{QPalette::Text, QPalette::Base},
+              std::pair{QPalette::ButtonText, QPalette::Button},
+              std::pair{QPalette::ToolTipText, QPalette::ToolTipBase},
+              std::pair{QPalette::HighlightedText, QPalette::Highlight}}) {
+            const double difference =
+                std::abs(palette.color(text).lightnessF() - palette.color(ground).lightnessF());
+            EXPECT_GT(difference, 0.35) << text;
+        }
+    }
+};
+
+TEST_F(AppearanceTest, DarkDressesEveryWidgetDark) {
+    appearance.forceLight();
+    appearance.forceDark();
+    settleEvents();
+    EXPECT_EQ(colorScheme(window), ColorScheme::dark);
+    expectReadable();
+}
+
+TEST_F(AppearanceTest, LightDressesEveryWidgetLight) {
+    appearance.forceLight();
+    settleEvents();
+    EXPECT_EQ(colorScheme(window), ColorScheme::light);
+    expectReadable();
+}
+
+TEST_F(AppearanceTest, BothMarkWhatIsSelectedInOurBlue) {
+    appearance.forceDark();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), VantorTheme::blue());
+    appearance.forceLight();
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), VantorTheme::blue());
+}
+
+TEST_F(AppearanceTest, FollowingTheSystemBringsItsOwnPaletteBack) {
+    const QPalette before = QApplication::palette();
+    appearance.forceLight();
+    ASSERT_NE(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));
+    appearance.followSystem();
+    for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text,
+                            QPalette::Highlight}) {
+        EXPECT_EQ(QApplication::palette().color(role), before.color(role)) << role;
+    }
+}
+
+TEST_F(AppearanceTest, TheSettingChangesTheDashboardWhileItIsOpen) {
+    DashboardWorld world;
+    AppSettings settings(world.defaults, std::make_shared<QtApplicationAppearance>());
+    world.open();
+    EXPECT_EQ(colorScheme(world.view->cpuCard()), ColorScheme::dark);
+    settings.setAppearance(Appearance::light);
+    settleEvents();
+    EXPECT_EQ(colorScheme(world.view->cpuCard()), ColorScheme::light);
+    EXPECT_EQ(colorScheme(world.view->header().interval()), ColorScheme::light);
+    settings.setAppearance(Appearance::dark);
+    settleEvents();
+    EXPECT_EQ(colorScheme(world.view->cpuCard()), ColorScheme::dark);
+}
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,156 @@
+#include "app/vantor_app.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <future>
+#include <memory>
+
+#include "app/build_info.h"
+#include "platform/simulated/simulated_machine.h"
+#include "ui/cards/cpu_card.h"
+#include "ui/dashboard/dashboard_header.h"
+#include "ui/rendering.h"
+
+namespace vantor {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(BuildInfo, HasTheVersionAndTheBuildOfThisProgram) {
+    EXPECT_EQ(BuildInfo().text("CFBundleShortVersionString"), VANTOR_VERSION);
+    EXPECT_EQ(BuildInfo().text("CFBundleVersion"), VANTOR_BUILD_NUMBER);
+    EXPECT_EQ(BuildInfo().text("CFBundleName"), std::nullopt);
+    EXPECT_EQ(BuildInfo().text(""), std::nullopt);
+}
+
+class VantorAppTest : public testing::Test {
+  protected:
+    QTemporaryDir folder;
+    QString file = folder.filePath(QStringLiteral("settings.ini"));
+    std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
+
+    void TearDown() override { QApplication::setPalette(paletteOf(ColorScheme::dark)); }
+
+    template <class Condition>
+    static bool runUntil(Condition&& condition) {
+        QElapsedTimer patience;
+        patience.start();
+        while (!condition()) {
+            if (patience.hasExpired(10'000)) return false;
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        }
+        return true;
+    }
+};
+
+TEST_F(VantorAppTest, MakesTheWindowWhenItIsOpenedAndKeepsIt) {
+    VantorApp app(machine, file);
+    EXPECT_EQ(app.dashboardWindow(), nullptr);
+    app.openDashboard();
+    DashboardWindow* const window = app.dashboardWindow();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(utf8(window->windowTitle()), "Vantor");
+    EXPECT_EQ(DashboardWindow::defaultSize, QSize(1280, 820));
+    EXPECT_EQ(window->minimumSize(), QSize(720, 560));
+    EXPECT_FALSE(window->windowIcon().isNull());
+    app.openDashboard();
+    EXPECT_EQ(app.dashboardWindow(), window);
+}
+
+TEST_F(VantorAppTest, ShowsLiveFiguresAndSaysSoByTheNameOfItsIcon) {
+    machine->hostProcessors().growth = {30, 10, 60, 0};
+    VantorApp app(machine, file);
+    app.settings().setRefreshInterval(0.5);
+    app.openDashboard();
+    DashboardWindow& window = *app.dashboardWindow();
+    EXPECT_EQ(utf8(window.windowIconText()), "Vantor (collecting live data)");
+    ASSERT_TRUE(runUntil([&] {
+        machine->clock()->wind(20ms);
+        return window.windowIconText() == QStringLiteral("Vantor");
+    }));
+    EXPECT_EQ(utf8(window.dashboard().cpuCard().gauge().gauge().title), "40%");
+    EXPECT_TRUE(app.shutDown(5s));
+}
+
+TEST_F(VantorAppTest, KeepsPreferencesInTheFileItIsGiven) {
+    { VantorApp(machine, file).settings().setRefreshInterval(10); }
+    EXPECT_DOUBLE_EQ(VantorApp(machine, file).settings().refreshInterval(), 10);
+}
+
+TEST_F(VantorAppTest, EndsBeforeItsWindowWasOpened) {
+    VantorApp app(machine, file);
+    EXPECT_TRUE(app.shutDown(1s));
+}
+
+TEST_F(VantorAppTest, AProbeThatHangsDelaysTheEndByNoMoreThanThePatience) {
+    std::promise<void> hung;
+    std::promise<void> release;
+    machine->hostProcessors().onTotalTicks = [&, waiting = release.get_future().share(),
+                                              once = std::make_shared<bool>(true)] {
+        if (std::exchange(*once, false)) hung.set_value();
+        waiting.wait();
+    };
+    VantorApp app(machine, file);
+    app.openDashboard();
+    auto isHung = hung.get_future();
+    ASSERT_TRUE(runUntil([&] { return isHung.wait_for(0s) == std::future_status::ready; }));
+    QElapsedTimer watch;
+    watch.start();
+    EXPECT_FALSE(app.shutDown(30ms));
+    EXPECT_LT(watch.elapsed(), 500);
+    EXPECT_EQ(app.dashboardWindow(), nullptr);
+    release.set_value();
+    EXPECT_TRUE(app.shutDown(5s)) << "once the probe answers, nothing is left running";
+}
+
+/// Runs the whole program in a process of its own.
+struct Outcome {
+    bool ended = false;
+    int status = -1;
+    qint64 millisecondsToEnd = 0;  ///< after the program was asked to quit
+    QByteArray errors;
+};
+
+Outcome runProgram(const QString& probe, const QString& home) {
+    QProcess program;
+    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+    surroundings.insert(QStringLiteral("XDG_CONFIG_HOME"), home);
+    surroundings.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    program.setProcessEnvironment(surroundings);
+    program.start(QStringLiteral(VANTOR_QUITTING_PROGRAM), {probe});
+    Outcome run;
+    while (!program.canReadLine()) {
+        if (!program.waitForReadyRead(20'000)) break;
+    }
+    QElapsedTimer watch;
+    watch.start();
+    run.ended = program.waitForFinished(20'000) && program.exitStatus() == QProcess::NormalExit;
+    run.millisecondsToEnd = watch.elapsed();
+    run.status = program.exitCode();
+    run.errors = program.readAllStandardError();
+    if (!run.ended) program.kill();
+    return run;
+}
+
+TEST_F(VantorAppTest, TheProgramQuitsAtOnceWhileAProbeHangsForEver) {
+    const Outcome run = runProgram(QStringLiteral("hanging"), folder.path());
+    ASSERT_TRUE(run.ended) << run.errors.toStdString();
+    EXPECT_EQ(run.status, 7) << run.errors.toStdString();
+    EXPECT_LT(run.millisecondsToEnd, 1000);
+}
+
+TEST_F(VantorAppTest, TheProgramQuitsOrderlyWhenAllProbesAnswer) {
+    const Outcome run = runProgram(QStringLiteral("answering"), folder.path());
+    ASSERT_TRUE(run.ended) << run.errors.toStdString();
+    EXPECT_EQ(run.status, 7) << run.errors.toStdString();
+    EXPECT_LT(run.millisecondsToEnd, 1000);
+}
+
+}  // namespace
+}  // namespace vantor

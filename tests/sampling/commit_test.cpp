@@ -1,0 +1,276 @@
+#include "sampling/commit.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdint>
+#include <limits>
+
+#include "sampling/named_row.h"
+#include "sampling/sample_records.h"
+
+namespace vantor {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::size_t limit = 30;
+constexpr Timestamp noon{std::chrono::hours{12}};
+
+bool apply(PendingUpdate update, DashboardState& state) {
+    return applyUpdate(std::move(update), state, limit, noon);
+}
+
+struct LimitRow : NamedRow {
+    std::int64_t historyLength;
+    std::size_t expected;
+};
+
+class HistoryLimit : public testing::TestWithParam<LimitRow> {};
+
+TEST_P(HistoryLimit, IsTheLengthWithinTheBounds) {
+    EXPECT_EQ(historyLimit(GetParam().historyLength), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commit, HistoryLimit,
+    testing::Values(LimitRow{{"TooShort"}, 10, 30}, LimitRow{{"Negative"}, -1, 30},
+                    LimitRow{{"Smallest"}, std::numeric_limits<std::int64_t>::min(), 30},
+                    LimitRow{{"LowerBound"}, 30, 30}, LimitRow{{"Within"}, 90, 90},
+                    LimitRow{{"UpperBound"}, 300, 300}, LimitRow{{"TooLong"}, 1000, 300},
+                    LimitRow{{"Largest"}, std::numeric_limits<std::int64_t>::max(), 300}),
+    rowName<LimitRow>);
+
+TEST(History, DropsTheOldestBeyondTheLimit) {
+    std::vector<double> history{1, 2, 3};
+    appendToHistory(4, history, 3);
+    EXPECT_THAT(history, ElementsAre(2, 3, 4));
+}
+
+TEST(History, AppendShrinksOneThatIsFarTooLong) {
+    std::vector<double> history{1, 2, 3, 4, 5};
+    appendToHistory(6, history, 2);
+    EXPECT_THAT(history, ElementsAre(5, 6));
+}
+
+TEST(History, FullOneKeepsItsStorageFromAppendToAppend) {
+    std::vector<double> history;
+    for (int i = 0; i < 31; ++i)
+        appendToHistory(i, history, limit);
+    const double* const storage = history.data();
+    for (int i = 0; i < 100; ++i)
+        appendToHistory(i, history, limit);
+    EXPECT_EQ(history.data(), storage);
+    EXPECT_EQ(history.size(), limit);
+}
+
+struct HistoryRow : NamedRow {
+    std::vector<double> Histories::*member;
+};
+
+class TrimmedHistory : public testing::TestWithParam<HistoryRow> {};
+
+TEST_P(TrimmedHistory, LosesItsOldestAndIsReported) {
+    Histories histories;
+    histories.*GetParam().member = {1, 2, 3};
+    EXPECT_TRUE(trimHistories(histories, 2));
+    EXPECT_THAT(histories.*GetParam().member, ElementsAre(2, 3));
+    EXPECT_FALSE(trimHistories(histories, 2));
+}
+
+INSTANTIATE_TEST_SUITE_P(Commit, TrimmedHistory,
+                         testing::Values(HistoryRow{{"CPU"}, &Histories::cpu},
+                                         HistoryRow{{"Memory"}, &Histories::memory},
+                                         HistoryRow{{"Download"}, &Histories::download},
+                                         HistoryRow{{"Upload"}, &Histories::upload},
+                                         HistoryRow{{"GPU"}, &Histories::gpu}),
+                         rowName<HistoryRow>);
+
+TEST(Commit, CPUReadingReplacesTheRecordAndGoesIntoItsHistory) {
+    DashboardState state;
+    PendingUpdate update;
+    update.cpu = cpuReading(0.25);
+    EXPECT_TRUE(apply(update, state));
+    DashboardState expected;
+    expected.snapshot.timestamp = noon;
+    expected.snapshot.cpu = cpuReading(0.25);
+    expected.histories.cpu = {0.25};
+    expected.revisions.cpu = 1;
+    EXPECT_EQ(state, expected);
+}
+
+struct MemoryRow : NamedRow {
+    std::uint64_t used;
+    std::uint64_t total;
+    double expected;
+};
+
+class MemoryFraction : public testing::TestWithParam<MemoryRow> {};
+
+TEST_P(MemoryFraction, GoesIntoTheHistory) {
+    DashboardState state;
+    PendingUpdate update;
+    update.memory = memoryReading(GetParam().used, GetParam().total);
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.snapshot.memory, memoryReading(GetParam().used, GetParam().total));
+    EXPECT_THAT(state.histories.memory, ElementsAre(GetParam().expected));
+    EXPECT_EQ(state.revisions.memory, 1u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commit, MemoryFraction,
+    testing::Values(MemoryRow{{"UsedQuarter"}, 1, 4, 0.25}, MemoryRow{{"Full"}, 4, 4, 1.0},
+                    MemoryRow{{"MoreThanThereIs"}, 5, 4, 1.0},
+                    MemoryRow{{"NothingInstalled"}, 5, 0, 0.0},
+                    MemoryRow{{"LargestNumbers"}, UINT64_MAX / 2, UINT64_MAX, 0.5}),
+    rowName<MemoryRow>);
+
+TEST(Commit, NetworkReadingGoesIntoTwoHistories) {
+    DashboardState state;
+    PendingUpdate update;
+    update.network = networkReading(1000, 20);
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.snapshot.network, networkReading(1000, 20));
+    EXPECT_THAT(state.histories.download, ElementsAre(1000));
+    EXPECT_THAT(state.histories.upload, ElementsAre(20));
+    EXPECT_EQ(state.revisions.network, 1u);
+}
+
+TEST(Commit, SameCPUMemoryAndNetworkReadingsStillMoveTheGraphsOn) {
+    DashboardState state;
+    for (int i = 0; i < 2; ++i) {
+        PendingUpdate update;
+        update.cpu = cpuReading(0.5);
+        update.memory = memoryReading(1, 2);
+        update.network = networkReading(3, 4);
+        EXPECT_TRUE(apply(update, state));
+    }
+    EXPECT_THAT(state.histories.cpu, ElementsAre(0.5, 0.5));
+    EXPECT_THAT(state.histories.memory, ElementsAre(0.5, 0.5));
+    EXPECT_THAT(state.histories.download, ElementsAre(3, 3));
+    EXPECT_EQ(state.revisions.cpu + state.revisions.memory + state.revisions.network, 6u);
+}
+
+TEST(Commit, DifferentSystemInfoReplacesTheRecord) {
+    DashboardState state;
+    PendingUpdate update;
+    update.system = systemInfo("one");
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.snapshot.system.hostName, "one");
+    EXPECT_EQ(state.revisions.system, 1u);
+}
+
+TEST(Commit, EqualSystemInfoChangesNothing) {
+    DashboardState state;
+    state.snapshot.system = systemInfo("one");
+    PendingUpdate update;
+    update.system = systemInfo("one");
+    EXPECT_FALSE(apply(update, state));
+    EXPECT_EQ(state.revisions, Revisions{});
+}
+
+TEST(Commit, ProcessListsAreTakenAsDeliveredAndNotCompared) {
+    DashboardState state;
+    for (std::uint64_t revision = 1; revision <= 2; ++revision) {
+        PendingUpdate update;
+        update.processSample = processSample();
+        EXPECT_TRUE(apply(update, state));
+        EXPECT_EQ(state.revisions.processes, revision);
+    }
+    EXPECT_EQ(state.snapshot.processes, processSample().all);
+    EXPECT_EQ(state.processesByCPU, processSample().sortedByCPU);
+    EXPECT_EQ(state.processesByMemory, processSample().sortedByMemory);
+}
+
+TEST(Commit, VolumesCountOnlyWhenTheyDiffer) {
+    DashboardState state;
+    PendingUpdate update;
+    update.volumes = {volume("/"), volume("/home")};
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_FALSE(apply(update, state));
+    EXPECT_EQ(state.revisions.storage, 1u);
+    update.volumes = std::vector<VolumeStats>{};
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_THAT(state.snapshot.volumes, IsEmpty());
+    EXPECT_EQ(state.revisions.storage, 2u);
+}
+
+struct PowerRow : NamedRow {
+    std::optional<PowerStats> before;
+    std::optional<PowerStats> arrived;
+    bool changes;
+};
+
+class PowerUpdate : public testing::TestWithParam<PowerRow> {};
+
+TEST_P(PowerUpdate, CountsInTheSystemSectionWhenItDiffers) {
+    DashboardState state;
+    state.snapshot.power = GetParam().before;
+    PendingUpdate update;
+    update.hasPowerUpdate = true;
+    update.power = GetParam().arrived;
+    EXPECT_EQ(apply(update, state), GetParam().changes);
+    EXPECT_EQ(state.snapshot.power, GetParam().arrived);
+    EXPECT_EQ(state.revisions.system, GetParam().changes ? 1u : 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commit, PowerUpdate,
+    testing::Values(PowerRow{{"BatteryAppears"}, std::nullopt, battery(0.5), true},
+                    PowerRow{{"BatteryGoes"}, battery(0.5), std::nullopt, true},
+                    PowerRow{{"ChargeMoves"}, battery(0.5), battery(0.6), true},
+                    PowerRow{{"SameCharge"}, battery(0.5), battery(0.5), false},
+                    PowerRow{{"StillNone"}, std::nullopt, std::nullopt, false}),
+    rowName<PowerRow>);
+
+TEST(Commit, BatteryIsKeptWhenNoPowerResultArrived) {
+    DashboardState state;
+    state.snapshot.power = battery(0.5);
+    PendingUpdate update;
+    update.cpu = cpuReading(0.1);
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.snapshot.power, battery(0.5));
+    EXPECT_EQ(state.revisions.system, 0u);
+}
+
+TEST(Commit, SystemInfoAndPowerTogetherCountTwice) {
+    DashboardState state;
+    PendingUpdate update;
+    update.system = systemInfo("one");
+    update.hasPowerUpdate = true;
+    update.power = battery(0.5);
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.revisions.system, 2u);
+}
+
+TEST(Commit, UnchangedSectionDoesNotHideAChangedOne) {
+    DashboardState state;
+    state.snapshot.system = systemInfo("one");
+    PendingUpdate update;
+    update.system = systemInfo("one");
+    update.volumes = {volume("/")};
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.revisions.system, 0u);
+    EXPECT_EQ(state.revisions.storage, 1u);
+}
+
+TEST(Commit, RevisionsWrapAround) {
+    DashboardState state;
+    state.revisions.cpu = UINT64_MAX;
+    PendingUpdate update;
+    update.cpu = cpuReading(0.5);
+    EXPECT_TRUE(apply(update, state));
+    EXPECT_EQ(state.revisions.cpu, 0u);
+}
+
+TEST(PendingUpdate, PowerWithoutABatteryIsAResult) {
+    PendingUpdate update;
+    EXPECT_TRUE(update.isEmpty());
+    update.hasPowerUpdate = true;
+    EXPECT_FALSE(update.isEmpty());
+}
+
+}  // namespace
+}  // namespace vantor

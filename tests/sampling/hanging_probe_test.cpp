@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <future>
+#include <memory>
+#include <string>
+#include <thread>
+
+#include "platform/threads/threaded_main_loop.h"
+#include "platform/threads/threaded_serial_queue.h"
+#include "sampling/ended_program.h"
+#include "sampling/hanging_machine.h"
+#include "sampling/named_row.h"
+#include "sampling/wound_world.h"
+
+/// A probe that hangs in the kernel costs its own thread and nothing else.
+namespace vantor {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+TEST(HangingProbe, DoesNotHoldTheMonitorsEndUp) {
+    HangingMachine hanging;
+    auto queues = std::make_shared<ThreadedSerialQueueFactory>();
+    auto loop = std::make_shared<ThreadedMainLoop>();
+    auto settings = makeSettings();
+    auto monitor = SystemMonitor::make(settings, hanging.machine, loop, queues);
+    monitor->start();
+    std::thread waiter([&] {
+        hanging.waitUntilStuck();
+        loop->stop();
+    });
+    loop->run();
+    waiter.join();
+    const auto before = Clock::now();
+    monitor.reset();
+    settings.reset();
+    queues.reset();
+    loop.reset();
+    hanging.machine.reset();
+    EXPECT_LT(Clock::now() - before, 500ms);
+}
+
+TEST(HangingProbe, DoesNotHoldTheSamplersEndUp) {
+    HangingMachine hanging;
+    auto queues = std::make_unique<ThreadedSerialQueueFactory>();
+    auto sampler = SystemSampler::make(hanging.machine, *queues);
+    sampler->requestCPU(1, true, [](const CPUStats*) {});
+    hanging.waitUntilStuck();
+    sampler->requestCPU(1, true, [](const CPUStats*) {});
+    sampler->resetDeltaBaselines();
+    const auto before = Clock::now();
+    sampler.reset();
+    queues.reset();
+    EXPECT_LT(Clock::now() - before, 500ms);
+}
+
+TEST(HangingProbe, LeavesTheOtherProvidersAndTheMainThreadWorking) {
+    HangingMachine hanging;
+    ThreadedSerialQueueFactory queues;
+    const auto sampler = SystemSampler::make(hanging.machine, queues);
+    sampler->requestCPU(1, true, [](const CPUStats*) {});
+    hanging.waitUntilStuck();
+    std::promise<void> answered;
+    sampler->requestPower(1, true, [&](const PowerReadResult&) { answered.set_value(); });
+    EXPECT_EQ(answered.get_future().wait_for(10s), std::future_status::ready);
+    EXPECT_EQ(sampler->gates().front()->outstandingRuns(), 1);
+}
+
+struct EndRow : NamedRow {
+    const char* path;
+};
+
+class ProgramsEnd : public testing::TestWithParam<EndRow> {};
+
+TEST_P(ProgramsEnd, IsCleanAndWaitsForNobody) {
+    Program program(GetParam().path);
+    ASSERT_TRUE(program.hasStarted());
+    const std::string output = program.readToEnd(20s);
+    const auto ended = Clock::now();
+    ASSERT_FALSE(output.empty()) << "it never came to its end";
+    // The program writes the time at which its main returned, on the clock that all processes
+    // share.
+    const Clock::time_point returned{std::chrono::nanoseconds{std::stoll(output)}};
+    EXPECT_LT(ended - returned, 1s);
+    const int status = program.wait();
+    ASSERT_TRUE(WIFEXITED(status)) << "it was killed by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(WithAProbeThat, ProgramsEnd,
+                         testing::Values(EndRow{{"Hangs"}, VANTOR_HANGING_END_PROGRAM},
+                                         EndRow{{"IsAtWork"}, VANTOR_BUSY_END_PROGRAM}),
+                         rowName<EndRow>);
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,262 @@
+#include "ui/dashboard/dashboard_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QScrollArea>
+
+#include <chrono>
+
+#include "ui/cards/cpu_card.h"
+#include "ui/components/text_line.h"
+#include "ui/dashboard/dashboard_header.h"
+#include "ui/dashboard/horizontal_fit.h"
+#include "ui/dashboard/scroll_view.h"
+#include "ui/dashboard_world.h"
+#include "ui/gestures.h"
+
+namespace vantor {
+namespace {
+
+using namespace std::chrono_literals;
+using Form = VantorHorizontalFit::Form;
+
+class DashboardViewTest : public testing::Test {
+  protected:
+    DashboardWorld world;
+
+    void TearDown() override {
+        world.view.reset();
+        QApplication::setPalette(paletteOf(ColorScheme::dark));
+    }
+    CPUCardView& card() { return world.view->cpuCard(); }
+    std::string footer() { return utf8(world.view->lastUpdate().text()); }
+    QScrollArea& scrollArea() { return *world.view->findChild<QScrollArea*>(); }
+    QRect placeOf(QWidget& part) {
+        return {part.mapTo(scrollArea().widget(), QPoint()), part.size()};
+    }
+};
+
+TEST_F(DashboardViewTest, SamplingStartsWhenItIsShownAndNotBefore) {
+    world.make();
+    world.settle();
+    EXPECT_FALSE(world.monitor->isMonitoring());
+    EXPECT_EQ(world.monitor->generation(), 0u);
+    world.open();
+    EXPECT_TRUE(world.monitor->isMonitoring());
+}
+
+TEST_F(DashboardViewTest, ShowingItAgainStartsNothingASecondTime) {
+    world.open();
+    world.view->setVisible(false);
+    world.open();
+    EXPECT_EQ(world.monitor->generation(), 1u);
+}
+
+TEST_F(DashboardViewTest, ShowingItDuringAPauseDoesNotEndThePause) {
+    world.open();
+    world.monitor->togglePause();
+    world.view->setVisible(false);
+    world.open();
+    EXPECT_FALSE(world.monitor->isMonitoring());
+}
+
+TEST_F(DashboardViewTest, EverythingWaitsBeforeTheFirstCommit) {
+    world.open();
+    EXPECT_EQ(footer(), "Collecting live data\u2026");
+    EXPECT_EQ(utf8(card().gauge().gauge().title), "\u2014");
+    EXPECT_EQ(utf8(card().header().accessibleValueText()), "Detecting processor\u2026");
+    EXPECT_EQ(utf8(card().processes().accessibleValueText()), "Waiting for process data\u2026");
+}
+
+TEST_F(DashboardViewTest, ShowsTheFiguresAfterTheSecondReading) {
+    world.open();
+    world.goLive();
+    EXPECT_EQ(utf8(card().gauge().gauge().title), "40%");
+    EXPECT_EQ(utf8(card().row(0).row().value), "30.0%");
+    EXPECT_EQ(utf8(card().row(1).row().value), "10.0%");
+    EXPECT_EQ(utf8(card().row(2).row().value), "2.40 GHz");
+    EXPECT_EQ(utf8(card().row(3).row().value), "Not published");
+    EXPECT_EQ(utf8(card().loadAverage().text()), "Load avg 0.50  0.25  0.12");
+    EXPECT_EQ(utf8(card().header().accessibleValueText()), "2 physical \u2022 4 logical cores");
+    EXPECT_EQ(card().cores().count(), 4u);
+    EXPECT_EQ(footer().substr(0, 8), "Updated ");
+}
+
+TEST_F(DashboardViewTest, TheHistoryGrowsWithEachReading) {
+    world.open();
+    world.advance(5100ms);
+    const auto& values = card().history().sparkline().values;
+    EXPECT_EQ(values, world.monitor->dashboardState().histories.cpu);
+    EXPECT_GE(values.size(), 5u);
+}
+
+TEST_F(DashboardViewTest, ShowsWhatTheMonitorAlreadyHas) {
+    world.monitor->start();
+    world.goLive();
+    world.make();
+    EXPECT_EQ(utf8(card().gauge().gauge().title), "40%");
+}
+
+TEST_F(DashboardViewTest, AMachineOnWhichEveryCallFailsKeepsWaiting) {
+    world.machine->hostProcessors().totalFails = true;
+    world.machine->hostProcessors().processorsFail = true;
+    world.machine->loadAverages().answer = -1;
+    world.open();
+    world.advance(20s);
+    EXPECT_EQ(utf8(card().gauge().gauge().title), "\u2014");
+    EXPECT_EQ(world.firstFrames, 0);
+}
+
+TEST_F(DashboardViewTest, PauseAndResumeByTheButton) {
+    world.open();
+    world.goLive();
+    click(world.view->header().pauseButton());
+    EXPECT_TRUE(world.monitor->isPaused());
+    EXPECT_EQ(utf8(world.view->header().pauseButton().text()), "Resume");
+    EXPECT_EQ(utf8(world.view->header().pauseButton().systemImage()), "play.fill");
+    EXPECT_EQ(utf8(world.view->header().status().accessibleValueText()), "Paused");
+    const auto revision = card().revision();
+    world.advance(10s);
+    EXPECT_EQ(card().revision(), revision);
+    EXPECT_EQ(utf8(card().gauge().gauge().title), "40%") << "the last figures stay";
+    click(world.view->header().pauseButton());
+    EXPECT_EQ(utf8(world.view->header().pauseButton().text()), "Pause");
+    EXPECT_EQ(utf8(world.view->header().status().accessibleValueText()), "Live");
+    world.advance(3s);
+    EXPECT_GT(card().revision(), revision);
+}
+
+TEST_F(DashboardViewTest, RefreshAsksAtOnceAlsoDuringAPause) {
+    world.open();
+    world.goLive();
+    click(world.view->header().pauseButton());
+    const int reads = world.machine->hostProcessors().totalReads;
+    click(world.view->header().refreshButton());
+    world.settle();
+    EXPECT_EQ(world.machine->hostProcessors().totalReads, reads + 1);
+}
+
+TEST_F(DashboardViewTest, QuitCallsWhoeverOwnsTheProgram) {
+    world.open();
+    click(world.view->header().quitButton());
+    EXPECT_EQ(world.quits, 1);
+}
+
+TEST_F(DashboardViewTest, ExportIsDisabledWhileThereIsNothingToExportTo) {
+    world.open();
+    EXPECT_FALSE(world.view->header().exportButton().isEnabled());
+}
+
+TEST_F(DashboardViewTest, ChoosingAnIntervalWritesTheSettingAndShowsIt) {
+    world.open();
+    EXPECT_EQ(utf8(world.view->header().interval().text()), "0.5 s");
+    world.view->header().interval().menu().actions().at(3)->trigger();
+    EXPECT_DOUBLE_EQ(world.settings->refreshInterval(), 5);
+    EXPECT_EQ(std::get<double>(world.defaults->values.at("refreshInterval")), 5);
+    EXPECT_EQ(utf8(world.view->header().interval().text()), "5 s");
+}
+
+TEST_F(DashboardViewTest, AnIntervalSetElsewhereIsShown) {
+    world.open();
+    world.settings->setRefreshInterval(10);
+    EXPECT_EQ(utf8(world.view->header().interval().text()), "10 s");
+    world.monitor->togglePause();
+    EXPECT_EQ(utf8(world.view->header().interval().text()), "10 s");
+}
+
+TEST_F(DashboardViewTest, FollowsTheAppearanceWhileItIsOpen) {
+    world.settings->setAppearance(Appearance::dark);
+    world.open();
+    const auto corner = [&] {
+        settleEvents();
+        return world.view->grab().toImage().pixelColor(2, 2);
+    };
+    EXPECT_TRUE(isNear(corner(), QColor::fromRgbF(0.035f, 0.045f, 0.07f)));
+    world.settings->setAppearance(Appearance::light);
+    EXPECT_TRUE(isNear(corner(), QColor::fromRgbF(0.9f, 0.95f, 0.99f)));
+    EXPECT_EQ(colorScheme(card()), ColorScheme::light);
+    EXPECT_EQ(colorScheme(world.view->header().quitButton()), ColorScheme::light);
+    world.settings->setAppearance(Appearance::dark);
+    EXPECT_TRUE(isNear(corner(), QColor::fromRgbF(0.035f, 0.045f, 0.07f)));
+}
+
+TEST_F(DashboardViewTest, BackgroundFillsTheWholeView) {
+    world.open(QSize(900, 700));
+    const QImage image = world.view->grab().toImage();
+    for (const QPoint place : {QPoint(0, 0), QPoint(899, 0), QPoint(0, 699), QPoint(885, 699)}) {
+        EXPECT_EQ(image.pixelColor(place).alpha(), 255);
+    }
+    EXPECT_TRUE(isNear(image.pixelColor(0, 699), QColor::fromRgbF(0.05f, 0.045f, 0.083f), 6));
+}
+
+TEST_F(DashboardViewTest, FirstLiveFrameIsReportedOnceAndShowsTheFigures) {
+    std::vector<std::string> titles;
+    world.onFirstLiveFrame = [&] { titles.push_back(utf8(card().gauge().gauge().title)); };
+    world.open();
+    EXPECT_TRUE(titles.empty()) << "nothing is live yet";
+    world.advance(10s);
+    EXPECT_EQ(titles, std::vector<std::string>{"40%"});
+}
+
+TEST_F(DashboardViewTest, AViewThatGoesBeforeItsFirstFrameReportsNothing) {
+    world.open();
+    world.clock->wind(1100ms);
+    while (world.loop->runDueTimer()) {
+        while (world.queues->runWaiting() + world.loop->runPosted() > 0) {
+        }
+    }
+    world.view.reset();
+    world.advance(5s);
+    EXPECT_EQ(world.firstFrames, 0);
+}
+
+TEST_F(DashboardViewTest, AViewThatIsGoneNoLongerObserves) {
+    world.open();
+    world.view.reset();
+    world.goLive();
+    world.settings->setRefreshInterval(2);
+    world.monitor->togglePause();
+    EXPECT_EQ(world.firstFrames, 0);
+}
+
+TEST_F(DashboardViewTest, PartsStandInTheirOrderEighteenApart) {
+    world.open(QSize(720, 560));
+    const QRect header = placeOf(world.view->header());
+    const QRect cpu = placeOf(card());
+    EXPECT_EQ(header.left(), cpu.left());
+    EXPECT_EQ(cpu.top() - header.bottom() - 1, 18);
+    EXPECT_GE(placeOf(world.view->footer()).top() - cpu.bottom() - 1, 18);
+    EXPECT_LE(cpu.width(), 680);
+}
+
+TEST_F(DashboardViewTest, TheSmallestWindowShowsAllControlsAndScrollsOnlyDown) {
+    world.open(QSize(720, 560));
+    QWidget& content = *scrollArea().widget();
+    EXPECT_LE(content.width(), 720);
+    EXPECT_GE(content.height(), content.heightForWidth(content.width()));
+    EXPECT_TRUE(content.rect().contains(placeOf(world.view->header().quitButton())));
+    EXPECT_LT(placeOf(world.view->header().quitButton()).bottom(), placeOf(card()).top());
+    EXPECT_EQ(scrollArea().horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+}
+
+TEST_F(DashboardViewTest, NewerSystemsScrollWithTheSlimBar) {
+    world.open();
+    EXPECT_NE(dynamic_cast<VantorScrollView*>(&scrollArea()), nullptr);
+}
+
+TEST_F(DashboardViewTest, OlderSystemsScrollPlainlyAndGoByBreakpoints) {
+    world.machine->processInfo().version = {12, 0, 0};
+    world.open(QSize(880, 700));
+    EXPECT_EQ(dynamic_cast<VantorScrollView*>(&scrollArea()), nullptr);
+    EXPECT_EQ(world.view->header().fit().form(), Form::fallback);
+    EXPECT_EQ(world.view->footer().form(), Form::primary);
+    world.open(QSize(1100, 700));
+    EXPECT_EQ(world.view->header().fit().form(), Form::primary);
+    world.open(QSize(720, 560));
+    EXPECT_EQ(world.view->footer().form(), Form::fallback);
+}
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QApplication>
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/simulated/manual_main_loop.h"
+#include "platform/simulated/manual_serial_queue.h"
+#include "platform/simulated/simulated_machine.h"
+#include "sampling/system_monitor.h"
+#include "settings/app_settings.h"
+#include "ui/app_metadata.h"
+#include "ui/dashboard/dashboard_view.h"
+#include "ui/rendering.h"
+
+namespace vantor {
+
+/// Preferences that last as long as the test.
+class KeptDefaults : public DefaultsStore {
+  public:
+    std::optional<Value> value(std::string_view key) const override {
+        const auto found = values.find(key);
+        return found == values.end() ? std::nullopt : std::optional(found->second);
+    }
+    void setValue(std::string_view key, const Value& value) override {
+        values.insert_or_assign(std::string(key), value);
+    }
+    std::map<std::string, Value, std::less<>> values;
+};
+
+/// Puts the palettes of the tests on the whole program.
+class TestAppearance : public ApplicationAppearance {
+  public:
+    void followSystem() override { forceDark(); }
+    void forceDark() override { QApplication::setPalette(paletteOf(ColorScheme::dark)); }
+    void forceLight() override { QApplication::setPalette(paletteOf(ColorScheme::light)); }
+};
+
+/// What the program's bundle says in tests.
+class TestBundle : public BundleInfo {
+  public:
+    std::optional<std::string> text(std::string_view key) const override {
+        return key == "CFBundleShortVersionString" ? std::optional<std::string>("1.2.3")
+                                                   : std::nullopt;
+    }
+};
+
+/// A dashboard on a simulated laptop on which time passes only when the test says so.
+///
+/// Its processors spend 30 ticks for the user and 10 for the kernel out of every 100, so that each
+/// reading after the first says 40 %.
+struct DashboardWorld {
+    const std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    const std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop(clock);
+    const std::shared_ptr<ManualMainLoop> loop = std::make_shared<ManualMainLoop>(clock);
+    const std::shared_ptr<ManualSerialQueueFactory> queues =
+        std::make_shared<ManualSerialQueueFactory>();
+    const std::shared_ptr<KeptDefaults> defaults = std::make_shared<KeptDefaults>();
+    const std::shared_ptr<AppSettings> settings =
+        std::make_shared<AppSettings>(defaults, std::make_shared<TestAppearance>());
+    const std::shared_ptr<SystemMonitor> monitor =
+        SystemMonitor::make(settings, machine, loop, queues);
+    const AppMetadata metadata{TestBundle{}};
+    int quits = 0;
+    int firstFrames = 0;
+    std::function<void()> onFirstLiveFrame = [this] { ++firstFrames; };
+    std::unique_ptr<DashboardView> view;
+
+    DashboardWorld() { machine->hostProcessors().growth = {30, 10, 60, 0}; }
+
+    /// Makes the view, without showing it yet.
+    DashboardView& make() {
+        view = std::make_unique<DashboardView>(
+            DashboardView::Environment{settings, monitor, machine, metadata, AdaptiveColumns{},
+                                       [this] { ++quits; }, [this] { onFirstLiveFrame(); }});
+        return *view;
+    }
+
+    DashboardView& open(QSize size = {1280, 820}) {
+        if (!view) make();
+        view->setVisible(true);
+        view->resize(size);  // after it is shown: a window is opened no larger than the screen
+        settle();
+        return *view;
+    }
+
+    /// Runs everything that is left to run at this instant.
+    void settle() {
+        while (queues->runWaiting() + loop->runPosted() > 0) {
+        }
+        settleEvents();
+    }
+
+    /// Lets time pass, from one due timer to the next.
+    void advance(std::chrono::nanoseconds by) {
+        settle();
+        const auto end = clock->now() + by;
+        while (loop->nextDue() <= end) {
+            clock->setNow(std::max(clock->now(), loop->nextDue()));
+            while (loop->runDueTimer())
+                settle();
+        }
+        clock->setNow(end);
+        settle();
+    }
+
+    /// Until the second reading, the first that says anything, is on the screen.
+    void goLive() { advance(std::chrono::milliseconds(1100)); }
+};
+
+}  // namespace vantor

@@ -1,0 +1,147 @@
+#include "ui/picture.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+
+#include <functional>
+#include <memory>
+
+#include "platform/simulated/simulated_machine.h"
+#include "ui/cards/cpu_card.h"
+#include "ui/cpu_samples.h"
+#include "ui/dashboard/dashboard_header.h"
+#include "ui/rendering.h"
+
+/// Every component as it is meant to look, in both schemes, on ordinary and on fine screens.
+namespace vantor {
+namespace {
+
+struct Subject {
+    const char* name;
+    int width;
+    std::function<std::unique_ptr<QWidget>()> make;
+};
+
+template <class View, class... Arguments>
+std::unique_ptr<View> makeView(Arguments&&... arguments) {
+    return std::make_unique<View>(std::forward<Arguments>(arguments)...);
+}
+
+std::unique_ptr<QWidget> gauge() {
+    return makeView<RingGaugeView>(CPUCard::of(stateWithCPU()).gauge());
+}
+
+std::unique_ptr<QWidget> sparkline() {
+    return makeView<SparklineView>(
+        QStringLiteral("history"),
+        Sparkline{{0.1, 0.35, 0.2, 0.6, 1.4, 0.42, 0}, VantorTheme::green(), std::pair{0.0, 1.0}},
+        62);
+}
+
+std::unique_ptr<QWidget> metricRow(std::optional<QColor> color) {
+    return makeView<MetricRowView>(
+        MetricRow{QStringLiteral("Temperature"), QStringLiteral("54 °C"), color});
+}
+
+std::unique_ptr<QWidget> capsuleButton() {
+    return makeView<CapsuleButtonView>(
+        CapsuleButton{QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"), {}});
+}
+
+std::unique_ptr<QWidget> cores() {
+    auto view = std::make_unique<CoreActivityView>();
+    view->show(stateWithCPU().snapshot.cpu.perCoreUsage);
+    return view;
+}
+
+std::unique_ptr<QWidget> processes(std::size_t count) {
+    auto view = makeView<ProcessMiniListView>(QStringLiteral("Top CPU Processes"),
+                                              ProcessMiniList::Metric::cpu, std::size_t{5},
+                                              QStringLiteral("app.dashed"));
+    const auto all = manyProcesses();
+    view->show(std::span(all).first(count));
+    return view;
+}
+
+std::unique_ptr<QWidget> pill(bool isPaused) {
+    auto view = std::make_unique<StatusPillView>();
+    view->show(isPaused);
+    return view;
+}
+
+std::unique_ptr<QWidget> header() {
+    DashboardHeader header;
+    header.refreshInterval = 2;
+    return makeView<DashboardHeaderView>(header, "Live macOS performance intelligence",
+                                         std::nullopt);
+}
+
+std::unique_ptr<QWidget> card(bool isWaiting) {
+    auto view = makeView<CPUCardView>(SimulatedMachine::laptop()->processInfo());
+    DashboardState state = stateWithCPU();
+    state.processesByCPU = manyProcesses();
+    state.revisions.processes = 1;
+    if (!isWaiting) view->show(CPUCard::of(state));
+    return view;
+}
+
+const std::vector<Subject>& subjects() {
+    static const std::vector<Subject> all{
+        {"ring_gauge", 126, gauge},
+        {"sparkline", 240, sparkline},
+        {"metric_row", 240, [] { return metricRow(VantorTheme::purple()); }},
+        {"metric_row_plain", 240, [] { return metricRow(std::nullopt); }},
+        {"capsule_button", 0, capsuleButton},
+        {"core_activity", 240, cores},
+        {"process_mini_list", 240, [] { return processes(5); }},
+        {"process_mini_list_waiting", 240, [] { return processes(0); }},
+        {"status_pill_live", 0, [] { return pill(false); }},
+        {"status_pill_paused", 0, [] { return pill(true); }},
+        {"header_row", 1000, header},
+        {"header_stacked", 700, header},
+        {"cpu_card", 430, [] { return card(false); }},
+        {"cpu_card_waiting", 430, [] { return card(true); }},
+    };
+    return all;
+}
+
+/// The widget in its own size on the ground that it stands on in the window.
+QImage pictureOf(QWidget& widget, int width, ColorScheme scheme, int scale) {
+    widget.setPalette(paletteOf(scheme));
+    QSize size = widget.sizeHint();
+    if (width > 0) size.setWidth(width);
+    if (widget.hasHeightForWidth()) size.setHeight(widget.heightForWidth(size.width()));
+    const QImage drawn = rendered(widget, size, scheme, scale);
+    QImage image(drawn.size(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.fillRect(image.rect(), VantorTheme::background(scheme, image.rect()));
+    painter.drawImage(image.rect(), drawn, drawn.rect());
+    return image;
+}
+
+using Setting = std::tuple<std::size_t, ColorScheme, int>;
+
+std::string nameOf(const Setting& setting) {
+    const auto& [subject, scheme, scale] = setting;
+    return std::string(subjects().at(subject).name) +
+           (scheme == ColorScheme::dark ? "_dark" : "_light") + (scale == 2 ? "_fine" : "");
+}
+
+class Picture : public testing::TestWithParam<Setting> {};
+
+INSTANTIATE_TEST_SUITE_P(Of, Picture,
+                         testing::Combine(testing::Range(std::size_t{0}, subjects().size()),
+                                          testing::Values(ColorScheme::dark, ColorScheme::light),
+                                          testing::Values(1, 2)),
+                         [](const auto& test) { return nameOf(test.param); });
+
+TEST_P(Picture, LooksAsAgreed) {
+    const auto& [index, scheme, scale] = GetParam();
+    const Subject& subject = subjects().at(index);
+    const auto widget = subject.make();
+    EXPECT_TRUE(looksLike(pictureOf(*widget, subject.width, scheme, scale), nameOf(GetParam())));
+}
+
+}  // namespace
+}  // namespace vantor
