@@ -6,11 +6,11 @@ fail() {
     exit 1
 }
 
-build_packages="g++ cmake ninja-build nlohmann-json3-dev qt6-base-dev libqt6svg6-dev"
+build_packages="g++ cmake ninja-build nlohmann-json3-dev qt6-base-dev qt6-svg-dev"
 screen_packages="xvfb x11-utils imagemagick fonts-inter fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox procps"
 clang_packages="clang libclang-rt-14-dev"
-lint_packages="clang-format clang-tidy"
+lint_packages="git clang-format clang-tidy"
 
 is_debian() { command -v apt-get >/dev/null && command -v dpkg-query >/dev/null; }
 

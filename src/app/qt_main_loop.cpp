@@ -5,6 +5,8 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -55,17 +57,23 @@ class QtMainLoop::Receiver : public QObject {
   protected:
     bool event(QEvent* event) override {
         if (event->type() != wakeUp) return QObject::event(event);
-        // Held here and not in a member: a task may open a dialog, whose own loop gets here again.
-        std::vector<Task> running;
-        running.swap(spare_);
         {
             const std::lock_guard lock(inbox_->mutex);
-            running.swap(inbox_->tasks);
+            if (running_.empty()) {
+                running_.swap(inbox_->tasks);
+            } else {
+                std::move(inbox_->tasks.begin(), inbox_->tasks.end(), std::back_inserter(running_));
+                inbox_->tasks.clear();
+            }
         }
-        for (Task& task : running)
+        // A task may open a dialog, whose own loop then gets here again: it goes on where this one
+        // has stopped, in the order posted, and leaves nothing to do for this one.
+        while (next_ < running_.size()) {
+            Task task = std::move(running_[next_++]);
             task();
-        running.clear();
-        spare_.swap(running);
+        }
+        running_.clear();
+        next_ = 0;
         return true;
     }
 
@@ -80,7 +88,8 @@ class QtMainLoop::Receiver : public QObject {
 
   private:
     std::shared_ptr<Inbox> inbox_;
-    std::vector<Task> spare_;  // empty: its storage takes the next tasks
+    std::vector<Task> running_;
+    std::size_t next_ = 0;  // the first of them that has not run
     std::map<TimerID, Task> timers_;
 };
 

@@ -2,7 +2,6 @@
 
 #include <QObject>
 
-#include <map>
 #include <memory>
 
 #include "platform/main_loop.h"

@@ -50,6 +50,7 @@ SystemMonitor::~SystemMonitor() {
     cancelTask(monitoringTask_);
     cancelTask(startupTask_);
     cancelTask(pendingCommitTask_);
+    if (sampler_) sampler_->invalidate();  // a run in progress may keep it alive
 }
 
 void SystemMonitor::observeSettings() {

@@ -107,6 +107,7 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     void accept(Section& section, Result&& result);
     void scheduleCommit();
     void commitPendingUpdate();
+    DashboardState copyOfState();
     void trimHistoriesTo(std::int64_t historyLength);
 
     Published<DashboardState> dashboardState_;

@@ -70,19 +70,30 @@ void SystemMonitor::scheduleCommit() {
 void SystemMonitor::commitPendingUpdate() {
     pendingCommitTask_ = nullptr;
     PendingUpdate update = std::exchange(pendingUpdate_, PendingUpdate{});
+    // The one section that mostly stays as it is, and is then no reason to copy the state.
+    if (update.system == dashboardState().snapshot.system) update.system.reset();
     if (update.isEmpty()) return;
-    spareState_ = dashboardState_.value();
-    const bool changed =
-        applyUpdate(std::move(update), spareState_, historyLimit(settings_->historyLength()),
-                    machine_->wallClock().now());
-    if (changed) dashboardState_.publish(spareState_);
+    DashboardState next = copyOfState();
+    if (applyUpdate(std::move(update), next, historyLimit(settings_->historyLength()),
+                    machine_->wallClock().now())) {
+        dashboardState_.publish(next);
+    }
+    spareState_ = std::move(next);
 }
 
 void SystemMonitor::trimHistoriesTo(std::int64_t historyLength) {
-    spareState_ = dashboardState_.value();
-    if (trimHistories(spareState_.histories, historyLimit(historyLength))) {
-        dashboardState_.publish(spareState_);
+    DashboardState next = copyOfState();
+    if (trimHistories(next.histories, historyLimit(historyLength))) {
+        dashboardState_.publish(next);
     }
+    spareState_ = std::move(next);
+}
+
+/// A copy of the published state in the storage of the one before it.
+DashboardState SystemMonitor::copyOfState() {
+    DashboardState copy = std::move(spareState_);
+    copy = dashboardState_.value();
+    return copy;
 }
 
 }  // namespace vantor

@@ -35,6 +35,10 @@ SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactor
 }
 
 SystemSampler::~SystemSampler() {
+    invalidate();
+}
+
+void SystemSampler::invalidate() {
     for (const Provider& provider : providers_)
         provider.gate->invalidate();
 }

@@ -56,6 +56,10 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
                         Completion<std::optional<std::vector<VolumeStats>>> completion);
     void requestPower(double minimumInterval, bool force, Completion<PowerReadResult> completion);
 
+    /// Nothing is admitted from now on, and waiting runs end without an answer. Also what
+    /// destruction does; but a run in progress keeps the sampler alive until it is over.
+    void invalidate();
+
     /// Makes the probes that measure over intervals start over, after any run that is queued now
     /// and before any that is queued later.
     void resetDeltaBaselines();

@@ -76,18 +76,20 @@ TEST_F(QtMainLoopTest, TasksFromOtherThreadsRunOnTheMainOne) {
 
 TEST_F(QtMainLoopTest, KeepsEachThreadsOrderWhenManyPost) {
     constexpr int perThread = 500;
+    constexpr std::size_t all = 4 * std::size_t{perThread};
     std::vector<std::thread> posters;
+    posters.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         posters.emplace_back([this, thread] {
             for (int i = 0; i < perThread; ++i)
                 loop->post(note(thread * perThread + i));
         });
     }
-    runUntil(4 * perThread);
+    runUntil(all);
     for (std::thread& poster : posters)
         poster.join();
-    runUntil(4 * perThread);
-    ASSERT_EQ(ran.size(), 4u * perThread);
+    runUntil(all);
+    ASSERT_EQ(ran.size(), all);
     std::array<int, 4> last{-1, -1, -1, -1};
     for (const int number : ran) {
         int& before = last.at(static_cast<std::size_t>(number / perThread));

@@ -40,7 +40,7 @@ class StoreTest : public testing::Test {
     std::optional<Value> stored(std::string_view key) { return QtDefaultsStore(copy()).value(key); }
 
     QString copy() {
-        const QString path = folder.filePath(QStringLiteral("run-%1.ini").arg(++copies_));
+        QString path = folder.filePath(QStringLiteral("run-%1.ini").arg(++copies_));
         QFile::copy(file, path);
         return path;
     }

@@ -85,6 +85,7 @@ TEST(ByteCountFormatter, WhatRoundsUpToTheNextUnitIsWrittenInIt) {
     EXPECT_EQ(memory(mib - 1), "1 MB");
     EXPECT_EQ(memory(mib - 512), "1 MB");
     EXPECT_EQ(memory(mib - 513), "1023 KB");
+    EXPECT_EQ(memory(mib + 600), "1 MB");
     EXPECT_EQ(memory(gib - 1), "1 GB");
     EXPECT_EQ(memory(1024 * gib - 1), "1 TB");
     EXPECT_EQ(decimal(999'499), "999 KB");

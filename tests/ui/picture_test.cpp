@@ -56,9 +56,9 @@ std::unique_ptr<QWidget> cores() {
 }
 
 std::unique_ptr<QWidget> processes(std::size_t count) {
-    auto view = makeView<ProcessMiniListView>(QStringLiteral("Top CPU Processes"),
-                                              ProcessMiniList::Metric::cpu, std::size_t{5},
-                                              QStringLiteral("app.dashed"));
+    auto view = makeView<ProcessMiniListView>(
+        ProcessMiniList{QStringLiteral("Top CPU Processes"), {}, ProcessMiniList::Metric::cpu},
+        std::size_t{5}, QStringLiteral("app.dashed"));
     const auto all = manyProcesses();
     view->show(std::span(all).first(count));
     return view;

@@ -22,8 +22,8 @@ std::string seenHelp() {
 
 class ProcessMiniListTest : public testing::Test {
   protected:
-    ProcessMiniListView view{QStringLiteral("Top CPU Processes"), Metric::cpu, 5,
-                             QStringLiteral("app.dashed")};
+    ProcessMiniListView view{
+        {QStringLiteral("Top CPU Processes"), {}, Metric::cpu}, 5, QStringLiteral("app.dashed")};
     std::vector<ProcessStats> processes = manyProcesses();
 
     QImage drawn(int width = 240) { return rendered(view, QSize(width, view.sizeHint().height())); }

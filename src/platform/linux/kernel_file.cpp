@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 
 namespace vantor {
@@ -46,10 +47,18 @@ std::optional<std::string_view> KernelFile::read() {
 }
 
 std::optional<std::string> readKernelFile(const std::filesystem::path& path) {
-    KernelFile file(path);
-    const auto content = file.read();
-    if (!content) return std::nullopt;
-    return std::string(*content);
+    const FileDescriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
+    if (!file) return std::nullopt;
+    std::string content;
+    std::array<char, firstBufferSize> buffer{};
+    while (content.size() < largestBufferSize) {
+        const ssize_t count = ::read(file.get(), buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return std::nullopt;
+        if (count == 0) break;
+        content.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    return content;
 }
 
 std::optional<std::string> readKernelText(const std::filesystem::path& path) {

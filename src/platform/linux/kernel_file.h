@@ -12,6 +12,9 @@ namespace vantor {
 
 /// A small file of /proc or /sys that is read again and again: kept open, read from its start in
 /// one call into a buffer that is kept too. One thread at a time.
+///
+/// Only for files that the kernel hands over in one piece, as /proc/stat and /proc/loadavg. Lists
+/// of many records (cpuinfo, mounts) come a page at a time, however large the buffer.
 class KernelFile {
   public:
     explicit KernelFile(std::filesystem::path path) : path_(std::move(path)) {}

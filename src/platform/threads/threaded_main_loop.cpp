@@ -42,20 +42,27 @@ void ThreadedMainLoop::run() {
     std::unique_lock lock(mutex_);
     while (!stopped_) {
         // In turn, so that neither timers nor posted tasks that make more of their kind can keep
-        // the others waiting for ever.
-        batch.swap(posted_);
-        Task due;
-        const bool isDue = takeDue(due);
-        if (isDue || !batch.empty()) {
+        // the others waiting for ever. A timer is taken only now that it is its turn: a posted task
+        // may have cancelled it.
+        const bool hasPosted = !posted_.empty();
+        if (hasPosted) {
+            batch.swap(posted_);
             lock.unlock();
             for (Task& task : batch) {
                 if (stopped_) break;
                 task();
             }
             batch.clear();
-            if (isDue && !stopped_) due();
+            lock.lock();
+        }
+        if (stopped_) break;
+        if (Task due; takeDue(due)) {
+            lock.unlock();
+            due();
             due = Task{};
             lock.lock();
+        } else if (hasPosted) {
+            continue;  // time has passed, and more may have been posted
         } else if (timers_.empty()) {
             changed_.wait(lock);
         } else {

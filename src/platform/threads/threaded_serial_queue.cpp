@@ -3,6 +3,7 @@
 #include <condition_variable>
 #include <cstddef>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -13,6 +14,12 @@ struct ThreadedSerialQueueFactory::Census {
     std::mutex mutex;
     std::condition_variable changed;
     int threads = 0;
+
+    void add(int more) {
+        const std::lock_guard lock(mutex);
+        threads += more;
+        changed.notify_all();
+    }
 };
 
 class ThreadedSerialQueueFactory::Queue : public SerialQueue {
@@ -35,7 +42,7 @@ class ThreadedSerialQueueFactory::Queue : public SerialQueue {
         {
             const std::lock_guard lock(shared_->mutex);
             shared_->waiting.push_back(std::move(task));
-            if (!std::exchange(shared_->started, true)) start();
+            if (!shared_->started) shared_->started = start();
         }
         // Not under the lock, which the thread would wake up only to wait for.
         shared_->changed.notify_one();
@@ -50,18 +57,21 @@ class ThreadedSerialQueueFactory::Queue : public SerialQueue {
         bool closed = false;
     };
 
-    void start() {
-        {
-            const std::lock_guard lock(census_->mutex);
-            ++census_->threads;
+    /// False when the system has no thread to give: what waits then waits for the next submission,
+    /// which tries again.
+    bool start() {
+        census_->add(1);
+        try {
+            std::thread([shared = shared_, census = census_, label = label_, role = role_] {
+                if (role) role(label);
+                run(*shared);
+                census->add(-1);
+            }).detach();
+        } catch (const std::system_error&) {
+            census_->add(-1);
+            return false;
         }
-        std::thread([shared = shared_, census = census_, label = label_, role = role_] {
-            if (role) role(label);
-            run(*shared);
-            const std::lock_guard lock(census->mutex);
-            --census->threads;
-            census->changed.notify_all();
-        }).detach();
+        return true;
     }
 
     static void run(Shared& shared) {

@@ -92,6 +92,7 @@ void CoreActivityView::show(std::span<const double> usage) {
         usage_.assign(usage.begin(), usage.end());
         updateGeometry();
         update();
+        announceValue();
         return;
     }
     const auto grid = gridFor(width());

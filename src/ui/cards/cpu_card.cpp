@@ -101,8 +101,9 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     body().addLayout(activity);
     const bool hasDashedSymbol = versions.isOperatingSystemAtLeast(12, 0, 0);
     processes_ = makeChild<ProcessMiniListView>(
-        this, QStringLiteral("Top CPU Processes"), ProcessMiniList::Metric::cpu, processRows,
-        hasDashedSymbol ? QStringLiteral("app.dashed") : QStringLiteral("app"));
+        this,
+        ProcessMiniList{QStringLiteral("Top CPU Processes"), {}, ProcessMiniList::Metric::cpu},
+        processRows, hasDashedSymbol ? QStringLiteral("app.dashed") : QStringLiteral("app"));
     body().addWidget(processes_);
     body().addStretch();
 }

@@ -39,14 +39,15 @@ QString ProcessMiniList::value(const ProcessStats& process, Metric metric) {
     return Formatters::fixed(process.cpuPercent, 1) + u'%';
 }
 
-ProcessMiniListView::ProcessMiniListView(QString title, ProcessMiniList::Metric metric,
-                                         std::size_t rowLimit, QString symbol, QWidget* parent)
+ProcessMiniListView::ProcessMiniListView(const ProcessMiniList& list, std::size_t rowLimit,
+                                         QString symbol, QWidget* parent)
     : PaintedView(parent),
-      title_(std::move(title)),
-      metric_(metric),
+      title_(list.title),
+      metric_(list.metric),
       rowLimit_(rowLimit),
       symbol_(std::move(symbol)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    show(list.processes);
 }
 
 void ProcessMiniListView::show(std::span<const ProcessStats> processes) {

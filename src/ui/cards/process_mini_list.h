@@ -27,9 +27,10 @@ struct ProcessMiniList {
 class ProcessMiniListView : public PaintedView {
   public:
     /// `symbol` stands before each row.
-    ProcessMiniListView(QString title, ProcessMiniList::Metric metric, std::size_t rowLimit,
-                        QString symbol, QWidget* parent = nullptr);
+    ProcessMiniListView(const ProcessMiniList& list, std::size_t rowLimit, QString symbol,
+                        QWidget* parent = nullptr);
 
+    /// Shows other processes under the same title.
     void show(std::span<const ProcessStats> processes);
     std::size_t rowLimit() const { return rowLimit_; }
     std::size_t rowCount() const { return rows_.size(); }

@@ -57,7 +57,6 @@ QSize CardHeaderView::minimumSizeHint() const {
 void CardHeaderView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setLayoutDirection(layoutDirection());
     const ColorScheme scheme = colorScheme(*this);
     const double side = Typography::scaled(iconFrame);
     const QRectF frame = Pixels::snapped(painter, {0, (height() - side) / 2, side, side});

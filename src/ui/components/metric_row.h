@@ -18,7 +18,7 @@ struct MetricRow {
     bool operator==(const MetricRow&) const = default;
 };
 
-/// Where the parts of a row lie, for a right-to-left layout mirrored by the view.
+/// Where the leading parts of a row lie.
 struct MetricRowGeometry {
     std::optional<QRectF> dot;
     double labelLeft = 0;

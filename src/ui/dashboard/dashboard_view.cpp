@@ -26,6 +26,18 @@ constexpr int footerSpacing = 4;
 constexpr double headerBreakpoint = 900;
 constexpr double footerBreakpoint = 720;
 
+/// Morning and afternoon for the parts of the day in words that some locales ask for: the toolkit
+/// knows no such letter and would spell a "B".
+QString withPlainDayParts(const QString& format) {
+    QString plain;
+    bool isQuoted = false;
+    for (const QChar c : format) {
+        if (c == u'\'') isQuoted = !isQuoted;
+        plain += c == u'B' && !isQuoted ? QStringLiteral("AP") : QString(c);
+    }
+    return plain;
+}
+
 }  // namespace
 
 QString lastUpdateText(Timestamp timestamp, const QLocale& locale) {
@@ -37,8 +49,7 @@ QString lastUpdateText(Timestamp timestamp, const QLocale& locale) {
     static const QRegularExpression zone(QStringLiteral("('[^']*')|,?\\s*[(\\[]?t[)\\]]?"));
     QString format = locale.timeFormat(QLocale::LongFormat);
     format.replace(zone, QStringLiteral("\\1"));
-    // The part of the day in words, which some locales ask for and the toolkit would spell "B".
-    format.replace(u'B', QStringLiteral("AP"));
+    format = withPlainDayParts(format);
     const auto milliseconds =
         std::chrono::duration_cast<std::chrono::milliseconds>(timestamp.time_since_epoch());
     const QTime time = QDateTime::fromMSecsSinceEpoch(milliseconds.count()).time();
@@ -127,7 +138,8 @@ void DashboardView::observe() {
 void DashboardView::show(const DashboardState& state) {
     cpuCard_->show(CPUCard::of(state));
     lastUpdate_->show(lastUpdateText(state.snapshot.timestamp, locale()));
-    if (!hasShownLiveData_ && state.revisions.cpu > 0) {
+    const bool isOnScreen = isVisible() && !window()->isMinimized();
+    if (!hasShownLiveData_ && isOnScreen && state.revisions.cpu > 0) {
         hasShownLiveData_ = true;
         reportFirstLiveFrame();
     }

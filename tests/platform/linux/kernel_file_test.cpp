@@ -19,6 +19,14 @@ class KernelFileTest : public testing::Test {
     KernelFile file{tree.roots().proc / "stat"};
 };
 
+TEST(ReadKernelFile, ReadsListsThatComeAPageAtATimeToTheirEnd) {
+    // The kernel hands over a page's worth of such a list at most, however large the buffer.
+    const auto maps = readKernelFile("/proc/self/smaps");
+    ASSERT_TRUE(maps);
+    EXPECT_GT(maps->size(), 8192u);
+    EXPECT_NE(maps->find("[stack]"), std::string::npos) << "near the end of the list";
+}
+
 TEST_F(KernelFileTest, IsReadFromItsStartEachTime) {
     tree.proc("stat", "first");
     EXPECT_EQ(file.read(), "first");

@@ -86,6 +86,16 @@ TEST_F(ThreadedMainLoopTest, DoesNotRunACancelledTimer) {
     EXPECT_THAT(ran, testing::IsEmpty());
 }
 
+TEST_F(ThreadedMainLoopTest, LetsAPostedTaskCancelATimerThatIsDue) {
+    const auto timer = loop.runAfter(0ns, note(1));
+    loop.post([&] {
+        loop.cancel(timer);
+        loop.runAfter(0ns, stop());
+    });
+    loop.run();
+    EXPECT_TRUE(ran.empty());
+}
+
 TEST_F(ThreadedMainLoopTest, LetsACancelledTaskCallTheLoopAsItGoes) {
     struct PostsWhenGone {
         ThreadedMainLoop& told;

@@ -1,0 +1,29 @@
+#include <gtest/gtest.h>
+
+#include "sampling/wound_world.h"
+
+namespace vantor {
+namespace {
+
+TEST(SystemMonitor, EndSkipsTheQueuedReadingsEvenWhileAnotherOneKeepsTheSampler) {
+    WoundWorld world;
+    world.providersRun = false;
+    world.start();
+    ASSERT_EQ(world.waiting("memory"), 1u);
+    // The processor's reading is under way when the monitor goes, and keeps the sampler until the
+    // other queues have had their turn.
+    std::size_t answersOfOthers = 0;
+    world.machine->hostProcessors().onTotalTicks = [&] {
+        world.monitor.reset();
+        for (const char* provider : {"memory", "network", "system"}) {
+            world.queues->runNext(queueLabel(provider));
+        }
+        answersOfOthers = world.loop->runPosted();
+    };
+    world.queues->runNext(queueLabel("cpu"));
+    EXPECT_EQ(world.monitor, nullptr);
+    EXPECT_EQ(answersOfOthers, 0u);
+}
+
+}  // namespace
+}  // namespace vantor
