@@ -1,6 +1,7 @@
 #include "app/qt_application_appearance.h"
 
 #include <QApplication>
+#include <QPalette>
 
 #include "ui/theme.h"
 
@@ -33,10 +34,8 @@ QPalette paletteOf(const Tones& tones) {
 
 }  // namespace
 
-QtApplicationAppearance::QtApplicationAppearance() : systemPalette_(QApplication::palette()) {}
-
 void QtApplicationAppearance::followSystem() {
-    QApplication::setPalette(systemPalette_);
+    QApplication::setPalette(QPalette());  // no palette of ours: the desktop's, now and later
 }
 
 void QtApplicationAppearance::forceDark() {

@@ -1,24 +1,16 @@
 #pragma once
 
-#include <QPalette>
-
 #include "settings/application_appearance.h"
 
 namespace vantor {
 
 /// Dresses the whole program: the palette tells every widget which colour scheme to paint in, ours
-/// and the toolkit's own menus and dialogs alike.
+/// and the toolkit's own menus and dialogs alike. Needs the application object.
 class QtApplicationAppearance : public ApplicationAppearance {
   public:
-    /// Remembers the palette that the desktop has given the program. Needs the application object.
-    QtApplicationAppearance();
-
-    void followSystem() override;
+    void followSystem() override;  ///< from now on, also when the desktop changes its own
     void forceDark() override;
     void forceLight() override;
-
-  private:
-    QPalette systemPalette_;
 };
 
 }  // namespace vantor

@@ -56,8 +56,9 @@ TEST_F(AppearanceTest, BothMarkWhatIsSelectedInOurBlue) {
 }
 
 TEST_F(AppearanceTest, FollowingTheSystemBringsItsOwnPaletteBack) {
+    QApplication::setPalette(QPalette());  // nobody's wish: what the desktop gives
     const QPalette before = QApplication::palette();
-    appearance.forceLight();
+    appearance.forceDark();
     ASSERT_NE(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));
     appearance.followSystem();
     for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text,

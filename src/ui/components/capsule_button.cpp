@@ -98,7 +98,7 @@ void CapsuleButtonView::focusInEvent(QFocusEvent* event) {
 void CapsuleButtonView::keyPressEvent(QKeyEvent* event) {
     showsFocus_ = true;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
+        if (!event->isAutoRepeat()) click();
         return;
     }
     QAbstractButton::keyPressEvent(event);
