@@ -13,9 +13,12 @@ DashboardWindow::DashboardWindow(DashboardView::Environment environment)
     setWindowTitle(QStringLiteral("Vantor"));
     setWindowIcon(QIcon(QStringLiteral(":/vantor.svg")));
     setMinimumSize(smallestSize);
-    // On a screen that is smaller than the default, as much of it as there is.
-    const QSize frame(16, 48);  // what a window manager's frame may add
-    resize(defaultSize.boundedTo(screen()->availableSize() - frame).expandedTo(smallestSize));
+    // On a screen that is smaller than the default, as much of it as a window manager's frame
+    // leaves.
+    const QSize room = screen()->availableSize();
+    const bool fits = defaultSize.boundedTo(room) == defaultSize;
+    resize((fits ? defaultSize : defaultSize.boundedTo(room - QSize(16, 48)))
+               .expandedTo(smallestSize));
     // The view paints every pixel; clearing the window first would be work for nothing.
     setAttribute(Qt::WA_NoSystemBackground);
     auto* layout = makeLayout<QVBoxLayout>(this);
