@@ -14,23 +14,9 @@
 #include "platform/simulated/manual_serial_queue.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/system_monitor.h"
+#include "support/kept_defaults.h"
 
 namespace vantor {
-
-/// Preferences that last as long as the test.
-class MemoryDefaults : public DefaultsStore {
-  public:
-    std::optional<Value> value(std::string_view key) const override {
-        const auto found = values_.find(key);
-        return found == values_.end() ? std::nullopt : std::optional(found->second);
-    }
-    void setValue(std::string_view key, const Value& value) override {
-        values_.insert_or_assign(std::string(key), value);
-    }
-
-  private:
-    std::map<std::string, Value, std::less<>> values_;
-};
 
 /// A program without a window has no appearance to change.
 class NoAppearance : public ApplicationAppearance {
@@ -41,7 +27,7 @@ class NoAppearance : public ApplicationAppearance {
 };
 
 inline std::shared_ptr<AppSettings> makeSettings() {
-    return std::make_shared<AppSettings>(std::make_shared<MemoryDefaults>(),
+    return std::make_shared<AppSettings>(std::make_shared<KeptDefaults>(),
                                          std::make_shared<NoAppearance>());
 }
 

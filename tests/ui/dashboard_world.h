@@ -13,24 +13,12 @@
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
+#include "support/kept_defaults.h"
 #include "ui/app_metadata.h"
 #include "ui/dashboard/dashboard_view.h"
 #include "ui/rendering.h"
 
 namespace vantor {
-
-/// Preferences that last as long as the test.
-class KeptDefaults : public DefaultsStore {
-  public:
-    std::optional<Value> value(std::string_view key) const override {
-        const auto found = values.find(key);
-        return found == values.end() ? std::nullopt : std::optional(found->second);
-    }
-    void setValue(std::string_view key, const Value& value) override {
-        values.insert_or_assign(std::string(key), value);
-    }
-    std::map<std::string, Value, std::less<>> values;
-};
 
 /// Puts the palettes of the tests on the whole program.
 class TestAppearance : public ApplicationAppearance {
