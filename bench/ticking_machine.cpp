@@ -31,10 +31,16 @@ class TickingProcessors : public HostProcessors {
 
 class TickingMachine : public Machine {
   public:
+    DynamicStore& dynamicStore() override { return native_->dynamicStore(); }
+    HostMemory& hostMemory() override { return native_->hostMemory(); }
     HostProcessors& hostProcessors() override { return processors_; }
     KernelValues& kernelValues() override { return native_->kernelValues(); }
     LoadAverages& loadAverages() override { return native_->loadAverages(); }
+    MountedVolumes& mountedVolumes() override { return native_->mountedVolumes(); }
+    NetworkInterfaces& networkInterfaces() override { return native_->networkInterfaces(); }
+    PowerSources& powerSources() override { return native_->powerSources(); }
     ProcessInfo& processInfo() override { return native_->processInfo(); }
+    ProcessTable& processTable() override { return native_->processTable(); }
     WallClock& wallClock() override { return native_->wallClock(); }
     const PlatformWords& words() const override { return native_->words(); }
 

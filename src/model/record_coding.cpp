@@ -30,6 +30,8 @@ bool encodeValue(const T& value, json& out) {
     if constexpr (std::is_floating_point_v<T>) {
         if (!std::isfinite(value)) return false;
         out = value;
+    } else if constexpr (std::is_same_v<T, SharedText>) {
+        out = value.string();
     } else if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, std::string>) {
         out = value;
     } else if constexpr (std::is_same_v<T, Timestamp>) {
@@ -82,9 +84,9 @@ bool decodeValue(const json& in, T& value) {
         value = in.get<T>();
     } else if constexpr (std::is_integral_v<T>) {
         return decodeInteger(in, value);
-    } else if constexpr (std::is_same_v<T, std::string>) {
+    } else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, SharedText>) {
         if (!in.is_string()) return false;
-        value = in.get<std::string>();
+        value = T{in.get<std::string>()};
     } else if constexpr (std::is_same_v<T, Timestamp>) {
         const auto timestamp =
             in.is_string() ? decodeTimestamp(in.get_ref<const std::string&>()) : std::nullopt;

@@ -1,10 +1,16 @@
 #pragma once
 
+#include "platform/dynamic_store.h"
+#include "platform/host_memory.h"
 #include "platform/host_processors.h"
 #include "platform/kernel_values.h"
 #include "platform/load_averages.h"
+#include "platform/mounted_volumes.h"
+#include "platform/network_interfaces.h"
 #include "platform/platform_words.h"
+#include "platform/power_sources.h"
 #include "platform/process_info.h"
+#include "platform/process_table.h"
 #include "platform/wall_clock.h"
 
 namespace vantor {
@@ -15,10 +21,16 @@ class Machine {
   public:
     virtual ~Machine() = default;
 
+    virtual DynamicStore& dynamicStore() = 0;
+    virtual HostMemory& hostMemory() = 0;
     virtual HostProcessors& hostProcessors() = 0;
     virtual KernelValues& kernelValues() = 0;
     virtual LoadAverages& loadAverages() = 0;
+    virtual MountedVolumes& mountedVolumes() = 0;
+    virtual NetworkInterfaces& networkInterfaces() = 0;
+    virtual PowerSources& powerSources() = 0;
     virtual ProcessInfo& processInfo() = 0;
+    virtual ProcessTable& processTable() = 0;
     virtual WallClock& wallClock() = 0;
     virtual const PlatformWords& words() const = 0;
 };

@@ -27,7 +27,7 @@ auto SystemMonitor::deliverTo(Receive receive, std::uint64_t generation) {
 
 void SystemMonitor::requestFastProviders(bool force, std::uint64_t generation) {
     const double interval = fastInterval(settings_->refreshInterval());
-    // The cpu record is the reader's own: it is copied before it leaves the provider's queue.
+    // Records that are the reader's own are copied before they leave the provider's queue.
     sampler().requestCPU(interval, force,
                          [deliver = deliverTo<std::optional<CPUStats>>(
                               &SystemMonitor::receiveCPU, generation)](const CPUStats* stats) {
@@ -38,7 +38,10 @@ void SystemMonitor::requestFastProviders(bool force, std::uint64_t generation) {
         deliverTo<std::optional<MemoryStats>>(&SystemMonitor::receiveMemory, generation));
     sampler().requestNetwork(
         settings_->includePointToPointInterfaces(), interval, force,
-        deliverTo<std::optional<NetworkStats>>(&SystemMonitor::receiveNetwork, generation));
+        [deliver = deliverTo<std::optional<NetworkStats>>(&SystemMonitor::receiveNetwork,
+                                                          generation)](const NetworkStats* stats) {
+            deliver(stats ? std::optional<NetworkStats>(*stats) : std::nullopt);
+        });
     sampler().requestSystemInfo(
         systemInfoInterval(settings_->refreshInterval()), force,
         deliverTo<SystemInfoStats>(&SystemMonitor::receiveSystemInfo, generation));

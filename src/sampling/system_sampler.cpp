@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "model/system_snapshot.h"
-
 namespace vantor {
 
 const std::vector<std::string_view>& SystemSampler::queueLabels() {
@@ -25,7 +23,14 @@ std::shared_ptr<SystemSampler> SystemSampler::make(std::shared_ptr<Machine> mach
 }
 
 SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactory& queues)
-    : machine_(std::move(machine)), cpuReader_(machine_) {
+    : machine_(std::move(machine)),
+      cpuReader_(machine_),
+      memoryReader_(machine_),
+      networkReader_(machine_),
+      systemInfoReader_(machine_),
+      processReader_(machine_),
+      storageReader_(machine_),
+      powerReader_(machine_) {
     for (const std::string_view label : queueLabels()) {
         providers_.push_back({queues.makeQueue(label), nullptr});
     }
@@ -73,28 +78,37 @@ void SystemSampler::requestCPU(double minimumInterval, bool force,
 void SystemSampler::requestMemory(double minimumInterval, bool force,
                                   Completion<std::optional<MemoryStats>> completion) {
     schedule(
-        memory, minimumInterval, force, [](SystemSampler&) { return std::optional<MemoryStats>{}; },
+        memory, minimumInterval, force,
+        [](SystemSampler& sampler) { return sampler.memoryReader_.read(); }, std::move(completion));
+}
+
+void SystemSampler::requestNetwork(bool includePointToPointInterfaces, double minimumInterval,
+                                   bool force, Completion<const NetworkStats*> completion) {
+    schedule(
+        network, minimumInterval, force,
+        [includePointToPointInterfaces](SystemSampler& sampler) {
+            // Not the instant of the gate: rates are measured from reading to reading.
+            const double uptime = sampler.machine_->processInfo().systemUptime();
+            return sampler.networkReader_.read(includePointToPointInterfaces, uptime);
+        },
         std::move(completion));
 }
 
-void SystemSampler::requestNetwork(bool /*includePointToPointInterfaces*/, double minimumInterval,
-                                   bool force, Completion<std::optional<NetworkStats>> completion) {
-    schedule(
-        network, minimumInterval, force,
-        [](SystemSampler&) { return std::optional<NetworkStats>{}; }, std::move(completion));
-}
-
 void SystemSampler::requestSystemInfo(double minimumInterval, bool force,
-                                      Completion<SystemInfoStats> completion) {
+                                      Completion<const SystemInfoStats&> completion) {
     schedule(
         system, minimumInterval, force,
-        [](SystemSampler&) { return SystemSnapshot::empty().system; }, std::move(completion));
+        [](SystemSampler& sampler) -> const SystemInfoStats& {
+            return sampler.systemInfoReader_.read();
+        },
+        std::move(completion));
 }
 
 void SystemSampler::requestProcesses(double minimumInterval, bool force,
                                      Completion<ProcessSample> completion) {
     schedule(
-        processes, minimumInterval, force, [](SystemSampler&) { return ProcessSample::empty(); },
+        processes, minimumInterval, force,
+        [](SystemSampler& sampler) { return sampler.processReader_.read(); },
         std::move(completion));
 }
 
@@ -110,21 +124,28 @@ void SystemSampler::requestVolumes(double minimumInterval, bool force,
                                    Completion<std::optional<std::vector<VolumeStats>>> completion) {
     schedule(
         storage, minimumInterval, force,
-        [](SystemSampler&) { return std::optional<std::vector<VolumeStats>>{}; },
+        [](SystemSampler& sampler) { return sampler.storageReader_.read(); },
         std::move(completion));
 }
 
 void SystemSampler::requestPower(double minimumInterval, bool force,
                                  Completion<PowerReadResult> completion) {
     schedule(
-        power, minimumInterval, force, [](SystemSampler&) { return PowerReadResult::failure(); },
-        std::move(completion));
+        power, minimumInterval, force,
+        [](SystemSampler& sampler) { return sampler.powerReader_.read(); }, std::move(completion));
+}
+
+template <class Reset>
+void SystemSampler::submitReset(ProviderIndex provider, Reset reset) {
+    providers_[provider].queue->submit([weak = weak_from_this(), reset] {
+        if (const auto sampler = weak.lock()) reset(*sampler);
+    });
 }
 
 void SystemSampler::resetDeltaBaselines() {
-    providers_[cpu].queue->submit([weak = weak_from_this()] {
-        if (const auto sampler = weak.lock()) sampler->cpuReader_.resetDeltas();
-    });
+    submitReset(cpu, [](SystemSampler& sampler) { sampler.cpuReader_.resetDeltas(); });
+    submitReset(network, [](SystemSampler& sampler) { sampler.networkReader_.resetDeltas(); });
+    submitReset(processes, [](SystemSampler& sampler) { sampler.processReader_.resetDeltas(); });
 }
 
 std::vector<std::shared_ptr<const ProviderGate>> SystemSampler::gates() const {

@@ -6,16 +6,16 @@
 #include <vector>
 
 #include "model/gpu_stats.h"
-#include "model/memory_stats.h"
-#include "model/network_stats.h"
-#include "model/power_read_result.h"
-#include "model/process_sample.h"
-#include "model/system_info_stats.h"
-#include "model/volume_stats.h"
 #include "platform/machine.h"
 #include "platform/serial_queue.h"
 #include "platform/unique_function.h"
 #include "probes/cpu_reader.h"
+#include "probes/memory_reader.h"
+#include "probes/network_reader.h"
+#include "probes/power_reader.h"
+#include "probes/process_reader.h"
+#include "probes/storage_reader.h"
+#include "probes/system_info_reader.h"
 #include "sampling/provider_gate.h"
 
 namespace vantor {
@@ -41,14 +41,15 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     SystemSampler& operator=(const SystemSampler&) = delete;
     ~SystemSampler();
 
-    /// The record is null when there is none this time, and holds for the length of the call.
+    /// A record given by pointer is null when there is none this time; one given by pointer or
+    /// reference is the reader's own and holds for the length of the call.
     void requestCPU(double minimumInterval, bool force, Completion<const CPUStats*> completion);
     void requestMemory(double minimumInterval, bool force,
                        Completion<std::optional<MemoryStats>> completion);
     void requestNetwork(bool includePointToPointInterfaces, double minimumInterval, bool force,
-                        Completion<std::optional<NetworkStats>> completion);
+                        Completion<const NetworkStats*> completion);
     void requestSystemInfo(double minimumInterval, bool force,
-                           Completion<SystemInfoStats> completion);
+                           Completion<const SystemInfoStats&> completion);
     void requestProcesses(double minimumInterval, bool force, Completion<ProcessSample> completion);
     void requestGPUs(double minimumInterval, bool force,
                      Completion<std::optional<std::vector<GPUStats>>> completion);
@@ -79,10 +80,19 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     template <class Operation, class Answer>
     void schedule(ProviderIndex provider, double minimumInterval, bool force, Operation operation,
                   Answer completion);
+    template <class Reset>
+    void submitReset(ProviderIndex provider, Reset reset);
 
     std::shared_ptr<Machine> machine_;
     std::vector<Provider> providers_;
-    CPUReader cpuReader_;  // touched on the cpu queue only
+    // Each is touched on its own provider's queue only.
+    CPUReader cpuReader_;
+    MemoryReader memoryReader_;
+    NetworkReader networkReader_;
+    SystemInfoReader systemInfoReader_;
+    ProcessReader processReader_;
+    StorageReader storageReader_;
+    PowerReader powerReader_;
 };
 
 }  // namespace vantor

@@ -126,8 +126,8 @@ TEST(Equality, OfProcessesComparesEveryField) {
     expectEveryChangeToCount<R>(filled::process(),
                                 {
                                     {"pid", [](R& r) { ++r.pid; }},
-                                    {"name", [](R& r) { r.name += "?"; }},
-                                    {"command", [](R& r) { r.command += "?"; }},
+                                    {"name", [](R& r) { r.name = "?"; }},
+                                    {"command", [](R& r) { r.command = "?"; }},
                                     {"cpuPercent", [](R& r) { r.cpuPercent = 0; }},
                                     {"residentMemoryBytes", [](R& r) { ++r.residentMemoryBytes; }},
                                 });

@@ -49,7 +49,7 @@ class RecordedMachine {
     RecordedMachine& operator=(const RecordedMachine&) = delete;
     ~RecordedMachine() { std::filesystem::remove_all(root_); }
 
-    LinuxRoots roots() const { return {root_, root_}; }
+    LinuxRoots roots() const { return {root_, root_, root_, root_}; }
 
     void step() {
         ++ticks_;

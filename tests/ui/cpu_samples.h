@@ -31,7 +31,7 @@ inline ProcessStats process(std::int32_t pid, std::string name, double cpuPercen
     ProcessStats stats;
     stats.pid = pid;
     stats.name = std::move(name);
-    stats.command = "/usr/bin/" + stats.name;
+    stats.command = "/usr/bin/" + stats.name.string();
     stats.cpuPercent = cpuPercent;
     stats.residentMemoryBytes = 1'572'864;
     return stats;

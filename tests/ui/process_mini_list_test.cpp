@@ -92,7 +92,7 @@ TEST_F(ProcessMiniListTest, KeepsItsHeightHoweverManyRowsItShows) {
 }
 
 TEST_F(ProcessMiniListTest, AVeryLongNameIsCutBeforeTheValue) {
-    processes[0].name.assign(4000, 'W');
+    processes[0].name = std::string(4000, 'W');
     view.show(processes);
     const QImage longName = drawn();
     processes[0].name = "W";
@@ -106,7 +106,7 @@ TEST_F(ProcessMiniListTest, ANameOfControlCharactersAndBrokenTextDoesNotFail) {
     processes[0].name = "line\nbreak\ttab\x01\x7f";
     processes[1].name = "\xff\xfe broken";
     processes[2].name = std::string(4000, '\n');
-    processes[3].name.clear();
+    processes[3].name = "";
     processes[4].name = "\xe2\x80\xae reversed \xf0\x9f\x9a\x80";
     view.show(processes);
     const QImage image = drawn();

@@ -1,9 +1,16 @@
 #pragma once
 
+#include "platform/linux/linux_calls.h"
+#include "platform/linux/linux_dynamic_store.h"
+#include "platform/linux/linux_host_memory.h"
 #include "platform/linux/linux_host_processors.h"
 #include "platform/linux/linux_kernel_values.h"
 #include "platform/linux/linux_load_averages.h"
+#include "platform/linux/linux_mounted_volumes.h"
+#include "platform/linux/linux_network_interfaces.h"
+#include "platform/linux/linux_power_sources.h"
 #include "platform/linux/linux_process_info.h"
+#include "platform/linux/linux_process_table.h"
 #include "platform/linux/linux_roots.h"
 #include "platform/machine.h"
 
@@ -12,13 +19,29 @@ namespace vantor {
 /// The machine that the program runs on, or one recorded in a folder.
 class LinuxMachine : public Machine {
   public:
-    explicit LinuxMachine(const LinuxRoots& roots = {})
-        : hostProcessors_(roots), kernelValues_(roots), loadAverages_(roots), processInfo_(roots) {}
+    explicit LinuxMachine(const LinuxRoots& roots = {},
+                          const LinuxCalls& calls = LinuxCalls::live())
+        : dynamicStore_(roots),
+          hostMemory_(roots),
+          hostProcessors_(roots),
+          kernelValues_(roots),
+          loadAverages_(roots),
+          mountedVolumes_(roots, calls.fileSystems),
+          networkInterfaces_(calls.links),
+          powerSources_(roots),
+          processInfo_(roots),
+          processTable_(roots, calls.processClocks) {}
 
+    DynamicStore& dynamicStore() override { return dynamicStore_; }
+    HostMemory& hostMemory() override { return hostMemory_; }
     HostProcessors& hostProcessors() override { return hostProcessors_; }
     KernelValues& kernelValues() override { return kernelValues_; }
     LoadAverages& loadAverages() override { return loadAverages_; }
+    MountedVolumes& mountedVolumes() override { return mountedVolumes_; }
+    NetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
+    PowerSources& powerSources() override { return powerSources_; }
     ProcessInfo& processInfo() override { return processInfo_; }
+    ProcessTable& processTable() override { return processTable_; }
     WallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return words_; }
 
@@ -30,12 +53,18 @@ class LinuxMachine : public Machine {
         }
     };
 
+    LinuxDynamicStore dynamicStore_;
+    LinuxHostMemory hostMemory_;
     LinuxHostProcessors hostProcessors_;
     LinuxKernelValues kernelValues_;
     LinuxLoadAverages loadAverages_;
+    LinuxMountedVolumes mountedVolumes_;
+    LinuxNetworkInterfaces networkInterfaces_;
+    LinuxPowerSources powerSources_;
     LinuxProcessInfo processInfo_;
+    LinuxProcessTable processTable_;
     SystemWallClock wallClock_;
-    PlatformWords words_{"Live Linux performance intelligence"};
+    PlatformWords words_{"Live Linux performance intelligence", "Unknown Computer"};
 };
 
 }  // namespace vantor

@@ -25,4 +25,32 @@ std::int64_t LinuxProcessInfo::activeProcessorCount() const {
     return std::max(1L, ::sysconf(_SC_NPROCESSORS_ONLN));
 }
 
+double LinuxProcessInfo::secondsSinceBoot() const {
+    return systemUptime();
+}
+
+std::uint64_t LinuxProcessInfo::physicalMemory() const {
+    return 0;
+}
+
+void LinuxProcessInfo::hostName(std::string& name) const {
+    name.clear();
+}
+
+ProcessInfo::Version LinuxProcessInfo::operatingSystemVersion() const {
+    return {};
+}
+
+std::optional<std::string> LinuxProcessInfo::operatingSystemName() const {
+    return std::nullopt;
+}
+
+int LinuxProcessInfo::thermalState() {
+    return -1;
+}
+
+bool LinuxProcessInfo::isLowPowerModeEnabled() {
+    return false;
+}
+
 }  // namespace vantor

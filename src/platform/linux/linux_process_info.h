@@ -11,9 +11,16 @@ class LinuxProcessInfo : public ProcessInfo {
     explicit LinuxProcessInfo(LinuxRoots roots) : roots_(std::move(roots)) {}
 
     double systemUptime() const override;
+    double secondsSinceBoot() const override;
     std::int64_t processorCount() const override;
     std::int64_t activeProcessorCount() const override;
+    std::uint64_t physicalMemory() const override;
+    void hostName(std::string& name) const override;
+    Version operatingSystemVersion() const override;
+    std::optional<std::string> operatingSystemName() const override;
     bool isOperatingSystemAtLeast(int, int, int) const override { return true; }
+    int thermalState() override;
+    bool isLowPowerModeEnabled() override;
 
   private:
     LinuxRoots roots_;

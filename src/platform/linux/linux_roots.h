@@ -4,10 +4,12 @@
 
 namespace vantor {
 
-/// Where the kernel's trees are mounted. A recorded machine has its own.
+/// Where the kernel's trees and the system's own files are. A recorded machine has its own.
 struct LinuxRoots {
     std::filesystem::path proc = "/proc";
     std::filesystem::path sys = "/sys";
+    std::filesystem::path etc = "/etc";
+    std::filesystem::path run = "/run";
 };
 
 }  // namespace vantor

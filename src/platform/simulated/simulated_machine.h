@@ -6,8 +6,14 @@
 #include <vector>
 
 #include "platform/machine.h"
+#include "platform/simulated/simulated_dynamic_store.h"
+#include "platform/simulated/simulated_host_memory.h"
 #include "platform/simulated/simulated_host_processors.h"
 #include "platform/simulated/simulated_kernel_values.h"
+#include "platform/simulated/simulated_mounted_volumes.h"
+#include "platform/simulated/simulated_network_interfaces.h"
+#include "platform/simulated/simulated_power_sources.h"
+#include "platform/simulated/simulated_process_table.h"
 #include "platform/simulated/wound_clock.h"
 
 namespace vantor {
@@ -30,11 +36,23 @@ class SimulatedProcessInfo : public ProcessInfo {
     std::int64_t processors = 4;
     std::int64_t activeProcessors = 4;
     std::array<int, 3> version{14, 0, 0};
+    std::optional<std::string> systemName;
+    std::string host = "simulated.local";
+    std::uint64_t memory = std::uint64_t{16} << 30;
+    int thermal = 0;
+    bool lowPowerMode = false;
 
     double systemUptime() const override { return clock_->seconds(); }
+    double secondsSinceBoot() const override { return clock_->seconds(); }
     std::int64_t processorCount() const override { return processors; }
     std::int64_t activeProcessorCount() const override { return activeProcessors; }
+    std::uint64_t physicalMemory() const override { return memory; }
+    void hostName(std::string& name) const override { name = host; }
+    Version operatingSystemVersion() const override { return {version[0], version[1], version[2]}; }
+    std::optional<std::string> operatingSystemName() const override { return systemName; }
     bool isOperatingSystemAtLeast(int major, int minor, int patch) const override;
+    int thermalState() override { return thermal; }
+    bool isLowPowerModeEnabled() override { return lowPowerMode; }
 
   private:
     std::shared_ptr<const WoundClock> clock_;
@@ -66,21 +84,33 @@ class SimulatedMachine : public Machine {
 
     const std::shared_ptr<WoundClock>& clock() const { return clock_; }
 
+    SimulatedDynamicStore& dynamicStore() override { return dynamicStore_; }
+    SimulatedHostMemory& hostMemory() override { return hostMemory_; }
     SimulatedHostProcessors& hostProcessors() override { return hostProcessors_; }
     SimulatedKernelValues& kernelValues() override { return kernelValues_; }
     SimulatedLoadAverages& loadAverages() override { return loadAverages_; }
+    SimulatedMountedVolumes& mountedVolumes() override { return mountedVolumes_; }
+    SimulatedNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
+    SimulatedPowerSources& powerSources() override { return powerSources_; }
     SimulatedProcessInfo& processInfo() override { return processInfo_; }
+    SimulatedProcessTable& processTable() override { return processTable_; }
     SimulatedWallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return words_; }
 
   private:
     std::shared_ptr<WoundClock> clock_;
+    SimulatedDynamicStore dynamicStore_;
+    SimulatedHostMemory hostMemory_;
     SimulatedHostProcessors hostProcessors_;
     SimulatedKernelValues kernelValues_;
     SimulatedLoadAverages loadAverages_;
+    SimulatedMountedVolumes mountedVolumes_;
+    SimulatedNetworkInterfaces networkInterfaces_;
+    SimulatedPowerSources powerSources_;
     SimulatedProcessInfo processInfo_;
+    SimulatedProcessTable processTable_;
     SimulatedWallClock wallClock_;
-    PlatformWords words_{"Live macOS performance intelligence"};
+    PlatformWords words_{"Live macOS performance intelligence", "Unknown Mac"};
 };
 
 }  // namespace vantor

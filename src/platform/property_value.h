@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace vantor {
+
+class PropertyValue;
+struct PropertyEntry;
+
+/// Entries in the order of the platform. Keys that are no text are not there.
+using PropertyDictionary = std::vector<PropertyEntry>;
+
+/// A value of a platform's dictionaries: what people call a property list.
+class PropertyValue {
+  public:
+    using Array = std::vector<PropertyValue>;
+    using Data = std::vector<std::byte>;
+
+    PropertyValue(bool value) : value_(value) {}          // NOLINT(google-explicit-constructor)
+    PropertyValue(std::int64_t value) : value_(value) {}  // NOLINT(google-explicit-constructor)
+    PropertyValue(int value)
+        : value_(std::int64_t{value}) {}            // NOLINT(google-explicit-constructor)
+    PropertyValue(double value) : value_(value) {}  // NOLINT(google-explicit-constructor)
+    PropertyValue(std::string value)
+        : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
+    PropertyValue(const char* value)
+        : value_(std::string(value)) {}  // NOLINT(google-explicit-constructor)
+    explicit PropertyValue(Data value) : value_(std::move(value)) {}
+    explicit PropertyValue(Array value);
+    explicit PropertyValue(PropertyDictionary value);
+
+    /// A whole number, also one that is held as a floating value without a fraction.
+    std::optional<std::int64_t> integer() const;
+    std::optional<bool> boolean() const;
+    /// Null when this is no text, no dictionary.
+    const std::string* text() const { return std::get_if<std::string>(&value_); }
+    const PropertyDictionary* dictionary() const {
+        return std::get_if<PropertyDictionary>(&value_);
+    }
+
+  private:
+    std::variant<bool, std::int64_t, double, std::string, Data, Array, PropertyDictionary> value_;
+};
+
+struct PropertyEntry {
+    std::string key;
+    PropertyValue value;
+};
+
+/// The value under `key`; null when there is none.
+const PropertyValue* find(const PropertyDictionary& dictionary, std::string_view key);
+
+/// The value under `key` where it is of that kind; absent or null otherwise.
+std::optional<std::int64_t> findInteger(const PropertyDictionary& dictionary, std::string_view key);
+std::optional<bool> findBoolean(const PropertyDictionary& dictionary, std::string_view key);
+const std::string* findText(const PropertyDictionary& dictionary, std::string_view key);
+
+}  // namespace vantor

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "model/volume_stats.h"
+#include "platform/machine.h"
+
+namespace vantor {
+
+/// Lists the mounted, visible, local, browsable volumes. One thread at a time.
+class StorageReader {
+  public:
+    explicit StorageReader(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
+
+    /// Absent when no trustworthy list could be made this time, so that a volume does not flicker
+    /// out of sight because a query failed for a moment.
+    std::optional<std::vector<VolumeStats>> read();
+
+  private:
+    std::shared_ptr<Machine> machine_;
+    std::set<std::string> lastEligiblePaths_;  ///< of the last list that was returned
+};
+
+}  // namespace vantor
