@@ -4,29 +4,53 @@
 
 namespace vantor {
 
-bool isUTF8(std::string_view bytes) {
+namespace {
+
+struct Sequence {
+    std::size_t length = 1;  ///< bytes that belong together, at least one
+    bool isWhole = false;
+};
+
+/// What the first bytes are: a whole character, or as many as could have begun one.
+Sequence leadingSequence(std::string_view bytes) {
     const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-    for (std::size_t i = 0; i < bytes.size();) {
-        const unsigned char lead = at(i);
-        if (lead < 0x80) {
-            ++i;
-            continue;
-        }
-        const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-        if (lead < 0xC2 || lead > 0xF4 || i + length > bytes.size()) return false;
-        // The second byte's range shuts out overlong forms, surrogates and too large values.
-        unsigned char lowest = 0x80, highest = 0xBF;
-        if (lead == 0xE0) lowest = 0xA0;
-        if (lead == 0xED) highest = 0x9F;
-        if (lead == 0xF0) lowest = 0x90;
-        if (lead == 0xF4) highest = 0x8F;
-        if (at(i + 1) < lowest || at(i + 1) > highest) return false;
-        for (std::size_t k = 2; k < length; ++k) {
-            if ((at(i + k) & 0xC0) != 0x80) return false;
-        }
-        i += length;
+    const unsigned char lead = at(0);
+    if (lead < 0x80) return {1, true};
+    if (lead < 0xC2 || lead > 0xF4) return {1, false};
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    // The second byte's range shuts out overlong forms, surrogates and too large values.
+    unsigned char lowest = 0x80, highest = 0xBF;
+    if (lead == 0xE0) lowest = 0xA0;
+    if (lead == 0xED) highest = 0x9F;
+    if (lead == 0xF0) lowest = 0x90;
+    if (lead == 0xF4) highest = 0x8F;
+    if (bytes.size() < 2 || at(1) < lowest || at(1) > highest) return {1, false};
+    for (std::size_t k = 2; k < length; ++k) {
+        if (k >= bytes.size() || (at(k) & 0xC0) != 0x80) return {k, false};
+    }
+    return {length, true};
+}
+
+}  // namespace
+
+bool isUTF8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const Sequence sequence = leadingSequence(bytes);
+        if (!sequence.isWhole) return false;
+        bytes.remove_prefix(sequence.length);
     }
     return true;
+}
+
+std::string_view validUTF8(std::string_view bytes, std::string& mended) {
+    if (isUTF8(bytes)) return bytes;
+    mended.clear();
+    while (!bytes.empty()) {
+        const Sequence sequence = leadingSequence(bytes);
+        mended += sequence.isWhole ? bytes.substr(0, sequence.length) : "\xEF\xBF\xBD";
+        bytes.remove_prefix(sequence.length);
+    }
+    return mended;
 }
 
 }  // namespace vantor

@@ -1,21 +1,228 @@
 #include "platform/linux/linux_process_table.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <climits>
+
+#include "platform/linux/process_stat.h"
+
 namespace vantor {
 
-int LinuxProcessTable::listAllPIDs(std::span<std::int32_t>) {
-    return 0;
+namespace {
+
+// A stat line is some 300 bytes; a name has at most 64 of them, kernel workers included.
+constexpr std::size_t fileBufferSize = 4096;
+constexpr double residentPeriod = 5.0;
+constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
+constexpr std::uint64_t microsecondsPerSecond = 1'000'000;
+
+/// "PID/file" relative to /proc, without touching the heap.
+class ProcessPath {
+  public:
+    ProcessPath(std::int32_t pid, std::string_view file) {
+        char* at = std::to_chars(text_.data(), text_.data() + text_.size(), pid).ptr;
+        *at++ = '/';
+        *std::copy(file.begin(), file.end(), at) = '\0';
+    }
+    const char* c_str() const { return text_.data(); }
+
+  private:
+    std::array<char, 32> text_{};
+};
+
+std::uint64_t positive(long value, std::uint64_t otherwise) {
+    return value > 0 ? static_cast<std::uint64_t>(value) : otherwise;
 }
 
-int LinuxProcessTable::taskAllInfo(std::int32_t, TaskAllInfo&) {
-    return 0;
+/// Whether the /proc there is ours: in another one's, our clocks would be those of strangers.
+bool isOwnProc(const FileDescriptor& proc) {
+    std::array<char, 16> text{};
+    const ssize_t count = ::readlinkat(proc.get(), "self", text.data(), text.size());
+    std::int32_t pid = 0;
+    if (count < 1) return false;
+    const char* const end = text.data() + count;
+    const auto [rest, error] = std::from_chars(text.data(), end, pid);
+    return error == std::errc{} && rest == end && pid == ::getpid();
 }
 
-int LinuxProcessTable::path(std::int32_t, std::span<char>) {
-    return 0;
+/// Not all on the same pass: processes seen for the first time together come due one after another.
+double firstResidentPeriod(std::int32_t pid) {
+    return residentPeriod * (1 + pid % 16) / 16;
 }
 
-int LinuxProcessTable::name(std::int32_t, std::span<char>) {
-    return 0;
+}  // namespace
+
+LinuxProcessTable::LinuxProcessTable(const LinuxRoots& roots, std::shared_ptr<ProcessClocks> clocks)
+    : proc_(::open(roots.proc.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
+      clocks_(std::move(clocks)),
+      clocksFit_(isOwnProc(proc_)),
+      census_(roots, clocksFit_ ? clocks_ : nullptr),
+      buffer_(fileBufferSize),
+      pageSize_(positive(::sysconf(_SC_PAGESIZE), 4096)),
+      ticksPerSecond_(positive(::sysconf(_SC_CLK_TCK), 100)) {}
+
+bool LinuxProcessTable::refreshListing() {
+    now_ = clocks_->now();
+    gone_.clear();
+    for (const Known& known : known_) {
+        if (known.isGone) gone_.push_back(known.pid);
+    }
+    const bool isCounted = census_.update(now_, gone_);
+    adoptListing();
+    return isCounted;
+}
+
+/// Both lists ascend, so one walk along both finds who came and who went.
+void LinuxProcessTable::adoptListing() {
+    nextKnown_.clear();
+    nextKnown_.reserve(census_.pids().size());
+    auto old = known_.begin();
+    for (const std::int32_t pid : census_.pids()) {
+        while (old != known_.end() && old->pid < pid)
+            ++old;
+        if (old != known_.end() && old->pid == pid && !old->isGone) {
+            nextKnown_.push_back(*old);
+        } else {
+            nextKnown_.push_back({});
+            nextKnown_.back().pid = pid;
+        }
+    }
+    known_.swap(nextKnown_);
+    cursor_ = 0;
+}
+
+int LinuxProcessTable::listAllPIDs(std::span<std::int32_t> buffer) {
+    if (buffer.empty() || !isListingFresh_) {
+        if (!refreshListing()) return -1;
+    }
+    const auto pids = census_.pids();
+    isListingFresh_ = buffer.empty();
+    if (buffer.empty()) return static_cast<int>(std::min<std::size_t>(pids.size(), INT_MAX));
+    const std::size_t count = std::min(pids.size(), buffer.size());
+    std::copy_n(pids.begin(), count, buffer.begin());
+    return static_cast<int>(count);
+}
+
+LinuxProcessTable::Known* LinuxProcessTable::find(std::int32_t pid) {
+    // The same one again, or the next.
+    if (cursor_ + 1 < known_.size() && known_[cursor_].pid < pid) ++cursor_;
+    if (cursor_ >= known_.size() || known_[cursor_].pid != pid) {
+        const auto found =
+            std::lower_bound(known_.begin(), known_.end(), pid,
+                             [](const Known& k, std::int32_t p) { return k.pid < p; });
+        if (found == known_.end() || found->pid != pid) return nullptr;
+        cursor_ = static_cast<std::size_t>(found - known_.begin());
+    }
+    return &known_[cursor_];
+}
+
+int LinuxProcessTable::taskAllInfo(std::int32_t pid, TaskAllInfo& info) {
+    Known unlisted;
+    unlisted.pid = pid;
+    Known* const listed = find(pid);
+    Known& known = listed ? *listed : unlisted;
+    const auto clock = clocksFit_ ? clocks_->read(pid) : std::nullopt;
+    std::uint64_t ticks = 0;
+    known.isGone = !update(known, clock, ticks);
+    if (known.isGone) return 0;
+    info.startSeconds = known.startTicks / ticksPerSecond_;
+    info.startMicroseconds =
+        known.startTicks % ticksPerSecond_ * (microsecondsPerSecond / ticksPerSecond_);
+    info.residentSize = known.residentPages * pageSize_;
+    info.totalUser = clock ? *clock : ticks * (nanosecondsPerSecond / ticksPerSecond_);
+    info.totalSystem = 0;
+    return taskAllInfoSize;
+}
+
+bool LinuxProcessTable::update(Known& known, std::optional<std::uint64_t> clock,
+                               std::uint64_t& ticks) {
+    // A process that has spent nothing yet cannot be told from another one by its clock.
+    const bool hasNotRun = known.isRead && clock && *clock == known.clock && *clock != 0;
+    known.clock = clock.value_or(0);
+    if (!hasNotRun) {
+        known.hasRunSincePath = true;
+        return readStat(known, ticks);
+    }
+    const bool isDue = now_ > known.residentDue && !known.isKernelThread;
+    return !isDue || renewResident(known);
+}
+
+bool LinuxProcessTable::readStat(Known& known, std::uint64_t& ticks) {
+    const auto text = readFile(known.pid, "stat");
+    const auto stat = text ? ProcessStat::parse(*text) : std::nullopt;
+    if (!stat || __builtin_add_overflow(stat->userTicks, stat->systemTicks, &ticks)) {
+        known.isRead = false;
+        return false;
+    }
+    known.residentDue = now_ + (known.isRead ? residentPeriod : firstResidentPeriod(known.pid));
+    known.isRead = true;
+    known.isKernelThread = stat->isKernelThread;
+    known.startTicks = stat->startTicks;
+    known.residentPages = stat->residentPages;
+    return true;
+}
+
+/// By statm, which the kernel makes up in less than half the time that it needs for stat.
+bool LinuxProcessTable::renewResident(Known& known) {
+    const auto text = readFile(known.pid, "statm");
+    const auto pages = text ? parseResidentPages(*text) : std::nullopt;
+    if (!pages) {
+        known.isRead = false;
+        return false;
+    }
+    known.residentPages = *pages;
+    known.residentDue = now_ + residentPeriod;
+    return true;
+}
+
+std::optional<std::string_view> LinuxProcessTable::readFile(std::int32_t pid,
+                                                            std::string_view file) {
+    const FileDescriptor opened{
+        ::openat(proc_.get(), ProcessPath(pid, file).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
+    if (!opened) return std::nullopt;
+    ssize_t count = 0;
+    do {
+        count = ::read(opened.get(), buffer_.data(), buffer_.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 1) return std::nullopt;
+    return std::string_view(buffer_.data(), static_cast<std::size_t>(count));
+}
+
+bool LinuxProcessTable::mayHaveNewPath(std::int32_t pid) {
+    // Only a process that runs can start another program in its place.
+    const Known* const known = find(pid);
+    return !known || known->hasRunSincePath;
+}
+
+int LinuxProcessTable::path(std::int32_t pid, std::span<char> buffer) {
+    if (Known* const known = find(pid)) known->hasRunSincePath = false;
+    const ssize_t count =
+        ::readlinkat(proc_.get(), ProcessPath(pid, "exe").c_str(), buffer.data(), buffer.size());
+    // A link that fills the buffer may be cut, and half a path names another file.
+    if (count < 1 || static_cast<std::size_t>(count) == buffer.size()) return 0;
+    constexpr std::string_view deleted = " (deleted)";
+    std::string_view path(buffer.data(), static_cast<std::size_t>(count));
+    if (path.ends_with(deleted)) path.remove_suffix(deleted.size());
+    return static_cast<int>(path.size());
+}
+
+int LinuxProcessTable::name(std::int32_t pid, std::span<char> buffer) {
+    std::string_view name;
+    if (const auto comm = readFile(pid, "comm")) {
+        name = *comm;
+        if (name.ends_with('\n')) name.remove_suffix(1);
+    } else if (const auto text = readFile(pid, "stat")) {  // kernels before 2.6.33 have no comm
+        const auto stat = ProcessStat::parse(*text);
+        if (stat) name = stat->name;
+    }
+    const std::size_t count = std::min(name.size(), buffer.size());
+    std::copy_n(name.begin(), count, buffer.begin());
+    return static_cast<int>(count);
 }
 
 }  // namespace vantor

@@ -1,5 +1,6 @@
 #include "platform/linux/process_clocks.h"
 
+#include <chrono>
 #include <ctime>
 
 namespace vantor {
@@ -22,6 +23,12 @@ class LiveProcessClocks : public ProcessClocks {
         if (::clock_gettime(clockOf(pid), &time) != 0) return std::nullopt;
         return static_cast<std::uint64_t>(time.tv_sec) * nanosecondsPerSecond +
                static_cast<std::uint64_t>(time.tv_nsec);
+    }
+
+    double now() override {
+        // The standard library's steady clock is CLOCK_MONOTONIC here.
+        return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
+            .count();
     }
 };
 

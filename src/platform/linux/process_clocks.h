@@ -16,6 +16,9 @@ class ProcessClocks {
     /// Nanoseconds; absent when there is no such process (a thread that leads none included) or no
     /// such clock. A clock id is a bare pid: it follows one that is used again.
     virtual std::optional<std::uint64_t> read(std::int32_t pid) = 0;
+
+    /// Seconds on the monotonic clock.
+    virtual double now() = 0;
 };
 
 std::shared_ptr<ProcessClocks> makeLiveProcessClocks();

@@ -1,0 +1,132 @@
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "platform/linux/pid_listing.h"
+#include "platform/native_machine.h"
+#include "probes/process_reader.h"
+
+/// Compares a pass over all processes with the plainest sweep: list /proc, and open, read and close
+/// each stat file. Both run over the same sleeping children, once per interval each as a monitor
+/// would, and are charged the CPU time that they spend, the kernel's part included. Exits with 1
+/// when a pass costs too much.
+namespace vantor::bench {
+namespace {
+
+constexpr double ratioLimit = 0.35;
+constexpr int warmUp = 8;
+
+class Children {
+  public:
+    explicit Children(int count) {
+        const pid_t self = ::getpid();
+        for (int i = 0; i < count; ++i) {
+            const pid_t pid = ::fork();
+            if (pid < 0) break;
+            if (pid == 0) {
+                ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+                if (::getppid() != self) std::_Exit(0);
+                for (;;)
+                    ::pause();
+            }
+            pids_.push_back(pid);
+        }
+    }
+    Children(const Children&) = delete;
+    Children& operator=(const Children&) = delete;
+    ~Children() {
+        for (const pid_t pid : pids_)
+            ::kill(pid, SIGKILL);
+        for (const pid_t pid : pids_)
+            ::waitpid(pid, nullptr, 0);
+    }
+
+  private:
+    std::vector<pid_t> pids_;
+};
+
+class PlainSweep {
+  public:
+    std::size_t run() {
+        if (!listing_.read(proc_)) return 0;
+        std::size_t read = 0;
+        for (const std::int32_t pid : listing_.pids()) {
+            std::array<char, 32> path{};
+            std::snprintf(path.data(), path.size(), "%d/stat", pid);
+            const FileDescriptor file{::openat(proc_.get(), path.data(), O_RDONLY | O_CLOEXEC)};
+            if (file && ::read(file.get(), buffer_.data(), buffer_.size()) > 0) ++read;
+        }
+        return read;
+    }
+
+  private:
+    FileDescriptor proc_{::open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    PIDListing listing_;
+    std::array<char, 4096> buffer_{};
+};
+
+double cpuNanoseconds() {
+    struct timespec time = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
+
+/// The mean CPU time of a pass per process: what is done only now and then counts with its share.
+double measure(int passes, std::chrono::milliseconds interval,
+               const std::function<std::size_t()>& pass) {
+    double perProcess = 0;
+    auto next = std::chrono::steady_clock::now();
+    for (int i = 0; i < warmUp + passes; ++i) {
+        next += interval;
+        std::this_thread::sleep_until(next);
+        const double before = cpuNanoseconds();
+        const std::size_t processes = pass();
+        const double spent = cpuNanoseconds() - before;
+        if (i >= warmUp && processes > 0) perProcess += spent / static_cast<double>(processes);
+    }
+    return perProcess / passes;
+}
+
+int compare(int children, int passes, std::chrono::milliseconds interval) {
+    const Children sleepers(children);
+    PlainSweep sweep;
+    ProcessReader reader(makeNativeMachine());
+    const double plain = measure(passes, interval, [&] { return sweep.run(); });
+    const double pass = measure(passes, interval, [&] { return reader.read().all.size(); });
+    const double ratio = pass / plain;
+    std::printf("%d sleeping processes, one pass each %lld ms, CPU time in ns per process\n",
+                children, static_cast<long long>(interval.count()));
+    std::printf("%-36s %10s %8s %8s  %s\n", "pass", "ns", "ratio", "limit", "verdict");
+    std::printf("%-36s %10.0f %8s %8s  %s\n", "readdir, open-read-close each stat", plain, "1.00",
+                "-", "-");
+    std::printf("%-36s %10.0f %8.2f %8.2f  %s\n", "ProcessReader::read", pass, ratio, ratioLimit,
+                ratio <= ratioLimit ? "ok" : "TOO MUCH");
+    return ratio <= ratioLimit ? 0 : 1;
+}
+
+int number(char** arguments, int count, int place, int otherwise) {
+    return place < count ? std::atoi(arguments[place]) : otherwise;
+}
+
+}  // namespace
+}  // namespace vantor::bench
+
+int main(int argc, char** argv) {
+    using namespace vantor::bench;
+    return compare(number(argv, argc, 1, 3000), number(argv, argc, 2, 12),
+                   std::chrono::milliseconds{number(argv, argc, 3, 1000)});
+}

@@ -1,0 +1,81 @@
+#include "platform/linux/process_census.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+
+namespace vantor {
+
+namespace {
+
+constexpr double listingPeriod = 10.0;
+// After a longer pause the identifiers may have gone round unnoticed.
+constexpr double longestPause = 2.5;
+// Looking at one identifier costs about a fourth of what listing one process does.
+constexpr std::size_t fewCandidates = 64;
+
+}  // namespace
+
+ProcessCensus::ProcessCensus(const LinuxRoots& roots, std::shared_ptr<ProcessClocks> clocks)
+    : proc_(::open(roots.proc.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
+      lastPIDFile_(roots.proc / "sys/kernel/ns_last_pid"),
+      clocks_(std::move(clocks)) {}
+
+std::optional<std::int32_t> ProcessCensus::lastPID() {
+    const auto text = clocks_ ? lastPIDFile_.read() : std::nullopt;
+    if (!text) return std::nullopt;
+    std::int32_t pid = 0;
+    const auto [rest, error] = std::from_chars(text->data(), text->data() + text->size(), pid);
+    const bool isWhole = rest != text->data() + text->size() && *rest == '\n';
+    return error == std::errc{} && isWhole && pid > 0 ? std::optional(pid) : std::nullopt;
+}
+
+bool ProcessCensus::update(double now, std::span<const std::int32_t> gone) {
+    const bool followed = tryToFollow(now, gone);
+    updatedUptime_ = now;
+    return followed || list(now);
+}
+
+bool ProcessCensus::list(double now) {
+    // Asked before the listing: who is born meanwhile is then looked for again the next time.
+    seenBefore_ = lastSeen_ = lastPID();
+    listedUptime_ = now;
+    ++listings_;
+    if (!listing_.read(proc_)) {
+        lastSeen_.reset();
+        pids_.clear();
+        return false;
+    }
+    pids_.assign(listing_.pids().begin(), listing_.pids().end());
+    return true;
+}
+
+bool ProcessCensus::tryToFollow(double now, std::span<const std::int32_t> gone) {
+    if (!lastSeen_ || !seenBefore_ || now - listedUptime_ >= listingPeriod ||
+        now - updatedUptime_ > longestPause) {
+        return false;
+    }
+    const auto last = lastPID();
+    if (!last || *last < *lastSeen_ || *lastSeen_ < *seenBefore_) return false;
+    const auto candidates = static_cast<std::size_t>(*last - *seenBefore_);
+    if (candidates > std::max(fewCandidates, pids_.size() / 4)) return false;
+    born_.clear();
+    for (std::int32_t pid = *seenBefore_ + 1; pid <= *last; ++pid) {
+        if (std::binary_search(pids_.begin(), pids_.end(), pid)) continue;
+        if (clocks_->read(pid)) born_.push_back(pid);
+    }
+    nextPIDs_.clear();
+    std::set_difference(pids_.begin(), pids_.end(), gone.begin(), gone.end(),
+                        std::back_inserter(nextPIDs_));
+    const auto middle = static_cast<std::ptrdiff_t>(nextPIDs_.size());
+    nextPIDs_.insert(nextPIDs_.end(), born_.begin(), born_.end());
+    std::inplace_merge(nextPIDs_.begin(), nextPIDs_.begin() + middle, nextPIDs_.end());
+    pids_.swap(nextPIDs_);
+    seenBefore_ = lastSeen_;
+    lastSeen_ = last;
+    return true;
+}
+
+}  // namespace vantor

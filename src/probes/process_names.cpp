@@ -1,0 +1,58 @@
+#include "probes/process_names.h"
+
+#include <algorithm>
+#include <span>
+
+#include "probes/utf8.h"
+
+namespace vantor {
+
+namespace {
+
+/// The bytes that a call wrote, up to the first zero byte; none when it failed.
+std::string_view written(std::span<const char> buffer, int count) {
+    if (count < 1 || static_cast<std::size_t>(count) > buffer.size()) return {};
+    const std::string_view bytes(buffer.data(), static_cast<std::size_t>(count));
+    return bytes.substr(0, bytes.find('\0'));
+}
+
+void assign(SharedText& text, std::string_view value) {
+    if (text.string() != value) text = std::string(value);
+}
+
+}  // namespace
+
+std::string_view lastPathComponent(std::string_view path) {
+    const auto last = path.find_last_not_of('/');
+    if (last == std::string_view::npos) return {};
+    path = path.substr(0, last + 1);
+    const auto slash = path.rfind('/');
+    return slash == std::string_view::npos ? path : path.substr(slash + 1);
+}
+
+std::string_view ProcessNames::path(std::int32_t pid) {
+    return validUTF8(written(pathBuffer_, table_.path(pid, pathBuffer_)), decoded_);
+}
+
+std::string_view ProcessNames::kernelName(std::int32_t pid) {
+    return validUTF8(written(nameBuffer_, table_.name(pid, nameBuffer_)), decoded_);
+}
+
+void ProcessNames::lookUp(std::int32_t pid, ProcessMetadata& metadata) {
+    const std::string_view path = this->path(pid);
+    if (const std::string_view name = lastPathComponent(path); !name.empty()) {
+        assign(metadata.name, name);
+        assign(metadata.command, path);
+        return;
+    }
+    const std::string command(path);  // the name's lookup reuses the buffer of mended text
+    const std::string_view name = kernelName(pid);
+    assign(metadata.name, name.empty() ? "PID " + std::to_string(pid) : std::string(name));
+    if (command.empty()) {
+        metadata.command = metadata.name;
+    } else {
+        assign(metadata.command, command);
+    }
+}
+
+}  // namespace vantor
