@@ -1,24 +1,18 @@
 #include <fcntl.h>
-#include <sys/prctl.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <functional>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "platform/linux/pid_listing.h"
 #include "platform/native_machine.h"
 #include "probes/process_reader.h"
+
+#include "sleeping_children.h"
 
 /// Compares a pass over all processes with the plainest sweep: list /proc, and open, read and close
 /// each stat file. Both run over the same sleeping children, once per interval each as a monitor
@@ -29,35 +23,6 @@ namespace {
 
 constexpr double ratioLimit = 0.35;
 constexpr int warmUp = 8;
-
-class Children {
-  public:
-    explicit Children(int count) {
-        const pid_t self = ::getpid();
-        for (int i = 0; i < count; ++i) {
-            const pid_t pid = ::fork();
-            if (pid < 0) break;
-            if (pid == 0) {
-                ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-                if (::getppid() != self) std::_Exit(0);
-                for (;;)
-                    ::pause();
-            }
-            pids_.push_back(pid);
-        }
-    }
-    Children(const Children&) = delete;
-    Children& operator=(const Children&) = delete;
-    ~Children() {
-        for (const pid_t pid : pids_)
-            ::kill(pid, SIGKILL);
-        for (const pid_t pid : pids_)
-            ::waitpid(pid, nullptr, 0);
-    }
-
-  private:
-    std::vector<pid_t> pids_;
-};
 
 class PlainSweep {
   public:
@@ -79,12 +44,6 @@ class PlainSweep {
     std::array<char, 4096> buffer_{};
 };
 
-double cpuNanoseconds() {
-    struct timespec time = {};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
-}
-
 /// The mean CPU time of a pass per process: what is done only now and then counts with its share.
 double measure(int passes, std::chrono::milliseconds interval,
                const std::function<std::size_t()>& pass) {
@@ -93,16 +52,17 @@ double measure(int passes, std::chrono::milliseconds interval,
     for (int i = 0; i < warmUp + passes; ++i) {
         next += interval;
         std::this_thread::sleep_until(next);
-        const double before = cpuNanoseconds();
+        const double before = threadCPUSeconds();
         const std::size_t processes = pass();
-        const double spent = cpuNanoseconds() - before;
-        if (i >= warmUp && processes > 0) perProcess += spent / static_cast<double>(processes);
+        const double spent = threadCPUSeconds() - before;
+        if (i >= warmUp && processes > 0)
+            perProcess += spent * 1e9 / static_cast<double>(processes);
     }
     return perProcess / passes;
 }
 
 int compare(int children, int passes, std::chrono::milliseconds interval) {
-    const Children sleepers(children);
+    const SleepingChildren sleepers(children);
     PlainSweep sweep;
     ProcessReader reader(makeNativeMachine());
     const double plain = measure(passes, interval, [&] { return sweep.run(); });

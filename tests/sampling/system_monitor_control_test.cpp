@@ -48,7 +48,7 @@ TEST(SystemMonitor, PauseDuringTheStagingCancelsIt) {
     world.advance(700ms);
     world.monitor->togglePause();
     world.advance(1min);
-    EXPECT_THAT(world.submissionTimes("processes"), ElementsAre(0.3));
+    EXPECT_THAT(world.submissionTimes("processes"), ElementsAre(0.3, 0.7));  // 0.7: the reset
     EXPECT_THAT(world.submissionTimes("gpu"), ElementsAre(0.6));
     EXPECT_THAT(world.submissionTimes("power"), IsEmpty());
     EXPECT_THAT(world.submissionTimes("storage"), IsEmpty());
@@ -197,8 +197,8 @@ TEST(SystemMonitor, ChangedIntervalRestartsInTheNextTurn) {
     EXPECT_FALSE(world.monitor->slowProvidersEnabled());
     world.advance(4s);
     EXPECT_THAT(world.submissionTimes("memory"), ElementsAre(0, 3, 5, 7));
-    // At 5 s the processes' staged reading is only 1.7 s old.
-    EXPECT_THAT(world.submissionTimes("processes"), ElementsAre(0.3, 3.3, 7));
+    // At 5 s the processes' staged reading is only 1.7 s old; at 3 s their baseline is forgotten.
+    EXPECT_THAT(world.submissionTimes("processes"), ElementsAre(0.3, 3, 3.3, 7));
     EXPECT_TRUE(world.monitor->slowProvidersEnabled());
 }
 

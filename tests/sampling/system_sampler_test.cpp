@@ -62,6 +62,34 @@ TEST(SystemSampler, ResetTakesEffectAfterQueuedReadsAndBeforeLaterOnes) {
                 ElementsAre(std::nullopt, Optional(0.4), std::nullopt, Optional(0.4)));
 }
 
+TEST(SystemSampler, ResetGoesToTheQueuesOfTheThreeProvidersThatMeasureOverIntervals) {
+    SamplerWorld world;
+    world.sampler->resetDeltaBaselines();
+    for (std::size_t provider = 0; provider < SystemSampler::queueLabels().size(); ++provider) {
+        const bool isMeasured = provider == 0 || provider == 2 || provider == 4;
+        EXPECT_EQ(world.waiting(provider), isMeasured ? 1u : 0u) << world.label(provider);
+    }
+}
+
+TEST(SystemSampler, ResetMakesTheNextProcessReadingABaselineAgain) {
+    SamplerWorld world;
+    world.machine->processTable().add(7, "/bin/seven");
+    std::vector<std::size_t> sizes;
+    const auto request = [&] {
+        world.clock->wind(1s);
+        world.sampler->requestProcesses(
+            1, true, [&](const ProcessSample& sample) { sizes.push_back(sample.all.size()); });
+        world.queues.runWaiting();
+    };
+    const std::size_t all = world.machine->processTable().processes.size();
+    request();
+    request();
+    world.sampler->resetDeltaBaselines();
+    request();
+    request();
+    EXPECT_THAT(sizes, ElementsAre(0, all, 0, all));
+}
+
 TEST(SystemSampler, ResetPassesThroughNoGate) {
     SamplerWorld world;
     world.sampler->resetDeltaBaselines();

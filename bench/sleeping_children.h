@@ -1,0 +1,24 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <vector>
+
+namespace vantor::bench {
+
+/// Processes that sleep until this object ends, or its process.
+class SleepingChildren {
+  public:
+    explicit SleepingChildren(int count);
+    SleepingChildren(const SleepingChildren&) = delete;
+    SleepingChildren& operator=(const SleepingChildren&) = delete;
+    ~SleepingChildren();
+
+  private:
+    std::vector<pid_t> pids_;
+};
+
+/// CPU time of the calling thread, the kernel's part included.
+double threadCPUSeconds();
+
+}  // namespace vantor::bench
