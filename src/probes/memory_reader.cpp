@@ -1,12 +1,84 @@
 #include "probes/memory_reader.h"
 
+#include <algorithm>
+#include <array>
+
+#include "probes/sysctl.h"
+
 namespace vantor {
 
+namespace {
+
+// Larger than the record that any kernel fills, so that a newer one does not fail for want of room.
+constexpr std::size_t wordsOffered = 62;
+
+using Bytes = std::optional<std::uint64_t>;
+
+Bytes product(std::uint64_t pages, std::uint64_t pageSize) {
+    std::uint64_t bytes = 0;
+    if (__builtin_mul_overflow(pages, pageSize, &bytes)) return std::nullopt;
+    return bytes;
+}
+
+Bytes sum(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
+    std::uint64_t bytes = 0;
+    if (__builtin_add_overflow(a, b, &bytes) || __builtin_add_overflow(bytes, c, &bytes)) {
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+/// Gives the port back, on every path.
+class PortGuard {
+  public:
+    explicit PortGuard(HostMemory& host) : host_(host), port_(host.acquirePort()) {}
+    PortGuard(const PortGuard&) = delete;
+    PortGuard& operator=(const PortGuard&) = delete;
+    ~PortGuard() { host_.releasePort(port_); }
+    HostMemory::Port port() const { return port_; }
+
+  private:
+    HostMemory& host_;
+    HostMemory::Port port_;
+};
+
+}  // namespace
+
 std::optional<MemoryStats> MemoryReader::read() {
-    return std::nullopt;
+    using Layout = HostMemory::Layout;
+    HostMemory& host = machine_->hostMemory();
+    const PortGuard guard(host);
+    std::array<std::uint32_t, wordsOffered> words{};
+    if (host.vmStatistics(guard.port(), words).value_or(0) == 0) return std::nullopt;
+    const auto pageSize = host.pageSize(guard.port());
+    if (!pageSize) return std::nullopt;
+
+    const Bytes active = product(words[Layout::active], *pageSize);
+    const Bytes wired = product(words[Layout::wired], *pageSize);
+    const Bytes compressed = product(words[Layout::compressor], *pageSize);
+    const std::uint64_t cachedPages =
+        std::uint64_t{words[Layout::purgeable]} + words[Layout::inactive];
+    const Bytes cached = product(cachedPages, *pageSize);
+    if (!active || !wired || !compressed || !cached) return std::nullopt;
+    const Bytes inUse = sum(*active, *wired, *compressed);
+    if (!inUse) return std::nullopt;
+
+    MemoryStats stats;
+    stats.totalBytes = installedMemory();
+    stats.usedBytes = std::min(*inUse, stats.totalBytes);
+    stats.activeBytes = *active;
+    stats.wiredBytes = *wired;
+    stats.compressedBytes = *compressed;
+    stats.cachedBytes = *cached;
+    stats.availableBytes = stats.totalBytes - stats.usedBytes;
+    return stats;
 }
 
 std::uint64_t MemoryReader::installedMemory() {
+    std::call_once(installedMemoryIsKnown_, [this] {
+        const auto size = Sysctl(machine_->kernelValues()).uint64("hw.memsize");
+        installedMemory_ = size ? *size : machine_->processInfo().physicalMemory();
+    });
     return installedMemory_;
 }
 

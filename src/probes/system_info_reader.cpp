@@ -1,16 +1,73 @@
 #include "probes/system_info_reader.h"
 
-#include "model/system_snapshot.h"
+#include <string_view>
+
+#include "platform/program_architecture.h"
+#include "probes/sysctl.h"
+#include "probes/utf8.h"
 
 namespace vantor {
 
+namespace {
+
+std::string_view thermalStateText(int state) {
+    switch (state) {
+        case 0:
+            return "Nominal";
+        case 1:
+            return "Fair";
+        case 2:
+            return "Serious";
+        case 3:
+            return "Critical";
+        default:
+            return "Unknown";
+    }
+}
+
+/// Any bytes can be made a host's name; a record holds UTF-8 only.
+void makeUTF8(std::string& text) {
+    if (isUTF8(text)) return;
+    for (char& letter : text) {
+        if (static_cast<unsigned char>(letter) >= 0x80) letter = '?';
+    }
+}
+
+std::string operatingSystem(const ProcessInfo& info) {
+    if (auto name = info.operatingSystemName()) {
+        makeUTF8(*name);
+        return *std::move(name);
+    }
+    const auto [major, minor, patch] = info.operatingSystemVersion();
+    return "macOS " + std::to_string(major) + '.' + std::to_string(minor) + '.' +
+           std::to_string(patch);
+}
+
+}  // namespace
+
 const SystemInfoStats& SystemInfoReader::read() {
     std::call_once(isIdentified_, [this] { identify(); });
+    ProcessInfo& info = machine_->processInfo();
+    info.hostName(stats_.hostName);
+    makeUTF8(stats_.hostName);
+    stats_.uptimeSeconds = info.secondsSinceBoot();
+    stats_.thermalState = thermalStateText(info.thermalState());
+    stats_.lowPowerModeEnabled =
+        info.isOperatingSystemAtLeast(12, 0, 0) && info.isLowPowerModeEnabled();
     return stats_;
 }
 
 void SystemInfoReader::identify() {
-    stats_ = SystemSnapshot::empty().system;
+    const Sysctl sysctl(machine_->kernelValues());
+    if (auto model = sysctl.string("hw.model")) {
+        stats_.hardwareModel = *std::move(model);
+    } else {
+        stats_.hardwareModel = machine_->words().unknownHardware;
+    }
+    stats_.operatingSystem = operatingSystem(machine_->processInfo());
+    stats_.kernelVersion = sysctl.string("kern.osversion").value_or(std::string{});
+    stats_.architecture = programArchitecture;
+    stats_.isRunningUnderRosetta = sysctl.int32("sysctl.proc_translated") == 1;
 }
 
 }  // namespace vantor

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "platform/host_memory.h"
 
 namespace vantor {
@@ -22,6 +20,11 @@ class SimulatedHostMemory : public HostMemory {
 
     int portsOutstanding = 0;
     std::size_t wordsOffered = 0;  ///< the size of the last buffer
+
+    /// How many pages that many bytes are.
+    std::uint32_t pagesOf(std::uint64_t bytes) const {
+        return static_cast<std::uint32_t>(bytes / bytesPerPage);
+    }
 
     Port acquirePort() override;
     void releasePort(Port port) override;

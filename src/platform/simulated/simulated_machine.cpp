@@ -4,6 +4,12 @@
 
 namespace vantor {
 
+namespace {
+
+constexpr std::uint64_t gibibyte = std::uint64_t{1} << 30;
+
+}  // namespace
+
 int SimulatedLoadAverages::getloadavg(std::span<double> averages) {
     if (answer < 1) return answer;
     const std::size_t count = std::min(values.size(), averages.size());
@@ -36,6 +42,16 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<Wound
     machine->kernelValues_.setInt32("hw.logicalcpu", 4);
     machine->kernelValues_.setInt32("hw.physicalcpu", 2);
     machine->kernelValues_.setUInt64("hw.cpufrequency", 2'400'000'000);
+    machine->kernelValues_.setUInt64("hw.memsize", gibibyte * 16);
+    machine->kernelValues_.setText("kern.osversion", "23A344");
+    SimulatedHostMemory& memory = machine->hostMemory_;
+    memory.active = memory.pagesOf(gibibyte * 4);
+    memory.wired = memory.pagesOf(gibibyte * 2);
+    memory.compressor = memory.pagesOf(gibibyte * 1);
+    memory.inactive = memory.pagesOf(gibibyte * 3);
+    memory.purgeable = memory.pagesOf(gibibyte / 4);
+    machine->processInfo_.version = {14, 2, 1};
+    machine->processInfo_.host = "simbook.local";
     return machine;
 }
 
@@ -43,7 +59,10 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<Wound
     auto machine = std::make_shared<SimulatedMachine>(std::move(clock));
     machine->hostProcessors_.totalFails = true;
     machine->hostProcessors_.processorsFail = true;
+    machine->hostMemory_.statisticsFail = true;
+    machine->hostMemory_.pageSizeFails = true;
     machine->loadAverages_.answer = -1;
+    machine->processInfo_.thermal = -1;
     return machine;
 }
 
