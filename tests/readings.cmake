@@ -10,7 +10,9 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/cpu_reader_identity_test.cpp
     probes/cpu_reader_test.cpp
     probes/cpu_ticks_test.cpp
+    probes/memory_reader_test.cpp
     probes/sysctl_test.cpp
+    probes/system_info_reader_test.cpp
     probes/utf8_test.cpp)
 
 vantor_add_tests(platform_tests LABEL core SOURCES
@@ -23,17 +25,30 @@ vantor_add_tests(platform_tests LABEL core SOURCES
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(linux_tests LABEL core SOURCES
+        platform/linux/arc_stats_test.cpp
         platform/linux/cpu_identity_test.cpp
         platform/linux/cpu_list_test.cpp
+        platform/linux/kernel_facts_test.cpp
         platform/linux/kernel_file_test.cpp
+        platform/linux/kernel_list_file_test.cpp
+        platform/linux/linux_host_memory_test.cpp
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
         platform/linux/linux_load_averages_test.cpp
         platform/linux/linux_process_info_test.cpp
+        platform/linux/live_memory_test.cpp
         platform/linux/live_processors_test.cpp
+        platform/linux/live_system_info_test.cpp
+        platform/linux/low_power_mode_test.cpp
+        platform/linux/mem_info_test.cpp
+        platform/linux/memory_shares_test.cpp
+        platform/linux/os_release_test.cpp
         platform/linux/proc_stat_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
+        platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
+        platform/linux/thermal_zones_test.cpp
+        platform/linux/zram_devices_test.cpp
         support/fake_kernel_tree.cpp)
 endif()
 

@@ -39,6 +39,10 @@ void FakeKernelTree::sys(std::string_view path, std::string_view content) const 
     write(root_ / "sys" / path, content);
 }
 
+void FakeKernelTree::etc(std::string_view path, std::string_view content) const {
+    write(root_ / "etc" / path, content);
+}
+
 void FakeKernelTree::core(unsigned processor, std::string_view package, std::string_view die,
                           std::string_view core) const {
     const std::string folder = "devices/system/cpu/cpu" + std::to_string(processor) + "/topology/";

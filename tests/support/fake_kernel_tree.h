@@ -23,6 +23,7 @@ class FakeKernelTree {
     /// Writes a file in place, as a kernel file changes: whoever has it open sees the new content.
     void proc(std::string_view path, std::string_view content) const;
     void sys(std::string_view path, std::string_view content) const;
+    void etc(std::string_view path, std::string_view content) const;
 
     /// The folder of one processor of /sys with its place in the machine.
     void core(unsigned processor, std::string_view package, std::string_view die,

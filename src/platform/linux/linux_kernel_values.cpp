@@ -3,16 +3,20 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/linux/cpu_identity.h"
+#include "platform/linux/kernel_facts.h"
 
 namespace vantor {
 
 namespace {
+
+constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
 
 using Bytes = std::optional<std::vector<std::byte>>;
 
@@ -47,6 +51,13 @@ constexpr std::array entries{
           [](const LinuxRoots& roots) { return toBytes(countPhysicalCores(roots)); }},
     Entry{"hw.cpufrequency",
           [](const LinuxRoots& roots) { return toBytes(readNominalFrequencyHz(roots)); }},
+    Entry{"hw.memsize",
+          [](const LinuxRoots& roots) { return toBytes(readInstalledMemory(roots)); }},
+    Entry{"hw.tbfrequency",
+          [](const LinuxRoots&) { return toBytes(std::optional(nanosecondsPerSecond)); }},
+    Entry{"kern.maxproc", [](const LinuxRoots& roots) { return toBytes(readProcessLimit(roots)); }},
+    Entry{"kern.osversion",
+          [](const LinuxRoots& roots) { return toBytes(readKernelRelease(roots)); }},
 };
 
 }  // namespace

@@ -12,6 +12,10 @@ namespace vantor {
 ///   hw.logicalcpu             32-bit   processors online
 ///   hw.physicalcpu            32-bit   distinct cores of those
 ///   hw.cpufrequency           64-bit   nominal clock in hertz
+///   hw.memsize                64-bit   bytes of memory: MemTotal
+///   hw.tbfrequency            64-bit   units of process times in a second: they are nanoseconds
+///   kern.maxproc              32-bit   processes there can be: pid_max
+///   kern.osversion            text     release of the kernel
 ///
 /// Any other name is ENOENT, as is one whose file is missing or malformed.
 class LinuxKernelValues : public KernelValues {

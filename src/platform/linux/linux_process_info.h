@@ -1,14 +1,21 @@
 #pragma once
 
 #include "platform/linux/linux_roots.h"
+#include "platform/linux/low_power_mode.h"
+#include "platform/linux/small_file.h"
+#include "platform/linux/thermal_zones.h"
 #include "platform/process_info.h"
 
 namespace vantor {
 
-/// CLOCK_MONOTONIC and the kernel's lists of processors.
+/// Clocks, names and states of the system that the program runs on. The two files that are read
+/// each time are opened with the object; where they are missing, system calls answer.
+///
+/// The host's name is /proc/sys/kernel/hostname, else gethostname, else "localhost". The version is
+/// that of the kernel.
 class LinuxProcessInfo : public ProcessInfo {
   public:
-    explicit LinuxProcessInfo(LinuxRoots roots) : roots_(std::move(roots)) {}
+    explicit LinuxProcessInfo(const LinuxRoots& roots);
 
     double systemUptime() const override;
     double secondsSinceBoot() const override;
@@ -24,6 +31,13 @@ class LinuxProcessInfo : public ProcessInfo {
 
   private:
     LinuxRoots roots_;
+    SmallFile uptime_;
+    SmallFile hostName_;
+    ThermalZones thermalZones_;
+    LowPowerMode lowPowerMode_;
 };
+
+/// The first number of a /proc/uptime text, in seconds; absent when malformed or cut. Pure.
+std::optional<double> parseUptime(std::string_view text);
 
 }  // namespace vantor

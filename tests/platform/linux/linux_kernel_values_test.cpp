@@ -20,6 +20,9 @@ class LinuxKernelValuesTest : public testing::Test {
         tree.proc("cpuinfo", "processor\t: 0\nmodel name\t: Processor 9 @ 2.60GHz\n");
         tree.sys("class/dmi/id/product_name", "Server 7\n");
         tree.sys("devices/system/cpu/online", "0-3\n");
+        tree.proc("meminfo", "MemTotal: 1000 kB\n");
+        tree.proc("sys/kernel/osrelease", "6.1.0-28-amd64\n");
+        tree.proc("sys/kernel/pid_max", "4194304\n");
         for (unsigned id = 0; id < 4; ++id)
             tree.core(id, "0", "", std::to_string(id / 2));
     }
@@ -35,6 +38,10 @@ TEST_F(LinuxKernelValuesTest, AnswersWhatHasACounterpart) {
     EXPECT_EQ(sysctl.int32("hw.logicalcpu"), 4);
     EXPECT_EQ(sysctl.int32("hw.physicalcpu"), 2);
     EXPECT_EQ(sysctl.uint64("hw.cpufrequency"), 2'600'000'000U);
+    EXPECT_EQ(sysctl.uint64("hw.memsize"), 1'024'000U);
+    EXPECT_EQ(sysctl.uint64("hw.tbfrequency"), 1'000'000'000U);
+    EXPECT_EQ(sysctl.int32("kern.maxproc"), 4194304);
+    EXPECT_EQ(sysctl.string("kern.osversion"), "6.1.0-28-amd64");
 }
 
 TEST_F(LinuxKernelValuesTest, KnowsNoOtherName) {
@@ -77,8 +84,9 @@ TEST(LinuxKernelValues, KnowNothingOfAMachineWithoutFiles) {
     const FakeKernelTree tree;
     LinuxKernelValues values(tree.roots());
     std::size_t size = 0;
-    for (const char* name : {"machdep.cpu.brand_string", "hw.model", "hw.logicalcpu",
-                             "hw.physicalcpu", "hw.cpufrequency"}) {
+    for (const char* name :
+         {"machdep.cpu.brand_string", "hw.model", "hw.logicalcpu", "hw.physicalcpu",
+          "hw.cpufrequency", "hw.memsize", "kern.maxproc", "kern.osversion"}) {
         EXPECT_EQ(values.sysctlbyname(name, {}, size), ENOENT) << name;
     }
 }
