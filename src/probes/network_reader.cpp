@@ -1,11 +1,166 @@
 #include "probes/network_reader.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "probes/interface_order.h"
+#include "probes/utf8.h"
+
 namespace vantor {
 
-const NetworkStats* NetworkReader::read(bool, double) {
-    return nullptr;
+namespace {
+
+constexpr double hostnameLifetime = 60.0;         // seconds of uptime
+constexpr double primaryInterfaceLifetime = 5.0;  // likewise
+constexpr std::array<std::string_view, 2> primaryInterfaceKeys{"State:/Network/Global/IPv4",
+                                                               "State:/Network/Global/IPv6"};
+
+double rate(std::uint64_t delta, double elapsed) {
+    if (elapsed <= 0) return 0;
+    const double bytesPerSecond = static_cast<double>(delta) / elapsed;
+    return std::isfinite(bytesPerSecond) ? bytesPerSecond : 0;
 }
 
-void NetworkReader::resetDeltas() {}
+void assignAddress(std::optional<std::string>& to, const std::string& address) {
+    if (address.empty()) {
+        to.reset();
+    } else {
+        to = address;
+    }
+}
+
+/// Kernels let names be any bytes; a record's texts are UTF-8.
+void assignName(std::string& to, std::string_view name) {
+    to = name;
+    if (isUTF8(name)) return;
+    const auto isForeign = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
+    std::replace_if(to.begin(), to.end(), isForeign, '?');
+}
+
+}  // namespace
+
+const NetworkStats* NetworkReader::read(bool includePointToPointInterfaces, double uptime) {
+    NetworkInterfaces& interfaces = machine_->networkInterfaces();
+    if (!dumpReader_.read64BitInterfaceCounters(interfaces)) return nullptr;
+    if (!accumulators_.gather(interfaces, dumpReader_.counters())) return nullptr;
+    previousSamples_.eraseIf(
+        [this](const std::string& name) { return !accumulators_.map().find(name); });
+    makeRows(includePointToPointInterfaces, uptime);
+    const std::string* const primaryName = primaryInterfaceName(uptime);
+    // Names are unique and decide last, so the order is total and stability means nothing.
+    std::sort(
+        stats_.interfaces.begin(), stats_.interfaces.end(),
+        [primaryName](const auto& a, const auto& b) { return comesFirst(a, b, primaryName); });
+    const NetworkInterfaceStats* const primary = primaryRow(primaryName);
+    if (primary && !measuredRateInterfaceBuffer_.find(primary->name)) return nullptr;
+    stats_.hostname = hostName(uptime);
+    if (primary) {
+        stats_.primaryInterfaceName = primary->name;
+        stats_.primaryIPv4Address = primary->ipv4Address;
+        stats_.primaryIPv6Address = primary->ipv6Address;
+    } else {
+        stats_.primaryInterfaceName.reset();
+        stats_.primaryIPv4Address.reset();
+        stats_.primaryIPv6Address.reset();
+    }
+    stats_.downloadBytesPerSecond = primary ? primary->downloadBytesPerSecond : 0;
+    stats_.uploadBytesPerSecond = primary ? primary->uploadBytesPerSecond : 0;
+    return &stats_;
+}
+
+/// An interface whose received bytes started again still shows what it has sent, but that is no
+/// measurement to go by.
+NetworkReader::Deltas NetworkReader::deltas(const CounterSample& previous,
+                                            const InterfaceAccumulator& now, double uptime) {
+    Deltas deltas;
+    deltas.elapsed = std::max(0.0, uptime - previous.uptime);
+    // Counters of another source or, when names were exchanged, of another interface: between the
+    // two there is no difference to speak of.
+    if (previous.uses64BitCounters != now.uses64BitCounters || previous.index != now.index) {
+        return deltas;
+    }
+    const bool receivedGrew = now.received >= previous.received;
+    const bool sentGrew = now.sent >= previous.sent;
+    if (receivedGrew) deltas.received = now.received - previous.received;
+    if (sentGrew) deltas.sent = now.sent - previous.sent;
+    deltas.isMeasured = receivedGrew && sentGrew && deltas.elapsed > 0;
+    return deltas;
+}
+
+NetworkReader::Deltas NetworkReader::replaceBaseline(std::string_view name,
+                                                     const InterfaceAccumulator& now,
+                                                     double uptime) {
+    const auto [sample, isNew] = previousSamples_.hold(name);
+    const Deltas result = isNew ? Deltas{} : deltas(sample, now, uptime);
+    sample = {now.received, now.sent, uptime, now.uses64BitCounters, now.index};
+    return result;
+}
+
+/// The rows of the last record are taken up again: sorted by name they meet their own interfaces,
+/// whose texts fit into their storage.
+void NetworkReader::makeRows(bool includePointToPointInterfaces, double uptime) {
+    measuredRateInterfaceBuffer_.clear();
+    auto& rows = stats_.interfaces;
+    std::sort(rows.begin(), rows.end(),
+              [](const auto& a, const auto& b) { return a.name < b.name; });
+    std::size_t count = 0;
+    accumulators_.map().forEach([&](const std::string& name, const InterfaceAccumulator& now) {
+        const Deltas deltas = replaceBaseline(name, now, uptime);
+        if (now.isPointToPoint && !includePointToPointInterfaces) return;
+        if (count == rows.size()) rows.emplace_back();
+        NetworkInterfaceStats& row = rows[count++];
+        assignName(row.name, name);
+        if (deltas.isMeasured) measuredRateInterfaceBuffer_.hold(row.name);
+        assignAddress(row.ipv4Address, now.ipv4Address);
+        assignAddress(row.ipv6Address, now.ipv6Address);
+        row.receivedBytes = now.received;
+        row.sentBytes = now.sent;
+        row.downloadBytesPerSecond = rate(deltas.received, deltas.elapsed);
+        row.uploadBytesPerSecond = rate(deltas.sent, deltas.elapsed);
+        row.isPointToPoint = now.isPointToPoint;
+    });
+    rows.resize(count);
+}
+
+const std::string* NetworkReader::primaryInterfaceName(double uptime) {
+    auto& cached = cachedPrimaryInterfaceName_;
+    if (!(uptime - lastPrimaryInterfaceLookupUptime_ < primaryInterfaceLifetime)) {
+        lastPrimaryInterfaceLookupUptime_ = uptime;
+        const std::string* found = nullptr;
+        for (const std::string_view key : primaryInterfaceKeys) {
+            const PropertyValue* const value = machine_->dynamicStore().copyValue(key);
+            const PropertyDictionary* const dictionary = value ? value->dictionary() : nullptr;
+            found = dictionary ? findText(*dictionary, "PrimaryInterface") : nullptr;
+            if (found && !found->empty()) break;
+            found = nullptr;
+        }
+        if (found) {
+            if (!cached) cached.emplace();
+            assignName(*cached, *found);
+        } else {
+            cached.reset();
+        }
+    }
+    return cached ? &*cached : nullptr;
+}
+
+const NetworkInterfaceStats* NetworkReader::primaryRow(const std::string* name) const {
+    const auto& rows = stats_.interfaces;
+    if (rows.empty()) return nullptr;
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [name](const auto& row) { return name && row.name == *name; });
+    return found == rows.end() ? &rows.front() : &*found;
+}
+
+const std::string& NetworkReader::hostName(double uptime) {
+    if (!cachedHostname_ || uptime - lastHostnameLookupUptime_ >= hostnameLifetime) {
+        if (!cachedHostname_) cachedHostname_.emplace();
+        machine_->processInfo().hostName(*cachedHostname_);
+        lastHostnameLookupUptime_ = uptime;
+    }
+    return *cachedHostname_;
+}
 
 }  // namespace vantor

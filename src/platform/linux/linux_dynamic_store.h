@@ -1,19 +1,33 @@
 #pragma once
 
+#include <array>
+#include <string>
+#include <string_view>
+
 #include "platform/dynamic_store.h"
+#include "platform/linux/kernel_list.h"
 #include "platform/linux/linux_roots.h"
 
 namespace vantor {
 
-/// The interface of the default route, from /proc/net/route and /proc/net/ipv6_route.
+/// The interface of the default route, from /proc/net/route and /proc/net/ipv6_route. Each
+/// dictionary is made once and then again only when the interface is another.
 class LinuxDynamicStore : public DynamicStore {
   public:
-    explicit LinuxDynamicStore(LinuxRoots roots) : roots_(std::move(roots)) {}
+    explicit LinuxDynamicStore(const LinuxRoots& roots);
 
     const PropertyValue* copyValue(std::string_view key) override;
 
   private:
-    LinuxRoots roots_;
+    struct Protocol {
+        std::string_view key;
+        KernelList routes;
+        std::optional<std::string_view> (*defaultInterface)(std::string_view text);
+        std::string name;  // that `value` is made of; empty = none yet
+        PropertyValue value;
+    };
+
+    std::array<Protocol, 2> protocols_;
 };
 
 }  // namespace vantor

@@ -27,6 +27,60 @@ std::chrono::system_clock::time_point SimulatedWallClock::now() const {
     return start + duration_cast<system_clock::duration>(clock_->now());
 }
 
+namespace {
+
+using Family = NetworkInterfaces::Family;
+
+void setPrimaryInterface(SimulatedDynamicStore& store, const std::string& name) {
+    store.values.insert_or_assign(
+        "State:/Network/Global/IPv4",
+        PropertyValue(PropertyDictionary{{"PrimaryInterface", PropertyValue(name)}}));
+}
+
+/// A wireless interface that carries the default route, and a private network over it.
+void addLaptopNetwork(SimulatedMachine& machine) {
+    auto& list = machine.networkInterfaces().interfaces;
+    SimulatedNetworkInterfaces::Interface loopback;
+    loopback.name = "lo0";
+    loopback.flags |= NetworkInterfaces::loopback;
+    loopback.addresses = {{Family::ipv4, "127.0.0.1"}};
+    SimulatedNetworkInterfaces::Interface wireless;
+    wireless.name = "en0";
+    wireless.index = 4;
+    wireless.received = 3'000'000'000;
+    wireless.sent = 400'000'000;
+    wireless.addresses = {{Family::ipv6, "fe80::1c2b:3a4d:5e6f:7081%en0"},
+                          {Family::ipv4, "192.168.1.23"},
+                          {Family::ipv6, "2001:db8:1::23"}};
+    SimulatedNetworkInterfaces::Interface tunnel;
+    tunnel.name = "utun4";
+    tunnel.index = 11;
+    tunnel.flags |= NetworkInterfaces::pointToPoint;
+    tunnel.received = 20'000'000;
+    tunnel.sent = 5'000'000;
+    tunnel.addresses = {{Family::ipv4, "10.8.0.2"}};
+    list = {std::move(loopback), std::move(wireless), std::move(tunnel)};
+    setPrimaryInterface(machine.dynamicStore(), "en0");
+}
+
+/// Two wired interfaces and the many that virtual machines and containers bring along.
+void addDesktopNetwork(SimulatedMachine& machine) {
+    auto& list = machine.networkInterfaces().interfaces;
+    list.clear();
+    constexpr int count = 24;
+    for (int i = 0; i < count; ++i) {
+        auto& wired = machine.networkInterfaces().named((i < 2 ? "en" : "bridge") +
+                                                        std::to_string(i < 2 ? i : 98 + i));
+        wired.received = 1'000'000'000ULL * static_cast<unsigned>(i + 1);
+        wired.sent = 50'000'000ULL * static_cast<unsigned>(i + 1);
+        wired.addresses = {{Family::ipv4, "192.168." + std::to_string(i) + ".10"},
+                           {Family::ipv6, "fd00:" + std::to_string(i) + "::10"}};
+    }
+    setPrimaryInterface(machine.dynamicStore(), "en1");
+}
+
+}  // namespace
+
 SimulatedMachine::SimulatedMachine(std::shared_ptr<WoundClock> clock)
     : clock_(std::move(clock)), processInfo_(clock_), wallClock_(clock_) {}
 
@@ -52,6 +106,13 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<Wound
     memory.purgeable = memory.pagesOf(gibibyte / 4);
     machine->processInfo_.version = {14, 2, 1};
     machine->processInfo_.host = "simbook.local";
+    addLaptopNetwork(*machine);
+    return machine;
+}
+
+std::shared_ptr<SimulatedMachine> SimulatedMachine::desktop(std::shared_ptr<WoundClock> clock) {
+    auto machine = laptop(std::move(clock));
+    addDesktopNetwork(*machine);
     return machine;
 }
 
@@ -63,6 +124,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<Wound
     machine->hostMemory_.pageSizeFails = true;
     machine->loadAverages_.answer = -1;
     machine->processInfo_.thermal = -1;
+    machine->networkInterfaces_.addressListFails = true;
     return machine;
 }
 

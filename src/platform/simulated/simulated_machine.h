@@ -74,8 +74,12 @@ class SimulatedMachine : public Machine {
   public:
     explicit SimulatedMachine(std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
-    /// A laptop with four processors and a name.
+    /// A laptop with four processors, a name, a wireless network and a tunnel.
     static std::shared_ptr<SimulatedMachine> laptop(
+        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+
+    /// A laptop's processors with many network interfaces.
+    static std::shared_ptr<SimulatedMachine> desktop(
         std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
     /// A machine on which every call fails.

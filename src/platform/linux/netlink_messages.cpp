@@ -1,0 +1,132 @@
+#include "platform/linux/netlink_messages.h"
+
+#include <linux/if_addr.h>
+#include <linux/if_link.h>
+#include <linux/netlink.h>
+#include <linux/rtnetlink.h>
+#include <sys/socket.h>
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+
+namespace vantor {
+
+namespace {
+
+using Bytes = std::span<const std::byte>;
+
+constexpr std::size_t longestName = 15;
+
+/// The kernel's structures lie in the datagram at any address: they are copied out.
+template <class T>
+std::optional<T> readAt(Bytes bytes, std::size_t offset = 0) {
+    if (offset > bytes.size() || bytes.size() - offset < sizeof(T)) return std::nullopt;
+    T value;
+    std::memcpy(&value, bytes.data() + offset, sizeof value);
+    return value;
+}
+
+/// Moves past `length` bytes and the padding to the next multiple of four, which the last one of a
+/// list may lack.
+Bytes past(Bytes bytes, std::size_t length) {
+    return bytes.subspan(std::min((length + 3) & ~std::size_t{3}, bytes.size()));
+}
+
+/// Calls `visit(type, value)` for each attribute; false when they are malformed.
+template <class Visit>
+bool forEachAttribute(Bytes rest, Visit visit) {
+    while (!rest.empty()) {
+        const auto header = readAt<rtattr>(rest);
+        if (!header || header->rta_len < sizeof(rtattr) || header->rta_len > rest.size()) {
+            return false;
+        }
+        visit(header->rta_type & NLA_TYPE_MASK,
+              rest.subspan(sizeof(rtattr), header->rta_len - sizeof(rtattr)));
+        rest = past(rest, header->rta_len);
+    }
+    return true;
+}
+
+void readName(Bytes value, std::string& name) {
+    const auto end = std::find(value.begin(), value.end(), std::byte{0});
+    const auto length = static_cast<std::size_t>(end - value.begin());
+    if (length > longestName) return;
+    name.resize(length);
+    std::memcpy(name.data(), value.data(), length);
+}
+
+/// Kernels append fields to the statistics; the byte counts have always been the third and fourth.
+template <class Counter>
+bool readCounters(Bytes value, LinkSource::Link& link) {
+    const auto received = readAt<Counter>(value, 2 * sizeof(Counter));
+    const auto sent = readAt<Counter>(value, 3 * sizeof(Counter));
+    if (!received || !sent) return false;
+    link.receivedBytes = *received;
+    link.sentBytes = *sent;
+    link.hasCounters = true;
+    return true;
+}
+
+}  // namespace
+
+NetlinkMessages::Step NetlinkMessages::next(NetlinkMessage& message) {
+    if (rest_.empty()) return Step::end;
+    const auto header = readAt<nlmsghdr>(rest_);
+    if (!header || header->nlmsg_len < sizeof(nlmsghdr) || header->nlmsg_len > rest_.size()) {
+        return Step::malformed;
+    }
+    message.type = header->nlmsg_type;
+    message.flags = header->nlmsg_flags;
+    message.sequence = header->nlmsg_seq;
+    message.payload = rest_.subspan(sizeof(nlmsghdr), header->nlmsg_len - sizeof(nlmsghdr));
+    rest_ = past(rest_, header->nlmsg_len);
+    return Step::message;
+}
+
+bool parseLink(Bytes payload, LinkSource::Link& link) {
+    const auto header = readAt<ifinfomsg>(payload);
+    if (!header) return false;
+    link.index = static_cast<std::uint32_t>(header->ifi_index);
+    link.flags = header->ifi_flags;
+    link.receivedBytes = 0;
+    link.sentBytes = 0;
+    link.hasCounters = false;
+    link.name.clear();
+    bool hasWideCounters = false;
+    return forEachAttribute(past(payload, sizeof(ifinfomsg)), [&](int type, Bytes value) {
+        if (type == IFLA_IFNAME) {
+            readName(value, link.name);
+        } else if (type == IFLA_STATS64) {
+            hasWideCounters |= readCounters<std::uint64_t>(value, link);
+        } else if (type == IFLA_STATS && !hasWideCounters) {
+            readCounters<std::uint32_t>(value, link);
+        }
+    });
+}
+
+AddressVerdict parseAddress(Bytes payload, LinkSource::Address& address) {
+    const auto header = readAt<ifaddrmsg>(payload);
+    if (!header) return AddressVerdict::malformed;
+    address = {};
+    address.index = header->ifa_index;
+    address.isIPv6 = header->ifa_family == AF_INET6;
+    address.isLinkScope = header->ifa_scope == RT_SCOPE_LINK;
+    const std::size_t size = address.isIPv6 ? 16 : 4;
+    Bytes local;
+    Bytes other;
+    const bool isWhole =
+        forEachAttribute(past(payload, sizeof(ifaddrmsg)), [&](int type, Bytes value) {
+            if (value.size() != size) return;
+            if (type == IFA_LOCAL) local = value;
+            if (type == IFA_ADDRESS) other = value;
+        });
+    if (!isWhole) return AddressVerdict::malformed;
+    if (!address.isIPv6 && header->ifa_family != AF_INET) return AddressVerdict::notOurs;
+    const Bytes bytes = local.empty() ? other : local;
+    if (bytes.empty()) return AddressVerdict::notOurs;
+    std::memcpy(address.bytes.data(), bytes.data(), bytes.size());
+    return AddressVerdict::address;
+}
+
+}  // namespace vantor
