@@ -1,9 +1,71 @@
 #include "probes/storage_reader.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "probes/standard_order.h"
+#include "probes/utf8.h"
+
 namespace vantor {
 
+namespace {
+
+std::string displayName(const MountedVolumes::Volume& volume,
+                        const MountedVolumes::Details& details) {
+    const std::string& name = details.name ? *details.name : volume.lastPathComponent;
+    return repairedUTF8(name.empty() ? volume.path : name);
+}
+
+bool comesFirst(const VolumeStats& a, const VolumeStats& b) {
+    const bool aIsRoot = a.path == "/";
+    const bool bIsRoot = b.path == "/";
+    if (aIsRoot != bIsRoot) return aIsRoot;
+    if (a.isInternal != b.isInternal) return a.isInternal;
+    return compareStandard(a.name, b.name) < 0;
+}
+
+}  // namespace
+
+void StorageReader::examine(const MountedVolumes::Volume& volume, Findings& findings) {
+    MountedVolumes& platform = machine_->mountedVolumes();
+    std::string path = repairedUTF8(volume.path);
+    const auto [isLocal, isBrowsable] = platform.classification(volume);
+    if (!isLocal || !isBrowsable) {
+        findings.classificationWasUnknown = true;
+        if (lastEligiblePaths_.contains(path)) findings.listedVolumeBecameUnknown = true;
+        return;
+    }
+    if (!*isLocal || !*isBrowsable) return;
+    const MountedVolumes::Details details = platform.details(volume);
+    if (!details.totalCapacity || *details.totalCapacity < 1) return;
+    if (!details.availableCapacity || *details.availableCapacity < 0 || !details.isInternal ||
+        !details.isRemovable || !details.isReadOnly) {
+        findings.isIncomplete = true;
+        return;
+    }
+    const std::int64_t available = std::min(*details.availableCapacity, *details.totalCapacity);
+    findings.volumes.push_back({displayName(volume, details), std::move(path),
+                                static_cast<std::uint64_t>(*details.totalCapacity),
+                                static_cast<std::uint64_t>(available), *details.isInternal,
+                                *details.isRemovable, *details.isReadOnly});
+}
+
 std::optional<std::vector<VolumeStats>> StorageReader::read() {
-    return std::nullopt;
+    const auto mounted = machine_->mountedVolumes().mountedVolumes();
+    if (!mounted) return std::nullopt;
+    Findings findings;
+    for (const MountedVolumes::Volume& volume : *mounted)
+        examine(volume, findings);
+    if (findings.isIncomplete || findings.listedVolumeBecameUnknown ||
+        (findings.volumes.empty() && findings.classificationWasUnknown)) {
+        return std::nullopt;
+    }
+    std::stable_sort(findings.volumes.begin(), findings.volumes.end(), comesFirst);
+    lastEligiblePaths_.clear();
+    for (const VolumeStats& volume : findings.volumes)
+        lastEligiblePaths_.insert(volume.path);
+    return std::move(findings.volumes);
 }
 
 }  // namespace vantor

@@ -11,7 +11,8 @@
 
 namespace vantor {
 
-/// Lists the mounted, visible, local, browsable volumes. One thread at a time.
+/// Lists the mounted, visible, local, browsable volumes: the root volume first, then the internal
+/// ones, then by name. One thread at a time.
 class StorageReader {
   public:
     explicit StorageReader(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
@@ -21,6 +22,16 @@ class StorageReader {
     std::optional<std::vector<VolumeStats>> read();
 
   private:
+    /// What one pass met with.
+    struct Findings {
+        std::vector<VolumeStats> volumes;
+        bool classificationWasUnknown = false;
+        bool listedVolumeBecameUnknown = false;
+        bool isIncomplete = false;
+    };
+
+    void examine(const MountedVolumes::Volume& volume, Findings& findings);
+
     std::shared_ptr<Machine> machine_;
     std::set<std::string> lastEligiblePaths_;  ///< of the last list that was returned
 };

@@ -53,4 +53,9 @@ std::string_view validUTF8(std::string_view bytes, std::string& mended) {
     return mended;
 }
 
+std::string repairedUTF8(std::string_view bytes) {
+    std::string mended;
+    return std::string(validUTF8(bytes, mended));
+}
+
 }  // namespace vantor

@@ -12,4 +12,7 @@ bool isUTF8(std::string_view bytes);
 /// begins no character, written into `mended`, which then holds the result.
 std::string_view validUTF8(std::string_view bytes, std::string& mended);
 
+/// The same as a text of its own.
+std::string repairedUTF8(std::string_view bytes);
+
 }  // namespace vantor

@@ -1,24 +1,46 @@
 #include "platform/linux/file_systems.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 
 #include <cerrno>
+
+#include "platform/linux/file_descriptor.h"
 
 namespace vantor {
 
 namespace {
 
+std::optional<std::uint64_t> mountOf(int file) {
+#ifdef STATX_MNT_ID
+    struct statx answer = {};
+    // Attributes of the file itself are not wanted, so that the file system is not asked for them.
+    constexpr int flags = AT_EMPTY_PATH | AT_STATX_DONT_SYNC | AT_NO_AUTOMOUNT;
+    if (::statx(file, "", flags, STATX_MNT_ID, &answer) == 0 &&
+        (answer.stx_mask & STATX_MNT_ID) != 0) {
+        return answer.stx_mnt_id;
+    }
+#else
+    static_cast<void>(file);
+#endif
+    return std::nullopt;
+}
+
 class LiveFileSystems : public FileSystems {
   public:
     std::optional<Space> space(const std::string& path) override {
+        // One descriptor for both questions, so that they are about the same mount.
+        const FileDescriptor place{::open(path.c_str(), O_PATH | O_CLOEXEC)};
+        if (!place) return std::nullopt;
         struct statvfs answer = {};
         int result = 0;
         do {
-            result = ::statvfs(path.c_str(), &answer);
+            result = ::fstatvfs(place.get(), &answer);
         } while (result != 0 && errno == EINTR);
         if (result != 0) return std::nullopt;
         return Space{answer.f_frsize, answer.f_blocks, answer.f_bavail,
-                     (answer.f_flag & ST_RDONLY) != 0};
+                     (answer.f_flag & ST_RDONLY) != 0, mountOf(place.get())};
     }
 };
 

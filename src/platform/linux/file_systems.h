@@ -17,6 +17,9 @@ class FileSystems {
         std::uint64_t blocks = 0;
         std::uint64_t availableBlocks = 0;  ///< to a user without privileges
         bool isReadOnly = false;
+        /// Which mount answered, by its number in the mount table; absent where the kernel does not
+        /// say (before 5.8).
+        std::optional<std::uint64_t> mountID;
     };
 
     virtual ~FileSystems() = default;

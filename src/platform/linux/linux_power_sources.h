@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "platform/linux/linux_roots.h"
 #include "platform/power_sources.h"
 

@@ -1,6 +1,8 @@
 #include "platform/simulated/simulated_machine.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string>
 
 namespace vantor {
 
@@ -79,6 +81,30 @@ void addDesktopNetwork(SimulatedMachine& machine) {
     setPrimaryInterface(machine.dynamicStore(), "en1");
 }
 
+void furnishLaptopStorageAndPower(SimulatedMachine& machine) {
+    machine.mountedVolumes().add("/", "Macintosh HD", 494'384'795'648);
+    machine.powerSources().addBattery(80, 200);
+}
+
+void furnishDesktopStorage(SimulatedMachine& machine) {
+    machine.powerSources().sources.clear();
+    SimulatedMountedVolumes& volumes = machine.mountedVolumes();
+    volumes.volumes.clear();
+    volumes.add("/", "Macintosh HD", 994'662'584'320);
+    for (int i = 1; i <= 12; ++i) {
+        const std::string name = "Archive " + std::to_string(i);
+        auto& volume = volumes.add("/Volumes/" + name, name, i * std::int64_t{500'000'000'000});
+        volume.details.isInternal = i <= 4;
+    }
+    auto& stick = volumes.add("/Volumes/STICK", "STICK", 32'000'000'000);
+    stick.details.isInternal = false;
+    stick.details.isRemovable = true;
+    auto& disc = volumes.add("/Volumes/Installer", "Installer", 650'000'000);
+    disc.details.isInternal = false;
+    disc.details.isReadOnly = true;
+    volumes.add("/Volumes/team", "team").classification.isLocal = false;
+}
+
 }  // namespace
 
 SimulatedMachine::SimulatedMachine(std::shared_ptr<WoundClock> clock)
@@ -107,12 +133,14 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<Wound
     machine->processInfo_.version = {14, 2, 1};
     machine->processInfo_.host = "simbook.local";
     addLaptopNetwork(*machine);
+    furnishLaptopStorageAndPower(*machine);
     return machine;
 }
 
 std::shared_ptr<SimulatedMachine> SimulatedMachine::desktop(std::shared_ptr<WoundClock> clock) {
     auto machine = laptop(std::move(clock));
     addDesktopNetwork(*machine);
+    furnishDesktopStorage(*machine);
     return machine;
 }
 
@@ -125,6 +153,8 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<Wound
     machine->loadAverages_.answer = -1;
     machine->processInfo_.thermal = -1;
     machine->networkInterfaces_.addressListFails = true;
+    machine->mountedVolumes_.enumerationFails = true;
+    machine->powerSources_.infoFails = true;
     return machine;
 }
 

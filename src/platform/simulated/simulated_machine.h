@@ -74,11 +74,12 @@ class SimulatedMachine : public Machine {
   public:
     explicit SimulatedMachine(std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
-    /// A laptop with four processors, a name, a wireless network and a tunnel.
+    /// A laptop with four processors and a name, a wireless network and a tunnel, one volume, and a
+    /// battery at 80 % with 200 minutes left.
     static std::shared_ptr<SimulatedMachine> laptop(
         std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
-    /// A laptop's processors with many network interfaces.
+    /// The same processors with many interfaces and volumes, and no power source.
     static std::shared_ptr<SimulatedMachine> desktop(
         std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 

@@ -1,0 +1,138 @@
+#include "platform/linux/battery_fill.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+
+namespace vantor {
+
+namespace {
+
+// A megawatt hour; so sums and percentages of several do not overflow.
+constexpr std::int64_t largestQuantity = 1'000'000'000'000;
+
+using Quantity = std::optional<std::int64_t>;
+
+Quantity magnitude(const PowerSupplyTexts::Text& text) {
+    const auto value = parseQuantity(text);
+    return value ? Quantity(std::abs(*value)) : std::nullopt;
+}
+
+/// µAh and µV give µWh, µA and µV give µW.
+Quantity times(Quantity amperes, Quantity volts) {
+    if (!amperes || !volts) return std::nullopt;
+    const double product = static_cast<double>(*amperes) * static_cast<double>(*volts) / 1e6;
+    if (std::abs(product) > static_cast<double>(largestQuantity)) return std::nullopt;
+    return std::llround(product);
+}
+
+Quantity divided(Quantity watts, Quantity volts) {
+    if (!watts || !volts) return std::nullopt;
+    const double quotient = static_cast<double>(*watts) / static_cast<double>(*volts) * 1e6;
+    if (std::abs(quotient) > static_cast<double>(largestQuantity)) return std::nullopt;
+    return std::llround(quotient);
+}
+
+Quantity positive(const PowerSupplyTexts::Text& text) {
+    const auto value = parseQuantity(text);
+    return value && *value > 0 ? value : std::nullopt;
+}
+
+/// The present voltage falls as a battery empties; the design's does not.
+Quantity steadyVoltage(const PowerSupplyTexts& battery) {
+    const auto design = positive(battery.voltageDesign);
+    return design ? design : positive(battery.voltageNow);
+}
+
+Quantity presentVoltage(const PowerSupplyTexts& battery) {
+    const auto present = positive(battery.voltageNow);
+    return present ? present : positive(battery.voltageDesign);
+}
+
+std::optional<BatteryFill> energyIn(const PowerSupplyTexts& battery) {
+    const auto now = parseQuantity(battery.energyNow);
+    const auto full = parseQuantity(battery.energyFull);
+    if (!now || !full) return std::nullopt;
+    auto rate = magnitude(battery.powerNow);
+    if (!rate) rate = times(magnitude(battery.currentNow), presentVoltage(battery));
+    return BatteryFill{*now, *full, rate};
+}
+
+std::optional<BatteryFill> chargeIn(const PowerSupplyTexts& battery) {
+    const auto now = parseQuantity(battery.chargeNow);
+    const auto full = parseQuantity(battery.chargeFull);
+    if (!now || !full) return std::nullopt;
+    auto rate = magnitude(battery.currentNow);
+    if (!rate) rate = divided(magnitude(battery.powerNow), presentVoltage(battery));
+    return BatteryFill{*now, *full, rate};
+}
+
+std::optional<BatteryFill> energyOrConvertedCharge(const PowerSupplyTexts& battery) {
+    if (const auto energy = energyIn(battery)) return energy;
+    const auto charge = chargeIn(battery);
+    if (!charge) return std::nullopt;
+    const auto volts = steadyVoltage(battery);
+    const auto now = times(charge->now, volts);
+    const auto full = times(charge->full, volts);
+    if (!now || !full) return std::nullopt;
+    return BatteryFill{*now, *full, times(charge->rate, volts)};
+}
+
+std::optional<BatteryFill> percentIn(const PowerSupplyTexts& battery) {
+    auto percent = parseQuantity(battery.capacity);
+    if (!percent) {
+        auto fill = energyIn(battery);
+        if (!fill) fill = chargeIn(battery);
+        if (!fill || fill->now < 0 || fill->full < 1) return std::nullopt;
+        percent =
+            std::llround(100.0 * static_cast<double>(fill->now) / static_cast<double>(fill->full));
+    }
+    if (*percent < 0 || *percent > largestQuantity / 100) return std::nullopt;
+    return BatteryFill{*percent, 100, std::nullopt};
+}
+
+/// A battery that is neither filled nor drained need not say how fast.
+bool isAtWork(const PowerSupplyTexts& battery) {
+    return battery.status == "Charging" || battery.status == "Discharging";
+}
+
+template <class Measure>
+std::optional<BatteryFill> sumOf(std::span<const PowerSupplyTexts> batteries, Measure measure) {
+    BatteryFill sum{0, 0, 0};
+    for (const PowerSupplyTexts& battery : batteries) {
+        const auto fill = measure(battery);
+        if (!fill) return std::nullopt;
+        sum.now += fill->now;
+        sum.full += fill->full;
+        if (!fill->rate && (isAtWork(battery) || batteries.size() == 1)) {
+            sum.rate.reset();
+        } else if (sum.rate) {
+            *sum.rate += fill->rate.value_or(0);
+        }
+    }
+    return sum;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> parseQuantity(const PowerSupplyTexts::Text& text) {
+    if (!text) return std::nullopt;
+    std::int64_t value = 0;
+    const char* const last = text->data() + text->size();
+    const auto [end, error] = std::from_chars(text->data(), last, value);
+    if (error != std::errc{} || end != last) return std::nullopt;
+    if (value > largestQuantity || value < -largestQuantity) return std::nullopt;
+    return value;
+}
+
+std::optional<BatteryFill> fillOf(std::span<const PowerSupplyTexts> batteries) {
+    if (batteries.empty()) return std::nullopt;
+    if (const auto energy = sumOf(batteries, energyIn)) return energy;
+    if (batteries.size() > 1) {
+        if (const auto energy = sumOf(batteries, energyOrConvertedCharge)) return energy;
+    }
+    if (const auto charge = sumOf(batteries, chargeIn)) return charge;
+    return sumOf(batteries, percentIn);
+}
+
+}  // namespace vantor

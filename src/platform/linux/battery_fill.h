@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "platform/linux/power_supply.h"
+
+namespace vantor {
+
+/// How full one battery is, or several together. All in one unit, whatever it is: energy, charge or
+/// percent.
+struct BatteryFill {
+    std::int64_t now = 0;
+    std::int64_t full = 0;
+    std::optional<std::int64_t> rate;  ///< per hour, into or out of it; absent = not known
+
+    bool operator==(const BatteryFill&) const = default;
+};
+
+/// A whole number of the kernel's, with a sign or without; absent when it is none, or larger than
+/// any battery could have. Pure.
+std::optional<std::int64_t> parseQuantity(const PowerSupplyTexts::Text& text);
+
+/// By energy where all batteries have it, or charge and voltage; else by charge; else by the mean
+/// of the percentages. Absent when one of them does not say. Pure.
+std::optional<BatteryFill> fillOf(std::span<const PowerSupplyTexts> batteries);
+
+}  // namespace vantor
