@@ -11,11 +11,14 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/cpu_reader_test.cpp
     probes/cpu_ticks_test.cpp
     probes/memory_reader_test.cpp
+    probes/power_reader_test.cpp
+    probes/storage_reader_test.cpp
     probes/sysctl_test.cpp
     probes/system_info_reader_test.cpp
     probes/utf8_test.cpp)
 
 vantor_add_tests(platform_tests LABEL core SOURCES
+    platform/property_value_test.cpp
     platform/published_test.cpp
     platform/simulated/manual_main_loop_test.cpp
     platform/simulated/manual_serial_queue_test.cpp

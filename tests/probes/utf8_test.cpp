@@ -45,5 +45,15 @@ TEST_P(UTF8, IsRecognised) {
     EXPECT_EQ(isUTF8(GetParam().bytes), GetParam().valid);
 }
 
+TEST_P(UTF8, IsLeftAsItIsByRepairing) {
+    const std::string repaired = repairedUTF8(GetParam().bytes);
+    EXPECT_TRUE(isUTF8(repaired));
+    EXPECT_EQ(repaired == GetParam().bytes, GetParam().valid);
+}
+
+TEST(RepairedUTF8, ReplacesEachByteThatIsNotPartOfIt) {
+    EXPECT_EQ(repairedUTF8("a\xFF\xC3\xA9\xE2\x82z"), "a\uFFFD\xC3\xA9\uFFFD\uFFFDz");
+}
+
 }  // namespace
 }  // namespace vantor
