@@ -31,5 +31,7 @@ endforeach()
 if(NOT VANTOR_SANITIZE)
     vantor_add_tests(allocation_tests LABEL core SOURCES
         sampling/allocation_test.cpp
-        sampling/counted_allocations.cpp)
+        sampling/counted_allocations.cpp
+        sampling/slow_state_allocation_test.cpp
+        support/fake_kernel_tree.cpp)
 endif()

@@ -51,8 +51,8 @@ TEST_P(UTF8, IsLeftAsItIsByRepairing) {
     EXPECT_EQ(repaired == GetParam().bytes, GetParam().valid);
 }
 
-TEST(RepairedUTF8, ReplacesEachByteThatIsNotPartOfIt) {
-    EXPECT_EQ(repairedUTF8("a\xFF\xC3\xA9\xE2\x82z"), "a\uFFFD\xC3\xA9\uFFFD\uFFFDz");
+TEST(RepairedUTF8, ReplacesEachRunThatBeginsNoCharacter) {
+    EXPECT_EQ(repairedUTF8("a\xFF\xC3\xA9\xE2\x82z"), "a\uFFFD\xC3\xA9\uFFFDz");
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "platform/threads/threaded_serial_queue.h"
 #include "sampling/any_provider.h"
 #include "sampling/counted_allocations.h"
+#include "sampling/counted_passes.h"
 
 /// A program that watches memory must not churn it: the steady state of a reading allocates
 /// nothing.
@@ -21,19 +22,6 @@ namespace vantor {
 namespace {
 
 using namespace std::chrono_literals;
-
-constexpr int warmUp = 50;
-constexpr int passes = 1000;
-
-template <class Pass>
-std::size_t allocationsOf(Pass pass) {
-    for (int i = 0; i < warmUp; ++i)
-        pass();
-    const std::size_t before = countedAllocations();
-    for (int i = 0; i < passes; ++i)
-        pass();
-    return countedAllocations() - before;
-}
 
 /// A machine on disk whose two processors move on at each step.
 class RecordedMachine {

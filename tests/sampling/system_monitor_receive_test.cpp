@@ -192,12 +192,25 @@ TEST(SystemMonitor, BatteryThatGoesCountsInTheSystemSection) {
 TEST(SystemMonitor, CommitsWhatTheProcessorsSay) {
     WoundWorld world;
     world.start();
-    world.advance(1030ms);
+    world.advance(1s);
+    const int publications = world.publications;
+    world.advance(30ms);
     EXPECT_EQ(world.state().snapshot.cpu.model, "Simulated Processor M1");
     EXPECT_EQ(world.state().snapshot.cpu.totalUsage, 0.4);
     EXPECT_THAT(world.state().snapshot.cpu.perCoreUsage, ElementsAre(0.4, 0.4, 0.4, 0.4));
     EXPECT_THAT(world.histories().cpu, ElementsAre(0.4));
-    EXPECT_EQ(world.publications, 1);
+    EXPECT_EQ(world.publications, publications + 1);
+}
+
+TEST(SystemMonitor, CommitsWhatTheMemoryAndTheSystemSay) {
+    WoundWorld world;
+    world.start();
+    world.advance(30ms);
+    EXPECT_EQ(world.state().snapshot.memory.totalBytes, std::uint64_t{16} << 30);
+    EXPECT_EQ(world.state().snapshot.memory.usedBytes, std::uint64_t{7} << 30);
+    EXPECT_THAT(world.histories().memory, ElementsAre(7.0 / 16.0));
+    EXPECT_EQ(world.state().snapshot.system.hostName, "simbook.local");
+    EXPECT_EQ(world.state().snapshot.system.operatingSystem, "macOS 14.2.1");
 }
 
 TEST(SystemMonitor, KeepsTheLastReadingWhenTheProcessorsStopAnswering) {
@@ -209,7 +222,7 @@ TEST(SystemMonitor, KeepsTheLastReadingWhenTheProcessorsStopAnswering) {
     world.advance(10s);
     EXPECT_EQ(world.state().snapshot.cpu, before.snapshot.cpu);
     EXPECT_EQ(world.histories().cpu, before.histories.cpu);
-    EXPECT_EQ(world.state().revisions.cpu, before.revisions.cpu);
+    EXPECT_EQ(world.revisions().cpu, before.revisions.cpu);
     world.machine->hostProcessors().totalFails = false;
     world.advance(1s);
     EXPECT_THAT(world.histories().cpu, SizeIs(2));
