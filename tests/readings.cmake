@@ -6,12 +6,21 @@ vantor_add_tests(model_tests LABEL core SOURCES
     model/timestamp_test.cpp)
 
 vantor_add_tests(probes_tests LABEL core SOURCES
+    probes/address_rules_test.cpp
     probes/cpu_reader_cores_test.cpp
     probes/cpu_reader_identity_test.cpp
     probes/cpu_reader_test.cpp
     probes/cpu_ticks_test.cpp
+    probes/interface_dump_reader_test.cpp
+    probes/interface_dump_test.cpp
+    probes/interface_order_test.cpp
     probes/memory_reader_test.cpp
+    probes/name_map_test.cpp
+    probes/network_reader_interfaces_test.cpp
+    probes/network_reader_primary_test.cpp
+    probes/network_reader_test.cpp
     probes/power_reader_test.cpp
+    probes/standard_order_test.cpp
     probes/storage_reader_test.cpp
     probes/sysctl_test.cpp
     probes/system_info_reader_test.cpp

@@ -1,0 +1,70 @@
+#include "probes/interface_order.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace vantor {
+namespace {
+
+using testing::ElementsAre;
+
+NetworkInterfaceStats row(const std::string& name, bool hasAddress = true, double download = 0,
+                          double upload = 0) {
+    NetworkInterfaceStats row;
+    row.name = name;
+    if (hasAddress) row.ipv4Address = "10.0.0.1";
+    row.downloadBytesPerSecond = download;
+    row.uploadBytesPerSecond = upload;
+    return row;
+}
+
+std::vector<std::string> sorted(std::vector<NetworkInterfaceStats> rows,
+                                const char* primary = nullptr) {
+    const std::string name = primary ? primary : "";
+    std::sort(rows.begin(), rows.end(), [&](const auto& a, const auto& b) {
+        return comesFirst(a, b, primary ? &name : nullptr);
+    });
+    std::vector<std::string> names;
+    for (const auto& r : rows)
+        names.push_back(r.name);
+    return names;
+}
+
+TEST(InterfaceOrder, ThePrimaryInterfaceComesFirstWhateverElse) {
+    EXPECT_THAT(sorted({row("a", true, 9, 9), row("z", false)}, "z"), ElementsAre("z", "a"));
+}
+
+TEST(InterfaceOrder, WithoutAKnownPrimaryTheOthersDecide) {
+    EXPECT_THAT(sorted({row("z", false), row("a", true)}), ElementsAre("a", "z"));
+    EXPECT_THAT(sorted({row("z", false), row("a", true)}, "none"), ElementsAre("a", "z"));
+}
+
+TEST(InterfaceOrder, ThoseWithAnAddressComeBeforeThoseWithout) {
+    NetworkInterfaceStats six = row("six", false);
+    six.ipv6Address = "fd00::1";
+    EXPECT_THAT(sorted({row("a", false, 1000), row("b", true), six}), ElementsAre("b", "six", "a"));
+}
+
+TEST(InterfaceOrder, MoreTrafficInBothDirectionsTogetherComesFirst) {
+    EXPECT_THAT(sorted({row("a", true, 5, 0), row("b", true, 0, 9), row("c", true, 4, 4)}),
+                ElementsAre("b", "c", "a"));
+}
+
+TEST(InterfaceOrder, EqualTrafficIsByNameWithNumbersByValue) {
+    EXPECT_THAT(sorted({row("en10", true, 1, 2), row("en2", true, 2, 1), row("EN1", true, 3, 0)}),
+                ElementsAre("EN1", "en2", "en10"));
+}
+
+TEST(InterfaceOrder, SumsPastTheLargestNumberAreEqual) {
+    constexpr double most = std::numeric_limits<double>::max();
+    EXPECT_THAT(sorted({row("b", true, most, most), row("a", true, most, most)}),
+                ElementsAre("a", "b"));
+}
+
+}  // namespace
+}  // namespace vantor
