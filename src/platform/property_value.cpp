@@ -6,6 +6,20 @@
 
 namespace vantor {
 
+PropertyValue::PropertyValue(bool value) : value_(value) {}
+
+PropertyValue::PropertyValue(std::int64_t value) : value_(value) {}
+
+PropertyValue::PropertyValue(int value) : value_(std::int64_t{value}) {}
+
+PropertyValue::PropertyValue(double value) : value_(value) {}
+
+PropertyValue::PropertyValue(std::string value) : value_(std::move(value)) {}
+
+PropertyValue::PropertyValue(const char* value) : value_(std::string(value)) {}
+
+PropertyValue::PropertyValue(Data value) : value_(std::move(value)) {}
+
 PropertyValue::PropertyValue(Array value) : value_(std::move(value)) {}
 
 PropertyValue::PropertyValue(PropertyDictionary value) : value_(std::move(value)) {}
@@ -19,6 +33,14 @@ std::optional<std::int64_t> PropertyValue::integer() const {
         return std::nullopt;
     }
     return static_cast<std::int64_t>(*number);
+}
+
+const std::string* PropertyValue::text() const {
+    return std::get_if<std::string>(&value_);
+}
+
+const PropertyDictionary* PropertyValue::dictionary() const {
+    return std::get_if<PropertyDictionary>(&value_);
 }
 
 std::optional<bool> PropertyValue::boolean() const {

@@ -22,16 +22,14 @@ class PropertyValue {
     using Array = std::vector<PropertyValue>;
     using Data = std::vector<std::byte>;
 
-    PropertyValue(bool value) : value_(value) {}          // NOLINT(google-explicit-constructor)
-    PropertyValue(std::int64_t value) : value_(value) {}  // NOLINT(google-explicit-constructor)
-    PropertyValue(int value)
-        : value_(std::int64_t{value}) {}            // NOLINT(google-explicit-constructor)
-    PropertyValue(double value) : value_(value) {}  // NOLINT(google-explicit-constructor)
-    PropertyValue(std::string value)
-        : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
-    PropertyValue(const char* value)
-        : value_(std::string(value)) {}  // NOLINT(google-explicit-constructor)
-    explicit PropertyValue(Data value) : value_(std::move(value)) {}
+    // Defined where an entry is whole: before, its vector cannot be destroyed.
+    PropertyValue(bool value);          // NOLINT(google-explicit-constructor)
+    PropertyValue(std::int64_t value);  // NOLINT(google-explicit-constructor)
+    PropertyValue(int value);           // NOLINT(google-explicit-constructor)
+    PropertyValue(double value);        // NOLINT(google-explicit-constructor)
+    PropertyValue(std::string value);   // NOLINT(google-explicit-constructor)
+    PropertyValue(const char* value);   // NOLINT(google-explicit-constructor)
+    explicit PropertyValue(Data value);
     explicit PropertyValue(Array value);
     explicit PropertyValue(PropertyDictionary value);
 
@@ -39,10 +37,8 @@ class PropertyValue {
     std::optional<std::int64_t> integer() const;
     std::optional<bool> boolean() const;
     /// Null when this is no text, no dictionary.
-    const std::string* text() const { return std::get_if<std::string>(&value_); }
-    const PropertyDictionary* dictionary() const {
-        return std::get_if<PropertyDictionary>(&value_);
-    }
+    const std::string* text() const;
+    const PropertyDictionary* dictionary() const;
 
   private:
     std::variant<bool, std::int64_t, double, std::string, Data, Array, PropertyDictionary> value_;
