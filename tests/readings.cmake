@@ -43,10 +43,13 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/kernel_facts_test.cpp
         platform/linux/kernel_file_test.cpp
         platform/linux/kernel_list_file_test.cpp
+        platform/linux/link_numbers_test.cpp
+        platform/linux/linux_dynamic_store_test.cpp
         platform/linux/linux_host_memory_test.cpp
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
         platform/linux/linux_load_averages_test.cpp
+        platform/linux/linux_network_interfaces_test.cpp
         platform/linux/linux_process_info_test.cpp
         platform/linux/live_memory_test.cpp
         platform/linux/live_processors_test.cpp
@@ -54,9 +57,12 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/low_power_mode_test.cpp
         platform/linux/mem_info_test.cpp
         platform/linux/memory_shares_test.cpp
+        platform/linux/netlink_dump_test.cpp
+        platform/linux/netlink_messages_test.cpp
         platform/linux/os_release_test.cpp
         platform/linux/proc_stat_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
+        platform/linux/route_tables_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
         platform/linux/thermal_zones_test.cpp
