@@ -38,8 +38,12 @@ vantor_add_tests(platform_tests LABEL core SOURCES
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(linux_tests LABEL core SOURCES
         platform/linux/arc_stats_test.cpp
+        platform/linux/attribute_file_test.cpp
+        platform/linux/battery_fill_test.cpp
+        platform/linux/block_device_test.cpp
         platform/linux/cpu_identity_test.cpp
         platform/linux/cpu_list_test.cpp
+        platform/linux/file_system_kind_test.cpp
         platform/linux/kernel_facts_test.cpp
         platform/linux/kernel_file_test.cpp
         platform/linux/kernel_list_file_test.cpp
@@ -49,7 +53,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
         platform/linux/linux_load_averages_test.cpp
+        platform/linux/linux_mounted_volumes_test.cpp
         platform/linux/linux_network_interfaces_test.cpp
+        platform/linux/linux_power_sources_test.cpp
         platform/linux/linux_process_info_test.cpp
         platform/linux/live_memory_test.cpp
         platform/linux/live_processors_test.cpp
@@ -57,15 +63,19 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/low_power_mode_test.cpp
         platform/linux/mem_info_test.cpp
         platform/linux/memory_shares_test.cpp
+        platform/linux/mount_table_test.cpp
         platform/linux/netlink_dump_test.cpp
         platform/linux/netlink_messages_test.cpp
         platform/linux/os_release_test.cpp
+        platform/linux/power_supply_test.cpp
         platform/linux/proc_stat_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
         platform/linux/thermal_zones_test.cpp
+        platform/linux/udev_data_test.cpp
+        platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
         support/fake_kernel_tree.cpp)
 endif()

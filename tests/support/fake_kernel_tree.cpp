@@ -43,6 +43,25 @@ void FakeKernelTree::etc(std::string_view path, std::string_view content) const 
     write(root_ / "etc" / path, content);
 }
 
+void FakeKernelTree::run(std::string_view path, std::string_view content) const {
+    write(root_ / "run" / path, content);
+}
+
+void FakeKernelTree::link(std::string_view path, std::string_view target) const {
+    const auto place = root_ / "sys" / path;
+    std::filesystem::create_directories(place.parent_path());
+    std::filesystem::remove(place);
+    std::filesystem::create_symlink(target, place);
+}
+
+void FakeKernelTree::blockDevice(std::string_view number, std::string_view device) const {
+    std::filesystem::create_directories(root_ / "sys" / device);
+    sys(std::string(device) + "/dev", std::string(number) + "\n");
+    const std::string target = "../../" + std::string(device);
+    link("dev/block/" + std::string(number), target);
+    link("class/block" + std::string(device.substr(device.rfind('/'))), target);
+}
+
 void FakeKernelTree::core(unsigned processor, std::string_view package, std::string_view die,
                           std::string_view core) const {
     const std::string folder = "devices/system/cpu/cpu" + std::to_string(processor) + "/topology/";
@@ -57,6 +76,10 @@ void FakeKernelTree::removeProc(std::string_view path) const {
 
 void FakeKernelTree::removeSys(std::string_view path) const {
     std::filesystem::remove(root_ / "sys" / path);
+}
+
+void FakeKernelTree::removeSysTree(std::string_view path) const {
+    std::filesystem::remove_all(root_ / "sys" / path);
 }
 
 }  // namespace vantor

@@ -25,12 +25,24 @@ class FakeKernelTree {
     void sys(std::string_view path, std::string_view content) const;
     void etc(std::string_view path, std::string_view content) const;
 
+    void run(std::string_view path, std::string_view content) const;
+
+    /// A symbolic link of /sys; what it leads to need not be there.
+    void link(std::string_view path, std::string_view target) const;
+
+    /// The folder of a block device, with the links by which the kernel lets it be found. `device`
+    /// is its place below /sys, "devices/…/block/sda".
+    void blockDevice(std::string_view number, std::string_view device) const;
+
     /// The folder of one processor of /sys with its place in the machine.
     void core(unsigned processor, std::string_view package, std::string_view die,
               std::string_view core) const;
 
     void removeProc(std::string_view path) const;
     void removeSys(std::string_view path) const;
+
+    /// Removes a folder of /sys with all that is in it.
+    void removeSysTree(std::string_view path) const;
 
   private:
     std::filesystem::path root_;

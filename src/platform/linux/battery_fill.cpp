@@ -98,18 +98,17 @@ bool isAtWork(const PowerSupplyTexts& battery) {
 
 template <class Measure>
 std::optional<BatteryFill> sumOf(std::span<const PowerSupplyTexts> batteries, Measure measure) {
-    BatteryFill sum{0, 0, 0};
+    BatteryFill sum;
+    bool someoneAtWorkIsSilent = false;
     for (const PowerSupplyTexts& battery : batteries) {
         const auto fill = measure(battery);
         if (!fill) return std::nullopt;
         sum.now += fill->now;
         sum.full += fill->full;
-        if (!fill->rate && (isAtWork(battery) || batteries.size() == 1)) {
-            sum.rate.reset();
-        } else if (sum.rate) {
-            *sum.rate += fill->rate.value_or(0);
-        }
+        if (fill->rate) sum.rate = sum.rate.value_or(0) + *fill->rate;
+        if (!fill->rate && isAtWork(battery)) someoneAtWorkIsSilent = true;
     }
+    if (someoneAtWorkIsSilent) sum.rate.reset();
     return sum;
 }
 

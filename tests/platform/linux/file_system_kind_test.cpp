@@ -1,0 +1,83 @@
+#include "platform/linux/file_system_kind.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace vantor {
+
+static void PrintTo(FileSystemKind kind, std::ostream* out) {
+    constexpr const char* names[] = {"local",   "pseudo",    "hostShare",
+                                     "network", "userSpace", "userSpacePseudo"};
+    *out << names[static_cast<int>(kind)];
+}
+
+namespace {
+
+struct Row {
+    std::string type;
+    std::uint32_t major;
+    FileSystemKind kind;
+};
+
+std::vector<Row> rows() {
+    using enum FileSystemKind;
+    std::vector<Row> all;
+    for (const char* type :
+         {"proc",        "sysfs",      "cgroup",    "cgroup2",       "tmpfs",    "devtmpfs",
+          "devpts",      "debugfs",    "tracefs",   "securityfs",    "bpf",      "fusectl",
+          "configfs",    "mqueue",     "hugetlbfs", "pstore",        "efivarfs", "autofs",
+          "binfmt_misc", "rpc_pipefs", "nsfs",      "ramfs",         "overlay",  "aufs",
+          "rootfs",      "selinuxfs",  "nfsd",      "never_heard_of"}) {
+        all.push_back({type, 0, pseudo});
+    }
+    for (const char* type : {"fuse.portal", "fuse.gvfsd-fuse", "fuse.lxcfs"})
+        all.push_back({type, 0, userSpacePseudo});
+    for (const char* type :
+         {"nfs", "nfs4", "cifs", "smb3", "smbfs", "afs", "ceph", "glusterfs", "davfs", "lustre",
+          "beegfs", "fuse.sshfs", "fuse.rclone", "fuse.s3fs", "fuse.glusterfs", "fuse.davfs2"}) {
+        all.push_back({type, 0, network});
+    }
+    for (const char* type : {"ocfs2", "gfs2"})
+        all.push_back({type, 8, network});
+    for (const char* type : {"9p", "virtiofs", "vboxsf", "fuse.vmhgfs-fuse"})
+        all.push_back({type, 0, hostShare});
+    for (const char* type : {"fuse", "fuse.encfs", "fuse.never_heard_of", "fuse."})
+        all.push_back({type, 0, userSpace});
+    for (const char* type : {"btrfs", "zfs", "bcachefs", "ubifs", "fuse.ntfs-3g", "fuse.exfat"})
+        all.push_back({type, 0, local});
+    for (const char* type : {"ext4", "xfs", "vfat", "exfat", "ntfs3", "fuseblk", "iso9660",
+                             "squashfs", "f2fs", "btrfs", "never_heard_of"}) {
+        all.push_back({type, 8, local});
+    }
+    return all;
+}
+
+class FileSystemKindOf : public testing::TestWithParam<Row> {};
+
+INSTANTIATE_TEST_SUITE_P(Rows, FileSystemKindOf, testing::ValuesIn(rows()), [](const auto& row) {
+    std::string name = row.param.type + (row.param.major == 0 ? "" : "OnADevice");
+    for (char& c : name)
+        c = std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
+    return name;
+});
+
+TEST_P(FileSystemKindOf, FollowsFromItsLine) {
+    Mount mount;
+    mount.type = GetParam().type;
+    mount.major = GetParam().major;
+    EXPECT_EQ(kindOf(mount), GetParam().kind);
+}
+
+TEST(FileSystemKind, OnlyDisksAndTheKernelAnswerForCertain) {
+    using enum FileSystemKind;
+    EXPECT_FALSE(mayHang(local));
+    EXPECT_FALSE(mayHang(pseudo));
+    for (const FileSystemKind kind : {hostShare, network, userSpace, userSpacePseudo})
+        EXPECT_TRUE(mayHang(kind));
+}
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,178 @@
+#include "platform/linux/linux_power_sources.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/linux/linux_machine.h"
+#include "probes/power_reader.h"
+#include "support/fake_kernel_tree.h"
+
+namespace vantor {
+namespace {
+
+class LinuxPowerSourcesTest : public testing::Test {
+  protected:
+    using Files = std::vector<std::pair<std::string, std::string>>;
+
+    /// Like the kernel, it keeps the folder elsewhere.
+    void supply(const std::string& name, const Files& files) {
+        const std::string folder = "devices/platform/power/" + name + "/";
+        for (const auto& [file, text] : files)
+            tree.sys(folder + file, text + "\n");
+        tree.link("class/power_supply/" + name, "../../" + folder);
+    }
+    void pullOut(const std::string& name) { tree.removeSysTree("devices/platform/power/" + name); }
+    void makeUnreadable(const std::string& name, const std::string& file) {
+        const auto path = tree.roots().sys / "devices/platform/power" / name / file;
+        std::filesystem::remove(path);
+        std::filesystem::create_directory(path);
+    }
+
+    PowerReadResult read() { return PowerReader(machine).read(); }
+
+    /// "none", "failure" or the charge in percent.
+    std::string answer() {
+        const auto result = read();
+        if (!result.isUpdate()) return "failure";
+        if (!result.stats()) return "none";
+        return std::to_string(static_cast<int>(result.stats()->chargeFraction * 100 + 0.5));
+    }
+
+    const Files thinkpad{{"type", "Battery"},          {"present", "1"},
+                         {"status", "Discharging"},    {"energy_now", "40000000"},
+                         {"energy_full", "50000000"},  {"power_now", "10000000"},
+                         {"cycle_count", "321"},       {"model_name", "45N1127 "},
+                         {"energy_full_design", "60"}, {"voltage_now", "11000000"}};
+
+    FakeKernelTree tree;
+    std::shared_ptr<Machine> machine =
+        std::make_shared<LinuxMachine>(tree.roots(), LinuxCalls::live());
+};
+
+TEST_F(LinuxPowerSourcesTest, ALaptopOnItsBattery) {
+    supply("AC", {{"type", "Mains"}, {"online", "0"}});
+    supply("BAT0", thinkpad);
+    EXPECT_EQ(read(), PowerReadResult::update(PowerStats{"45N1127", 0.8, false, false, 240, 321}));
+}
+
+TEST_F(LinuxPowerSourcesTest, ALaptopThatIsCharging) {
+    supply("AC", {{"type", "Mains"}, {"online", "1"}});
+    supply("BAT0", thinkpad);
+    supply("BAT0", {{"status", "Charging"}});
+    EXPECT_EQ(read(), PowerReadResult::update(PowerStats{"45N1127", 0.8, true, true, 60, 321}));
+}
+
+TEST_F(LinuxPowerSourcesTest, APhoneThatCountsCharge) {
+    supply("battery", {{"type", "Battery"},
+                       {"status", "Discharging"},
+                       {"charge_now", "1500000"},
+                       {"charge_full", "3000000"},
+                       {"current_now", "-500000"},
+                       {"capacity", "49"}});
+    supply("usb", {{"type", "USB"}, {"online", "0"}});
+    EXPECT_EQ(read(),
+              PowerReadResult::update(PowerStats{"battery", 0.5, false, false, 180, std::nullopt}));
+}
+
+TEST_F(LinuxPowerSourcesTest, ABatteryThatSaysPercentOnly) {
+    supply("BAT0", {{"type", "Battery"}, {"status", "Full"}, {"capacity", "100"}});
+    EXPECT_EQ(read(), PowerReadResult::update(
+                          PowerStats{"BAT0", 1.0, false, true, std::nullopt, std::nullopt}));
+}
+
+TEST_F(LinuxPowerSourcesTest, TwoBatteriesInTheOrderOfTheirNames) {
+    supply("BAT1", thinkpad);
+    supply("BAT1", {{"energy_now", "10000000"}, {"model_name", "Outer"}});
+    supply("BAT0", thinkpad);
+    EXPECT_EQ(read(),
+              PowerReadResult::update(PowerStats{"45N1127 + Outer", 0.5, false, false, 150, 321}));
+}
+
+TEST_F(LinuxPowerSourcesTest, AMachineWithoutTheFolderHasNoPowerSource) {
+    EXPECT_EQ(answer(), "none");
+}
+
+TEST_F(LinuxPowerSourcesTest, AMachineWithAnEmptyFolderHasNoPowerSource) {
+    supply("BAT0", thinkpad);
+    tree.removeSysTree("class/power_supply/BAT0");
+    EXPECT_EQ(answer(), "none");
+}
+
+TEST_F(LinuxPowerSourcesTest, AFolderThatCannotBeListedIsAFailure) {
+    tree.sys("class/power_supply", "this is no folder");
+    EXPECT_EQ(LinuxPowerSources(tree.roots()).copyInfo(), nullptr);
+    EXPECT_EQ(answer(), "failure");
+}
+
+TEST_F(LinuxPowerSourcesTest, AMouseIsNotABattery) {
+    supply(
+        "hidpp_battery_0",
+        {{"type", "Battery"}, {"scope", "Device"}, {"status", "Discharging"}, {"capacity", "5"}});
+    EXPECT_EQ(answer(), "none");
+    supply("BAT0", thinkpad);
+    EXPECT_EQ(answer(), "80");
+}
+
+TEST_F(LinuxPowerSourcesTest, AnEmptyBayIsNotABattery) {
+    supply("BAT0", {{"type", "Battery"}, {"present", "0"}});
+    EXPECT_EQ(answer(), "none");
+}
+
+TEST_F(LinuxPowerSourcesTest, AUPSAloneIsThePowerSource) {
+    supply("ups", {{"type", "UPS"}, {"status", "Discharging"}, {"capacity", "60"}});
+    EXPECT_EQ(read(), PowerReadResult::update(
+                          PowerStats{"ups", 0.6, false, false, std::nullopt, std::nullopt}));
+}
+
+TEST_F(LinuxPowerSourcesTest, ABatteryThatWasPulledOutIsNotThere) {
+    supply("BAT0", thinkpad);
+    supply("AC", {{"type", "Mains"}, {"online", "1"}});
+    ASSERT_EQ(answer(), "80");
+    pullOut("BAT0");  // its name is still in the listing
+    EXPECT_EQ(answer(), "none");
+}
+
+TEST_F(LinuxPowerSourcesTest, OneOfTwoBatteriesPulledOutLeavesTheOther) {
+    supply("BAT0", thinkpad);
+    supply("BAT1", thinkpad);
+    pullOut("BAT0");
+    EXPECT_EQ(answer(), "80");
+}
+
+TEST_F(LinuxPowerSourcesTest, AFolderWithoutATypeIsOneThatIsGoing) {
+    supply("BAT0", {{"capacity", "50"}});
+    EXPECT_EQ(answer(), "none");
+}
+
+TEST_F(LinuxPowerSourcesTest, ATypeThatCannotBeReadIsAFailure) {
+    supply("BAT0", thinkpad);
+    makeUnreadable("BAT0", "type");
+    EXPECT_EQ(answer(), "failure");
+}
+
+TEST_F(LinuxPowerSourcesTest, ABatteryThatIsThereButCannotBeReadIsAFailure) {
+    supply("BAT0", thinkpad);
+    makeUnreadable("BAT0", "energy_now");
+    EXPECT_EQ(answer(), "failure");
+    supply("BAT1", {{"type", "Battery"}, {"status", "Discharging"}});
+    EXPECT_EQ(answer(), "failure");
+}
+
+TEST_F(LinuxPowerSourcesTest, AFullCapacityOfZeroIsAFailure) {
+    supply("BAT0", thinkpad);
+    supply("BAT0", {{"energy_full", "0"}});
+    EXPECT_EQ(answer(), "failure");
+}
+
+TEST_F(LinuxPowerSourcesTest, OtherEntriesOfTheFolderDoNotMatter) {
+    supply("BAT0", thinkpad);
+    tree.sys("class/power_supply/uevent", "");
+    EXPECT_EQ(answer(), "80");
+}
+
+}  // namespace
+}  // namespace vantor
