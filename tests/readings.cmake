@@ -60,6 +60,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/live_memory_test.cpp
         platform/linux/live_processors_test.cpp
         platform/linux/live_system_info_test.cpp
+        platform/linux/live_volumes_test.cpp
         platform/linux/low_power_mode_test.cpp
         platform/linux/mem_info_test.cpp
         platform/linux/memory_shares_test.cpp
@@ -71,13 +72,15 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/proc_stat_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
+        platform/linux/silent_file_system_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
         platform/linux/thermal_zones_test.cpp
         platform/linux/udev_data_test.cpp
         platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
-        support/fake_kernel_tree.cpp)
+        support/fake_kernel_tree.cpp
+        support/private_mounts.cpp)
 endif()
 
 vantor_add_tests(settings_tests LABEL core SOURCES
