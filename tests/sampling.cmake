@@ -15,9 +15,14 @@ vantor_add_tests(sampling_thread_tests LABEL core SOURCES
     sampling/hanging_probe_test.cpp
     sampling/monitor_stress_test.cpp
     sampling/sampler_stress_test.cpp)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    target_sources(sampling_thread_tests PRIVATE
+        sampling/hanging_volumes_test.cpp
+        support/fake_kernel_tree.cpp)
+endif()
 
 # Programs that end while a thread of theirs hangs for ever, or is at work.
-foreach(end hanging_end busy_end)
+foreach(end hanging_end hanging_volumes_end busy_end)
     add_executable(${end}_program sampling/${end}_program.cpp)
     target_include_directories(${end}_program PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${end}_program PRIVATE vantor_core vantor_warnings)

@@ -9,17 +9,24 @@
 
 namespace vantor {
 
-/// A machine whose processors never answer, like a call stuck in the kernel.
+/// A machine one of whose calls never answers, as if it were stuck in the kernel.
 struct HangingMachine {
+    enum class Call { processors, volumes };
+
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
     std::shared_ptr<std::promise<void>> stuck = std::make_shared<std::promise<void>>();
 
-    HangingMachine() {
-        machine->hostProcessors().onTotalTicks = [signal = stuck] {
+    explicit HangingMachine(Call call = Call::processors) {
+        const auto hang = [signal = stuck] {
             signal->set_value();
             while (true)
                 ::pause();
         };
+        if (call == Call::processors) {
+            machine->hostProcessors().onTotalTicks = hang;
+        } else {
+            machine->mountedVolumes().onMountedVolumes = hang;
+        }
     }
 
     /// Returns once a probe is inside the call.

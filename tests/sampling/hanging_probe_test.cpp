@@ -91,6 +91,8 @@ TEST_P(ProgramsEnd, IsCleanAndWaitsForNobody) {
 
 INSTANTIATE_TEST_SUITE_P(WithAProbeThat, ProgramsEnd,
                          testing::Values(EndRow{{"Hangs"}, VANTOR_HANGING_END_PROGRAM},
+                                         EndRow{{"HangsInAFileSystem"},
+                                                VANTOR_HANGING_VOLUMES_END_PROGRAM},
                                          EndRow{{"IsAtWork"}, VANTOR_BUSY_END_PROGRAM}),
                          rowName<EndRow>);
 

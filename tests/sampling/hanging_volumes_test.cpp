@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/linux/linux_mounted_volumes.h"
+#include "platform/threads/threaded_main_loop.h"
+#include "platform/threads/threaded_serial_queue.h"
+#include "sampling/wound_world.h"
+#include "support/fake_file_systems.h"
+#include "support/fake_kernel_tree.h"
+#include "support/machine_with_volumes.h"
+
+/// A mounted file system that stops answering holds up the list of volumes and nothing else.
+namespace vantor {
+namespace {
+
+using namespace std::chrono_literals;
+
+class HangingVolumes : public testing::Test {
+  protected:
+    HangingVolumes() {
+        tree.proc("self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n");
+        fileSystems->spaces["/"] = {1, 1000, 600, false, {}};
+        fileSystems->onSpace = [hangs = hangs, isStuck = isStuck](const std::string&) {
+            if (!*hangs) return;
+            *isStuck = true;
+            while (true)
+                ::pause();
+        };
+        simulated->hostProcessors().growth = {30, 10, 60, 0};
+        simulated->powerSources().onCopyInfo = [reads = powerReads] { ++*reads; };
+        settings->setRefreshInterval(0.5);
+        monitor = SystemMonitor::make(settings, machine, loop, queues);
+    }
+
+    /// Runs the loop until the condition holds, while the machine's clock goes fast; false when it
+    /// does not come true.
+    bool runUntil(const std::function<bool()>& condition) {
+        const auto deadline = std::chrono::steady_clock::now() + 30s;
+        bool holds = false;
+        std::function<void()> look = [&] {
+            clock->wind(20ms);
+            holds = condition();
+            if (holds || std::chrono::steady_clock::now() > deadline) return loop->stop();
+            loop->runAfter(1ms, [&look] { look(); });
+        };
+        loop->post([&look] { look(); });
+        loop->run();
+        return holds;
+    }
+
+    const DashboardState& state() const { return monitor->dashboardState(); }
+
+    FakeKernelTree tree;
+    std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
+    std::shared_ptr<std::atomic<bool>> isStuck = std::make_shared<std::atomic<bool>>(false);
+    std::shared_ptr<std::atomic<int>> powerReads = std::make_shared<std::atomic<int>>(0);
+    std::shared_ptr<FakeFileSystems> fileSystems = std::make_shared<FakeFileSystems>();
+    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<SimulatedMachine> simulated = SimulatedMachine::laptop(clock);
+    std::shared_ptr<Machine> machine = std::make_shared<MachineWithVolumes>(
+        simulated, std::make_shared<LinuxMountedVolumes>(tree.roots(), fileSystems));
+    std::shared_ptr<AppSettings> settings = makeSettings();
+    std::shared_ptr<ThreadedMainLoop> loop = std::make_shared<ThreadedMainLoop>();
+    std::shared_ptr<ThreadedSerialQueueFactory> queues =
+        std::make_shared<ThreadedSerialQueueFactory>();
+    std::shared_ptr<SystemMonitor> monitor;
+};
+
+TEST_F(HangingVolumes, LeaveTheLastListAndAllOtherReadingsAlone) {
+    monitor->start();
+    int powerReadsBefore = 0;
+    std::uint64_t cpuBefore = 0;
+    bool wasListed = false;
+    const bool wentOn = runUntil([&] {
+        if (!wasListed) {
+            if (state().snapshot.volumes.empty()) return false;
+            wasListed = true;
+            cpuBefore = state().revisions.cpu;
+            powerReadsBefore = *powerReads;
+            *hangs = true;
+            monitor->forceRefresh();
+            return false;
+        }
+        return *isStuck && state().revisions.cpu >= cpuBefore + 5 &&
+               *powerReads >= powerReadsBefore + 3;
+    });
+    EXPECT_TRUE(wasListed);
+    EXPECT_TRUE(wentOn) << "the cpu or the power readings stood still";
+    ASSERT_EQ(state().snapshot.volumes.size(), 1U);
+    EXPECT_EQ(state().snapshot.volumes.front().path, "/");
+    EXPECT_EQ(state().snapshot.volumes.front().availableBytes, 600U);
+    EXPECT_TRUE(state().snapshot.power);
+
+    const auto before = std::chrono::steady_clock::now();
+    monitor.reset();
+    queues.reset();
+    loop.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - before, 500ms);
+}
+
+}  // namespace
+}  // namespace vantor
