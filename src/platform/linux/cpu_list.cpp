@@ -24,6 +24,8 @@ std::optional<std::vector<std::uint32_t>> parseCPUList(std::string_view text) {
     while (!text.empty()) {
         std::uint32_t first = 0;
         if (!readNumber(text, first)) return std::nullopt;
+        // The kernel's lists are in order; one that was not could name each processor many times.
+        if (!numbers.empty() && first <= numbers.back()) return std::nullopt;
         std::uint32_t last = first;
         if (!text.empty() && text.front() == '-') {
             text.remove_prefix(1);

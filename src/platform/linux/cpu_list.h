@@ -8,8 +8,8 @@
 namespace vantor {
 
 /// The processor numbers of a kernel list such as "0-3,8,10-11"
-/// (https://docs.kernel.org/admin-guide/cputopology.html), ascending as written; absent when the
-/// text is not such a list. An empty list is an empty answer.
+/// (https://docs.kernel.org/admin-guide/cputopology.html), ascending; absent when the text is not
+/// such a list or not in order. An empty list is an empty answer.
 std::optional<std::vector<std::uint32_t>> parseCPUList(std::string_view text);
 
 }  // namespace vantor

@@ -35,6 +35,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"NoStart", "-3", std::nullopt}, Row{"TrailingComma", "0,1,", std::nullopt},
                     Row{"LeadingComma", ",1", std::nullopt}, Row{"TwoCommas", "0,,1", std::nullopt},
                     Row{"Word", "all", std::nullopt}, Row{"BlankBetween", "0 1", std::nullopt},
+                    Row{"Repeated", "1,1", std::nullopt}, Row{"Descending", "2,1", std::nullopt},
+                    Row{"Overlapping", "0-3,2-5", std::nullopt},
                     Row{"ThreePartRange", "0-3-5", std::nullopt}),
     [](const auto& row) { return std::string(row.param.name); });
 
