@@ -3,6 +3,7 @@ vantor_add_tests(model_tests LABEL core SOURCES
     model/placeholders_test.cpp
     model/record_coding_test.cpp
     model/record_values_test.cpp
+    model/shared_text_test.cpp
     model/timestamp_test.cpp)
 
 vantor_add_tests(probes_tests LABEL core SOURCES
@@ -11,6 +12,7 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/cpu_reader_identity_test.cpp
     probes/cpu_reader_test.cpp
     probes/cpu_ticks_test.cpp
+    probes/heaviest_test.cpp
     probes/interface_dump_reader_test.cpp
     probes/interface_dump_test.cpp
     probes/interface_order_test.cpp
@@ -19,7 +21,15 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/network_reader_interfaces_test.cpp
     probes/network_reader_primary_test.cpp
     probes/network_reader_test.cpp
+    probes/pid_map_test.cpp
     probes/power_reader_test.cpp
+    probes/process_names_test.cpp
+    probes/process_reader_listing_test.cpp
+    probes/process_reader_names_test.cpp
+    probes/process_reader_stress_test.cpp
+    probes/process_reader_test.cpp
+    probes/process_reader_time_base_test.cpp
+    probes/process_storage_test.cpp
     probes/standard_order_test.cpp
     probes/storage_reader_test.cpp
     probes/sysctl_test.cpp

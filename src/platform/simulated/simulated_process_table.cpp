@@ -27,9 +27,11 @@ SimulatedProcessTable::Process& SimulatedProcessTable::add(std::int32_t pid, std
 }
 
 SimulatedProcessTable::Process* SimulatedProcessTable::find(std::int32_t pid) {
-    const auto found = std::find_if(processes.begin(), processes.end(),
-                                    [pid](const Process& p) { return p.pid == pid; });
-    return found == processes.end() ? nullptr : &*found;
+    for (std::size_t i = 0; i < processes.size(); ++i, ++cursor_) {
+        if (cursor_ >= processes.size()) cursor_ = 0;
+        if (processes[cursor_].pid == pid) return &processes[cursor_];
+    }
+    return nullptr;
 }
 
 void SimulatedProcessTable::remove(std::int32_t pid) {
@@ -61,13 +63,20 @@ int SimulatedProcessTable::taskAllInfo(std::int32_t pid, TaskAllInfo& info) {
 int SimulatedProcessTable::path(std::int32_t pid, std::span<char> buffer) {
     ++pathLookups;
     const Process* const process = find(pid);
-    return process ? copyOut(process->path, buffer) : 0;
+    const int count = process ? copyOut(process->path, buffer) : 0;
+    return claimedPathLength.value_or(count);
+}
+
+bool SimulatedProcessTable::mayHaveNewPath(std::int32_t pid) {
+    const Process* const process = find(pid);
+    return !process || process->mayHaveNewPath;
 }
 
 int SimulatedProcessTable::name(std::int32_t pid, std::span<char> buffer) {
     ++nameLookups;
     const Process* const process = find(pid);
-    return process ? copyOut(process->name, buffer) : 0;
+    const int count = process ? copyOut(process->name, buffer) : 0;
+    return claimedNameLength.value_or(count);
 }
 
 }  // namespace vantor

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <functional>
-#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +18,7 @@ class SimulatedProcessTable : public ProcessTable {
         std::string path;  ///< empty = no path
         std::string name;  ///< empty = no name
         bool isReadable = true;
+        bool mayHaveNewPath = true;
     };
 
     /// In the order of the listing.
@@ -27,6 +28,8 @@ class SimulatedProcessTable : public ProcessTable {
     std::optional<int> claimedCount;
     std::optional<int> claimedListed;
     int infoSize = taskAllInfoSize;  ///< what taskAllInfo says it filled
+    std::optional<int> claimedPathLength;
+    std::optional<int> claimedNameLength;
     std::optional<Timebase> nativeTimebase = Timebase{1, 1};
 
     /// Runs before each listing into a buffer, so that processes may come and go in between.
@@ -47,8 +50,12 @@ class SimulatedProcessTable : public ProcessTable {
     int listAllPIDs(std::span<std::int32_t> buffer) override;
     int taskAllInfo(std::int32_t pid, TaskAllInfo& info) override;
     int path(std::int32_t pid, std::span<char> buffer) override;
+    bool mayHaveNewPath(std::int32_t pid) override;
     int name(std::int32_t pid, std::span<char> buffer) override;
     std::optional<Timebase> timebase() override { return nativeTimebase; }
+
+  private:
+    std::size_t cursor_ = 0;  // questions come in the order of the listing
 };
 
 }  // namespace vantor
