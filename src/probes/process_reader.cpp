@@ -15,6 +15,9 @@ namespace {
 constexpr std::int64_t defaultMaximumPIDCapacity = 131072;
 constexpr double nanosecondsPerSecond = 1e9;
 constexpr std::size_t spareListEntries = 64;
+// The call counts the buffer's bytes with 31 bits.
+constexpr std::size_t mostListEntries =
+    static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()) / sizeof(std::int32_t);
 constexpr int listAttempts = 3;
 constexpr double refreshPeriod = 10.0;
 
@@ -53,17 +56,17 @@ bool ProcessReader::listPIDs() {
     const auto maximum = static_cast<std::size_t>(storage_.maximumPIDCapacity());
     const std::size_t wanted =
         std::min(maximum, static_cast<std::size_t>(count) + spareListEntries);
+    if (wanted > mostListEntries) return false;
     if (buffer.size() < wanted) buffer.assign(wanted, 0);
     std::size_t listed = 0;
     for (int attempt = 1;; ++attempt) {
-        constexpr auto byteLimit =
-            static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max());
-        if (buffer.size() > byteLimit / sizeof(std::int32_t)) return false;
         const int answer = table.listAllPIDs(buffer);
         if (answer < 1) return false;
         listed = static_cast<std::size_t>(answer);
         if (buffer.size() > listed || buffer.size() >= maximum || attempt == listAttempts) break;
-        buffer.resize(std::min(maximum, buffer.size() * 2));
+        const std::size_t larger = std::min(maximum, buffer.size() * 2);
+        if (larger > mostListEntries) return false;
+        buffer.resize(larger);
     }
     // A listing that fills the buffer may be cut short, and part of a list is worse than none.
     if (buffer.size() <= listed && buffer.size() < maximum) return false;

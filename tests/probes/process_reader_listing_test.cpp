@@ -154,6 +154,16 @@ TEST_F(ProcessReaderListingTest, TheLargestCountIsCappedByTheMaximum) {
     EXPECT_THAT(readAfter(1).all, SizeIs(10));
 }
 
+TEST_F(ProcessReaderListingTest, AListingOfTwoGigabytesGivesNoneAndTakesNoMemory) {
+    allowAtMost(std::numeric_limits<std::int32_t>::max());
+    for (const int count : {(1 << 29) - 64, 1 << 29, std::numeric_limits<int>::max()}) {
+        table.claimedCount = count;
+        EXPECT_EQ(reader->read(), ProcessSample::empty());
+        EXPECT_EQ(table.listings, 0);
+        EXPECT_EQ(reader->storage().pidBuffer.capacity(), 0U);
+    }
+}
+
 TEST_F(ProcessReaderListingTest, TheMaximumIsTheKernelsAndElse131072) {
     EXPECT_EQ(storedMaximum(), 131072U);
     machine->kernelValues().setInt32("kern.maxproc", 4000);
