@@ -68,6 +68,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_power_sources_test.cpp
         platform/linux/linux_process_info_test.cpp
         platform/linux/live_memory_test.cpp
+        platform/linux/live_network_test.cpp
         platform/linux/live_processors_test.cpp
         platform/linux/live_system_info_test.cpp
         platform/linux/live_volumes_test.cpp

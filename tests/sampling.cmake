@@ -37,6 +37,7 @@ if(NOT VANTOR_SANITIZE)
     vantor_add_tests(allocation_tests LABEL core SOURCES
         sampling/allocation_test.cpp
         sampling/counted_allocations.cpp
+        sampling/network_allocation_test.cpp
         sampling/slow_state_allocation_test.cpp
         support/fake_kernel_tree.cpp)
 endif()
