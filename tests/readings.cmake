@@ -94,9 +94,12 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/zram_devices_test.cpp
         support/fake_kernel_tree.cpp
         support/network_namespace.cpp
-        support/private_mounts.cpp
+        support/private_mounts.cpp)
     # A program of its own: its process leaves the network namespace that it was started in.
-    vantor_add_tests(network_namespace_tests LABEL core SOURCES)
+    vantor_add_tests(network_namespace_tests LABEL core SOURCES
+        platform/linux/network_changes_test.cpp
+        platform/linux/network_transfer_test.cpp
+        support/network_namespace.cpp)
 endif()
 
 vantor_add_tests(settings_tests LABEL core SOURCES
