@@ -1,0 +1,119 @@
+#include "machines/machine_document.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "model/record_coding.h"
+#include "support/recorded_machine.h"
+
+namespace vantor {
+
+namespace {
+
+using nlohmann::json;
+
+constexpr std::uint64_t pageSizeOfDocuments = 4096;
+
+template <class Record>
+json toJSON(const Record& record) {
+    auto value = encode(record);
+    // What cannot be written has an infinite figure or one that is no number.
+    return value ? *std::move(value) : json("not finite");
+}
+
+template <class Record>
+json toJSON(const std::optional<Record>& record) {
+    return record ? toJSON(*record) : json(nullptr);
+}
+
+template <class Record>
+json toJSON(const Record* record) {
+    return record ? toJSON(*record) : json(nullptr);
+}
+
+json toJSON(const std::optional<std::vector<VolumeStats>>& volumes) {
+    if (!volumes) return nullptr;
+    json list = json::array();
+    for (const VolumeStats& volume : *volumes)
+        list.push_back(toJSON(volume));
+    return list;
+}
+
+json toJSON(const PowerReadResult& result) {
+    return result.isUpdate() ? toJSON(result.stats()) : json("failure");
+}
+
+json numbersOf(const std::vector<ProcessStats>& processes) {
+    json numbers = json::array();
+    for (const ProcessStats& process : processes)
+        numbers.push_back(process.pid);
+    return numbers;
+}
+
+json toJSON(ProcessSample sample) {
+    const auto pageSize = static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE));
+    std::sort(sample.all.begin(), sample.all.end(),
+              [](const auto& one, const auto& other) { return one.pid < other.pid; });
+    json all = json::array();
+    for (ProcessStats& process : sample.all) {
+        process.residentMemoryBytes = process.residentMemoryBytes / pageSize * pageSizeOfDocuments;
+        all.push_back(toJSON(process));
+    }
+    return {{"all", std::move(all)},
+            {"sortedByCPU", numbersOf(sample.sortedByCPU)},
+            {"sortedByMemory", numbersOf(sample.sortedByMemory)}};
+}
+
+json toJSON(SystemInfoStats stats) {
+    if (!stats.architecture.empty()) stats.architecture = "(that of the build)";
+    return toJSON<SystemInfoStats>(std::as_const(stats));
+}
+
+json describeSecondPass(const std::string& name, bool includePointToPointInterfaces) {
+    const auto machine = std::make_shared<RecordedMachine>(name);
+    MachineWitness witness(machine, includePointToPointInterfaces);
+    witness.ask();
+    machine->advance(1);
+    return witness.ask();
+}
+
+}  // namespace
+
+MachineWitness::MachineWitness(std::shared_ptr<Machine> machine, bool includePointToPointInterfaces)
+    : sampler_(SystemSampler::make(std::move(machine), queues_)),
+      includePointToPointInterfaces_(includePointToPointInterfaces) {}
+
+json MachineWitness::ask() {
+    json said;
+    const auto note = [&said](const char* provider) {
+        return [&said, provider](auto&& record) {
+            said[provider] = toJSON(std::forward<decltype(record)>(record));
+        };
+    };
+    sampler_->requestCPU(0, true, note("cpu"));
+    sampler_->requestMemory(0, true, note("memory"));
+    sampler_->requestNetwork(includePointToPointInterfaces_, 0, true, note("network"));
+    sampler_->requestSystemInfo(0, true, note("system"));
+    sampler_->requestProcesses(0, true, note("processes"));
+    sampler_->requestVolumes(0, true, note("volumes"));
+    sampler_->requestPower(0, true, note("power"));
+    queues_.runWaiting();
+    return said;
+}
+
+std::string describeRecordedMachine(const std::string& name) {
+    json document = describeSecondPass(name, false);
+    json network = describeSecondPass(name, true)["network"];
+    if (network != document["network"]) document["networkWithTunnels"] = std::move(network);
+    return written(document);
+}
+
+std::string written(const json& document) {
+    return document.dump(2) + '\n';
+}
+
+}  // namespace vantor
