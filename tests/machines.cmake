@@ -1,6 +1,7 @@
 # Whole machines recorded as text, see machines/README.md.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(machines_tests LABEL core SOURCES
+        machines/damaged_machines_test.cpp
         machines/machine_document.cpp
         machines/machines_test.cpp
         support/line_difference.cpp
