@@ -86,14 +86,11 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/silent_file_system_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
-        platform/linux/network_changes_test.cpp
-        platform/linux/network_transfer_test.cpp
         platform/linux/thermal_zones_test.cpp
         platform/linux/udev_data_test.cpp
         platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
         support/fake_kernel_tree.cpp
-        support/network_namespace.cpp
         support/private_mounts.cpp)
     # A program of its own: its process leaves the network namespace that it was started in.
     vantor_add_tests(network_namespace_tests LABEL core SOURCES
