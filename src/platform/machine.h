@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/accelerators.h"
 #include "platform/dynamic_store.h"
+#include "platform/graphics_devices.h"
+#include "platform/hid_event_system.h"
 #include "platform/host_memory.h"
 #include "platform/host_processors.h"
 #include "platform/kernel_values.h"
@@ -11,6 +14,7 @@
 #include "platform/power_sources.h"
 #include "platform/process_info.h"
 #include "platform/process_table.h"
+#include "platform/system_controller.h"
 #include "platform/wall_clock.h"
 
 namespace vantor {
@@ -21,7 +25,10 @@ class Machine {
   public:
     virtual ~Machine() = default;
 
+    virtual Accelerators& accelerators() = 0;
     virtual DynamicStore& dynamicStore() = 0;
+    virtual GraphicsDevices& graphicsDevices() = 0;
+    virtual HIDEventSystem& hidEventSystem() = 0;
     virtual HostMemory& hostMemory() = 0;
     virtual HostProcessors& hostProcessors() = 0;
     virtual KernelValues& kernelValues() = 0;
@@ -31,6 +38,7 @@ class Machine {
     virtual PowerSources& powerSources() = 0;
     virtual ProcessInfo& processInfo() = 0;
     virtual ProcessTable& processTable() = 0;
+    virtual SystemController& systemController() = 0;
     virtual WallClock& wallClock() = 0;
     virtual const PlatformWords& words() const = 0;
 };

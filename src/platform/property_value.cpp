@@ -35,6 +35,16 @@ std::optional<std::int64_t> PropertyValue::integer() const {
     return static_cast<std::int64_t>(*number);
 }
 
+std::optional<double> PropertyValue::number() const {
+    if (const auto* whole = std::get_if<std::int64_t>(&value_)) return static_cast<double>(*whole);
+    const auto* number = std::get_if<double>(&value_);
+    return number ? std::optional(*number) : std::nullopt;
+}
+
+const PropertyValue::Data* PropertyValue::data() const {
+    return std::get_if<Data>(&value_);
+}
+
 const std::string* PropertyValue::text() const {
     return std::get_if<std::string>(&value_);
 }

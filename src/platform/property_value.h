@@ -35,9 +35,12 @@ class PropertyValue {
 
     /// A whole number, also one that is held as a floating value without a fraction.
     std::optional<std::int64_t> integer() const;
+    /// Any number, whole or not; a boolean is none.
+    std::optional<double> number() const;
     std::optional<bool> boolean() const;
-    /// Null when this is no text, no dictionary.
+    /// Null when this is no text, no data, no dictionary.
     const std::string* text() const;
+    const Data* data() const;
     const PropertyDictionary* dictionary() const;
 
   private:

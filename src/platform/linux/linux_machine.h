@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/linux/linux_accelerators.h"
 #include "platform/linux/linux_calls.h"
 #include "platform/linux/linux_dynamic_store.h"
+#include "platform/linux/linux_graphics_devices.h"
+#include "platform/linux/linux_hid_event_system.h"
 #include "platform/linux/linux_host_memory.h"
 #include "platform/linux/linux_host_processors.h"
 #include "platform/linux/linux_kernel_values.h"
@@ -12,6 +15,7 @@
 #include "platform/linux/linux_process_info.h"
 #include "platform/linux/linux_process_table.h"
 #include "platform/linux/linux_roots.h"
+#include "platform/linux/linux_system_controller.h"
 #include "platform/machine.h"
 
 namespace vantor {
@@ -21,7 +25,10 @@ class LinuxMachine : public Machine {
   public:
     explicit LinuxMachine(const LinuxRoots& roots = {},
                           const LinuxCalls& calls = LinuxCalls::live())
-        : dynamicStore_(roots),
+        : accelerators_(roots),
+          dynamicStore_(roots),
+          graphicsDevices_(roots),
+          hidEventSystem_(roots),
           hostMemory_(roots),
           hostProcessors_(roots),
           kernelValues_(roots),
@@ -30,9 +37,13 @@ class LinuxMachine : public Machine {
           networkInterfaces_(calls.links),
           powerSources_(roots),
           processInfo_(roots),
-          processTable_(roots, calls.processClocks) {}
+          processTable_(roots, calls.processClocks),
+          systemController_(roots) {}
 
+    Accelerators& accelerators() override { return accelerators_; }
     DynamicStore& dynamicStore() override { return dynamicStore_; }
+    GraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
+    HIDEventSystem& hidEventSystem() override { return hidEventSystem_; }
     HostMemory& hostMemory() override { return hostMemory_; }
     HostProcessors& hostProcessors() override { return hostProcessors_; }
     KernelValues& kernelValues() override { return kernelValues_; }
@@ -42,6 +53,7 @@ class LinuxMachine : public Machine {
     PowerSources& powerSources() override { return powerSources_; }
     ProcessInfo& processInfo() override { return processInfo_; }
     ProcessTable& processTable() override { return processTable_; }
+    SystemController& systemController() override { return systemController_; }
     WallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return words_; }
 
@@ -53,7 +65,10 @@ class LinuxMachine : public Machine {
         }
     };
 
+    LinuxAccelerators accelerators_;
     LinuxDynamicStore dynamicStore_;
+    LinuxGraphicsDevices graphicsDevices_;
+    LinuxHIDEventSystem hidEventSystem_;
     LinuxHostMemory hostMemory_;
     LinuxHostProcessors hostProcessors_;
     LinuxKernelValues kernelValues_;
@@ -63,6 +78,7 @@ class LinuxMachine : public Machine {
     LinuxPowerSources powerSources_;
     LinuxProcessInfo processInfo_;
     LinuxProcessTable processTable_;
+    LinuxSystemController systemController_;
     SystemWallClock wallClock_;
     PlatformWords words_{"Live Linux performance intelligence", "Unknown Computer"};
 };

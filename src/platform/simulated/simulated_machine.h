@@ -6,7 +6,10 @@
 #include <vector>
 
 #include "platform/machine.h"
+#include "platform/simulated/simulated_accelerators.h"
 #include "platform/simulated/simulated_dynamic_store.h"
+#include "platform/simulated/simulated_graphics_devices.h"
+#include "platform/simulated/simulated_hid_event_system.h"
 #include "platform/simulated/simulated_host_memory.h"
 #include "platform/simulated/simulated_host_processors.h"
 #include "platform/simulated/simulated_kernel_values.h"
@@ -14,6 +17,7 @@
 #include "platform/simulated/simulated_network_interfaces.h"
 #include "platform/simulated/simulated_power_sources.h"
 #include "platform/simulated/simulated_process_table.h"
+#include "platform/simulated/simulated_system_controller.h"
 #include "platform/simulated/wound_clock.h"
 
 namespace vantor {
@@ -89,7 +93,10 @@ class SimulatedMachine : public Machine {
 
     const std::shared_ptr<WoundClock>& clock() const { return clock_; }
 
+    SimulatedAccelerators& accelerators() override { return accelerators_; }
     SimulatedDynamicStore& dynamicStore() override { return dynamicStore_; }
+    SimulatedGraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
+    SimulatedHIDEventSystem& hidEventSystem() override { return hidEventSystem_; }
     SimulatedHostMemory& hostMemory() override { return hostMemory_; }
     SimulatedHostProcessors& hostProcessors() override { return hostProcessors_; }
     SimulatedKernelValues& kernelValues() override { return kernelValues_; }
@@ -99,12 +106,16 @@ class SimulatedMachine : public Machine {
     SimulatedPowerSources& powerSources() override { return powerSources_; }
     SimulatedProcessInfo& processInfo() override { return processInfo_; }
     SimulatedProcessTable& processTable() override { return processTable_; }
+    SimulatedSystemController& systemController() override { return systemController_; }
     SimulatedWallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return words_; }
 
   private:
     std::shared_ptr<WoundClock> clock_;
+    SimulatedAccelerators accelerators_;
     SimulatedDynamicStore dynamicStore_;
+    SimulatedGraphicsDevices graphicsDevices_;
+    SimulatedHIDEventSystem hidEventSystem_;
     SimulatedHostMemory hostMemory_;
     SimulatedHostProcessors hostProcessors_;
     SimulatedKernelValues kernelValues_;
@@ -114,6 +125,7 @@ class SimulatedMachine : public Machine {
     SimulatedPowerSources powerSources_;
     SimulatedProcessInfo processInfo_;
     SimulatedProcessTable processTable_;
+    SimulatedSystemController systemController_;
     SimulatedWallClock wallClock_;
     PlatformWords words_{"Live macOS performance intelligence", "Unknown Mac"};
 };
