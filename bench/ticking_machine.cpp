@@ -1,5 +1,6 @@
 #include "ticking_machine.h"
 
+#include "platform/derived_machine.h"
 #include "platform/native_machine.h"
 
 namespace vantor::bench {
@@ -29,24 +30,14 @@ class TickingProcessors : public HostProcessors {
     std::uint32_t spent_ = 0;
 };
 
-class TickingMachine : public Machine {
+class TickingMachine : public DerivedMachine {
   public:
-    DynamicStore& dynamicStore() override { return native_->dynamicStore(); }
-    HostMemory& hostMemory() override { return native_->hostMemory(); }
+    TickingMachine() : DerivedMachine(makeNativeMachine()) {}
+
     HostProcessors& hostProcessors() override { return processors_; }
-    KernelValues& kernelValues() override { return native_->kernelValues(); }
-    LoadAverages& loadAverages() override { return native_->loadAverages(); }
-    MountedVolumes& mountedVolumes() override { return native_->mountedVolumes(); }
-    NetworkInterfaces& networkInterfaces() override { return native_->networkInterfaces(); }
-    PowerSources& powerSources() override { return native_->powerSources(); }
-    ProcessInfo& processInfo() override { return native_->processInfo(); }
-    ProcessTable& processTable() override { return native_->processTable(); }
-    WallClock& wallClock() override { return native_->wallClock(); }
-    const PlatformWords& words() const override { return native_->words(); }
 
   private:
-    std::shared_ptr<Machine> native_ = makeNativeMachine();
-    TickingProcessors processors_{native_->hostProcessors()};
+    TickingProcessors processors_{origin()->hostProcessors()};
 };
 
 }  // namespace

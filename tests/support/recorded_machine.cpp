@@ -19,9 +19,15 @@ RecordedMachine::RecordedMachine(const std::string& name)
     : RecordedMachine(std::make_shared<const RecordedTree>(name)) {}
 
 RecordedMachine::RecordedMachine(std::shared_ptr<const RecordedTree> tree)
-    : tree_(std::move(tree)),
-      machine_(tree_->roots(), recordedCalls(tree_->calls(), clock_)),
-      processInfo_(machine_.processInfo(), clock_) {
+    : RecordedMachine(std::move(tree), std::make_shared<WoundClock>()) {}
+
+RecordedMachine::RecordedMachine(std::shared_ptr<const RecordedTree> tree,
+                                 std::shared_ptr<WoundClock> clock)
+    : DerivedMachine(
+          std::make_shared<LinuxMachine>(tree->roots(), recordedCalls(tree->calls(), clock))),
+      tree_(std::move(tree)),
+      clock_(std::move(clock)),
+      processInfo_(origin()->processInfo(), clock_) {
     const auto uptime = tree_->calls() / "monotonic";
     if (std::filesystem::exists(uptime)) {
         clock_->setNow(nanoseconds(std::stod(readRecordedFile(uptime))));

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/derived_machine.h"
 #include "platform/linux/linux_machine.h"
 #include "platform/simulated/wound_clock.h"
 #include "support/recorded_tree.h"
@@ -46,7 +47,7 @@ class StoppedWallClock : public WallClock {
 };
 
 /// The Linux adapters on a machine recorded in tests/machines.
-class RecordedMachine : public Machine {
+class RecordedMachine : public DerivedMachine {
   public:
     explicit RecordedMachine(const std::string& name);
     /// On a tree that others may share, and damage.
@@ -59,23 +60,14 @@ class RecordedMachine : public Machine {
 
     const RecordedTree& tree() const { return *tree_; }
 
-    DynamicStore& dynamicStore() override { return machine_.dynamicStore(); }
-    HostMemory& hostMemory() override { return machine_.hostMemory(); }
-    HostProcessors& hostProcessors() override { return machine_.hostProcessors(); }
-    KernelValues& kernelValues() override { return machine_.kernelValues(); }
-    LoadAverages& loadAverages() override { return machine_.loadAverages(); }
-    MountedVolumes& mountedVolumes() override { return machine_.mountedVolumes(); }
-    NetworkInterfaces& networkInterfaces() override { return machine_.networkInterfaces(); }
-    PowerSources& powerSources() override { return machine_.powerSources(); }
     ProcessInfo& processInfo() override { return processInfo_; }
-    ProcessTable& processTable() override { return machine_.processTable(); }
     WallClock& wallClock() override { return wallClock_; }
-    const PlatformWords& words() const override { return machine_.words(); }
 
   private:
+    RecordedMachine(std::shared_ptr<const RecordedTree> tree, std::shared_ptr<WoundClock> clock);
+
     std::shared_ptr<const RecordedTree> tree_;
-    std::shared_ptr<WoundClock> clock_ = std::make_shared<WoundClock>();
-    LinuxMachine machine_;
+    std::shared_ptr<WoundClock> clock_;
     RecordedProcessInfo processInfo_;
     StoppedWallClock wallClock_;
 };

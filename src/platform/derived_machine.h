@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "platform/machine.h"
+
+namespace vantor {
+
+/// A machine that asks another one whatever a class derived from this does not answer itself.
+class DerivedMachine : public Machine {
+  public:
+    explicit DerivedMachine(std::shared_ptr<Machine> origin) : origin_(std::move(origin)) {}
+
+    Accelerators& accelerators() override { return origin_->accelerators(); }
+    DynamicStore& dynamicStore() override { return origin_->dynamicStore(); }
+    GraphicsDevices& graphicsDevices() override { return origin_->graphicsDevices(); }
+    HIDEventSystem& hidEventSystem() override { return origin_->hidEventSystem(); }
+    HostMemory& hostMemory() override { return origin_->hostMemory(); }
+    HostProcessors& hostProcessors() override { return origin_->hostProcessors(); }
+    KernelValues& kernelValues() override { return origin_->kernelValues(); }
+    LoadAverages& loadAverages() override { return origin_->loadAverages(); }
+    MountedVolumes& mountedVolumes() override { return origin_->mountedVolumes(); }
+    NetworkInterfaces& networkInterfaces() override { return origin_->networkInterfaces(); }
+    PowerSources& powerSources() override { return origin_->powerSources(); }
+    ProcessInfo& processInfo() override { return origin_->processInfo(); }
+    ProcessTable& processTable() override { return origin_->processTable(); }
+    SystemController& systemController() override { return origin_->systemController(); }
+    WallClock& wallClock() override { return origin_->wallClock(); }
+    const PlatformWords& words() const override { return origin_->words(); }
+
+  protected:
+    const std::shared_ptr<Machine>& origin() const { return origin_; }
+
+  private:
+    std::shared_ptr<Machine> origin_;
+};
+
+}  // namespace vantor
