@@ -65,12 +65,27 @@ Desktop::Desktop(QSize screen) : environment_(QProcessEnvironment::systemEnviron
     QDir().mkpath(home_.filePath(QStringLiteral("config/vantor")));
     windowManager_.setProcessEnvironment(environment_);
     windowManager_.setStandardErrorFile(QProcess::nullDevice());
+    // A display server that has just started may still turn away who comes first.
+    for (int attempts = 3; attempts > 0 && !isUp_; --attempts)
+        isUp_ = startWindowManager();
+}
+
+bool Desktop::startWindowManager() {
     windowManager_.start(QStringLiteral("openbox"), QStringList());
-    isUp_ = windowManager_.waitForStarted(toolPatience) && eventually([this] {
-                return run(QStringLiteral("xprop"),
-                           {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
-                    .contains(u'#');
-            });
+    const bool hasStarted = windowManager_.waitForStarted(toolPatience);
+    const auto isManaging = [this] {
+        return run(QStringLiteral("xprop"),
+                   {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
+            .contains(u'#');
+    };
+    const auto hasEnded = [this] { return windowManager_.waitForFinished(0); };
+    bool managing = false;
+    if (hasStarted) eventually([&] { return (managing = isManaging()) || hasEnded(); });
+    if (!managing) {
+        windowManager_.kill();
+        windowManager_.waitForFinished(toolPatience);
+    }
+    return managing;
 }
 
 Desktop::~Desktop() {

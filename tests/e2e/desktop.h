@@ -36,6 +36,8 @@ class Desktop {
     void clickAt(QPoint place) const;
 
   private:
+    bool startWindowManager();
+
     QTemporaryDir home_;
     QProcessEnvironment environment_;
     QProcess server_;
