@@ -1,9 +1,12 @@
 #include "platform/linux/cpu_identity.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <set>
 #include <tuple>
+#include <utility>
 
 #include "platform/linux/cpu_list.h"
 #include "platform/linux/kernel_file.h"
@@ -47,6 +50,26 @@ std::optional<std::string> readDeviceTreeModel(const LinuxRoots& roots) {
     return readKernelText(roots.sys / "firmware/devicetree/base/model");
 }
 
+/// What firmware says whose makers did not fill it in.
+constexpr std::array<std::string_view, 8> placeholders{
+    "To Be Filled By O.E.M.", "System Product Name", "Default string", "Not Applicable",
+    "Not Specified",          "Product Name",        "O.E.M.",         "None",
+};
+
+std::optional<std::string> readFirmwareName(const LinuxRoots& roots, const char* name) {
+    auto text = readKernelText(roots.sys / "class/dmi/id" / name);
+    if (!text || std::find(placeholders.begin(), placeholders.end(), *text) != placeholders.end())
+        return std::nullopt;
+    return text;
+}
+
+/// Some processors fill their name up with blanks, in the middle too.
+std::string withSingleBlanks(std::string text) {
+    const auto areBlanks = [](char a, char b) { return a == ' ' && b == ' '; };
+    text.erase(std::unique(text.begin(), text.end(), areBlanks), text.end());
+    return text;
+}
+
 std::filesystem::path processorFolder(const LinuxRoots& roots, std::uint32_t id) {
     return roots.sys / "devices/system/cpu" / ("cpu" + std::to_string(id));
 }
@@ -82,13 +105,15 @@ std::optional<std::uint64_t> frequencyInName(std::string_view name) {
 
 std::optional<std::string> readProcessorName(const LinuxRoots& roots) {
     if (const auto text = readKernelFile(roots.proc / "cpuinfo")) {
-        if (auto name = findInCPUInfo(*text, "model name")) return name;
+        if (auto name = findInCPUInfo(*text, "model name"))
+            return withSingleBlanks(std::move(*name));
     }
     return readDeviceTreeModel(roots);
 }
 
 std::optional<std::string> readHardwareModel(const LinuxRoots& roots) {
-    if (auto name = readKernelText(roots.sys / "class/dmi/id/product_name")) return name;
+    if (auto name = readFirmwareName(roots, "product_name")) return name;
+    if (auto name = readFirmwareName(roots, "board_name")) return name;
     return readDeviceTreeModel(roots);
 }
 

@@ -117,6 +117,20 @@ TEST_F(CPUIdentity, NamesTheMachineByItsProductElseByTheDeviceTree) {
     EXPECT_EQ(readHardwareModel(roots), "Board 4");
 }
 
+TEST_F(CPUIdentity, NamesTheMachineByItsBoardWhereNobodyFilledTheProductIn) {
+    tree.sys("class/dmi/id/product_name", "To Be Filled By O.E.M.\n");
+    EXPECT_EQ(readHardwareModel(roots), std::nullopt);
+    tree.sys("class/dmi/id/board_name", "Default string\n");
+    EXPECT_EQ(readHardwareModel(roots), std::nullopt);
+    tree.sys("class/dmi/id/board_name", "B550 Board\n");
+    EXPECT_EQ(readHardwareModel(roots), "B550 Board");
+}
+
+TEST_F(CPUIdentity, LeavesOutTheBlanksThatFillAProcessorsNameUp) {
+    tree.proc("cpuinfo", "model name\t:  Core 2 CPU          6600  @ 2.40GHz  \n");
+    EXPECT_EQ(readProcessorName(roots), "Core 2 CPU 6600 @ 2.40GHz");
+}
+
 TEST_F(CPUIdentity, CountsFromTheKernelsLists) {
     EXPECT_EQ(countOnlineProcessors(roots), std::nullopt);
     tree.sys("devices/system/cpu/online", "0-2,5\n");
