@@ -113,8 +113,8 @@ TEST(Heaviest, AgreesWithSortingTheWholeList) {
             List list;
             for (std::size_t i = 0; i < count; ++i) {
                 // Few values, so that there are many ties.
-                list.push_back(
-                    entry(static_cast<std::int32_t>(i) + 1, static_cast<double>(random() % 7) * 12.5, random() % 5));
+                list.push_back(entry(static_cast<std::int32_t>(i) + 1,
+                                     static_cast<double>(random() % 7) * 12.5, random() % 5));
             }
             std::shuffle(list.begin(), list.end(), random);
             const auto percent = [](const ProcessStats& p) { return p.cpuPercent; };
