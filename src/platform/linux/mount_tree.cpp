@@ -53,7 +53,7 @@ MountTree::Arrival MountTree::follow(std::string_view path) const {
             current = mounts_[*child].id;
         }
         if (end == path.size()) break;
-        const auto slash = path.find('/', end == 1 ? 1 : end + 1);
+        const auto slash = path.find('/', end + 1);
         end = slash == std::string_view::npos ? path.size() : slash;
     }
     return arrival;

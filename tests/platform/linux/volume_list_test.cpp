@@ -264,6 +264,12 @@ TEST(VolumeListOf, ADamagedTableWithACircleComesToAnEnd) {
     EXPECT_EQ(list("2 3 8:1 / /a rw - ext4 a rw\n3 2 8:2 / /a rw - ext4 b rw\n"), Lines{});
 }
 
+TEST(VolumeListOf, ADamagedTableWithTwoSlashesInARowComesToAnEnd) {
+    const std::string odd =
+        "2 1 8:2 / //data rw - ext4 b rw\n3 2 8:3 / //data//more/ rw - ext4 c rw\n";
+    EXPECT_THAT(list(root + "\n" + odd), testing::SizeIs(testing::Ge(1)));
+}
+
 TEST(VolumeListOf, ThousandsOfMountsIsMadeInNoTime) {
     std::string text = root + "\n";
     for (int i = 2; i < 10000; ++i) {
