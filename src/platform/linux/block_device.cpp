@@ -1,11 +1,15 @@
 #include "platform/linux/block_device.h"
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
+#include <initializer_list>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "platform/linux/attribute_file.h"
@@ -18,21 +22,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int deepestStack = 8;
-
 struct Disk {
     std::optional<bool> isInternal;
     std::optional<bool> isRemovable;
 };
 
+/// The library's paths are taken apart when joined, which costs more than the kernel's answer.
+std::string joined(const fs::path& folder, std::initializer_list<std::string_view> rest) {
+    std::string path = folder.native();
+    for (const std::string_view part : rest)
+        path.append(1, '/').append(part);
+    return path;
+}
+
 /// Where a link of sysfs leads, from the root of sysfs on: "devices/pci0000:00/…/sda/sda1".
-std::optional<std::string> readDeviceLink(const fs::path& link) {
-    std::error_code error;
-    std::string target = fs::read_symlink(link, error).string();
-    if (error) return std::nullopt;
+std::optional<std::string> readDeviceLink(const std::string& link) {
+    std::array<char, 4096> buffer;
+    const ssize_t length = ::readlink(link.c_str(), buffer.data(), buffer.size());
+    if (length <= 0 || static_cast<std::size_t>(length) == buffer.size()) return std::nullopt;
+    std::string_view target(buffer.data(), static_cast<std::size_t>(length));
     while (target.starts_with("../"))
-        target.erase(0, 3);
-    return target;
+        target.remove_prefix(3);
+    return std::string(target);
 }
 
 std::string_view lastComponent(std::string_view path) {
@@ -53,7 +64,7 @@ std::vector<std::string> namesIn(const fs::path& folder) {
 /// The device under a name such as "sda2"; "cciss/c0d0" has an exclamation mark in sysfs.
 std::optional<std::string> findByName(const LinuxRoots& roots, std::string name) {
     std::replace(name.begin(), name.end(), '/', '!');
-    return readDeviceLink(roots.sys / "class/block" / name);
+    return readDeviceLink(joined(roots.sys, {"class/block", name}));
 }
 
 /// The device that the device mapper calls by that name: the folder /dev/mapper has links only.
@@ -101,34 +112,45 @@ bool isForeign(const LinuxRoots& roots, const std::string& disk) {
 
 /// A partition has no word on that; its disk, which its folder lies in, does.
 AttributeText readRemovable(const LinuxRoots& roots, std::string& disk) {
-    AttributeText said = readAttribute(AT_FDCWD, (roots.sys / disk / "removable").c_str());
+    AttributeText said = readAttribute(AT_FDCWD, joined(roots.sys, {disk, "removable"}).c_str());
     const auto parent = disk.rfind('/');
     if (!said.isGone() || parent == std::string::npos) return said;
     disk.resize(parent);
-    return readAttribute(AT_FDCWD, (roots.sys / disk / "removable").c_str());
+    return readAttribute(AT_FDCWD, joined(roots.sys, {disk, "removable"}).c_str());
 }
 
-Disk readDisk(const LinuxRoots& roots, std::string disk, int depth) {
+/// By itself, whatever it lies on. `disk` becomes the whole one where it was a partition.
+Disk readOne(const LinuxRoots& roots, std::string& disk) {
     const AttributeText removable = readRemovable(roots, disk);
     if (removable.text != "0" && removable.text != "1") return {};
-    Disk answer{true, removable.text == "1"};
-    if (depth < deepestStack && disk.starts_with("devices/virtual/block/")) {
+    const bool isRemovable = removable.text == "1";
+    return {!isRemovable && !isExternalBus(disk) && !isForeign(roots, disk), isRemovable};
+}
+
+Disk readStack(const LinuxRoots& roots, const std::string& device) {
+    Disk answer{true, false};
+    // Those of a large stack share what they lie on: each is asked once.
+    std::vector<std::string> stack{device};
+    for (std::size_t i = 0; i < stack.size(); ++i) {
+        std::string disk = stack[i];
+        const Disk each = readOne(roots, disk);
+        if (!each.isInternal || !each.isRemovable) return {};
+        answer.isInternal = *answer.isInternal && *each.isInternal;
+        answer.isRemovable = *answer.isRemovable || *each.isRemovable;
+        if (!disk.starts_with("devices/virtual/block/")) continue;
         for (const std::string& name : namesIn(roots.sys / disk / "slaves")) {
-            const auto link = findByName(roots, name);
-            const Disk lower = link ? readDisk(roots, *link, depth + 1) : Disk{};
-            if (!lower.isInternal || !lower.isRemovable) return {};
-            answer.isInternal = *answer.isInternal && *lower.isInternal;
-            answer.isRemovable = *answer.isRemovable || *lower.isRemovable;
+            auto lower = findByName(roots, name);
+            if (!lower) return {};
+            if (std::find(stack.begin(), stack.end(), *lower) == stack.end()) {
+                stack.push_back(std::move(*lower));
+            }
         }
-    }
-    if (*answer.isRemovable || isExternalBus(disk) || isForeign(roots, disk)) {
-        answer.isInternal = false;
     }
     return answer;
 }
 
 std::optional<std::string> readLabel(const LinuxRoots& roots, const std::string& number) {
-    const auto data = readKernelFile(roots.run / "udev/data" / ("b" + number));
+    const auto data = readKernelFile(joined(roots.run, {"udev/data", "b" + number}));
     return data ? labelInUdevData(*data) : std::nullopt;
 }
 
@@ -136,14 +158,14 @@ std::optional<std::string> readLabel(const LinuxRoots& roots, const std::string&
 
 BlockDeviceFacts readBlockDevice(const LinuxRoots& roots, const Mount& mount) {
     std::string number = std::to_string(mount.major) + ":" + std::to_string(mount.minor);
-    const fs::path known = roots.sys / "dev/block";
+    const std::string known = joined(roots.sys, {"dev/block"});
     const auto device =
-        mount.major != 0 ? readDeviceLink(known / number) : findSource(roots, mount);
+        mount.major != 0 ? readDeviceLink(joined(known, {number})) : findSource(roots, mount);
     if (device) {
         if (mount.major == 0) {
             number = readKernelText(roots.sys / *device / "dev").value_or(std::string());
         }
-        const Disk disk = readDisk(roots, *device, 0);
+        const Disk disk = readStack(roots, *device);
         return {readLabel(roots, number), disk.isInternal, disk.isRemovable};
     }
     // A disk that was pulled out while its file system was mounted: it could be.

@@ -125,6 +125,33 @@ TEST_F(BlockDeviceTest, AStackInACircleComesToAnEnd) {
     EXPECT_EQ(kind(253, 1), "internal");
 }
 
+TEST_F(BlockDeviceTest, AStackOfManyLayersIsWhatIsUnderAllOfThem) {
+    disk("8:16", pci + "usb1/1-1/block/sdb");
+    std::string below = "sdb";
+    for (int layer = 1; layer <= 20; ++layer) {
+        const std::string name = "dm-" + std::to_string(layer);
+        disk("253:" + std::to_string(layer), "devices/virtual/block/" + name);
+        stack("devices/virtual/block/" + name, below);
+        below = name;
+    }
+    EXPECT_EQ(kind(253, 20), "external");
+}
+
+// Following every way down through ten layers of ten would take for ever.
+TEST_F(BlockDeviceTest, AStackOfManyOnManyIsAskedOnce) {
+    constexpr int width = 10;
+    const auto nameOf = [](int layer, int i) { return "dm-" + std::to_string(layer * width + i); };
+    for (int layer = 0; layer < 10; ++layer) {
+        for (int i = 0; i < width; ++i) {
+            const std::string device = "devices/virtual/block/" + nameOf(layer, i);
+            disk("253:" + std::to_string(layer * width + i), device);
+            for (int lower = 0; layer > 0 && lower < width; ++lower)
+                stack(device, nameOf(layer - 1, lower));
+        }
+    }
+    EXPECT_EQ(kind(253, 90), "internal");
+}
+
 TEST_F(BlockDeviceTest, AMachineThatShowsNoDevicesHasInternalOnes) {
     EXPECT_EQ(kind(8, 1), "internal");
 }
