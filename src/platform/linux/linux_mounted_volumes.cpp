@@ -23,22 +23,25 @@ bool saysReadOnly(std::string_view options) {
 
 }  // namespace
 
-std::optional<std::vector<MountedVolumes::Volume>> LinuxMountedVolumes::mountedVolumes() {
-    mounts_.clear();
-    listed_.clear();
-    paths_.clear();
-    auto text = readKernelFile(roots_.proc / "self/mountinfo");
-    if (!text) return std::nullopt;
-    table_ = std::move(*text);
+void LinuxMountedVolumes::take(std::string table) {
+    // Of the same table the same is said: it seldom changes.
+    if (table == table_) return;
+    table_ = std::move(table);
     parseMountTable(table_, mounts_);
     listed_ = listMounts(mounts_);
-    std::vector<Volume> volumes;
-    volumes.reserve(listed_.size());
-    for (const ListedMount& each : listed_) {
+    paths_.clear();
+    for (const ListedMount& each : listed_)
         paths_.push_back(unescapeMountText(mounts_[each.index].mountPoint));
-        const std::string& path = paths_.back();
+}
+
+std::optional<std::vector<MountedVolumes::Volume>> LinuxMountedVolumes::mountedVolumes() {
+    auto text = readKernelFile(roots_.proc / "self/mountinfo");
+    take(text ? std::move(*text) : std::string());
+    if (!text) return std::nullopt;
+    std::vector<Volume> volumes;
+    volumes.reserve(paths_.size());
+    for (const std::string& path : paths_)
         volumes.push_back({path, path.substr(path.rfind('/') + 1)});
-    }
     return volumes;
 }
 

@@ -28,6 +28,7 @@ class LinuxMountedVolumes : public MountedVolumes {
     Details details(const Volume& volume) override;
 
   private:
+    void take(std::string table);
     const ListedMount* find(const std::string& path);
 
     LinuxRoots roots_;
