@@ -1,9 +1,13 @@
 #include "platform/linux/linux_power_sources.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <filesystem>
+#include <map>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -13,6 +17,8 @@
 
 namespace vantor {
 namespace {
+
+using testing::AnyOf;
 
 class LinuxPowerSourcesTest : public testing::Test {
   protected:
@@ -141,6 +147,56 @@ TEST_F(LinuxPowerSourcesTest, OneOfTwoBatteriesPulledOutLeavesTheOther) {
     supply("BAT1", thinkpad);
     pullOut("BAT0");
     EXPECT_EQ(answer(), "80");
+}
+
+// The kernel takes the files away one by one, and the folder last.
+TEST_F(LinuxPowerSourcesTest, ABatteryThatIsBeingPulledOutIsRightOrNotThere) {
+    for (std::size_t first = 0; first < thinkpad.size(); ++first) {
+        supply("BAT0", thinkpad);
+        ASSERT_EQ(answer(), "80");
+        for (std::size_t i = 0; i < thinkpad.size(); ++i) {
+            tree.removeSys("devices/platform/power/BAT0/" +
+                           thinkpad[(first + i) % thinkpad.size()].first);
+            EXPECT_THAT(answer(), AnyOf("80", "none", "failure")) << first << " to " << i;
+        }
+        pullOut("BAT0");
+        EXPECT_EQ(answer(), "none");
+    }
+}
+
+TEST_F(LinuxPowerSourcesTest, BatteriesPulledOutAndPutInWhileTheyAreReadAreRightOrNotThere) {
+    supply("AC", {{"type", "Mains"}, {"online", "0"}});
+    supply("BAT1", thinkpad);
+    std::atomic<bool> isOver = false;
+    std::thread hand([&] {
+        while (!isOver) {
+            supply("BAT0", thinkpad);
+            pullOut("BAT0");
+        }
+    });
+    std::map<std::string, int> answers;
+    for (int i = 0; i < 500; ++i)
+        ++answers[answer()];
+    isOver = true;
+    hand.join();
+    for (const auto& [answer, count] : answers)
+        EXPECT_THAT(answer, AnyOf("80", "failure")) << count << " times: BAT1 was never away";
+    EXPECT_GT(answers["80"], 0);
+    EXPECT_EQ(answer(), "80");
+}
+
+TEST_F(LinuxPowerSourcesTest, FilesWithoutAnEndAreReadAPageAtMost) {
+    for (const auto& [file, text] : thinkpad) {
+        if (file == "energy_full_design" || file == "voltage_now") continue;  // not needed
+        SCOPED_TRACE(file);
+        supply("BAT0", thinkpad);
+        supply("BAT0", {{file, std::string(std::size_t{1} << 20, '7')}});
+        const auto result = read();
+        if (!result.isUpdate() || !result.stats()) continue;
+        EXPECT_DOUBLE_EQ(result.stats()->chargeFraction, 0.8);
+        EXPECT_LE(result.stats()->name.size(), 4096U);
+        EXPECT_LE(result.stats()->timeRemainingMinutes.value_or(0), 6000);
+    }
 }
 
 TEST_F(LinuxPowerSourcesTest, AFolderWithoutATypeIsOneThatIsGoing) {
