@@ -47,6 +47,14 @@ TEST_F(MemoryReaderTest, TurnsPagesIntoBytes) {
     EXPECT_EQ(stats->availableBytes, 16 * gibibyte - 15 * 16384);
 }
 
+TEST_F(MemoryReaderTest, InactiveAndPurgeablePagesTogetherAreCached) {
+    setPages(0);
+    host.inactive = 1000;
+    host.purgeable = 24;
+    ASSERT_EQ(host.bytesPerPage, 16384U);
+    EXPECT_EQ(read()->cachedBytes, 16'777'216U);
+}
+
 TEST_F(MemoryReaderTest, CountsCachedPagesAsAvailable) {
     const auto before = read();
     host.inactive += 1000;

@@ -114,6 +114,14 @@ TEST_F(StorageReaderTest, AVolumeOfUnknownClassIsNotAskedForDetails) {
     EXPECT_THAT(volumes.detailedPaths, IsEmpty());
 }
 
+TEST_F(StorageReaderTest, AVolumeOfUnknownClassIsUnknownWhicheverFlagIsMissing) {
+    volumes.add("/data", "Data");
+    volumes.at("/data").classification = {std::nullopt, false};
+    EXPECT_THAT(paths(), ElementsAre("absent"));
+    volumes.at("/data").classification = {false, std::nullopt};
+    EXPECT_THAT(paths(), ElementsAre("absent"));
+}
+
 TEST_F(StorageReaderTest, AVolumeThatLeftTheListMayBecomeUnknownLater) {
     volumes.add("/", "Root");
     volumes.add("/data", "Data");

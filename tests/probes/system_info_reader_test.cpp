@@ -61,6 +61,11 @@ TEST_F(SystemInfoReaderTest, RunsTranslatedOnlyWhereTheKernelSaysOne) {
     EXPECT_FALSE(SystemInfoReader(machine).read().isRunningUnderRosetta) << "not an int32";
 }
 
+TEST_F(SystemInfoReaderTest, DoesNotRunTranslatedWhereTheKernelKnowsNoSuchThing) {
+    kernel.remove("sysctl.proc_translated");
+    EXPECT_FALSE(reader.read().isRunningUnderRosetta);
+}
+
 TEST_F(SystemInfoReaderTest, FindsOutOnceWhatTheMachineIs) {
     reader.read();
     kernel.setText("hw.model", "Other");
