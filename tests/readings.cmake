@@ -47,6 +47,7 @@ vantor_add_tests(platform_tests LABEL core SOURCES
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(linux_tests LABEL core SOURCES
+        platform/linux/address_text_test.cpp
         platform/linux/arc_stats_test.cpp
         platform/linux/attribute_file_test.cpp
         platform/linux/battery_fill_test.cpp

@@ -13,7 +13,9 @@ namespace vantor {
 ///
 /// The standard maps give a node back when its key goes, texts and all. Here a name that goes keeps
 /// its place and the storage of its value, so that the same names coming back allocate nothing;
-/// only when most places are vacant are those given up. Ordered by name; walked in that order.
+/// only when most places are vacant are those given up. Ordered by name and walked in that order;
+/// asked for names in the same order, it finds each at once. One thread at a time, even where it is
+/// const: it remembers where it looked last.
 template <class Value>
 class NameMap {
   public:
@@ -24,23 +26,23 @@ class NameMap {
 
     std::size_t size() const { return size_; }
 
-    Value* find(std::string_view name) {
-        const auto place = lowerBound(name);
-        return place != places_.end() && place->isHeld && place->name == name ? &place->value
-                                                                              : nullptr;
-    }
     const Value* find(std::string_view name) const {
-        return const_cast<NameMap*>(this)->find(name);  // NOLINT: it changes nothing
+        const std::size_t at = placeOf(name);
+        return at < places_.size() && places_[at].isHeld && places_[at].name == name
+                   ? &places_[at].value
+                   : nullptr;
     }
 
     Held hold(std::string_view name) {
-        auto place = lowerBound(name);
-        if (place == places_.end() || place->name != name) {
-            place = places_.insert(place, Place{std::string(name), Value{}, false});
+        const std::size_t at = placeOf(name);
+        if (at == places_.size() || places_[at].name != name) {
+            places_.insert(places_.begin() + static_cast<std::ptrdiff_t>(at),
+                           Place{std::string(name), Value{}, false});
         }
-        const bool isNew = !std::exchange(place->isHeld, true);
+        Place& place = places_[at];
+        const bool isNew = !std::exchange(place.isHeld, true);
         if (isNew) ++size_;
-        return {place->value, isNew};
+        return {place.value, isNew};
     }
 
     void clear() {
@@ -48,6 +50,7 @@ class NameMap {
         for (Place& place : places_)
             place.isHeld = false;
         size_ = 0;
+        lastPlace_ = 0;
     }
 
     /// Lets go of the names for which `predicate(name)` holds.
@@ -78,11 +81,17 @@ class NameMap {
 
     static constexpr std::size_t fewPlaces = 16;
 
-    auto lowerBound(std::string_view name) {
-        return std::lower_bound(places_.begin(), places_.end(), name,
-                                [](const Place& place, std::string_view n) {
-                                    return std::string_view(place.name) < n;
-                                });
+    /// Of the first name that is not before this one; tries the last one found and the one behind
+    /// it before it searches.
+    std::size_t placeOf(std::string_view name) const {
+        for (std::size_t at = lastPlace_; at < places_.size() && at < lastPlace_ + 2; ++at) {
+            if (places_[at].name == name) return lastPlace_ = at;
+        }
+        const auto found = std::lower_bound(places_.begin(), places_.end(), name,
+                                            [](const Place& place, std::string_view n) {
+                                                return std::string_view(place.name) < n;
+                                            });
+        return lastPlace_ = static_cast<std::size_t>(found - places_.begin());
     }
 
     void giveUpVacantPlaces() {
@@ -92,6 +101,7 @@ class NameMap {
 
     std::vector<Place> places_;
     std::size_t size_ = 0;
+    mutable std::size_t lastPlace_ = 0;
 };
 
 }  // namespace vantor

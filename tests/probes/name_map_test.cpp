@@ -45,6 +45,20 @@ TEST(NameMap, SaysWhetherANameIsNew) {
     EXPECT_TRUE(map.hold("a").isNew);
 }
 
+TEST(NameMap, FindsInAnyOrderOfAsking) {
+    NameMap<int> map;
+    const std::vector<std::string> names{"eth1", "lo", "docker0", "eth0", "veth7", "wlan0"};
+    for (std::size_t i = 0; i < names.size(); ++i)
+        map.hold(names[i]).value = static_cast<int>(i);
+    for (std::size_t first = 0; first < names.size(); ++first) {
+        for (std::size_t second = 0; second < names.size(); ++second) {
+            EXPECT_EQ(*map.find(names[first]), static_cast<int>(first));
+            EXPECT_EQ(*map.find(names[second]), static_cast<int>(second));
+            EXPECT_EQ(map.find("none"), nullptr);
+        }
+    }
+}
+
 TEST(NameMap, HoldsNothingAfterClearing) {
     NameMap<int> map;
     map.hold("a");

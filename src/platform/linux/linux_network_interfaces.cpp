@@ -1,15 +1,14 @@
 #include "platform/linux/linux_network_interfaces.h"
 
-#include <arpa/inet.h>
 #include <net/if.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
 #include "platform/interface_message.h"
+#include "platform/linux/address_text.h"
 
 namespace vantor {
 
@@ -107,13 +106,19 @@ void LinuxNetworkInterfaces::addEntry(const LinkSource::Address& address) {
 }
 
 bool LinuxNetworkInterfaces::numericHost(const Entry& entry, std::span<char> text) {
-    if (entry.family != Family::ipv4 && entry.family != Family::ipv6) return false;
-    const int family = entry.family == Family::ipv4 ? AF_INET : AF_INET6;
-    const auto size = static_cast<socklen_t>(text.size());
-    if (!::inet_ntop(family, entry.address.data(), text.data(), size)) return false;
+    AddressText room;
+    std::string_view numbers;
+    if (entry.family == Family::ipv4) {
+        numbers = ipv4Text(std::span(entry.address).first<4>(), room);
+    } else if (entry.family == Family::ipv6) {
+        numbers = ipv6Text(entry.address, room);
+    } else {
+        return false;
+    }
+    if (!copyText(numbers, text)) return false;
     if (entry.scope == 0 || !entry.name) return true;
-    const auto rest = text.subspan(std::strlen(text.data()));
-    if (rest.size() < 2 || !copyText(entry.name, rest.subspan(1))) return false;
+    const auto rest = text.subspan(numbers.size());
+    if (!copyText(entry.name, rest.subspan(1))) return false;
     rest[0] = '%';
     return true;
 }
