@@ -31,7 +31,7 @@ Bytes bytesOf(const T& value) {
 
 inline Bytes bytesOf(std::string_view text) {
     Bytes bytes(text.size());
-    std::memcpy(bytes.data(), text.data(), text.size());
+    if (!text.empty()) std::memcpy(bytes.data(), text.data(), text.size());
     return bytes;
 }
 
@@ -69,7 +69,7 @@ Bytes linkCounters(Counter received, Counter sent, std::size_t count = 24) {
     if (count > 2) counters[2] = received;
     if (count > 3) counters[3] = sent;
     Bytes bytes(count * sizeof(Counter));
-    std::memcpy(bytes.data(), counters.data(), bytes.size());
+    if (count > 0) std::memcpy(bytes.data(), counters.data(), bytes.size());
     return bytes;
 }
 
