@@ -59,6 +59,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/kernel_file_test.cpp
         platform/linux/kernel_list_file_test.cpp
         platform/linux/link_numbers_test.cpp
+        platform/linux/link_source_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
         platform/linux/linux_host_memory_test.cpp
         platform/linux/linux_host_processors_test.cpp

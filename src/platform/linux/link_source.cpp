@@ -5,9 +5,8 @@
 #include <linux/rtnetlink.h>
 #include <sys/socket.h>
 
-#include <cstring>
+#include <utility>
 
-#include "platform/linux/netlink_dump.h"
 #include "platform/linux/netlink_messages.h"
 
 namespace vantor {
@@ -74,6 +73,8 @@ struct AddressReceiver : NetlinkDump::Receiver {
 
 class LiveLinkSource : public LinkSource {
   public:
+    explicit LiveLinkSource(NetlinkDump::OpenSocket openSocket) : dump_(std::move(openSocket)) {}
+
     bool links(std::vector<Link>& list) override {
         LinkRequest request = linkRequest();
         LinkReceiver receiver(list);
@@ -91,8 +92,8 @@ class LiveLinkSource : public LinkSource {
 
 }  // namespace
 
-std::shared_ptr<LinkSource> makeLiveLinkSource() {
-    return std::make_shared<LiveLinkSource>();
+std::shared_ptr<LinkSource> makeLiveLinkSource(NetlinkDump::OpenSocket openSocket) {
+    return std::make_shared<LiveLinkSource>(std::move(openSocket));
 }
 
 }  // namespace vantor

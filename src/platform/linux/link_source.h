@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/linux/netlink_dump.h"
+
 namespace vantor {
 
 /// The kernel's network links and their addresses. One thread at a time.
@@ -37,6 +39,8 @@ class LinkSource {
     virtual bool addresses(std::vector<Address>& list) = 0;
 };
 
-std::shared_ptr<LinkSource> makeLiveLinkSource();
+/// From netlink, over a socket that is opened when first asked and kept.
+std::shared_ptr<LinkSource> makeLiveLinkSource(
+    NetlinkDump::OpenSocket openSocket = NetlinkDump::openRouteSocket);
 
 }  // namespace vantor

@@ -4,13 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
-#include <sys/time.h>
 
 #include <array>
 #include <deque>
 #include <vector>
 
-#include "support/netlink_bytes.h"
+#include "support/played_kernel.h"
 
 namespace vantor {
 namespace {
@@ -18,7 +17,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Plays the kernel: every socket that is opened finds its answers waiting in it already.
 class NetlinkDumpTest : public testing::Test, public NetlinkDump::Receiver {
   protected:
     void restart() override {
@@ -28,18 +26,6 @@ class NetlinkDumpTest : public testing::Test, public NetlinkDump::Receiver {
     bool take(std::uint16_t type, std::span<const std::byte> payload) override {
         taken.push_back(payload.empty() ? 0 : std::to_integer<int>(payload.front()));
         return type == RTM_NEWLINK;
-    }
-
-    FileDescriptor open() {
-        std::array<int, 2> ends{};
-        if (sockets.empty() || ::socketpair(AF_UNIX, SOCK_DGRAM, 0, ends.data()) != 0) return {};
-        const timeval patience{0, 10'000};
-        ::setsockopt(ends[0], SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-        kernel.emplace_back(ends[1]);
-        for (const Bytes& datagram : sockets.front())
-            EXPECT_GT(::send(ends[1], datagram.data(), datagram.size(), 0), 0);
-        sockets.pop_front();
-        return FileDescriptor{ends[0]};
     }
 
     bool dump() {
@@ -54,15 +40,15 @@ class NetlinkDumpTest : public testing::Test, public NetlinkDump::Receiver {
                               flags);
     }
     static Bytes done(std::uint32_t sequence, int error = 0, int flags = 0) {
-        return netlinkMessage(NLMSG_DONE, sequence, bytesOf(error), flags);
+        return PlayedKernel::done(sequence, error, flags);
     }
 
-    std::deque<std::vector<Bytes>> sockets;  ///< what is waiting in each
-    std::vector<FileDescriptor> kernel;      ///< its ends of them
+    PlayedKernel kernel;
+    std::deque<std::vector<Bytes>>& sockets = kernel.sockets;
     std::vector<int> taken;
     int restarts = 0;
     Bytes request;
-    NetlinkDump client{[this] { return open(); }};
+    NetlinkDump client{[this] { return kernel.open(); }};
 };
 
 TEST_F(NetlinkDumpTest, HandsOverAListOfSeveralDatagrams) {
@@ -84,7 +70,7 @@ TEST_F(NetlinkDumpTest, FillsInTheRequestsLengthFlagsAndNumber) {
     EXPECT_TRUE(dump());
     for (std::uint32_t number : {1U, 2U}) {
         std::array<std::byte, 100> bytes{};
-        ASSERT_EQ(::recv(kernel[0].get(), bytes.data(), bytes.size(), 0), 32);
+        ASSERT_EQ(::recv(kernel.own[0].get(), bytes.data(), bytes.size(), 0), 32);
         nlmsghdr sent{};
         std::memcpy(&sent, bytes.data(), sizeof sent);
         EXPECT_EQ(sent.nlmsg_len, 32u);
@@ -99,7 +85,7 @@ TEST_F(NetlinkDumpTest, KeepsItsSocket) {
     EXPECT_TRUE(dump());
     EXPECT_TRUE(dump());
     EXPECT_THAT(taken, ElementsAre(6));
-    EXPECT_EQ(kernel.size(), 1u);
+    EXPECT_EQ(kernel.own.size(), 1u);
 }
 
 TEST_F(NetlinkDumpTest, PassesOverAnswersToOtherQuestions) {
@@ -182,7 +168,7 @@ TEST_F(NetlinkDumpTest, ALateAnswerDoesNotReachTheNextQuestion) {
     sockets = {{item(1, 5)}, {item(2, 6), done(2)}};
     EXPECT_FALSE(dump());
     const Bytes late = done(1);
-    EXPECT_LT(::send(kernel[0].get(), late.data(), late.size(), MSG_NOSIGNAL), 0)
+    EXPECT_LT(::send(kernel.own[0].get(), late.data(), late.size(), MSG_NOSIGNAL), 0)
         << "nobody is there any more";
     EXPECT_TRUE(dump());
     EXPECT_THAT(taken, ElementsAre(6));

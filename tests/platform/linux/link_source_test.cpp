@@ -1,0 +1,125 @@
+#include "platform/linux/link_source.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "platform/interface_message.h"
+#include "platform/linux/linux_network_interfaces.h"
+#include "support/played_kernel.h"
+
+namespace vantor {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+Bytes link(std::uint32_t sequence, int index, std::string_view name, int flags = 0) {
+    return netlinkMessage(RTM_NEWLINK, sequence,
+                          linkHeader(index, 0x41) + linkName(name) +
+                              attribute(IFLA_STATS64, linkCounters<std::uint64_t>(5, 6)),
+                          flags);
+}
+Bytes address(std::uint32_t sequence, unsigned index, int last) {
+    const Bytes bytes{std::byte{10}, std::byte{0}, std::byte{0}, static_cast<std::byte>(last)};
+    return netlinkMessage(RTM_NEWADDR, sequence,
+                          addressHeader(AF_INET, index) + attribute(IFA_LOCAL, bytes));
+}
+
+class LinkSourceTest : public testing::Test {
+  protected:
+    std::vector<std::string> names() {
+        std::vector<std::string> result;
+        for (const auto& each : links)
+            result.push_back(each.name);
+        return result;
+    }
+    static Bytes done(std::uint32_t sequence, int flags = 0) {
+        return PlayedKernel::done(sequence, 0, flags);
+    }
+
+    PlayedKernel kernel;
+    std::shared_ptr<LinkSource> source = makeLiveLinkSource([this] { return kernel.open(); });
+    std::vector<LinkSource::Link> links;
+    std::vector<LinkSource::Address> addresses;
+};
+
+TEST_F(LinkSourceTest, AsksForTheLinksThenForTheAddresses) {
+    kernel.sockets = {{link(1, 1, "lo") + link(1, 2, "eth0"), done(1), address(2, 2, 7), done(2)}};
+    EXPECT_TRUE(source->links(links));
+    EXPECT_THAT(names(), ElementsAre("lo", "eth0"));
+    EXPECT_TRUE(source->addresses(addresses));
+    ASSERT_EQ(addresses.size(), 1u);
+    EXPECT_EQ(addresses[0].index, 2u);
+    EXPECT_EQ(addresses[0].bytes[3], 7);
+}
+
+TEST_F(LinkSourceTest, MessagesOfAnotherKindAreNoLinks) {
+    kernel.sockets = {{address(1, 2, 7) + link(1, 2, "eth0") +
+                           netlinkMessage(RTM_DELLINK, 1, linkHeader(3, 0) + linkName("gone")),
+                       done(1), link(2, 2, "eth0") + address(2, 2, 7), done(2)}};
+    EXPECT_TRUE(source->links(links));
+    EXPECT_THAT(names(), ElementsAre("eth0"));
+    EXPECT_TRUE(source->addresses(addresses));
+    EXPECT_EQ(addresses.size(), 1u);
+}
+
+TEST_F(LinkSourceTest, ALinkWithoutANameIsLeftOut) {
+    kernel.sockets = {{link(1, 2, "") + link(1, 3, "eth0"), done(1)}};
+    EXPECT_TRUE(source->links(links));
+    EXPECT_THAT(names(), ElementsAre("eth0"));
+}
+
+TEST_F(LinkSourceTest, AnInterfaceRemovedDuringTheDumpIsNotInTheList) {
+    kernel.sockets = {{link(1, 1, "lo") + link(1, 2, "veth1"), link(1, 3, "eth0", NLM_F_DUMP_INTR),
+                       done(1, NLM_F_DUMP_INTR)},
+                      {link(2, 1, "lo") + link(2, 3, "eth0"), done(2)}};
+    EXPECT_TRUE(source->links(links));
+    EXPECT_THAT(names(), ElementsAre("lo", "eth0"));
+}
+
+// With the messages, the names of their numbers and the addresses all of the second dump.
+TEST_F(LinkSourceTest, AnInterfaceRemovedDuringTheDumpHasNoMessageNoNameAndNoAddress) {
+    kernel.sockets = {
+        {link(1, 1, "lo") + link(1, 2, "veth1") + link(1, 3, "eth0", NLM_F_DUMP_INTR), done(1)},
+        {link(2, 1, "lo") + link(2, 3, "eth0"), done(2), address(3, 2, 1) + address(3, 3, 2),
+         done(3)}};
+    LinuxNetworkInterfaces interfaces(source);
+    std::size_t size = 0;
+    ASSERT_EQ(interfaces.sysctl(interface_message::path, {}, size), 0);
+    EXPECT_EQ(size, 2 * interface_message::size);
+    std::array<char, 16> name{};
+    EXPECT_FALSE(interfaces.indexToName(2, name));
+    EXPECT_TRUE(interfaces.indexToName(3, name));
+    const auto entries = interfaces.getifaddrs();
+    ASSERT_TRUE(entries);
+    std::vector<std::string> owners;
+    for (const auto& entry : *entries)
+        owners.emplace_back(entry.name);
+    EXPECT_THAT(owners, ElementsAre("lo", "eth0", "eth0"));
+}
+
+TEST_F(LinkSourceTest, InterfacesThatAreRemovedDuringEveryDumpGiveNoList) {
+    for (std::uint32_t number = 1; number <= 4; ++number)
+        kernel.sockets.push_back(
+            {link(number, static_cast<int>(number), "veth1"), done(number, NLM_F_DUMP_INTR)});
+    LinuxNetworkInterfaces interfaces(source);
+    std::size_t size = 0;
+    EXPECT_NE(interfaces.sysctl(interface_message::path, {}, size), 0);
+    std::array<char, 16> name{};
+    EXPECT_FALSE(interfaces.indexToName(4, name)) << "nothing of the broken lists serves";
+    EXPECT_EQ(interfaces.getifaddrs(), std::nullopt);
+}
+
+TEST_F(LinkSourceTest, AMalformedMessageFailsTheList) {
+    kernel.sockets = {{netlinkMessage(RTM_NEWLINK, 1, Bytes(4)), done(1)},
+                      {netlinkMessage(RTM_NEWADDR, 2, Bytes(4)), done(2)}};
+    EXPECT_FALSE(source->links(links));
+    EXPECT_FALSE(source->addresses(addresses));
+}
+
+}  // namespace
+}  // namespace vantor
