@@ -61,16 +61,17 @@ std::optional<std::string> readKernelFile(const std::filesystem::path& path) {
     return content;
 }
 
+std::optional<std::string_view> trimmedText(std::string_view content) {
+    constexpr std::string_view blanks(" \t\r\n\0", 5);
+    const auto first = content.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return std::nullopt;
+    return content.substr(first, content.find_last_not_of(blanks) - first + 1);
+}
+
 std::optional<std::string> readKernelText(const std::filesystem::path& path) {
     const auto content = readKernelFile(path);
-    if (!content) return std::nullopt;
-    std::string_view text = *content;
-    constexpr std::string_view blanks(" \t\r\n\0", 5);
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return std::nullopt;
-    text.remove_prefix(first);
-    text.remove_suffix(text.size() - text.find_last_not_of(blanks) - 1);
-    return std::string(text);
+    const auto text = content ? trimmedText(*content) : std::nullopt;
+    return text ? std::optional<std::string>(*text) : std::nullopt;
 }
 
 }  // namespace vantor

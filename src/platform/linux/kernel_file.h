@@ -33,8 +33,11 @@ class KernelFile {
 /// The whole content of a file that is read once; absent when it cannot be read.
 std::optional<std::string> readKernelFile(const std::filesystem::path& path);
 
-/// The same without the blanks and line ends around it (device-tree texts end with a zero byte,
-/// which goes too); absent also when nothing is left.
+/// The content without the blanks and line ends around it (device-tree texts end with a zero byte,
+/// which goes too); absent when nothing is left. Pure; the text lies within `content`.
+std::optional<std::string_view> trimmedText(std::string_view content);
+
+/// The whole file's, trimmed.
 std::optional<std::string> readKernelText(const std::filesystem::path& path);
 
 }  // namespace vantor

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace vantor {
@@ -10,7 +11,6 @@ namespace vantor {
 namespace {
 
 constexpr std::size_t firstBufferSize = std::size_t{16} * 1024;
-constexpr std::size_t largestBufferSize = std::size_t{16} * 1024 * 1024;
 
 }  // namespace
 
@@ -19,10 +19,10 @@ std::optional<std::string_view> KernelListFile::read() {
         file_ = FileDescriptor{::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
         if (!file_) return std::nullopt;
     }
-    if (buffer_.empty()) buffer_.resize(firstBufferSize);
+    if (buffer_.empty()) buffer_.resize(std::min(firstBufferSize, limit_));
     std::size_t size = 0;
-    while (size < largestBufferSize) {
-        if (size == buffer_.size()) buffer_.resize(buffer_.size() * 2);
+    while (size < limit_) {
+        if (size == buffer_.size()) buffer_.resize(std::min(2 * size, limit_));
         const ssize_t count = ::pread(file_.get(), buffer_.data() + size, buffer_.size() - size,
                                       static_cast<off_t>(size));
         if (count < 0 && errno == EINTR) continue;

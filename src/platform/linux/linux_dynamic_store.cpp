@@ -6,11 +6,21 @@
 
 namespace vantor {
 
+namespace {
+
+/// A router's table may have a million lines, too many for a reading every few seconds. IPv4's
+/// default routes come first; IPv6's come behind the networks and are not found behind so many.
+constexpr std::size_t routesLimit = std::size_t{1024} * 1024;
+
+}  // namespace
+
 LinuxDynamicStore::LinuxDynamicStore(const LinuxRoots& roots)
-    : protocols_{{{"State:/Network/Global/IPv4", KernelList(roots.proc / "net/route"),
-                   ipv4DefaultInterface, "", false},
-                  {"State:/Network/Global/IPv6", KernelList(roots.proc / "net/ipv6_route"),
-                   ipv6DefaultInterface, "", false}}} {}
+    : protocols_{
+          {{"State:/Network/Global/IPv4", KernelListFile(roots.proc / "net/route", routesLimit),
+            ipv4DefaultInterface, "", false},
+           {"State:/Network/Global/IPv6",
+            KernelListFile(roots.proc / "net/ipv6_route", routesLimit), ipv6DefaultInterface, "",
+            false}}} {}
 
 const PropertyValue* LinuxDynamicStore::copyValue(std::string_view key) {
     const auto protocol = std::find_if(protocols_.begin(), protocols_.end(),

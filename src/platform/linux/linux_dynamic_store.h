@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/dynamic_store.h"
-#include "platform/linux/kernel_list.h"
+#include "platform/linux/kernel_list_file.h"
 #include "platform/linux/linux_roots.h"
 
 namespace vantor {
@@ -21,7 +21,7 @@ class LinuxDynamicStore : public DynamicStore {
   private:
     struct Protocol {
         std::string_view key;
-        KernelList routes;
+        KernelListFile routes;
         std::optional<std::string_view> (*defaultInterface)(std::string_view text);
         std::string name;  // that `value` is made of; empty = none yet
         PropertyValue value;

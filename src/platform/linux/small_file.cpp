@@ -5,6 +5,8 @@
 
 #include <cerrno>
 
+#include "platform/linux/kernel_file.h"
+
 namespace vantor {
 
 SmallFile::SmallFile(const std::filesystem::path& path)
@@ -22,12 +24,8 @@ std::optional<std::string_view> SmallFile::read(std::span<char> buffer) const {
 }
 
 std::optional<std::string_view> SmallFile::readText(std::span<char> buffer) const {
-    auto text = read(buffer);
-    if (!text) return std::nullopt;
-    constexpr std::string_view blanks(" \t\r\n\0", 5);
-    const auto first = text->find_first_not_of(blanks);
-    if (first == std::string_view::npos) return std::nullopt;
-    return text->substr(first, text->find_last_not_of(blanks) - first + 1);
+    const auto content = read(buffer);
+    return content ? trimmedText(*content) : std::nullopt;
 }
 
 }  // namespace vantor

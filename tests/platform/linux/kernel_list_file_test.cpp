@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "platform/linux/kernel_file.h"
@@ -25,11 +26,33 @@ TEST(KernelListFile, GivesTheContentOfEachMoment) {
 TEST(KernelListFile, GrowsWithTheContent) {
     const FakeKernelTree tree;
     KernelListFile file(tree.roots().proc / "list");
-    for (const std::size_t size : {16383U, 16384U, 16385U, 200000U, 3U}) {
+    for (const std::size_t size : {16383U, 16384U, 16385U, 300U * 1024, 3U}) {
         const std::string content(size, 'x');
         tree.proc("list", content);
         EXPECT_EQ(file.read(), content);
     }
+}
+
+TEST(KernelListFile, StopsAtItsLimit) {
+    const FakeKernelTree tree;
+    for (const std::size_t limit : {std::size_t{10}, std::size_t{20'000}, std::size_t{65'536}}) {
+        KernelListFile file(tree.roots().proc / "list", limit);
+        for (const std::size_t size : {limit - 1, limit, limit + 1, 100'000 + limit}) {
+            tree.proc("list", std::string(size, 'x'));
+            const auto content = file.read();
+            ASSERT_TRUE(content);
+            EXPECT_EQ(content->size(), std::min(size, limit));
+        }
+    }
+}
+
+TEST(KernelListFile, IsAbsentWithoutAFileUntilThereIsOne) {
+    const FakeKernelTree tree;
+    KernelListFile file(tree.roots().proc / "list");
+    EXPECT_EQ(file.read(), std::nullopt);
+    EXPECT_EQ(file.read(), std::nullopt);
+    tree.proc("list", "there\n");
+    EXPECT_EQ(file.read(), "there\n");
 }
 
 TEST(KernelListFile, IsAbsentWhenItIsAFolder) {
