@@ -69,6 +69,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_network_interfaces_test.cpp
         platform/linux/linux_power_sources_test.cpp
         platform/linux/linux_process_info_test.cpp
+        platform/linux/linux_process_table_listing_test.cpp
+        platform/linux/linux_process_table_names_test.cpp
+        platform/linux/linux_process_table_test.cpp
         platform/linux/live_memory_test.cpp
         platform/linux/live_network_test.cpp
         platform/linux/live_processors_test.cpp

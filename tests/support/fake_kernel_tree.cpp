@@ -1,5 +1,7 @@
 #include "support/fake_kernel_tree.h"
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
@@ -70,8 +72,23 @@ void FakeKernelTree::core(unsigned processor, std::string_view package, std::str
     if (!core.empty()) sys(folder + "core_id", core);
 }
 
+void FakeKernelTree::procLink(std::string_view path, std::string_view target) const {
+    const auto link = root_ / "proc" / path;
+    std::filesystem::create_directories(link.parent_path());
+    std::filesystem::remove(link);
+    std::filesystem::create_symlink(target, link);
+}
+
+void FakeKernelTree::procFolder(std::string_view path) const {
+    std::filesystem::create_directories(root_ / "proc" / path);
+}
+
+void FakeKernelTree::becomeOwnProc() const {
+    procLink("self", std::to_string(::getpid()));
+}
+
 void FakeKernelTree::removeProc(std::string_view path) const {
-    std::filesystem::remove(root_ / "proc" / path);
+    std::filesystem::remove_all(root_ / "proc" / path);
 }
 
 void FakeKernelTree::removeSys(std::string_view path) const {

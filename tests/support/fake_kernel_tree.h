@@ -38,6 +38,14 @@ class FakeKernelTree {
     void core(unsigned processor, std::string_view package, std::string_view die,
               std::string_view core) const;
 
+    /// A symbolic link, in place of what was there.
+    void procLink(std::string_view path, std::string_view target) const;
+    void procFolder(std::string_view path) const;
+
+    /// Makes /proc the one of this very process: the processes in it are then taken for live ones.
+    void becomeOwnProc() const;
+
+    /// A folder goes with all that is in it.
     void removeProc(std::string_view path) const;
     void removeSys(std::string_view path) const;
 

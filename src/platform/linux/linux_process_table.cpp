@@ -50,6 +50,11 @@ bool isOwnProc(const FileDescriptor& proc) {
     return error == std::errc{} && rest == end && pid == ::getpid();
 }
 
+/// Of descriptors or memory: that says nothing of the process that was asked for.
+bool isShortage(int error) {
+    return error == EMFILE || error == ENFILE || error == ENOMEM;
+}
+
 /// Not all on the same pass: processes seen for the first time together come due one after another.
 double firstResidentPeriod(std::int32_t pid) {
     return residentPeriod * (1 + pid % 16) / 16;
@@ -127,56 +132,64 @@ int LinuxProcessTable::taskAllInfo(std::int32_t pid, TaskAllInfo& info) {
     Known* const listed = find(pid);
     Known& known = listed ? *listed : unlisted;
     const auto clock = clocksFit_ ? clocks_->read(pid) : std::nullopt;
-    std::uint64_t ticks = 0;
-    known.isGone = !update(known, clock, ticks);
-    if (known.isGone) return 0;
+    std::uint64_t counted = 0;
+    hasShortage_ = false;
+    if (!update(known, clock, counted)) {
+        known.isGone = !hasShortage_;
+        return 0;
+    }
+    known.isGone = false;
     info.startSeconds = known.startTicks / ticksPerSecond_;
     info.startMicroseconds =
         known.startTicks % ticksPerSecond_ * (microsecondsPerSecond / ticksPerSecond_);
-    info.residentSize = known.residentPages * pageSize_;
-    info.totalUser = clock ? *clock : ticks * (nanosecondsPerSecond / ticksPerSecond_);
+    info.residentSize = known.residentBytes;
+    info.totalUser = clock.value_or(counted);
     info.totalSystem = 0;
     return taskAllInfoSize;
 }
 
 bool LinuxProcessTable::update(Known& known, std::optional<std::uint64_t> clock,
-                               std::uint64_t& ticks) {
+                               std::uint64_t& counted) {
     // A process that has spent nothing yet cannot be told from another one by its clock.
     const bool hasNotRun = known.isRead && clock && *clock == known.clock && *clock != 0;
     known.clock = clock.value_or(0);
     if (!hasNotRun) {
         known.hasRunSincePath = true;
-        return readStat(known, ticks);
+        return readStat(known, counted);
     }
     const bool isDue = now_ > known.residentDue && !known.isKernelThread;
-    return !isDue || renewResident(known);
+    if (!isDue) return true;
+    known.isRead = readResident(known);
+    known.residentDue = now_ + residentPeriod;
+    return known.isRead;
 }
 
-bool LinuxProcessTable::readStat(Known& known, std::uint64_t& ticks) {
+bool LinuxProcessTable::readStat(Known& known, std::uint64_t& counted) {
+    const double period = known.isRead ? residentPeriod : firstResidentPeriod(known.pid);
+    known.isRead = false;
     const auto text = readFile(known.pid, "stat");
     const auto stat = text ? ProcessStat::parse(*text) : std::nullopt;
-    if (!stat || __builtin_add_overflow(stat->userTicks, stat->systemTicks, &ticks)) {
-        known.isRead = false;
+    if (!stat || __builtin_add_overflow(stat->userTicks, stat->systemTicks, &counted) ||
+        __builtin_mul_overflow(counted, nanosecondsPerSecond / ticksPerSecond_, &counted) ||
+        __builtin_mul_overflow(stat->residentPages, pageSize_, &known.residentBytes)) {
         return false;
     }
-    known.residentDue = now_ + (known.isRead ? residentPeriod : firstResidentPeriod(known.pid));
     known.isRead = true;
     known.isKernelThread = stat->isKernelThread;
     known.startTicks = stat->startTicks;
-    known.residentPages = stat->residentPages;
+    known.residentDue = now_ + period;
+    // Newer kernels count for each processor, and stat leaves out what these still have in hand.
+    if (!known.isKernelThread) readResident(known);
     return true;
 }
 
-/// By statm, which the kernel makes up in less than half the time that it needs for stat.
-bool LinuxProcessTable::renewResident(Known& known) {
+/// From statm, which is exact, and takes the kernel less than half the time that stat does.
+bool LinuxProcessTable::readResident(Known& known) {
     const auto text = readFile(known.pid, "statm");
     const auto pages = text ? parseResidentPages(*text) : std::nullopt;
-    if (!pages) {
-        known.isRead = false;
-        return false;
-    }
-    known.residentPages = *pages;
-    known.residentDue = now_ + residentPeriod;
+    std::uint64_t bytes = 0;
+    if (!pages || __builtin_mul_overflow(*pages, pageSize_, &bytes)) return false;
+    known.residentBytes = bytes;
     return true;
 }
 
@@ -184,11 +197,15 @@ std::optional<std::string_view> LinuxProcessTable::readFile(std::int32_t pid,
                                                             std::string_view file) {
     const FileDescriptor opened{
         ::openat(proc_.get(), ProcessPath(pid, file).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
-    if (!opened) return std::nullopt;
+    if (!opened) {
+        hasShortage_ = isShortage(errno);
+        return std::nullopt;
+    }
     ssize_t count = 0;
     do {
         count = ::read(opened.get(), buffer_.data(), buffer_.size());
     } while (count < 0 && errno == EINTR);
+    hasShortage_ = count < 0 && isShortage(errno);
     if (count < 1) return std::nullopt;
     return std::string_view(buffer_.data(), static_cast<std::size_t>(count));
 }

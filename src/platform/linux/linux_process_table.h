@@ -19,9 +19,10 @@ namespace vantor {
 ///
 /// The CPU clock of every process is read at each pass. Its stat file is opened only when it is new
 /// or its clock has moved: one that did not run did not grow. The kernel may still take memory from
-/// a sleeping process, so that figure is read again at the latest when it is five seconds old.
-/// Times are nanoseconds. Where there are no clocks (a recorded machine, another pid namespace),
-/// stat is read for all, with its hundredths of a second.
+/// a sleeping process, so that figure is read again at the latest when it is five seconds old; it
+/// is always that of statm, because stat's is not exact. Times are nanoseconds. Where there are no
+/// clocks (a recorded machine, another pid namespace), stat is read for all, with its hundredths of
+/// a second.
 class LinuxProcessTable : public ProcessTable {
   public:
     LinuxProcessTable(const LinuxRoots& roots, std::shared_ptr<ProcessClocks> clocks);
@@ -44,16 +45,16 @@ class LinuxProcessTable : public ProcessTable {
         bool isKernelThread = false;
         std::uint64_t clock = 0;  // nanoseconds when last read
         std::uint64_t startTicks = 0;
-        std::uint64_t residentPages = 0;
+        std::uint64_t residentBytes = 0;
         double residentDue = 0;  // when the resident size must be read again
     };
 
     bool refreshListing();
     void adoptListing();
     Known* find(std::int32_t pid);
-    bool update(Known& known, std::optional<std::uint64_t> clock, std::uint64_t& ticks);
-    bool readStat(Known& known, std::uint64_t& ticks);
-    bool renewResident(Known& known);
+    bool update(Known& known, std::optional<std::uint64_t> clock, std::uint64_t& counted);
+    bool readStat(Known& known, std::uint64_t& counted);  // by the kernel's ticks, in nanoseconds
+    bool readResident(Known& known);
     std::optional<std::string_view> readFile(std::int32_t pid, std::string_view file);
 
     FileDescriptor proc_;
@@ -67,6 +68,7 @@ class LinuxProcessTable : public ProcessTable {
     std::vector<std::int32_t> gone_;
     std::size_t cursor_ = 0;  // questions come in the order of the listing
     std::vector<char> buffer_;
+    bool hasShortage_ = false;  // of descriptors or memory, when a file could not be read
     std::uint64_t pageSize_;
     std::uint64_t ticksPerSecond_;
 };
