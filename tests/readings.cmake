@@ -84,8 +84,11 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/netlink_dump_test.cpp
         platform/linux/netlink_messages_test.cpp
         platform/linux/os_release_test.cpp
+        platform/linux/pid_listing_test.cpp
         platform/linux/power_supply_test.cpp
         platform/linux/proc_stat_test.cpp
+        platform/linux/process_census_test.cpp
+        platform/linux/process_stat_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
         platform/linux/silent_file_system_test.cpp

@@ -1,6 +1,7 @@
 #include "platform/linux/process_census.h"
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <charconv>
@@ -15,6 +16,13 @@ constexpr double listingPeriod = 10.0;
 constexpr double longestPause = 2.5;
 // Looking at one identifier costs about a fourth of what listing one process does.
 constexpr std::size_t fewCandidates = 64;
+// So many processes may be in the making at one moment.
+constexpr std::int32_t inTheMaking = 16;
+
+/// The kernel answers a thread that asks for the process clock of its own identifier.
+bool isAskingThread(std::int32_t pid) {
+    return pid == ::gettid() && pid != ::getpid();
+}
 
 }  // namespace
 
@@ -39,8 +47,10 @@ bool ProcessCensus::update(double now, std::span<const std::int32_t> gone) {
 }
 
 bool ProcessCensus::list(double now) {
-    // Asked before the listing: who is born meanwhile is then looked for again the next time.
-    seenBefore_ = lastSeen_ = lastPID();
+    // Asked before the listing: who is born meanwhile is then looked for again the next time, and
+    // so is who had an identifier but was not there yet.
+    lastSeen_ = seenBefore_ = lastPID();
+    if (seenBefore_) seenBefore_ = std::max(*seenBefore_ - inTheMaking, 0);
     listedUptime_ = now;
     ++listings_;
     if (!listing_.read(proc_)) {
@@ -61,14 +71,15 @@ bool ProcessCensus::tryToFollow(double now, std::span<const std::int32_t> gone) 
     if (!last || *last < *lastSeen_ || *lastSeen_ < *seenBefore_) return false;
     const auto candidates = static_cast<std::size_t>(*last - *seenBefore_);
     if (candidates > std::max(fewCandidates, pids_.size() / 4)) return false;
-    born_.clear();
-    for (std::int32_t pid = *seenBefore_ + 1; pid <= *last; ++pid) {
-        if (std::binary_search(pids_.begin(), pids_.end(), pid)) continue;
-        if (clocks_->read(pid)) born_.push_back(pid);
-    }
     nextPIDs_.clear();
     std::set_difference(pids_.begin(), pids_.end(), gone.begin(), gone.end(),
                         std::back_inserter(nextPIDs_));
+    born_.clear();
+    for (std::int32_t pid = *seenBefore_; pid < *last;) {
+        ++pid;  // here, because the last one may be the largest of all
+        if (std::binary_search(nextPIDs_.begin(), nextPIDs_.end(), pid)) continue;
+        if (clocks_->read(pid) && !isAskingThread(pid)) born_.push_back(pid);
+    }
     const auto middle = static_cast<std::ptrdiff_t>(nextPIDs_.size());
     nextPIDs_.insert(nextPIDs_.end(), born_.begin(), born_.end());
     std::inplace_merge(nextPIDs_.begin(), nextPIDs_.begin() + middle, nextPIDs_.end());
