@@ -74,6 +74,10 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_process_table_test.cpp
         platform/linux/live_memory_test.cpp
         platform/linux/live_network_test.cpp
+        platform/linux/live_process_churn_test.cpp
+        platform/linux/live_process_names_test.cpp
+        platform/linux/live_process_namespace_test.cpp
+        platform/linux/live_processes_test.cpp
         platform/linux/live_processors_test.cpp
         platform/linux/live_system_info_test.cpp
         platform/linux/live_volumes_test.cpp
@@ -98,7 +102,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/udev_data_test.cpp
         platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
+        support/burner.cpp
         support/fake_kernel_tree.cpp
+        support/live_child.cpp
         support/private_mounts.cpp)
     # A program of its own: its process leaves the network namespace that it was started in.
     vantor_add_tests(network_namespace_tests LABEL core SOURCES

@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <thread>
+
+#include "platform/linux/linux_machine.h"
+#include "probes/process_reader.h"
+#include "support/burner.h"
+
+/// Shares and sizes against what children of this test know of themselves.
+namespace vantor {
+namespace {
+
+using namespace std::chrono_literals;
+
+double uptime() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+int usableProcessors() {
+    cpu_set_t usable;
+    return ::sched_getaffinity(0, sizeof usable, &usable) == 0 ? CPU_COUNT(&usable) : 1;
+}
+
+/// The row of `pid`; one that no test expects when there is none.
+ProcessStats rowOf(const ProcessSample& sample, pid_t pid) {
+    for (const ProcessStats& process : sample.all) {
+        if (process.pid == pid) return process;
+    }
+    ProcessStats none;
+    none.cpuPercent = -1;
+    return none;
+}
+
+/// Another process's clock is up to date at each tick only, a hundredth of a second at most.
+constexpr double longestTick = 0.01;
+
+/// A share as read, and as the child's own books and the time bound it.
+struct Share {
+    double read = 0;
+    double lowest = 0;
+    double highest = 0;
+    double given = 0;  ///< what the kernel gave to the child
+};
+
+/// One pass of the reader, and what was so before and after it.
+struct Pass {
+    Pass(ProcessReader& reader, const Burner& burner)
+        : spentBefore(burner.spent()),
+          timeBefore(uptime()),
+          sample(reader.read()),
+          timeAfter(uptime()),
+          spentAfter(burner.spent()) {}
+
+    double spentBefore, timeBefore;
+    ProcessSample sample;
+    double timeAfter, spentAfter;
+};
+
+Share measureBurner(int threads) {
+    const Burner burner(threads);
+    ProcessReader reader(std::make_shared<LinuxMachine>());
+    const Pass first(reader, burner);
+    std::this_thread::sleep_for(1s);
+    const Pass second(reader, burner);
+    const double slack = threads * longestTick;
+    Share share;
+    share.read = rowOf(second.sample, burner.pid()).cpuPercent;
+    share.lowest = 100 * (second.spentBefore - first.spentAfter - slack) /
+                   (second.timeAfter - first.timeBefore);
+    share.highest = 100 * (second.spentAfter - first.spentBefore + slack) /
+                    (second.timeBefore - first.timeAfter);
+    share.given =
+        100 * (second.spentBefore - first.spentBefore) / (second.timeBefore - first.timeBefore);
+    return share;
+}
+
+/// Other programs may want the processors as well. Then the share must be the one that the child
+/// got, and a quieter second is waited for a few times.
+void expectShareOfBurner(int threads, double full, double tolerance) {
+    Share share;
+    for (int attempt = 0; attempt < 4 && share.given < 0.97 * full; ++attempt) {
+        share = measureBurner(threads);
+        EXPECT_GE(share.read, share.lowest);
+        EXPECT_LE(share.read, share.highest);
+    }
+    std::printf("read %.2f %%, given %.2f %%\n", share.read, share.given);
+    EXPECT_NEAR(share.read, share.given < 0.97 * full ? share.given : full, tolerance);
+}
+
+TEST(LiveProcesses, AChildThatBurnsOneCoreHasAShareOfAHundred) {
+    expectShareOfBurner(1, 100, 6);
+}
+
+TEST(LiveProcesses, FourBurningThreadsHaveWhatTheProcessorsGive) {
+    const int processors = std::min(4, usableProcessors());
+    expectShareOfBurner(4, 100.0 * processors, 6.0 * processors);
+}
+
+TEST(LiveProcesses, AChildThatSleepsHasNone) {
+    const LiveChild child;
+    ASSERT_TRUE(child.waitUntilAsleep());
+    ProcessReader reader(std::make_shared<LinuxMachine>());
+    reader.read();
+    for (int pass = 0; pass < 3; ++pass) {
+        std::this_thread::sleep_for(500ms);
+        EXPECT_EQ(rowOf(reader.read(), child.pid()).cpuPercent, 0.0);
+    }
+}
+
+std::uint64_t residentBytes(pid_t pid) {
+    std::istringstream statm(processFile(pid, "statm"));
+    std::uint64_t size = 0, resident = 0;
+    statm >> size >> resident;
+    return resident * static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE));
+}
+
+/// Sizes of a sleeping child; the kernel may take pages from it between the two readings.
+void expectResidentSize(ProcessReader& reader, pid_t pid) {
+    std::uint64_t before = 0, read = 0, after = 1;
+    for (int attempt = 0; attempt < 5 && before != after; ++attempt) {
+        before = residentBytes(pid);
+        read = rowOf(reader.read(), pid).residentMemoryBytes;
+        after = residentBytes(pid);
+    }
+    ASSERT_EQ(before, after);
+    EXPECT_EQ(read, before);
+}
+
+/// Touches pages that it keeps.
+void grow(std::size_t bytes) {
+    void* const memory =
+        ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED) ::_exit(1);
+    std::memset(memory, 1, bytes);
+}
+
+TEST(LiveProcesses, TheResidentSizeIsStatmsToTheByte) {
+    constexpr std::size_t large = std::size_t{37} << 20;
+    const LiveChild child([] { grow(large); });
+    const LiveChild another;
+    ASSERT_TRUE(child.waitUntilAsleep());
+    ASSERT_TRUE(another.waitUntilAsleep());
+    ProcessReader reader(std::make_shared<LinuxMachine>());
+    reader.read();
+    for (int pass = 0; pass < 5; ++pass) {
+        std::this_thread::sleep_for(50ms);
+        expectResidentSize(reader, child.pid());
+        expectResidentSize(reader, another.pid());
+    }
+    EXPECT_GE(residentBytes(child.pid()), residentBytes(another.pid()) + large);
+}
+
+TEST(LiveProcesses, TheResidentSizeFollowsAChildThatGrows) {
+    int line[2] = {-1, -1};
+    ASSERT_EQ(::pipe(line), 0);
+    const LiveChild child([&line] {
+        for (char order = 0; ::read(line[0], &order, 1) == 1;)
+            grow(std::size_t{5} << 20);
+    });
+    ProcessReader reader(std::make_shared<LinuxMachine>());
+    std::uint64_t last = 0;
+    for (int pass = 0; pass < 4; ++pass) {
+        ASSERT_TRUE(child.waitUntilAsleep());
+        std::this_thread::sleep_for(20ms);
+        reader.read();
+        expectResidentSize(reader, child.pid());
+        const std::uint64_t size = residentBytes(child.pid());
+        EXPECT_GE(size, last + (std::uint64_t{pass > 0 ? 4U : 0U} << 20));
+        last = size;
+        ASSERT_EQ(::write(line[1], "g", 1), 1);
+        std::this_thread::sleep_for(50ms);
+    }
+    ::close(line[0]);
+    ::close(line[1]);
+}
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "support/live_child.h"
+
+namespace vantor {
+
+/// A process whose threads do nothing but spend processor time and keep books of it.
+class Burner {
+  public:
+    static constexpr int mostThreads = 8;
+
+    /// Returns once all threads are at work; at most `mostThreads`.
+    explicit Burner(int threads);
+
+    pid_t pid() const { return child_->pid(); }
+
+    /// The processor seconds that the threads have got so far, each by its own clock.
+    double spent() const;
+
+  private:
+    struct Books;
+    struct Unmap {
+        void operator()(Books* books) const;
+    };
+
+    std::unique_ptr<Books, Unmap> books_;  // shared with the process
+    int threads_;
+    std::optional<LiveChild> child_;
+};
+
+}  // namespace vantor
