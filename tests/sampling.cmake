@@ -38,6 +38,7 @@ if(NOT VANTOR_SANITIZE)
         sampling/allocation_test.cpp
         sampling/counted_allocations.cpp
         sampling/network_allocation_test.cpp
+        sampling/process_allocation_test.cpp
         sampling/slow_state_allocation_test.cpp
         support/fake_kernel_tree.cpp)
 endif()
