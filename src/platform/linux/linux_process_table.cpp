@@ -218,6 +218,7 @@ bool LinuxProcessTable::mayHaveNewPath(std::int32_t pid) {
 
 int LinuxProcessTable::path(std::int32_t pid, std::span<char> buffer) {
     if (Known* const known = find(pid)) known->hasRunSincePath = false;
+    if (buffer.empty()) return 0;
     const ssize_t count =
         ::readlinkat(proc_.get(), ProcessPath(pid, "exe").c_str(), buffer.data(), buffer.size());
     // A link that fills the buffer may be cut, and half a path names another file.
