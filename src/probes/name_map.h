@@ -14,8 +14,8 @@ namespace vantor {
 /// The standard maps give a node back when its key goes, texts and all. Here a name that goes keeps
 /// its place and the storage of its value, so that the same names coming back allocate nothing;
 /// only when most places are vacant are those given up. Ordered by name and walked in that order;
-/// asked for names in the same order, it finds each at once. One thread at a time, even where it is
-/// const: it remembers where it looked last.
+/// asked for names in that order, or in the order of the last time, it finds each at once. One
+/// thread at a time, even where it is const: it remembers where it looked.
 template <class Value>
 class NameMap {
   public:
@@ -37,7 +37,7 @@ class NameMap {
         const std::size_t at = placeOf(name);
         if (at == places_.size() || places_[at].name != name) {
             places_.insert(places_.begin() + static_cast<std::ptrdiff_t>(at),
-                           Place{std::string(name), Value{}, false});
+                           Place{std::string(name), Value{}});
         }
         Place& place = places_[at];
         const bool isNew = !std::exchange(place.isHeld, true);
@@ -50,7 +50,6 @@ class NameMap {
         for (Place& place : places_)
             place.isHeld = false;
         size_ = 0;
-        lastPlace_ = 0;
     }
 
     /// Lets go of the names for which `predicate(name)` holds.
@@ -77,21 +76,26 @@ class NameMap {
         std::string name;
         Value value;
         bool isHeld = false;
+        mutable std::size_t next = 0;  // a guess
     };
 
     static constexpr std::size_t fewPlaces = 16;
 
-    /// Of the first name that is not before this one; tries the last one found and the one behind
-    /// it before it searches.
+    /// Of the first name that is not before this one. Before it searches, it tries the last one
+    /// found, the one that was found after that the last time, and the one behind it.
     std::size_t placeOf(std::string_view name) const {
-        for (std::size_t at = lastPlace_; at < places_.size() && at < lastPlace_ + 2; ++at) {
-            if (places_[at].name == name) return lastPlace_ = at;
+        if (lastPlace_ < places_.size()) {
+            for (const std::size_t at : {lastPlace_, places_[lastPlace_].next, lastPlace_ + 1}) {
+                if (at < places_.size() && places_[at].name == name) return lastPlace_ = at;
+            }
         }
         const auto found = std::lower_bound(places_.begin(), places_.end(), name,
                                             [](const Place& place, std::string_view n) {
                                                 return std::string_view(place.name) < n;
                                             });
-        return lastPlace_ = static_cast<std::size_t>(found - places_.begin());
+        const auto at = static_cast<std::size_t>(found - places_.begin());
+        if (lastPlace_ < places_.size()) places_[lastPlace_].next = at;
+        return lastPlace_ = at;
     }
 
     void giveUpVacantPlaces() {
