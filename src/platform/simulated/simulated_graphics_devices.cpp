@@ -2,12 +2,10 @@
 
 namespace vantor {
 
-void SimulatedGraphicsDevices::copyAllDevices(std::vector<Device>& devices) {
-    devices.clear();
-}
-
-std::optional<std::uint64_t> SimulatedGraphicsDevices::systemDefaultDevice() {
-    return std::nullopt;
+void SimulatedGraphicsDevices::copyAllDevices(std::vector<Device>& list) {
+    if (onCopyAllDevices) onCopyAllDevices();
+    ++copies;
+    list = devices;
 }
 
 }  // namespace vantor

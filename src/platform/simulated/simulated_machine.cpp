@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/simulated/simulated_graphics.h"
+
 namespace vantor {
 
 namespace {
@@ -134,6 +136,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<Wound
     machine->processInfo_.host = "simbook.local";
     addLaptopNetwork(*machine);
     furnishLaptopStorageAndPower(*machine);
+    addLaptopGraphics(*machine);
     return machine;
 }
 
@@ -141,6 +144,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::desktop(std::shared_ptr<Woun
     auto machine = laptop(std::move(clock));
     addDesktopNetwork(*machine);
     furnishDesktopStorage(*machine);
+    addDesktopGraphics(*machine);
     return machine;
 }
 
@@ -155,6 +159,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<Wound
     machine->networkInterfaces_.addressListFails = true;
     machine->mountedVolumes_.enumerationFails = true;
     machine->powerSources_.infoFails = true;
+    machine->accelerators_.lookupFails = true;
     return machine;
 }
 

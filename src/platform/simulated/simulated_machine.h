@@ -78,12 +78,13 @@ class SimulatedMachine : public Machine {
   public:
     explicit SimulatedMachine(std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
-    /// A laptop with four processors and a name, a wireless network and a tunnel, one volume, and a
-    /// battery at 80 % with 200 minutes left.
+    /// A laptop with four processors and a name, a wireless network and a tunnel, one volume, a
+    /// battery at 80 % with 200 minutes left, and graphics in the system's memory.
     static std::shared_ptr<SimulatedMachine> laptop(
         std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
-    /// The same processors with many interfaces and volumes, and no power source.
+    /// The same processors with many interfaces and volumes, no power source, and two graphics
+    /// devices with memory of their own.
     static std::shared_ptr<SimulatedMachine> desktop(
         std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
 
