@@ -12,6 +12,11 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/cpu_reader_identity_test.cpp
     probes/cpu_reader_test.cpp
     probes/cpu_ticks_test.cpp
+    probes/gpu_extraction_test.cpp
+    probes/gpu_flattening_test.cpp
+    probes/gpu_matching_test.cpp
+    probes/gpu_names_test.cpp
+    probes/gpu_temperature_test.cpp
     probes/heaviest_test.cpp
     probes/interface_dump_reader_test.cpp
     probes/interface_dump_test.cpp
