@@ -16,6 +16,8 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/gpu_flattening_test.cpp
     probes/gpu_matching_test.cpp
     probes/gpu_names_test.cpp
+    probes/gpu_reader_rows_test.cpp
+    probes/gpu_reader_test.cpp
     probes/gpu_temperature_test.cpp
     probes/heaviest_test.cpp
     probes/interface_dump_reader_test.cpp
