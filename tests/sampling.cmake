@@ -1,6 +1,7 @@
 vantor_add_tests(sampling_tests LABEL core SOURCES
     sampling/commit_gpu_test.cpp
     sampling/commit_test.cpp
+    sampling/gpu_monitoring_test.cpp
     sampling/main_task_test.cpp
     sampling/monitor_end_test.cpp
     sampling/provider_gate_test.cpp
@@ -37,6 +38,7 @@ if(NOT VANTOR_SANITIZE)
     vantor_add_tests(allocation_tests LABEL core SOURCES
         sampling/allocation_test.cpp
         sampling/counted_allocations.cpp
+        sampling/gpu_allocation_test.cpp
         sampling/network_allocation_test.cpp
         sampling/process_allocation_test.cpp
         sampling/slow_state_allocation_test.cpp

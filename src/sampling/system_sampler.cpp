@@ -29,6 +29,7 @@ SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactor
       networkReader_(machine_),
       systemInfoReader_(machine_),
       processReader_(machine_),
+      gpuReader_(machine_),
       storageReader_(machine_),
       powerReader_(machine_) {
     for (const std::string_view label : queueLabels()) {
@@ -116,8 +117,7 @@ void SystemSampler::requestGPUs(double minimumInterval, bool force,
                                 Completion<std::optional<std::vector<GPUStats>>> completion) {
     schedule(
         gpu, minimumInterval, force,
-        [](SystemSampler&) { return std::optional<std::vector<GPUStats>>{}; },
-        std::move(completion));
+        [](SystemSampler& sampler) { return sampler.gpuReader_.read(); }, std::move(completion));
 }
 
 void SystemSampler::requestVolumes(double minimumInterval, bool force,

@@ -10,6 +10,7 @@
 #include "platform/serial_queue.h"
 #include "platform/unique_function.h"
 #include "probes/cpu_reader.h"
+#include "probes/gpu_reader.h"
 #include "probes/memory_reader.h"
 #include "probes/network_reader.h"
 #include "probes/power_reader.h"
@@ -91,6 +92,7 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     NetworkReader networkReader_;
     SystemInfoReader systemInfoReader_;
     ProcessReader processReader_;
+    GPUReader gpuReader_;
     StorageReader storageReader_;
     PowerReader powerReader_;
 };

@@ -11,7 +11,7 @@ namespace vantor {
 
 /// A machine one of whose calls never answers, as if it were stuck in the kernel.
 struct HangingMachine {
-    enum class Call { processors, volumes };
+    enum class Call { processors, volumes, graphics };
 
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
     std::shared_ptr<std::promise<void>> stuck = std::make_shared<std::promise<void>>();
@@ -24,6 +24,8 @@ struct HangingMachine {
         };
         if (call == Call::processors) {
             machine->hostProcessors().onTotalTicks = hang;
+        } else if (call == Call::graphics) {
+            machine->accelerators().onLookup = hang;
         } else {
             machine->mountedVolumes().onMountedVolumes = hang;
         }

@@ -3,8 +3,10 @@
 #include <chrono>
 #include <future>
 #include <memory>
+#include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "platform/threads/threaded_main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
@@ -66,6 +68,21 @@ TEST(HangingProbe, LeavesTheOtherProvidersAndTheMainThreadWorking) {
     sampler->requestPower(1, true, [&](const PowerReadResult&) { answered.set_value(); });
     EXPECT_EQ(answered.get_future().wait_for(10s), std::future_status::ready);
     EXPECT_EQ(sampler->gates().front()->outstandingRuns(), 1);
+}
+
+TEST(HangingProbe, InAGraphicsDriverLeavesTheOthersAndTheEndAlone) {
+    HangingMachine hanging(HangingMachine::Call::graphics);
+    auto queues = std::make_unique<ThreadedSerialQueueFactory>();
+    auto sampler = SystemSampler::make(hanging.machine, *queues);
+    sampler->requestGPUs(1, true, [](const std::optional<std::vector<GPUStats>>&) { FAIL(); });
+    hanging.waitUntilStuck();
+    std::promise<void> answered;
+    sampler->requestPower(1, true, [&](const PowerReadResult&) { answered.set_value(); });
+    EXPECT_EQ(answered.get_future().wait_for(10s), std::future_status::ready);
+    const auto before = Clock::now();
+    sampler.reset();
+    queues.reset();
+    EXPECT_LT(Clock::now() - before, 500ms);
 }
 
 struct EndRow : NamedRow {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <vector>
 
 #include "model/system_snapshot.h"
 #include "sampling/sampler_world.h"
@@ -208,12 +209,18 @@ TEST(SystemSampler, CompletionsAreLetGoOfWhenAnsweredOrRefused) {
     EXPECT_EQ(owned.use_count(), 1);
 }
 
-TEST(SystemSampler, AProviderWithoutAProbeSaysThatThereIsNothing) {
+TEST(SystemSampler, WhatTheProbeDoesNotKnowIsPassedOnAsNothing) {
     SamplerWorld world;
-    bool nothing = false;
-    world.sampler->requestGPUs(1, true, [&](const auto& gpus) { nothing = !gpus.has_value(); });
-    world.queues.runWaiting();
-    EXPECT_TRUE(nothing);
+    std::vector<bool> answers;
+    for (const bool lookupFails : {false, true}) {
+        world.machine->graphicsDevices().devices.clear();
+        world.machine->accelerators().lookupFails = lookupFails;
+        world.clock->wind(std::chrono::seconds(10));
+        world.sampler->requestGPUs(1, true,
+                                   [&](const auto& gpus) { answers.push_back(gpus.has_value()); });
+        world.queues.runWaiting();
+    }
+    EXPECT_EQ(answers, (std::vector{true, false}));
 }
 
 }  // namespace
