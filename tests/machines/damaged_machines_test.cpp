@@ -107,7 +107,8 @@ void expectSoundText(const std::string& key, const std::string& text, bool mayBe
 /// What holds for any figure, whatever it tells.
 void expectSound(const std::string& key, const json& value, bool mayBeAnything) {
     static const std::set<std::string> fractions{"totalUsage", "userUsage",    "systemUsage",
-                                                 "idleUsage",  "perCoreUsage", "chargeFraction"};
+                                                 "idleUsage",  "perCoreUsage", "chargeFraction",
+                                                 "utilization"};
     // A program may give itself any name, a volume may lie under any, and a battery's is what its
     // maker wrote into it.
     mayBeAnything = mayBeAnything || key == "processes" || key == "volumes" || key == "power";

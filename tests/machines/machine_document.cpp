@@ -35,11 +35,12 @@ json toJSON(const Record* record) {
     return record ? toJSON(*record) : json(nullptr);
 }
 
-json toJSON(const std::optional<std::vector<VolumeStats>>& volumes) {
-    if (!volumes) return nullptr;
+template <class Record>
+json toJSON(const std::optional<std::vector<Record>>& records) {
+    if (!records) return nullptr;
     json list = json::array();
-    for (const VolumeStats& volume : *volumes)
-        list.push_back(toJSON(volume));
+    for (const Record& record : *records)
+        list.push_back(toJSON(record));
     return list;
 }
 
@@ -99,6 +100,7 @@ json MachineWitness::ask() {
     sampler_->requestNetwork(includePointToPointInterfaces_, 0, true, note("network"));
     sampler_->requestSystemInfo(0, true, note("system"));
     sampler_->requestProcesses(0, true, note("processes"));
+    sampler_->requestGPUs(0, true, note("gpus"));
     sampler_->requestVolumes(0, true, note("volumes"));
     sampler_->requestPower(0, true, note("power"));
     queues_.runWaiting();
