@@ -54,6 +54,7 @@ int SimulatedKernelValues::valueReads(const std::string& name) const {
 
 int SimulatedKernelValues::sysctlbyname(const std::string& name, std::span<std::byte> buffer,
                                         std::size_t& size) {
+    const std::lock_guard guard(lock_);
     const auto found = values_.find(name);
     if (found == values_.end()) return ENOENT;
     Value& value = found->second;

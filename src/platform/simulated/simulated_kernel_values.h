@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 namespace vantor {
 
 /// Kernel values by script: name and bytes, with failures and values that grow between the calls.
+/// The call may come from several threads at once; everything else is for before and after.
 class SimulatedKernelValues : public KernelValues {
   public:
     void setText(const std::string& name, std::string_view text);  ///< a zero byte is added
@@ -40,6 +42,7 @@ class SimulatedKernelValues : public KernelValues {
         int growths = 0;
         int reads = 0;
     };
+    std::mutex lock_;  // of the values, during a call
     std::map<std::string, Value> values_;
 };
 
