@@ -24,7 +24,8 @@ std::shared_ptr<SystemSampler> SystemSampler::make(std::shared_ptr<Machine> mach
 
 SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactory& queues)
     : machine_(std::move(machine)),
-      cpuReader_(machine_),
+      temperatures_(std::make_shared<HardwareTemperatureReader>(machine_)),
+      cpuReader_(machine_, [sensors = temperatures_] { return sensors->cpuTemperature(); }),
       memoryReader_(machine_),
       networkReader_(machine_),
       systemInfoReader_(machine_),

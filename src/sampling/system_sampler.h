@@ -11,6 +11,7 @@
 #include "platform/unique_function.h"
 #include "probes/cpu_reader.h"
 #include "probes/gpu_reader.h"
+#include "probes/hardware_temperature_reader.h"
 #include "probes/memory_reader.h"
 #include "probes/network_reader.h"
 #include "probes/power_reader.h"
@@ -86,6 +87,7 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
 
     std::shared_ptr<Machine> machine_;
     std::vector<Provider> providers_;
+    std::shared_ptr<HardwareTemperatureReader> temperatures_;  // of all providers' readers
     // Each is touched on its own provider's queue only.
     CPUReader cpuReader_;
     MemoryReader memoryReader_;

@@ -1,0 +1,49 @@
+#include "probes/hid_sensors.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace vantor {
+
+namespace {
+
+constexpr double hottest = 150;
+constexpr double hottestUnscaled = 130;
+constexpr double scale = 256;
+
+bool contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+}  // namespace
+
+std::optional<double> plausibleTemperature(const HIDTemperatureReader::Reading& reading) {
+    double value = reading.value;
+    if (!std::isfinite(value)) return std::nullopt;
+    if (value > hottestUnscaled && contains(reading.normalizedName, "tdev")) value /= scale;
+    if (value <= 0 || value >= hottest) return std::nullopt;
+    return value;
+}
+
+bool isCPUSensor(const HIDTemperatureReader::Reading& reading) {
+    const std::string_view name = reading.normalizedName;
+    for (const std::string_view prefix :
+         {"pmu tdie", "pmu tdev", "pacc mtr temp", "eacc mtr temp"}) {
+        if (name.starts_with(prefix)) return true;
+    }
+    return (name.starts_with("pmu tp") && name.ends_with("s")) || contains(name, "cpu");
+}
+
+std::optional<double> hottestCPUSensor(std::span<const HIDTemperatureReader::Reading> readings) {
+    std::optional<double> largest;
+    for (const auto& reading : readings) {
+        if (!isCPUSensor(reading)) continue;
+        if (const auto value = plausibleTemperature(reading)) {
+            largest = std::max(largest.value_or(*value), *value);
+        }
+    }
+    return largest;
+}
+
+}  // namespace vantor
