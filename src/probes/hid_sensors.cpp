@@ -16,6 +16,16 @@ bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
+std::optional<double> hottestOf(std::span<const HIDTemperatureReader::Reading> readings,
+                                bool (*counts)(const HIDTemperatureReader::Reading&)) {
+    std::optional<double> largest;
+    for (const auto& reading : readings) {
+        // An absent temperature is below every other.
+        if (counts(reading)) largest = std::max(largest, plausibleTemperature(reading));
+    }
+    return largest;
+}
+
 }  // namespace
 
 std::optional<double> plausibleTemperature(const HIDTemperatureReader::Reading& reading) {
@@ -35,15 +45,20 @@ bool isCPUSensor(const HIDTemperatureReader::Reading& reading) {
     return (name.starts_with("pmu tp") && name.ends_with("s")) || contains(name, "cpu");
 }
 
-std::optional<double> hottestCPUSensor(std::span<const HIDTemperatureReader::Reading> readings) {
-    std::optional<double> largest;
-    for (const auto& reading : readings) {
-        if (!isCPUSensor(reading)) continue;
-        if (const auto value = plausibleTemperature(reading)) {
-            largest = std::max(largest.value_or(*value), *value);
-        }
+bool isGPUSensor(const HIDTemperatureReader::Reading& reading) {
+    const std::string_view name = reading.normalizedName;
+    for (const std::string_view prefix : {"gpu mtr temp sensor", "pmu2 tdie", "pmu2 tdev"}) {
+        if (name.starts_with(prefix)) return true;
     }
-    return largest;
+    return (name.starts_with("pmu tp") && name.ends_with("g")) || contains(name, "gpu");
+}
+
+std::optional<double> hottestCPUSensor(std::span<const HIDTemperatureReader::Reading> readings) {
+    return hottestOf(readings, isCPUSensor);
+}
+
+std::optional<double> hottestGPUSensor(std::span<const HIDTemperatureReader::Reading> readings) {
+    return hottestOf(readings, isGPUSensor);
 }
 
 }  // namespace vantor

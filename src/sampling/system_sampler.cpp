@@ -30,7 +30,7 @@ SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactor
       networkReader_(machine_),
       systemInfoReader_(machine_),
       processReader_(machine_),
-      gpuReader_(machine_),
+      gpuReader_(machine_, GPUTemperatureSources::of(temperatures_)),
       storageReader_(machine_),
       powerReader_(machine_) {
     for (const std::string_view label : queueLabels()) {

@@ -75,12 +75,12 @@ class GPUReaderTest : public testing::Test {
     std::optional<double> chipTemperature = 47.5;  ///< of the machine's own graphics
     int temperatureReads = 0;
     GPUReader reader{machine,
-                     {[this] {
-                          ++temperatureReads;
-                          return true;
-                      },
-                      [this] { return chipTemperature; },
-                      [] { return std::vector<GPUTemperatureSources::Reading>{}; }}};
+                     {.isAppleSilicon =
+                          [this] {
+                              ++temperatureReads;
+                              return true;
+                          },
+                      .hottestGPUKey = [this] { return chipTemperature; }}};
 };
 
 }  // namespace vantor

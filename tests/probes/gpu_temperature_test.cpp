@@ -3,13 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
+#include <vector>
 
+#include "probes/hid_sensors.h"
 #include "sampling/named_row.h"
 
 namespace vantor {
 namespace {
 
-using Reading = GPUTemperatureSources::Reading;
+using Reading = HIDTemperatureReader::Reading;
 
 struct SensorRow : NamedRow {
     Reading reading;
@@ -19,8 +22,7 @@ struct SensorRow : NamedRow {
 class GPUSensor : public testing::TestWithParam<SensorRow> {};
 
 TEST_P(GPUSensor, CountsByItsNameAndValue) {
-    const auto& [name, value] = GetParam().reading;
-    EXPECT_EQ(gpuSensorTemperature(name, value), GetParam().expected);
+    EXPECT_EQ(hottestGPUSensor({&GetParam().reading, 1}), GetParam().expected);
 }
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
@@ -74,7 +76,7 @@ class HardwareGPUTemperature : public testing::Test {
         };
         sources.hidReadings = [this] {
             ++hidReads;
-            return readings;
+            return std::make_shared<const std::vector<Reading>>(readings);
         };
     }
 
