@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "platform/linux/linux_accelerators.h"
 #include "platform/linux/linux_calls.h"
 #include "platform/linux/linux_dynamic_store.h"
@@ -16,6 +18,7 @@
 #include "platform/linux/linux_process_table.h"
 #include "platform/linux/linux_roots.h"
 #include "platform/linux/linux_system_controller.h"
+#include "platform/linux/processor_sensors.h"
 #include "platform/machine.h"
 
 namespace vantor {
@@ -25,10 +28,11 @@ class LinuxMachine : public Machine {
   public:
     explicit LinuxMachine(const LinuxRoots& roots = {},
                           const LinuxCalls& calls = LinuxCalls::live())
-        : accelerators_(roots),
+        : processorSensors_(std::make_shared<ProcessorSensors>(roots)),
+          accelerators_(roots),
           dynamicStore_(roots),
           graphicsDevices_(roots),
-          hidEventSystem_(roots),
+          hidEventSystem_(processorSensors_),
           hostMemory_(roots),
           hostProcessors_(roots),
           kernelValues_(roots),
@@ -38,7 +42,7 @@ class LinuxMachine : public Machine {
           powerSources_(roots),
           processInfo_(roots),
           processTable_(roots, calls.processClocks),
-          systemController_(roots) {}
+          systemController_(processorSensors_) {}
 
     Accelerators& accelerators() override { return accelerators_; }
     DynamicStore& dynamicStore() override { return dynamicStore_; }
@@ -65,6 +69,7 @@ class LinuxMachine : public Machine {
         }
     };
 
+    std::shared_ptr<ProcessorSensors> processorSensors_;
     LinuxAccelerators accelerators_;
     LinuxDynamicStore dynamicStore_;
     LinuxGraphicsDevices graphicsDevices_;

@@ -1,27 +1,31 @@
 #pragma once
 
+#include <memory>
 #include <utility>
 
-#include "platform/linux/linux_roots.h"
+#include "platform/linux/processor_sensors.h"
 #include "platform/system_controller.h"
 
 namespace vantor {
 
-/// Tells of nothing yet.
+/// Answers for the processors' sensors as a controller does: "TC0D" is the hottest package, "TC0C"
+/// to "TC9C" are the hottest of the cores whose numbers end with that digit, all of the type
+/// "flt ". There is no controller where there is no sensor.
 class LinuxSystemController : public SystemController {
   public:
-    explicit LinuxSystemController(LinuxRoots roots) : roots_(std::move(roots)) {}
+    explicit LinuxSystemController(std::shared_ptr<ProcessorSensors> sensors)
+        : sensors_(std::move(sensors)) {}
 
     Service matchingService() override;
-    void release(Service service) override;
+    void release(Service) override {}
     Connection open(Service service) override;
-    void close(Connection connection) override;
+    void close(Connection) override {}
     int callStructMethod(Connection connection, std::uint32_t selector,
                          std::span<const std::byte> request, std::span<std::byte> response,
                          std::size_t& responseSize) override;
 
   private:
-    [[maybe_unused]] LinuxRoots roots_;
+    std::shared_ptr<ProcessorSensors> sensors_;
 };
 
 }  // namespace vantor

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "platform/linux/processor_sensors.h"
+
+namespace vantor {
+
+/// Lists the processors' sensors below /sys/class. Opens the names of all monitors and zones, and
+/// the labels of the processors' own.
+std::shared_ptr<const ProcessorSensorList> scanProcessorSensors(
+    const std::filesystem::path& classFolder);
+
+}  // namespace vantor

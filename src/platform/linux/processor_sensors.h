@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/linux/linux_roots.h"
+#include "platform/linux/processor_sensor.h"
+
+namespace vantor {
+
+/// The sensors that one scan has found.
+struct ProcessorSensorList {
+    using Group = std::vector<const ProcessorSensor*>;
+
+    std::deque<ProcessorSensor> sensors;  ///< a deque: they stay where they are
+    Group packages;                       ///< one for each, of the best kind that it has
+    std::array<Group, 10> cores;          ///< by the last digit of the core's number
+
+    ProcessorSensorList() = default;
+    ProcessorSensorList(const ProcessorSensorList&) = delete;
+    ProcessorSensorList& operator=(const ProcessorSensorList&) = delete;
+};
+
+/// The temperature sensors of the processors, by driver and label, because their numbers change
+/// from boot to boot: /sys/class/hwmon (https://docs.kernel.org/hwmon/sysfs-interface.html), and
+/// the thermal zones where that knows no package. Of other devices only the name is read, so that
+/// no disk and no graphics card is woken.
+///
+/// Any thread. One of them scans, the others get the list before at once; nothing is locked while
+/// files are read.
+class ProcessorSensors {
+  public:
+    using Uptime = std::function<double()>;
+    using List = std::shared_ptr<const ProcessorSensorList>;  ///< never null
+
+    /// How long a scan holds, in seconds, and how long when a whole group has stopped answering.
+    static constexpr double scanInterval = 60;
+    static constexpr double retryInterval = 5;
+
+    explicit ProcessorSensors(const LinuxRoots& roots, Uptime uptime = monotonicSeconds);
+
+    List list();
+
+    /// The hottest sensor of a package, or of the cores whose numbers end with that digit, in
+    /// degrees Celsius; absent when none answers. Whether there are any is in the list.
+    std::optional<double> hottestPackage();
+    std::optional<double> hottestCore(std::size_t digit);
+
+  private:
+    static double monotonicSeconds();
+
+    List listNotOlderThan(double seconds);
+    template <class Select>
+    std::optional<double> hottest(Select select);
+
+    std::filesystem::path folder_;
+    Uptime uptime_;
+    std::mutex lock_;
+    List list_ = std::make_shared<const ProcessorSensorList>();
+    std::optional<double> scannedAt_;
+    bool isScanning_ = false;
+};
+
+}  // namespace vantor
