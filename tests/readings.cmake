@@ -8,6 +8,7 @@ vantor_add_tests(model_tests LABEL core SOURCES
 
 vantor_add_tests(probes_tests LABEL core SOURCES
     probes/address_rules_test.cpp
+    probes/chip_family_test.cpp
     probes/cpu_reader_cores_test.cpp
     probes/cpu_reader_identity_test.cpp
     probes/cpu_reader_test.cpp
@@ -19,7 +20,10 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/gpu_reader_rows_test.cpp
     probes/gpu_reader_test.cpp
     probes/gpu_temperature_test.cpp
+    probes/hardware_temperature_reader_test.cpp
     probes/heaviest_test.cpp
+    probes/hid_sensors_test.cpp
+    probes/hid_temperature_reader_test.cpp
     probes/interface_dump_reader_test.cpp
     probes/interface_dump_test.cpp
     probes/interface_order_test.cpp
@@ -37,6 +41,8 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/process_reader_test.cpp
     probes/process_reader_time_base_test.cpp
     probes/process_storage_test.cpp
+    probes/smc_temperature_reader_test.cpp
+    probes/smc_value_test.cpp
     probes/standard_order_test.cpp
     probes/storage_reader_test.cpp
     probes/sysctl_test.cpp
@@ -48,6 +54,7 @@ vantor_add_tests(platform_tests LABEL core SOURCES
     platform/published_test.cpp
     platform/simulated/manual_main_loop_test.cpp
     platform/simulated/manual_serial_queue_test.cpp
+    platform/smc_record_test.cpp
     platform/threads/threaded_main_loop_test.cpp
     platform/threads/threaded_serial_queue_test.cpp
     platform/unique_function_test.cpp)
@@ -68,6 +75,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/link_numbers_test.cpp
         platform/linux/link_source_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
+        platform/linux/linux_hid_event_system_test.cpp
         platform/linux/linux_host_memory_test.cpp
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
@@ -79,6 +87,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_process_table_listing_test.cpp
         platform/linux/linux_process_table_names_test.cpp
         platform/linux/linux_process_table_test.cpp
+        platform/linux/linux_system_controller_test.cpp
         platform/linux/live_memory_test.cpp
         platform/linux/live_network_test.cpp
         platform/linux/live_process_churn_test.cpp
@@ -87,6 +96,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/live_processes_test.cpp
         platform/linux/live_processors_test.cpp
         platform/linux/live_system_info_test.cpp
+        platform/linux/live_temperature_test.cpp
         platform/linux/live_volumes_test.cpp
         platform/linux/low_power_mode_test.cpp
         platform/linux/mem_info_test.cpp
@@ -100,6 +110,8 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/proc_stat_test.cpp
         platform/linux/process_census_test.cpp
         platform/linux/process_stat_test.cpp
+        platform/linux/processor_sensor_names_test.cpp
+        platform/linux/processor_sensors_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
         platform/linux/silent_file_system_test.cpp
