@@ -18,6 +18,12 @@ void write(const std::filesystem::path& path, std::string_view content) {
     if (!file) throw std::runtime_error("cannot write " + path.string());
 }
 
+void makeLink(const std::filesystem::path& place, std::string_view target) {
+    std::filesystem::create_directories(place.parent_path());
+    std::filesystem::remove(place);
+    std::filesystem::create_symlink(target, place);
+}
+
 }  // namespace
 
 FakeKernelTree::FakeKernelTree() {
@@ -49,11 +55,16 @@ void FakeKernelTree::run(std::string_view path, std::string_view content) const 
     write(root_ / "run" / path, content);
 }
 
+void FakeKernelTree::usr(std::string_view path, std::string_view content) const {
+    write(root_ / "usr" / path, content);
+}
+
 void FakeKernelTree::link(std::string_view path, std::string_view target) const {
-    const auto place = root_ / "sys" / path;
-    std::filesystem::create_directories(place.parent_path());
-    std::filesystem::remove(place);
-    std::filesystem::create_symlink(target, place);
+    makeLink(root_ / "sys" / path, target);
+}
+
+void FakeKernelTree::linkProc(std::string_view path, std::string_view target) const {
+    makeLink(root_ / "proc" / path, target);
 }
 
 void FakeKernelTree::blockDevice(std::string_view number, std::string_view device) const {
@@ -97,6 +108,10 @@ void FakeKernelTree::removeSys(std::string_view path) const {
 
 void FakeKernelTree::removeSysTree(std::string_view path) const {
     std::filesystem::remove_all(root_ / "sys" / path);
+}
+
+void FakeKernelTree::removeProcTree(std::string_view path) const {
+    std::filesystem::remove_all(root_ / "proc" / path);
 }
 
 }  // namespace vantor

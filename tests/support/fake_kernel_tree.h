@@ -17,7 +17,7 @@ class FakeKernelTree {
     ~FakeKernelTree();
 
     LinuxRoots roots() const {
-        return {root_ / "proc", root_ / "sys", root_ / "etc", root_ / "run"};
+        return {root_ / "proc", root_ / "sys", root_ / "etc", root_ / "run", root_ / "usr"};
     }
 
     /// Writes a file in place, as a kernel file changes: whoever has it open sees the new content.
@@ -26,9 +26,11 @@ class FakeKernelTree {
     void etc(std::string_view path, std::string_view content) const;
 
     void run(std::string_view path, std::string_view content) const;
+    void usr(std::string_view path, std::string_view content) const;
 
     /// A symbolic link of /sys; what it leads to need not be there.
     void link(std::string_view path, std::string_view target) const;
+    void linkProc(std::string_view path, std::string_view target) const;
 
     /// The folder of a block device, with the links by which the kernel lets it be found. `device`
     /// is its place below /sys, "devices/…/block/sda".
@@ -51,6 +53,7 @@ class FakeKernelTree {
 
     /// Removes a folder of /sys with all that is in it.
     void removeSysTree(std::string_view path) const;
+    void removeProcTree(std::string_view path) const;
 
   private:
     std::filesystem::path root_;

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array copiedFolders{"proc", "sys", "etc", "run", "calls"};
+constexpr std::array copiedFolders{"proc", "sys", "etc", "run", "usr", "calls"};
 
 /// In memory where that can be: hundreds of small files come and go with each copy.
 fs::path makeTemporaryFolder() {
@@ -140,7 +140,7 @@ void RecordedTree::applySecondPass() const {
 
 std::vector<fs::path> RecordedTree::files() const {
     std::vector<fs::path> files;
-    for (const char* folder : {"proc", "sys", "etc", "run"}) {
+    for (const char* folder : {"proc", "sys", "etc", "run", "usr"}) {
         for (const auto& entry : fs::recursive_directory_iterator(root_ / folder)) {
             if (!entry.is_symlink() && entry.is_regular_file()) files.push_back(entry.path());
         }

@@ -19,7 +19,7 @@ class RecordedTree {
     ~RecordedTree();
 
     LinuxRoots roots() const {
-        return {root_ / "proc", root_ / "sys", root_ / "etc", root_ / "run"};
+        return {root_ / "proc", root_ / "sys", root_ / "etc", root_ / "run", root_ / "usr"};
     }
     std::filesystem::path calls() const { return root_ / "calls"; }
 

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "platform/linux/file_systems.h"
+#include "platform/linux/graphics_library.h"
 #include "platform/linux/link_source.h"
 #include "platform/linux/process_clocks.h"
 
@@ -14,6 +15,7 @@ struct LinuxCalls {
     std::shared_ptr<FileSystems> fileSystems;
     std::shared_ptr<LinkSource> links;
     std::shared_ptr<ProcessClocks> processClocks;
+    std::shared_ptr<GraphicsLibrary> graphicsLibrary = nullptr;  ///< null when there is none
 
     /// Those of the kernel that this program runs on.
     static LinuxCalls live();

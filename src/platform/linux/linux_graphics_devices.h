@@ -1,22 +1,27 @@
 #pragma once
 
+#include <memory>
 #include <utility>
 
 #include "platform/graphics_devices.h"
-#include "platform/linux/linux_roots.h"
+#include "platform/linux/graphics_cards.h"
 
 namespace vantor {
 
-/// Tells of nothing yet.
+/// The graphics cards, in the order of their nodes' numbers. The default one is what the firmware
+/// shows its pictures on.
 class LinuxGraphicsDevices : public GraphicsDevices {
   public:
-    explicit LinuxGraphicsDevices(LinuxRoots roots) : roots_(std::move(roots)) {}
+    explicit LinuxGraphicsDevices(std::shared_ptr<GraphicsCards> cards)
+        : cards_(std::move(cards)) {}
 
     void copyAllDevices(std::vector<Device>& devices) override;
+
+    /// Of those that were copied last.
     std::optional<std::uint64_t> systemDefaultDevice() override;
 
   private:
-    [[maybe_unused]] LinuxRoots roots_;
+    std::shared_ptr<GraphicsCards> cards_;
 };
 
 }  // namespace vantor

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/linux/graphics_cards.h"
 #include "platform/linux/linux_accelerators.h"
 #include "platform/linux/linux_calls.h"
 #include "platform/linux/linux_dynamic_store.h"
@@ -28,10 +29,11 @@ class LinuxMachine : public Machine {
   public:
     explicit LinuxMachine(const LinuxRoots& roots = {},
                           const LinuxCalls& calls = LinuxCalls::live())
-        : processorSensors_(std::make_shared<ProcessorSensors>(roots)),
-          accelerators_(roots),
+        : graphicsCards_(std::make_shared<GraphicsCards>(roots, calls)),
+          processorSensors_(std::make_shared<ProcessorSensors>(roots)),
+          accelerators_(graphicsCards_),
           dynamicStore_(roots),
-          graphicsDevices_(roots),
+          graphicsDevices_(graphicsCards_),
           hidEventSystem_(processorSensors_),
           hostMemory_(roots),
           hostProcessors_(roots),
@@ -69,6 +71,8 @@ class LinuxMachine : public Machine {
         }
     };
 
+    // Each for both that tell of them.
+    std::shared_ptr<GraphicsCards> graphicsCards_;
     std::shared_ptr<ProcessorSensors> processorSensors_;
     LinuxAccelerators accelerators_;
     LinuxDynamicStore dynamicStore_;

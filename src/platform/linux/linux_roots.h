@@ -10,6 +10,7 @@ struct LinuxRoots {
     std::filesystem::path sys = "/sys";
     std::filesystem::path etc = "/etc";
     std::filesystem::path run = "/run";
+    std::filesystem::path usr = "/usr";
 };
 
 }  // namespace vantor
