@@ -62,19 +62,26 @@ vantor_add_tests(platform_tests LABEL core SOURCES
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(linux_tests LABEL core SOURCES
         platform/linux/address_text_test.cpp
+        platform/linux/amdgpu_ids_test.cpp
         platform/linux/arc_stats_test.cpp
         platform/linux/attribute_file_test.cpp
         platform/linux/battery_fill_test.cpp
         platform/linux/block_device_test.cpp
         platform/linux/cpu_identity_test.cpp
         platform/linux/cpu_list_test.cpp
+        platform/linux/drm_clients_test.cpp
+        platform/linux/drm_fdinfo_test.cpp
+        platform/linux/engine_use_test.cpp
         platform/linux/file_system_kind_test.cpp
+        platform/linux/graphics_names_test.cpp
         platform/linux/kernel_facts_test.cpp
         platform/linux/kernel_file_test.cpp
         platform/linux/kernel_list_file_test.cpp
         platform/linux/link_numbers_test.cpp
         platform/linux/link_source_test.cpp
+        platform/linux/linux_accelerators_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
+        platform/linux/linux_graphics_devices_test.cpp
         platform/linux/linux_hid_event_system_test.cpp
         platform/linux/linux_host_memory_test.cpp
         platform/linux/linux_host_processors_test.cpp
@@ -104,7 +111,10 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/mount_table_test.cpp
         platform/linux/netlink_dump_test.cpp
         platform/linux/netlink_messages_test.cpp
+        platform/linux/nvml_library_test.cpp
         platform/linux/os_release_test.cpp
+        platform/linux/pci_address_test.cpp
+        platform/linux/pci_ids_test.cpp
         platform/linux/pid_listing_test.cpp
         platform/linux/power_supply_test.cpp
         platform/linux/proc_stat_test.cpp
@@ -114,7 +124,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/processor_sensors_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
+        platform/linux/runtime_status_test.cpp
         platform/linux/silent_file_system_test.cpp
+        platform/linux/sleeping_graphics_card_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
         platform/linux/thermal_zones_test.cpp
@@ -122,9 +134,21 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
         support/burner.cpp
+        support/fake_graphics.cpp
         support/fake_kernel_tree.cpp
         support/live_child.cpp
         support/private_mounts.cpp)
+    # The libraries that nvml_library_test.cpp loads.
+    foreach(variant "" _OLD _USELESS)
+        string(TOLOWER "fake_nvml${variant}" library)
+        add_library(${library} MODULE support/fake_nvml.cpp)
+        target_include_directories(${library} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+        target_compile_definitions(${library} PRIVATE FAKE_NVML${variant})
+        target_link_libraries(${library} PRIVATE vantor_warnings)
+        add_dependencies(linux_tests ${library})
+        set_property(SOURCE platform/linux/nvml_library_test.cpp APPEND PROPERTY
+            COMPILE_DEFINITIONS FAKE_NVML${variant}_FILE="$<TARGET_FILE:${library}>")
+    endforeach()
     # A program of its own: its process leaves the network namespace that it was started in.
     vantor_add_tests(network_namespace_tests LABEL core SOURCES
         platform/linux/network_changes_test.cpp

@@ -25,11 +25,21 @@ std::optional<std::vector<std::string>> namesIn(const fs::path& folder) {
     return names;
 }
 
+/// Without links; empty when it leads nowhere.
+fs::path folderBehind(const fs::path& link) {
+    std::error_code error;
+    fs::path folder = fs::canonical(link, error);
+    if (error) return {};
+    // Some kernels put a device of their own between a virtual card and its place on the bus.
+    if (folder.filename().native().starts_with("virtio")) return folder.parent_path();
+    return folder;
+}
+
 std::optional<DRMDevice> describe(const fs::path& link, const fs::path& sys) {
     std::error_code error;
     DRMDevice device;
-    device.folder = fs::canonical(link, error);
-    if (error) return std::nullopt;
+    device.folder = folderBehind(link);
+    if (device.folder.empty()) return std::nullopt;
     device.name = device.folder.lexically_relative(sys).native();
     device.address = parsePCIAddress(device.folder.filename().native());
     const fs::path driver = fs::read_symlink(device.folder / "driver", error);
@@ -107,9 +117,8 @@ std::optional<std::vector<DRMDevice>> listDRMDevices(const LinuxRoots& roots) {
     }
     for (const std::string& name : *names) {
         if (!isRenderNode(name)) continue;
-        const fs::path place = fs::canonical(folder / name / "device", error);
-        if (error) continue;
-        if (const auto known = findByFolder(place); known != devices.end()) {
+        const auto known = findByFolder(folderBehind(folder / name / "device"));
+        if (known != devices.end()) {
             known->nodes.push_back(name);
         }
     }

@@ -55,8 +55,9 @@ std::string hex(std::uint16_t number) {
 }
 
 std::string withVendor(std::string_view vendor, std::string_view name) {
-    if (vendor.empty() || name.starts_with(vendor)) return std::string(name);
-    return std::string(vendor) + ' ' + std::string(name);
+    if (vendor.empty()) return std::string(name);
+    std::string front = std::string(vendor) + ' ';
+    return name.starts_with(front) ? std::string(name) : front.append(name);
 }
 
 std::string anyName(const GraphicsIdentity& identity, const ListedNames& listed) {

@@ -1,9 +1,12 @@
 #include "platform/linux/linux_calls.h"
 
+#include "platform/linux/nvml_library.h"
+
 namespace vantor {
 
 LinuxCalls LinuxCalls::live() {
-    return {makeLiveFileSystems(), makeLiveLinkSource(), makeLiveProcessClocks()};
+    return {makeLiveFileSystems(), makeLiveLinkSource(), makeLiveProcessClocks(),
+            makeNVMLLibrary()};
 }
 
 }  // namespace vantor
