@@ -4,6 +4,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         machines/damaged_machines_test.cpp
         machines/machine_document.cpp
         machines/machines_test.cpp
+        machines/recorded_graphics_test.cpp
         support/line_difference.cpp
         support/recorded_calls.cpp
         support/recorded_machine.cpp

@@ -67,6 +67,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/attribute_file_test.cpp
         platform/linux/battery_fill_test.cpp
         platform/linux/block_device_test.cpp
+        platform/linux/card_rest_test.cpp
         platform/linux/cpu_identity_test.cpp
         platform/linux/cpu_list_test.cpp
         platform/linux/drm_clients_test.cpp

@@ -29,6 +29,12 @@ DRMClients::DRMClients(const LinuxRoots& roots)
     : proc_(::open(roots.proc.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)), sweep_(roots.proc) {}
 
 void DRMClients::adopt(std::span<const DRMDevice* const> awake) {
+    const auto isUnchanged = [](const Device& device, const DRMDevice* place) {
+        return device.place == place && device.id == place->registryID();
+    };
+    if (std::equal(devices_.begin(), devices_.end(), awake.begin(), awake.end(), isUnchanged)) {
+        return;
+    }
     bool isSomeoneNew = false;
     std::vector<Device> next;
     next.reserve(awake.size());

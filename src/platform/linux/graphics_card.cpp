@@ -15,9 +15,6 @@ namespace {
 // Of the drivers that tell of their engines in fdinfo; who has no such keys is not searched for.
 constexpr std::array<std::string_view, 10> driversWithClients{
     "amdgpu", "asahi", "etnaviv", "i915", "lima", "msm", "panfrost", "panthor", "v3d", "xe"};
-// Of those, the ones for devices that have no memory but the system's.
-constexpr std::array<std::string_view, 7> driversWithoutMemory{"asahi",    "etnaviv", "lima", "msm",
-                                                               "panfrost", "panthor", "v3d"};
 
 constexpr std::uint32_t displayClass = 0x03;
 // Sensors that are off or broken tell temperatures that no working card has.
@@ -63,7 +60,10 @@ bool GraphicsCard::checkAwake() {
 
 bool GraphicsCard::checkStillAwake() {
     isAwake_ = status_.isAwake();
-    if (!isAwake_) forgetPass();
+    if (!isAwake_) {
+        forgetPass();
+        rest_.reset();
+    }
     return isAwake_;
 }
 
@@ -105,7 +105,8 @@ void GraphicsCard::guessUnifiedMemory() {
         constexpr PCIAddress ownPlace{0, 0, 2, 0};
         hasUnifiedMemory_ = place_.address == ownPlace;
     } else {
-        hasUnifiedMemory_ = contains(driversWithoutMemory, place_.driver);
+        // What a device tree tells of is on the processor's chip.
+        hasUnifiedMemory_ = !place_.address && !identity_.compatible.empty();
     }
 }
 
@@ -117,6 +118,7 @@ void GraphicsCard::identify(const GraphicsNames& names, std::string_view pciDevi
     }
     if (isAwake_) {
         readIdentity();
+        rest_.setDelay(CardRest::findDelay(place_.folder));
         if (!files_) open();
     }
     if (!wasSeenAwake_ && place_.address) {
@@ -136,6 +138,20 @@ void GraphicsCard::open() {
     if (place_.driver == "amdgpu") {
         files_->amdgpu.emplace(place_.folder, files_->sensors.isBesideProcessor);
     }
+}
+
+bool GraphicsCard::isUsedByQuestions() const {
+    // i915 answers for its clients from its own books; xe wakes the card to read its clock.
+    const bool hasFiles = files_ && (files_->amdgpu || files_->sensors.temperature);
+    return hasFiles || needsLibrary() || place_.driver == "xe";
+}
+
+bool GraphicsCard::isResting(double now) {
+    return isUsedByQuestions() && rest_.isResting(now);
+}
+
+void GraphicsCard::noteAsked(double now) {
+    rest_.note(now, figures_.utilization);
 }
 
 void GraphicsCard::openAnew() {

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/linux/amdgpu_files.h"
+#include "platform/linux/card_rest.h"
 #include "platform/linux/card_sensors.h"
 #include "platform/linux/drm_listing.h"
 #include "platform/linux/graphics_figures.h"
@@ -30,6 +31,11 @@ class GraphicsCard {
     /// else of a pass.
     bool checkAwake();
     bool isAwake() const { return isAwake_; }
+
+    /// The card does nothing, and is left alone for some seconds so that it can fall asleep.
+    bool isResting(double now);
+    /// It was asked at `now`.
+    void noteAsked(double now);
 
     /// Finds out what is not known yet. `pciDevices` is a /proc/bus/pci/devices text, for a card
     /// that sleeps; what was seen when it was awake is kept.
@@ -66,6 +72,7 @@ class GraphicsCard {
     bool checkStillAwake();
     void readIdentity();
     void guessUnifiedMemory();
+    bool isUsedByQuestions() const;
     bool readTemperature();
     void open();
     void forgetPass();
@@ -74,6 +81,7 @@ class GraphicsCard {
     RuntimeStatus status_;
     bool isAwake_ = false;
     bool managesPower_ = true;
+    CardRest rest_;
     GraphicsIdentity identity_;
     bool wasSeenAwake_ = false;
     std::string name_;

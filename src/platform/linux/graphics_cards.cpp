@@ -65,31 +65,35 @@ bool GraphicsCards::update() {
     const double time = now();
     const bool isListed = listedAt_ && time >= *listedAt_ && time - *listedAt_ < listingInterval;
     if (!isListed && !list()) return false;
+    asked_.clear();
     clientDevices_.clear();
     for (const auto& card : cards_) {
-        if (card->checkAwake() && card->needsClients()) clientDevices_.push_back(&card->place());
+        if (!card->checkAwake() || card->isResting(time)) continue;
+        asked_.push_back(card.get());
+        if (card->needsClients()) clientDevices_.push_back(&card->place());
     }
     clients_.update(time, clientDevices_);
-    for (const auto& card : cards_) {
-        if (card->isAwake()) card->read(clients_.utilization(card->place().registryID()));
-    }
+    for (GraphicsCard* const card : asked_)
+        card->read(clients_.utilization(card->place().registryID()));
     askLibrary();
+    for (GraphicsCard* const card : asked_)
+        if (card->isAwake()) card->noteAsked(time);
     return true;
 }
 
 void GraphicsCards::askLibrary() {
     if (!library_) return;
     bool isOpen = false;
-    // An open library may hold on to a device that could go to sleep otherwise.
-    bool mayStayOpen = true;
-    for (const auto& card : cards_) {
-        if (!card->needsLibrary()) continue;
-        if (card->isAwake() && (isOpen || library_->open())) {
-            isOpen = true;
-            card->take(library_->ask(*card->place().address));
-        }
-        if (!card->isAwake() || card->managesPower()) mayStayOpen = false;
+    for (GraphicsCard* const card : asked_) {
+        if (!card->needsLibrary() || !card->isAwake()) continue;
+        if (!isOpen && !library_->open()) break;
+        isOpen = true;
+        card->take(library_->ask(*card->place().address));
     }
+    // An open library may hold on to a device that could go to sleep otherwise.
+    const bool mayStayOpen = std::all_of(cards_.begin(), cards_.end(), [](const auto& card) {
+        return !card->needsLibrary() || (card->isAwake() && !card->managesPower());
+    });
     if (!isOpen || !mayStayOpen) library_->close();
 }
 

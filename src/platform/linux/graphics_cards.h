@@ -51,6 +51,7 @@ class GraphicsCards {
     GraphicsNames names_;
     DRMClients clients_;
     std::vector<std::unique_ptr<GraphicsCard>> cards_;
+    std::vector<GraphicsCard*> asked_;  // at this pass
     std::vector<const DRMDevice*> clientDevices_;
     std::optional<double> listedAt_;
 };
