@@ -37,7 +37,7 @@ std::vector<std::string> cardsOf(Machine& machine) {
         if (said) {
             for (const auto& [key, value] : *said->dictionary())
                 line << ' ' << key << '='
-                     << std::llround(value.number().value_or(-1) * 100) / 100.0;
+                     << std::round(value.number().value_or(-1) * 100) / 100;
         }
         lines.push_back(line.str());
     }
