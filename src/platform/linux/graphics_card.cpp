@@ -82,7 +82,8 @@ void GraphicsCard::readIdentity() {
             identity.revision = revision;
         }
         if (const auto code = readHex<std::uint32_t>(folder / "class")) {
-            isGraphics_ = *code >> 16 == displayClass;
+            // Accelerators for computing are of another class, and have nodes.
+            isGraphics_ = !place_.nodes.empty() || *code >> 16 == displayClass;
         }
         isBootDisplay_ = readKernelText(folder / "boot_vga") == "1";
     } else {
@@ -92,7 +93,10 @@ void GraphicsCard::readIdentity() {
     const auto control = readKernelText(folder / "power/control");
     managesPower_ =
         control == "auto" && readKernelText(folder / "power/runtime_status") != "unsupported";
-    if (identity != identity_) name_.clear();
+    if (identity != identity_) {
+        name_.clear();
+        isNameOfLibrary_ = false;
+    }
     identity_ = std::move(identity);
 }
 

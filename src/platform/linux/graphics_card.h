@@ -57,7 +57,7 @@ class GraphicsCard {
     const std::string& name() const { return name_; }
     bool hasUnifiedMemory() const { return hasUnifiedMemory_; }
     bool isBootDisplay() const { return isBootDisplay_; }
-    /// False when its class says that it is no display controller at all.
+    /// False when it has no node, and its class says that it is no display controller.
     bool isGraphics() const { return isGraphics_; }
     /// Bytes; 0 when never told.
     std::uint64_t memorySize() const { return memorySize_; }

@@ -149,6 +149,11 @@ TEST_F(LinuxGraphicsDevicesTest, CardsOfNVIDIAsDriverAreThereWithoutNodes) {
     EXPECT_EQ(devices[2].name, "NVIDIA 0x2330");
 }
 
+TEST_F(LinuxGraphicsDevicesTest, AcceleratorsForComputingWithNodesAreCards) {
+    graphics.card(0, "0000:03:00.0", "1002:74a1", "amdgpu", {{"class", "0x120000"}});
+    EXPECT_THAT(names(), ElementsAre("AMD 0x74a1"));
+}
+
 TEST_F(LinuxGraphicsDevicesTest, ACardThatLeavesIsGoneAndMayComeBack) {
     graphics.card(0, "0000:00:02.0", "8086:5917", "i915");
     graphics.card(1, "0000:06:00.0", "1002:73bf", "amdgpu", {{"gpu_busy_percent", "5"}});
