@@ -77,8 +77,8 @@ void appendUnlisted(const LinuxRoots& roots, const fs::path& sys, std::vector<DR
 std::uint64_t DRMDevice::registryID() const {
     if (address) return address->number();
     std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
-    for (const unsigned char letter : name)
-        hash = (hash ^ letter) * 0x100000001B3;
+    for (const char letter : name)
+        hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001B3;
     return hash | std::uint64_t{1} << 63;  // no address
 }
 
