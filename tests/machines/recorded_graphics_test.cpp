@@ -36,8 +36,7 @@ std::vector<std::string> cardsOf(Machine& machine) {
         const auto* const said = accelerators.property(service, "PerformanceStatistics");
         if (said) {
             for (const auto& [key, value] : *said->dictionary())
-                line << ' ' << key << '='
-                     << std::round(value.number().value_or(-1) * 100) / 100;
+                line << ' ' << key << '=' << std::round(value.number().value_or(-1) * 100) / 100;
         }
         lines.push_back(line.str());
     }
