@@ -112,7 +112,7 @@ TEST_F(GPUReaderTest, AUnifiedDeviceHasTheChipsTemperatureWhenTheLookupFails) {
 }
 
 TEST_F(GPUReaderTest, TheChipsTemperatureIsReadOnceAtMost) {
-    for (const std::uint64_t id : {1, 2, 3})
+    for (const std::uint64_t id : {1U, 2U, 3U})
         addDevice(id, "Chip").hasUnifiedMemory = true;
     EXPECT_THAT(each(&GPUStats::temperatureCelsius), ElementsAre(47.5, 47.5, 47.5));
     EXPECT_EQ(temperatureReads, 1);

@@ -59,20 +59,20 @@ TEST_F(GPUReaderTest, AMalformedNameIsRepaired) {
 }
 
 TEST_F(GPUReaderTest, TheDefaultDeviceIsMovedToTheFront) {
-    for (const std::uint64_t id : {1, 2, 3, 4})
+    for (const std::uint64_t id : {1U, 2U, 3U, 4U})
         addDevice(id, "Device");
     graphics.defaultDevice = 3;
     EXPECT_THAT(each(&GPUStats::id), ElementsAre("3", "1", "2", "4"));
 }
 
 TEST_F(GPUReaderTest, WithoutADefaultDeviceTheOrderIsTheSystems) {
-    for (const std::uint64_t id : {2, 1})
+    for (const std::uint64_t id : {2U, 1U})
         addDevice(id, "Device");
     EXPECT_THAT(each(&GPUStats::id), ElementsAre("2", "1"));
 }
 
 TEST_F(GPUReaderTest, ADefaultDeviceThatIsNotListedChangesNothing) {
-    for (const std::uint64_t id : {2, 1})
+    for (const std::uint64_t id : {2U, 1U})
         addDevice(id, "Device");
     graphics.defaultDevice = 9;
     EXPECT_THAT(each(&GPUStats::id), ElementsAre("2", "1"));

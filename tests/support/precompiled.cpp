@@ -1,0 +1,1 @@
+// Belongs to the library that the precompiled headers are made for.
