@@ -41,6 +41,12 @@ std::function<void()> LiveChild::running(const std::string& sleepProgram) {
     };
 }
 
+bool LiveChild::waitUntilAsleepAs(const std::string& program) const {
+    for (int i = 0; i < 10'000 && processFile(pid_, "comm") != program + "\n"; ++i)
+        std::this_thread::sleep_for(1ms);
+    return waitUntilAsleep();
+}
+
 bool LiveChild::becomeZombie() const {
     ::kill(pid_, SIGKILL);
     return waitForState('Z');

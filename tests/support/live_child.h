@@ -24,6 +24,9 @@ class LiveChild {
     /// Waits until the kernel says that it sleeps ('S'); false after ten seconds.
     bool waitUntilAsleep() const { return waitForState('S'); }
 
+    /// The same, once it has become the program of that (short) name.
+    bool waitUntilAsleepAs(const std::string& program) const;
+
     /// Ends it; what is left of it stays in the process table.
     bool becomeZombie() const;
 

@@ -60,7 +60,8 @@ TEST_P(LiveProcessName, IsReadByteForByteAndHarmsNoFigure) {
     const ProcessStats stats = read(child.pid());
     EXPECT_EQ(stats.name.string(),
               std::filesystem::read_symlink("/proc/self/exe").filename().string());
-    EXPECT_EQ(stats.cpuPercent, 0);
+    // It sleeps; but a sanitizer's own thread in it does not, quite.
+    EXPECT_LT(stats.cpuPercent, 25);
     EXPECT_GT(stats.residentMemoryBytes, 0U);
 }
 

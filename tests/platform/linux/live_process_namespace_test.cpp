@@ -90,9 +90,7 @@ std::string reuseAnIdentifier() {
     std::ofstream("/proc/sys/kernel/ns_last_pid") << pid - 1 << std::flush;
     const LiveChild latter(LiveChild::running("/bin/sleep"));
     if (latter.pid() != pid) return notHere + "identifiers cannot be chosen";
-    for (int i = 0; i < 1000 && processFile(pid, "comm") != "sleep\n"; ++i)
-        std::this_thread::sleep_for(1ms);
-    if (!latter.waitUntilAsleep()) return "the latter one does not sleep";
+    if (!latter.waitUntilAsleepAs("sleep")) return "the latter one does not sleep";
     const ProcessSample sample = reader.read();
     const ProcessStats* const row = find(sample, pid);
     if (!row) return "the latter one is not listed";
