@@ -62,10 +62,10 @@ TEST(PCIDeviceList, TellsNumbersByPlace) {
 }
 
 TEST(PCIDeviceList, DoesNotTellWhichDomainIsMeant) {
-    const std::string two = std::string(list) + "0100\t144da80a\t0\n";
+    const std::string two = std::string(list).append("0100\t144da80a\t0\n");
     EXPECT_EQ(findPCIDevice(two, {0, 1, 0, 0}), std::nullopt);
     EXPECT_EQ(findPCIDevice(two, {1, 1, 0, 0}), std::nullopt);
-    const std::string twins = std::string(list) + "0100\t10de1c8d\t0\n";
+    const std::string twins = std::string(list).append("0100\t10de1c8d\t0\n");
     EXPECT_EQ(findPCIDevice(twins, {1, 1, 0, 0}), (PCIDeviceNumbers{0x10DE, 0x1C8D}));
 }
 
