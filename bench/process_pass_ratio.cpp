@@ -44,29 +44,43 @@ class PlainSweep {
     std::array<char, 4096> buffer_{};
 };
 
-/// The mean CPU time of a pass per process: what is done only now and then counts with its share.
-double measure(int passes, std::chrono::milliseconds interval,
-               const std::function<std::size_t()>& pass) {
-    double perProcess = 0;
-    auto next = std::chrono::steady_clock::now();
-    for (int i = 0; i < warmUp + passes; ++i) {
-        next += interval;
-        std::this_thread::sleep_until(next);
+/// The CPU time of a pass per process, summed up: what is done only now and then counts with its
+/// share.
+class PassCost {
+  public:
+    explicit PassCost(std::function<std::size_t()> pass) : pass_(std::move(pass)) {}
+
+    void run() {
         const double before = threadCPUSeconds();
-        const std::size_t processes = pass();
+        const std::size_t processes = pass_();
         const double spent = threadCPUSeconds() - before;
-        if (i >= warmUp && processes > 0)
-            perProcess += spent * 1e9 / static_cast<double>(processes);
+        if (++runs_ <= warmUp || processes == 0) return;
+        sum_ += spent * 1e9 / static_cast<double>(processes);
     }
-    return perProcess / passes;
-}
+    double mean() const { return sum_ / (runs_ - warmUp); }
+
+  private:
+    std::function<std::size_t()> pass_;
+    int runs_ = 0;
+    double sum_ = 0;
+};
 
 int compare(int children, int passes, std::chrono::milliseconds interval) {
     const SleepingChildren sleepers(children);
     PlainSweep sweep;
     ProcessReader reader(makeNativeMachine());
-    const double plain = measure(passes, interval, [&] { return sweep.run(); });
-    const double pass = measure(passes, interval, [&] { return reader.read().all.size(); });
+    PassCost plainCost([&] { return sweep.run(); });
+    PassCost passCost([&] { return reader.read().all.size(); });
+    // In turns, half an interval apart: a machine that becomes slower does so for both.
+    auto next = std::chrono::steady_clock::now();
+    for (int i = 0; i < warmUp + passes; ++i) {
+        for (PassCost* const cost : {&plainCost, &passCost}) {
+            std::this_thread::sleep_until(next += interval / 2);
+            cost->run();
+        }
+    }
+    const double plain = plainCost.mean();
+    const double pass = passCost.mean();
     const double ratio = pass / plain;
     std::printf("%d sleeping processes, one pass each %lld ms, CPU time in ns per process\n",
                 children, static_cast<long long>(interval.count()));
@@ -87,6 +101,6 @@ int number(char** arguments, int count, int place, int otherwise) {
 
 int main(int argc, char** argv) {
     using namespace vantor::bench;
-    return compare(number(argv, argc, 1, 3000), number(argv, argc, 2, 12),
+    return compare(number(argv, argc, 1, 3000), number(argv, argc, 2, 30),
                    std::chrono::milliseconds{number(argv, argc, 3, 1000)});
 }

@@ -11,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-constexpr double listingPeriod = 10.0;
+constexpr double listingPeriod = 30.0;
 // After a longer pause the identifiers may have gone round unnoticed.
 constexpr double longestPause = 2.5;
 // Looking at one identifier costs about a fourth of what listing one process does.

@@ -20,7 +20,7 @@ namespace vantor {
 /// So whoever was born since the last look lies between the two, and the CPU clocks tell which of
 /// those are processes; whoever died is told by the one who asks. The folder itself is listed when
 /// this cannot be done (no such file, no clocks, a wrap, a long pause, too many new ones), and
-/// every ten seconds all the same: a restored checkpoint may choose its identifiers.
+/// every thirty seconds all the same: a restored checkpoint may choose its identifiers.
 class ProcessCensus {
   public:
     /// `clocks` must be those of the processes that /proc lists; null when there are none.
