@@ -5,13 +5,17 @@
 
 #include <atomic>
 #include <chrono>
+#include <latch>
+#include <memory>
 #include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "platform/simulated/simulated_macs.h"
+#include "probes/gpu_temperature.h"
 #include "sampling/named_row.h"
+#include "support/patient_threads.h"
 
 namespace vantor {
 namespace {
@@ -146,29 +150,88 @@ TEST(HardwareTemperatureReader, DetectsThePlatformOnceAndNotBeforeItIsAsked) {
     EXPECT_EQ(mac.machine->kernelValues().valueReads("machdep.cpu.brand_string"), 1);
 }
 
-TEST(HardwareTemperatureReader, TwoReadersShareOneEnumerationOfTheSensors) {
-    Mac mac(makeAppleSiliconMac(SimulatedChip::a18));
-    mac.reader.cpuTemperature();
-    mac.reader.hid().readings();
-    EXPECT_EQ(mac.sensors.enumerations(), 1);
+/// A machine whose processor and graphics are as hot as the sensors tell that both have in common,
+/// and the two that ask for them.
+struct SharedSensors {
+    explicit SharedSensors(SimulatedChip chip) : mac(makeAppleSiliconMac(chip)) {
+        mac.failAllKeys();
+    }
+
+    std::optional<double> processor() const { return reader->cpuTemperature(); }
+    std::optional<double> graphics() const { return hardwareGPUTemperature(sources); }
+
+    Mac mac;
+    std::shared_ptr<HardwareTemperatureReader> reader =
+        std::make_shared<HardwareTemperatureReader>(mac.machine);
+    GPUTemperatureSources sources = GPUTemperatureSources::of(reader);
+};
+
+TEST(SharedSensors, AreListedOnceForProcessorAndGraphics) {
+    const SharedSensors shared(SimulatedChip::a18);
+    EXPECT_EQ(shared.processor(), 58.25);
+    EXPECT_EQ(shared.graphics(), 49.5);
+    EXPECT_EQ(shared.mac.sensors.enumerations(), 1);
+    shared.mac.machine->clock()->wind(1s);
+    EXPECT_EQ(shared.graphics(), 49.5);
+    EXPECT_EQ(shared.processor(), 58.25);
+    EXPECT_EQ(shared.mac.sensors.enumerations(), 2);
 }
 
-TEST(HardwareTemperatureReader, ProcessorAndGraphicsMayBeAskedForAtOnce) {
-    Mac mac(makeAppleSiliconMac(SimulatedChip::m3));
-    constexpr int rounds = 300;
+TEST(SharedSensors, ThatTheProcessorListsArePassedByTheGraphicsAtOnce) {
+    SharedSensors shared(SimulatedChip::m2);
+    EXPECT_EQ(shared.graphics(), 49.5);
+    shared.mac.machine->clock()->wind(1s);
+    shared.mac.sensors.services = {{"PMU tdie1", 70}, {"GPU MTR Temp Sensor1", 60}};
+    PatientThreads others;
+    std::atomic<bool> isAsked = false;
+    shared.mac.sensors.onCall = [&] {
+        if (isAsked.exchange(true)) return;
+        const auto met = others.ask([&] { return shared.graphics(); });
+        ASSERT_TRUE(met) << "it waits for the processor's list";
+        EXPECT_EQ(*met, 49.5) << "of the list before";
+    };
+    EXPECT_EQ(shared.processor(), 70);
+    EXPECT_TRUE(isAsked);
+    EXPECT_EQ(shared.mac.sensors.enumerations(), 2);
+    EXPECT_EQ(shared.graphics(), 60);
+    EXPECT_EQ(shared.mac.sensors.enumerations(), 2);
+    shared.mac.sensors.onCall = nullptr;
+}
+
+TEST(SharedSensors, ThatTheGraphicsListArePassedByTheProcessorAtOnce) {
+    SharedSensors shared(SimulatedChip::m2);
+    EXPECT_EQ(shared.processor(), 58.25);
+    shared.mac.machine->clock()->wind(1s);
+    shared.mac.sensors.services = {{"PMU tdie1", 70}, {"GPU MTR Temp Sensor1", 60}};
+    PatientThreads others;
+    std::atomic<bool> isAsked = false;
+    shared.mac.sensors.onCall = [&] {
+        if (isAsked.exchange(true)) return;
+        const auto met = others.ask([&] { return shared.processor(); });
+        ASSERT_TRUE(met) << "it waits for the graphics' list";
+        EXPECT_EQ(*met, 58.25) << "of the list before";
+    };
+    EXPECT_EQ(shared.graphics(), 60);
+    EXPECT_TRUE(isAsked);
+    EXPECT_EQ(shared.mac.sensors.enumerations(), 2);
+    shared.mac.sensors.onCall = nullptr;
+}
+
+/// Asks for both temperatures from two threads each, and counts the answers that are wrong. The
+/// time passes by `step` with each question for the graphics'.
+int askAtOnce(const SharedSensors& shared, int rounds, std::chrono::milliseconds step) {
     std::atomic<int> wrong{0};
+    std::latch start(4);
     const auto processor = [&] {
+        start.arrive_and_wait();
         for (int i = 0; i < rounds; ++i)
-            if (mac.reader.cpuTemperature() != 61.5) ++wrong;
+            if (shared.processor() != 58.25) ++wrong;
     };
     const auto graphics = [&] {
+        start.arrive_and_wait();
         for (int i = 0; i < rounds; ++i) {
-            mac.machine->clock()->wind(50ms);
-            const auto keys = mac.reader.cachedAppleSiliconGPUKeys();
-            if (mac.reader.smc().readHottest(keys) != 52.75) ++wrong;
-            const auto readings = mac.reader.hid().readings();
-            // Empty only while the other thread loads the first list.
-            if (!readings->empty() && readings->size() != mac.sensors.services.size()) ++wrong;
+            shared.mac.machine->clock()->wind(step);
+            if (shared.graphics() != 49.5) ++wrong;
         }
     };
     {
@@ -178,9 +241,44 @@ TEST(HardwareTemperatureReader, ProcessorAndGraphicsMayBeAskedForAtOnce) {
             threads.emplace_back(graphics);
         }
     }
+    return wrong;
+}
+
+TEST(SharedSensors, AreListedFourTimesASecondHoweverManyAskAtOnce) {
+    constexpr int rounds = 300;
+    for (const auto chip : {SimulatedChip::m3, SimulatedChip::a18}) {
+        const SharedSensors shared(chip);
+        shared.processor();  // who meets the first load finds no list before it
+        EXPECT_EQ(askAtOnce(shared, rounds, 50ms), 0);
+        const int listings = shared.mac.sensors.enumerations();
+        EXPECT_GT(listings, 1);
+        EXPECT_LE(listings, rounds * 2 / 5 + 1);
+        EXPECT_EQ(askAtOnce(shared, rounds, 0ms), 0);
+        EXPECT_LE(shared.mac.sensors.enumerations(), listings + 1) << "no time has passed";
+    }
+}
+
+TEST(HardwareTemperatureReader, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
+    Mac mac(makeAppleSiliconMac(SimulatedChip::m3));
+    constexpr int rounds = 300;
+    const auto reader = std::make_shared<HardwareTemperatureReader>(mac.machine);
+    const auto sources = GPUTemperatureSources::of(reader);
+    std::atomic<int> wrong{0};
+    {
+        std::vector<std::jthread> threads;
+        for (int thread = 0; thread < 2; ++thread) {
+            threads.emplace_back([&] {
+                for (int i = 0; i < rounds; ++i)
+                    if (reader->cpuTemperature() != 61.5) ++wrong;
+            });
+            threads.emplace_back([&] {
+                for (int i = 0; i < rounds; ++i)
+                    if (hardwareGPUTemperature(sources) != 52.75) ++wrong;
+            });
+        }
+    }
     EXPECT_EQ(wrong, 0);
-    EXPECT_GT(mac.sensors.enumerations(), 1);
-    EXPECT_LE(mac.sensors.enumerations(), rounds * 2 / 5 + 1) << "at most four times a second";
+    EXPECT_EQ(mac.sensors.enumerations(), 0);
 }
 
 }  // namespace
