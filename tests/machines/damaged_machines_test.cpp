@@ -6,6 +6,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <ostream>
 #include <random>
 #include <set>
 #include <string>
@@ -48,6 +49,10 @@ std::string nameOf(Damage damage) {
             return "removed";
     }
     return "";
+}
+
+void PrintTo(Damage damage, std::ostream* out) {
+    *out << nameOf(damage);
 }
 
 void writeInPlace(const fs::path& path, std::string_view content) {

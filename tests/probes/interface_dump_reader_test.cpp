@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/simulated/simulated_network_interfaces.h"
+#include "sampling/named_row.h"
 
 namespace vantor {
 namespace {
@@ -237,8 +238,7 @@ TEST_F(InterfaceDumpReaderTest, ALargeListBeginsTheCountAnew) {
     EXPECT_EQ(buffer(), 256 * kib);
 }
 
-struct Failure {
-    const char* name;
+struct Failure : NamedRow {
     void (*arrange)(SimulatedNetworkInterfaces&);
 };
 class FailedDump : public InterfaceDumpReaderTest, public testing::WithParamInterface<Failure> {};
@@ -262,12 +262,13 @@ TEST_P(FailedDump, BeginsTheCountAnew) {
 INSTANTIATE_TEST_SUITE_P(
     Failures, FailedDump,
     testing::Values(
-        Failure{"OfTheSize", [](SimulatedNetworkInterfaces& i) { i.sizeErrors = {EIO}; }},
-        Failure{"OfTheList", [](SimulatedNetworkInterfaces& i) { i.listErrors = {EIO}; }},
-        Failure{"OfTheBytes",
+        Failure{{"OfTheSize"}, [](SimulatedNetworkInterfaces& i) { i.sizeErrors = {EIO}; }},
+        Failure{{"OfTheList"}, [](SimulatedNetworkInterfaces& i) { i.listErrors = {EIO}; }},
+        Failure{{"OfTheBytes"},
                 [](SimulatedNetworkInterfaces& i) { i.rawList = std::vector<std::byte>(2); }},
-        Failure{"OfAName", [](SimulatedNetworkInterfaces& i) { i.interfaces[0].hasName = false; }}),
-    [](const auto& row) { return row.param.name; });
+        Failure{{"OfAName"},
+                [](SimulatedNetworkInterfaces& i) { i.interfaces[0].hasName = false; }}),
+    rowName<Failure>);
 
 }  // namespace
 }  // namespace vantor

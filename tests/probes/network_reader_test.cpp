@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "probes/network_reader_fixture.h"
+#include "sampling/named_row.h"
 
 namespace vantor {
 namespace {
@@ -232,8 +233,7 @@ TEST_F(NetworkReaderTest, ResetMakesTheNextReadAFirstOne) {
     EXPECT_EQ(read()->downloadBytesPerSecond, 0);
 }
 
-struct Failure {
-    const char* name;
+struct Failure : NamedRow {
     void (*arrange)(SimulatedNetworkInterfaces&);
 };
 class FailedNetworkRead : public NetworkReaderTest, public testing::WithParamInterface<Failure> {};
@@ -256,21 +256,22 @@ TEST_P(FailedNetworkRead, GivesNothingAndKeepsTheBaselines) {
 INSTANTIATE_TEST_SUITE_P(
     Failures, FailedNetworkRead,
     testing::Values(
-        Failure{"OfTheSize", [](SimulatedNetworkInterfaces& n) { n.sizeErrors = {EIO}; }},
-        Failure{"OfTheList", [](SimulatedNetworkInterfaces& n) { n.listErrors = {EIO}; }},
-        Failure{"AMessageOfType18ShorterThan160Bytes",
+        Failure{{"OfTheSize"}, [](SimulatedNetworkInterfaces& n) { n.sizeErrors = {EIO}; }},
+        Failure{{"OfTheList"}, [](SimulatedNetworkInterfaces& n) { n.listErrors = {EIO}; }},
+        Failure{{"AMessageOfType18ShorterThan160Bytes"},
                 [](SimulatedNetworkInterfaces& n) {
                     n.rawList = std::vector<std::byte>(159);
                     (*n.rawList)[0] = std::byte{159};
                     (*n.rawList)[2] = std::byte{5};
                     (*n.rawList)[3] = std::byte{18};
                 }},
-        Failure{"AnIndexThatLostItsNameMeanwhile",
+        Failure{{"AnIndexThatLostItsNameMeanwhile"},
                 [](SimulatedNetworkInterfaces& n) { n.interfaces[0].hasName = false; }},
-        Failure{"OfTheAddresses", [](SimulatedNetworkInterfaces& n) { n.addressListFails = true; }},
-        Failure{"NoAddressesAtAll",
+        Failure{{"OfTheAddresses"},
+                [](SimulatedNetworkInterfaces& n) { n.addressListFails = true; }},
+        Failure{{"NoAddressesAtAll"},
                 [](SimulatedNetworkInterfaces& n) { n.addressListIsEmpty = true; }}),
-    [](const auto& row) { return row.param.name; });
+    rowName<Failure>);
 
 TEST_F(NetworkReaderTest, OnABrokenMachineGivesNothing) {
     NetworkReader broken(SimulatedMachine::broken());

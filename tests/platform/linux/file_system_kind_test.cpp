@@ -20,6 +20,8 @@ struct Row {
     std::string type;
     std::uint32_t major;
     FileSystemKind kind;
+
+    friend void PrintTo(const Row& row, std::ostream* out) { *out << row.type; }
 };
 
 std::vector<Row> rows() {

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <deque>
+#include <ostream>
 #include <vector>
 
 #include "support/played_kernel.h"
@@ -133,6 +134,8 @@ TEST_F(NetlinkDumpTest, ADatagramLargerThanTheBufferIsAskedForAgainWithALargerOn
 struct Ending {
     const char* name;
     Bytes datagram;
+
+    friend void PrintTo(const Ending& ending, std::ostream* out) { *out << ending.name; }
 };
 class FailedNetlinkDump : public NetlinkDumpTest, public testing::WithParamInterface<Ending> {};
 
