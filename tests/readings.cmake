@@ -73,6 +73,8 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/drm_clients_test.cpp
         platform/linux/drm_fdinfo_test.cpp
         platform/linux/engine_use_test.cpp
+        platform/linux/failing_card_sensor_test.cpp
+        platform/linux/failing_processor_sensor_test.cpp
         platform/linux/file_system_kind_test.cpp
         platform/linux/graphics_names_test.cpp
         platform/linux/kernel_facts_test.cpp
@@ -139,6 +141,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         support/fake_kernel_tree.cpp
         support/live_child.cpp
         support/private_mounts.cpp)
+    vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.
     foreach(variant "" _OLD _USELESS)
         string(TOLOWER "fake_nvml${variant}" library)

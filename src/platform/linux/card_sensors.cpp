@@ -1,9 +1,11 @@
 #include "platform/linux/card_sensors.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <string_view>
 #include <system_error>
-#include <vector>
+#include <utility>
 
 #include "platform/linux/kernel_file.h"
 
@@ -14,35 +16,51 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr unsigned mostSensors = 8;
+constexpr std::array<std::string_view, 3> bestFirst{"edge", "junction", "pkg"};
+// Of the memory (one number, or one for each of its channels), its controller and the connection.
+constexpr std::array<std::string_view, 4> elsewhere{"mem", "vram", "mctrl", "pcie"};
+
+/// Smaller is better.
+std::size_t rankOf(const CardSensorLabel& sensor) {
+    const auto found = std::find(bestFirst.begin(), bestFirst.end(), sensor.label);
+    return static_cast<std::size_t>(found - bestFirst.begin());
+}
+
+bool isOfTheChip(const CardSensorLabel& sensor) {
+    return std::none_of(elsewhere.begin(), elsewhere.end(),
+                        [&](std::string_view prefix) { return sensor.label.starts_with(prefix); });
+}
 
 void look(const fs::path& folder, CardSensors& found) {
     std::error_code error;
     std::vector<CardSensorLabel> sensors;
     for (unsigned number = 1; number <= mostSensors; ++number) {
-        const std::string name = "temp" + std::to_string(number);
-        if (!fs::exists(folder / (name + "_input"), error)) continue;
-        sensors.push_back({number, readKernelText(folder / (name + "_label")).value_or("")});
+        const fs::path stem = folder / ("temp" + std::to_string(number));
+        if (!fs::exists(stem.native() + "_input", error)) continue;
+        auto label = readKernelText(stem.native() + "_label");
+        // A label that cannot be read is not the same as none: it may be the memory's.
+        if (!label && fs::exists(stem.native() + "_label", error)) continue;
+        sensors.push_back({number, std::move(label).value_or("")});
     }
-    if (const auto number = chooseCardSensor(sensors)) {
-        SmallFile file(folder / ("temp" + std::to_string(*number) + "_input"));
-        if (file.isOpen()) found.temperature = std::move(file);
+    for (const unsigned number : orderCardSensors(sensors)) {
+        SmallFile file(folder / ("temp" + std::to_string(number) + "_input"));
+        if (file.isOpen()) found.temperatures.push_back(std::move(file));
     }
     if (readKernelText(folder / "in1_label") == "vddnb") found.isBesideProcessor = true;
 }
 
 }  // namespace
 
-std::optional<unsigned> chooseCardSensor(std::span<const CardSensorLabel> sensors) {
-    for (const std::string_view wanted : {"edge", "junction", "pkg"}) {
-        const auto found = std::find_if(sensors.begin(), sensors.end(),
-                                        [&](const auto& each) { return each.label == wanted; });
-        if (found != sensors.end()) return found->number;
-    }
-    const auto first = std::find_if(sensors.begin(), sensors.end(), [](const auto& each) {
-        return each.label != "mem" && each.label != "vram";
+std::vector<unsigned> orderCardSensors(std::span<const CardSensorLabel> sensors) {
+    std::vector<CardSensorLabel> ordered;
+    std::copy_if(sensors.begin(), sensors.end(), std::back_inserter(ordered), isOfTheChip);
+    std::stable_sort(ordered.begin(), ordered.end(), [](const auto& one, const auto& other) {
+        return rankOf(one) < rankOf(other);
     });
-    if (first == sensors.end()) return std::nullopt;
-    return first->number;
+    std::vector<unsigned> numbers;
+    for (const CardSensorLabel& sensor : ordered)
+        numbers.push_back(sensor.number);
+    return numbers;
 }
 
 CardSensors CardSensors::find(const fs::path& device) {
@@ -50,7 +68,7 @@ CardSensors CardSensors::find(const fs::path& device) {
     std::error_code error;
     for (fs::directory_iterator at(device / "hwmon", error), end; !error && at != end;
          at.increment(error)) {
-        if (!found.temperature) look(at->path(), found);
+        look(at->path(), found);
     }
     return found;
 }

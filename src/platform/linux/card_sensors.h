@@ -1,9 +1,9 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "platform/linux/small_file.h"
 
@@ -15,13 +15,14 @@ struct CardSensorLabel {
     std::string label;    ///< of temp1_label; empty when there is none
 };
 
-/// Which of them is the card's: "edge" (the chip's own), else "junction" (its hottest spot), else
-/// "pkg", else the first that is not the memory's; absent when there is none. Pure.
-std::optional<unsigned> chooseCardSensor(std::span<const CardSensorLabel> sensors);
+/// Which of them tell how hot the card is, the best one first: "edge" (the chip's own), "junction"
+/// (its hottest spot), "pkg", then the others but for those of the memory and the connection. Pure.
+std::vector<unsigned> orderCardSensors(std::span<const CardSensorLabel> sensors);
 
 /// What the hwmon folder of a card that is awake has.
 struct CardSensors {
-    std::optional<SmallFile> temperature;  ///< thousandths of a degree Celsius
+    /// Thousandths of a degree Celsius. Each stands in for those before it that do not answer.
+    std::vector<SmallFile> temperatures;
     /// There is a voltage "vddnb", that of a north bridge. amdgpu shows it for chips that share
     /// package and memory with a processor, and only for those; the amounts of memory do not tell,
     /// for the part that firmware sets aside may be as large as a small card's.

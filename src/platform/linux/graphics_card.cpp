@@ -42,6 +42,15 @@ std::string firstText(const std::optional<std::string>& texts) {
     return texts ? texts->substr(0, texts->find('\0')) : std::string();
 }
 
+/// Degrees Celsius.
+std::optional<double> readSensor(const SmallFile& sensor) {
+    std::array<char, 32> buffer{};
+    const auto text = sensor.read(buffer);
+    const auto temperature = text ? parseTemperature(*text) : std::nullopt;
+    if (!temperature || *temperature < coldest || *temperature > hottest) return std::nullopt;
+    return static_cast<double>(*temperature) / 1000;
+}
+
 }  // namespace
 
 GraphicsCard::GraphicsCard(DRMDevice place) : place_(std::move(place)), status_(place_.folder) {
@@ -146,7 +155,7 @@ void GraphicsCard::open() {
 
 bool GraphicsCard::isUsedByQuestions() const {
     // i915 answers for its clients from its own books; xe wakes the card to read its clock.
-    const bool hasFiles = files_ && (files_->amdgpu || files_->sensors.temperature);
+    const bool hasFiles = files_ && (files_->amdgpu || !files_->sensors.temperatures.empty());
     return hasFiles || needsLibrary() || place_.driver == "xe";
 }
 
@@ -171,25 +180,26 @@ bool GraphicsCard::needsClients() const {
     return contains(driversWithClients, place_.driver);
 }
 
-bool GraphicsCard::readTemperature() {
-    if (!files_->sensors.temperature) return true;
-    std::array<char, 32> buffer{};
-    const auto text = files_->sensors.temperature->read(buffer);
-    const auto temperature = text ? parseTemperature(*text) : std::nullopt;
-    if (!temperature || *temperature < coldest || *temperature > hottest) return false;
-    figures_.temperature = static_cast<double>(*temperature) / 1000;
-    return true;
+void GraphicsCard::readTemperature() {
+    for (const SmallFile& sensor : files_->sensors.temperatures) {
+        if (const auto temperature = readSensor(sensor)) {
+            figures_.temperature = *temperature;
+            return;
+        }
+        // It may have failed because the card goes to sleep, which the next one would undo.
+        if (!checkStillAwake()) return;
+    }
 }
 
 void GraphicsCard::read(std::optional<double> clientUtilization) {
     if (!files_) open();
-    bool isWhole = !files_->amdgpu || files_->amdgpu->read(figures_);
-    isWhole = readTemperature() && isWhole;
+    // What could be read is of a card that was just going to sleep, if it is asleep by now.
+    if (files_->amdgpu && !files_->amdgpu->read(figures_) && !checkStillAwake()) return;
+    readTemperature();
+    if (!isAwake_) return;
     if (!figures_.utilization && clientUtilization && needsClients()) {
         figures_.utilization = *clientUtilization * 100;
     }
-    // What could be read is of a card that was just going to sleep, if it is asleep by now.
-    if (!isWhole && !checkStillAwake()) return;
     if (figures_.memoryTotal) memorySize_ = *figures_.memoryTotal;
 }
 

@@ -73,7 +73,7 @@ class GraphicsCard {
     void readIdentity();
     void guessUnifiedMemory();
     bool isUsedByQuestions() const;
-    bool readTemperature();
+    void readTemperature();
     void open();
     void forgetPass();
 

@@ -87,12 +87,14 @@ std::shared_ptr<const ProcessorSensorList> scanProcessorSensors(const Path& clas
         const auto driver = readKernelText(monitor / "name");
         if (driver && isProcessorMonitor(*driver)) addMonitor(*list, monitor, *driver);
     }
-    if (!list->packages.empty()) return list;
+    const bool areStandIns = !list->packages.empty();
+    auto& sensors = areStandIns ? list->standIns : list->sensors;
+    auto& group = areStandIns ? list->zones : list->packages;
     for (const Path& zone : entriesOf(classFolder / "thermal", "thermal_zone")) {
         const auto type = readKernelText(zone / "type");
         if (!type || !isProcessorZone(*type)) continue;
-        list->packages.push_back(
-            &list->sensors.emplace_back(*type, ProcessorSensor::Paths{zone / "temp", {}, {}}));
+        group.push_back(
+            &sensors.emplace_back(*type, ProcessorSensor::Paths{zone / "temp", {}, {}}));
     }
     return list;
 }

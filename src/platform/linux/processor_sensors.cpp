@@ -51,27 +51,30 @@ ProcessorSensors::List ProcessorSensors::listNotOlderThan(double seconds) {
     return fresh;
 }
 
-template <class Select>
-std::optional<double> ProcessorSensors::hottest(Select select) {
+template <class Select, class Read>
+std::optional<double> ProcessorSensors::hottest(Select select, Read read) {
     const List before = list();
-    const auto& group = select(*before);
-    if (group.empty()) return std::nullopt;
-    if (const auto temperature = hottestOf(group)) return temperature;
+    if (select(*before).empty()) return std::nullopt;
+    if (const auto temperature = read(*before)) return temperature;
     // The driver may have come anew, with other numbers.
     const List after = listNotOlderThan(retryInterval);
-    return after == before ? std::nullopt : hottestOf(select(*after));
+    return after == before ? std::nullopt : read(*after);
 }
 
 std::optional<double> ProcessorSensors::hottestPackage() {
-    return hottest([](const ProcessorSensorList& list) -> const ProcessorSensorList::Group& {
-        return list.packages;
-    });
+    return hottest(
+        [](const ProcessorSensorList& list) -> const auto& { return list.packages; },
+        [](const ProcessorSensorList& list) {
+            const auto temperature = hottestOf(list.packages);
+            return temperature ? temperature : hottestOf(list.zones);
+        });
 }
 
 std::optional<double> ProcessorSensors::hottestCore(std::size_t digit) {
-    return hottest([digit](const ProcessorSensorList& list) -> const ProcessorSensorList::Group& {
+    const auto select = [digit](const ProcessorSensorList& list) -> const auto& {
         return list.cores[digit % list.cores.size()];
-    });
+    };
+    return hottest(select, [select](const auto& list) { return hottestOf(select(list)); });
 }
 
 }  // namespace vantor

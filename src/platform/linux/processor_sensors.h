@@ -24,6 +24,10 @@ struct ProcessorSensorList {
     Group packages;                       ///< one for each, of the best kind that it has
     std::array<Group, 10> cores;          ///< by the last digit of the core's number
 
+    /// Zones of the processor beside hwmon's packages, for when none of those answers.
+    std::deque<ProcessorSensor> standIns;
+    Group zones;
+
     ProcessorSensorList() = default;
     ProcessorSensorList(const ProcessorSensorList&) = delete;
     ProcessorSensorList& operator=(const ProcessorSensorList&) = delete;
@@ -31,8 +35,8 @@ struct ProcessorSensorList {
 
 /// The temperature sensors of the processors, by driver and label, because their numbers change
 /// from boot to boot: /sys/class/hwmon (https://docs.kernel.org/hwmon/sysfs-interface.html), and
-/// the thermal zones where that knows no package. Of other devices only the name is read, so that
-/// no disk and no graphics card is woken.
+/// the thermal zones where that knows no package or none answers. Of other devices only the name is
+/// read, so that no disk and no graphics card is woken.
 ///
 /// Any thread. One of them scans, the others get the list before at once; nothing is locked while
 /// files are read.
@@ -58,8 +62,9 @@ class ProcessorSensors {
     static double monotonicSeconds();
 
     List listNotOlderThan(double seconds);
-    template <class Select>
-    std::optional<double> hottest(Select select);
+    /// What `read` makes of a list that has something in the group that `select` gives.
+    template <class Select, class Read>
+    std::optional<double> hottest(Select select, Read read);
 
     std::filesystem::path folder_;
     Uptime uptime_;

@@ -115,6 +115,7 @@ TEST_F(AMDGraphicsCard, WithoutLabelsIsAsHotAsItsFirstSensor) {
 }
 
 TEST_F(AMDGraphicsCard, ThatCannotAnswerNowDoesSoAtTheNextPass) {
+    graphics.remove(place, "hwmon/hwmon2/temp2_input");
     say("gpu_busy_percent", "");
     say("hwmon/hwmon2/temp1_input", "");
     EXPECT_THAT(statistics(),
@@ -127,7 +128,7 @@ TEST_F(AMDGraphicsCard, ThatCannotAnswerNowDoesSoAtTheNextPass) {
 
 TEST_F(AMDGraphicsCard, WhoseFilesFailHasNoFigures) {
     for (const char* const file : {"gpu_busy_percent", "mem_info_vram_used", "mem_info_vram_total",
-                                   "hwmon/hwmon2/temp1_input"})
+                                   "hwmon/hwmon2/temp1_input", "hwmon/hwmon2/temp2_input"})
         fail(file);
     EXPECT_THAT(statistics(), IsEmpty());
 }
@@ -144,7 +145,7 @@ TEST_F(AMDGraphicsCard, SaysNothingThatCannotBe) {
     }
     for (const char* const text : {"250001", "-100001", "511000000000000000000", "hot", ""}) {
         say("hwmon/hwmon2/temp1_input", text);
-        EXPECT_EQ(figure("Temperature(C)"), std::nullopt) << text;
+        EXPECT_EQ(figure("Temperature(C)"), 60) << text << ": the junction stands in";
     }
     say("gpu_busy_percent", std::string(100'000, '1'));
     EXPECT_EQ(figure("Device Utilization %"), std::nullopt);
@@ -155,16 +156,6 @@ TEST_F(AMDGraphicsCard, GetsItsSensorsWhenTheDriverBringsThem) {
     EXPECT_EQ(figure("Temperature(C)"), std::nullopt);
     say("hwmon/hwmon9/temp1_input", "33000");
     EXPECT_EQ(graphics.figure("Temperature(C)", GraphicsCards::listingInterval + 1), 33);
-}
-
-TEST(CardSensor, IsTheEdgeElseTheJunctionElseTheFirstThatIsNotMemory) {
-    using Labels = std::vector<CardSensorLabel>;
-    EXPECT_EQ(chooseCardSensor(Labels{}), std::nullopt);
-    EXPECT_EQ(chooseCardSensor(Labels{{1, "junction"}, {2, "edge"}}), 2U);
-    EXPECT_EQ(chooseCardSensor(Labels{{1, "mem"}, {2, "junction"}}), 2U);
-    EXPECT_EQ(chooseCardSensor(Labels{{2, "vram"}, {3, "pkg"}}), 3U);
-    EXPECT_EQ(chooseCardSensor(Labels{{1, "mem"}}), std::nullopt);
-    EXPECT_EQ(chooseCardSensor(Labels{{1, ""}, {2, ""}}), 1U);
 }
 
 TEST(OtherGraphicsCards, AreNamedAndMeasuredByTheirSensors) {
