@@ -143,7 +143,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         support/private_mounts.cpp)
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.
-    foreach(variant "" _OLD _USELESS)
+    foreach(variant "" _OLD _USELESS _NO_SHUTDOWN _NO_HANDLE _NO_UTILIZATION)
         string(TOLOWER "fake_nvml${variant}" library)
         add_library(${library} MODULE support/fake_nvml.cpp)
         target_include_directories(${library} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})

@@ -3,12 +3,12 @@
 #include <cstring>
 
 /// A library with the functions of NVML that are asked for, built as a file to be loaded. With
-/// FAKE_NVML_OLD it lacks all that may be missing, with FAKE_NVML_USELESS what may not.
+/// FAKE_NVML_OLD it lacks all that may be missing, with FAKE_NVML_USELESS what may not, and with
+/// one of the others a single function.
 
 namespace {
 
 vantor::FakeNVML state;
-int device = 0;
 
 int answer(int result) {
     ++state.questions;
@@ -54,23 +54,29 @@ int nvmlInit_v2() {
 }
 #endif
 
+#ifndef FAKE_NVML_NO_SHUTDOWN
 int nvmlShutdown() {
     ++state.shutdowns;
     return 0;
 }
+#endif
 
+#ifndef FAKE_NVML_NO_HANDLE
 int nvmlDeviceGetHandleByPciBusId_v2(const char* address, void** found) {
     ++state.handles;
     std::strncpy(state.lastAddress, address, sizeof state.lastAddress - 1);
-    *found = &device;
+    *found = &state.device;
     return answer(state.handleResult);
 }
+#endif
 
+#ifndef FAKE_NVML_NO_UTILIZATION
 int nvmlDeviceGetUtilizationRates(void*, FakeUtilization* utilization) {
     utilization->chip = state.utilization;
     utilization->memory = 99;
     return answer(state.utilizationResult);
 }
+#endif
 
 #ifndef FAKE_NVML_OLD
 int nvmlDeviceGetMemoryInfo(void*, FakeMemory* memory) {

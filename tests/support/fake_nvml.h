@@ -24,6 +24,7 @@ struct FakeNVML {
     int questions = 0;       ///< about a device
     int strayQuestions = 0;  ///< when it was not initialised
     char lastAddress[32] = {};
+    int device = 0;  ///< its place is what stands for the device
 };
 
 }  // namespace vantor

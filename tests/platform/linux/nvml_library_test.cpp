@@ -199,22 +199,59 @@ TEST(MissingNVML, LeavesTheCardItsName) {
     EXPECT_EQ(graphics.pass().at(0).model, "NVIDIA 0x2484");
 }
 
+/// A library that lacks something. Its card may sleep, so that the library is let go of each time.
+class IncompleteNVML {
+  public:
+    explicit IncompleteNVML(const char* file) : nvml(file), graphics(makeNVMLLibrary(file)) {
+        graphics.card(0, "0000:01:00.0", "10de:2484", "nvidia", {{"power/control", "auto"}});
+    }
+    std::map<std::string, double> statistics() { return graphics.pass().at(0).statistics; }
+
+    LoadedFake nvml;
+    FakeGraphics graphics;
+};
+
 TEST(OldNVML, TellsWhatItCan) {
-    const LoadedFake nvml(FAKE_NVML_OLD_FILE);
-    ASSERT_TRUE(nvml);
-    FakeGraphics graphics(makeNVMLLibrary(FAKE_NVML_OLD_FILE));
-    graphics.card(0, "0000:01:00.0", "10de:2484", "nvidia");
-    EXPECT_THAT(graphics.pass().at(0).statistics, ElementsAre(Pair("Device Utilization %", 42)));
+    IncompleteNVML old(FAKE_NVML_OLD_FILE);
+    ASSERT_TRUE(old.nvml);
+    EXPECT_THAT(old.statistics(), ElementsAre(Pair("Device Utilization %", 42)));
+    EXPECT_EQ(old.graphics.pass().at(0).model, "NVIDIA 0x2484");
 }
 
-TEST(OldNVML, ThatWouldWakeAllDevicesIsNotUsed) {
-    const LoadedFake nvml(FAKE_NVML_USELESS_FILE);
-    ASSERT_TRUE(nvml);
-    FakeGraphics graphics(makeNVMLLibrary(FAKE_NVML_USELESS_FILE));
-    graphics.card(0, "0000:01:00.0", "10de:2484", "nvidia");
-    EXPECT_THAT(graphics.pass().at(0).statistics, IsEmpty());
-    EXPECT_EQ(nvml->strayQuestions, 0);
-    EXPECT_EQ(nvml->shutdowns, 0);
+TEST(OldNVML, ThatDoesNotTellHowBusyACardIsTellsTheRest) {
+    IncompleteNVML old(FAKE_NVML_NO_UTILIZATION_FILE);
+    ASSERT_TRUE(old.nvml);
+    const auto figures = ElementsAre(Pair("Temperature(C)", 55), Pair("VRAM Total", 8589934592),
+                                     Pair("VRAM Used", 1073741824));
+    EXPECT_THAT(old.statistics(), figures);
+    EXPECT_THAT(old.statistics(), figures);
+    EXPECT_EQ(old.graphics.pass().at(0).model, "NVIDIA GeForce RTX 3070");
+    EXPECT_EQ(old.nvml->inits, 2) << "and rests then, for nothing tells that it does anything";
+    EXPECT_EQ(old.nvml->shutdowns, 2);
+}
+
+TEST(UselessNVML, ThatWouldWakeAllDevicesIsNotUsed) {
+    IncompleteNVML useless(FAKE_NVML_USELESS_FILE);
+    ASSERT_TRUE(useless.nvml);
+    EXPECT_THAT(useless.statistics(), IsEmpty());
+    EXPECT_EQ(useless.nvml->strayQuestions, 0);
+    EXPECT_EQ(useless.nvml->shutdowns, 0);
+}
+
+TEST(UselessNVML, ThatCannotBeLetGoOfIsNotUsed) {
+    IncompleteNVML useless(FAKE_NVML_NO_SHUTDOWN_FILE);
+    ASSERT_TRUE(useless.nvml);
+    EXPECT_THAT(useless.statistics(), IsEmpty());
+    EXPECT_EQ(useless.nvml->inits, 0) << "it would hold on to the card for ever";
+    EXPECT_EQ(useless.nvml->questions, 0);
+}
+
+TEST(UselessNVML, ThatFindsNoDeviceByItsPlaceIsNotUsed) {
+    IncompleteNVML useless(FAKE_NVML_NO_HANDLE_FILE);
+    ASSERT_TRUE(useless.nvml);
+    EXPECT_THAT(useless.statistics(), IsEmpty());
+    EXPECT_EQ(useless.nvml->inits, 0);
+    EXPECT_EQ(useless.graphics.pass().at(0).model, "NVIDIA 0x2484");
 }
 
 }  // namespace
