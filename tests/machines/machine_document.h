@@ -19,8 +19,7 @@ class MachineWitness {
     MachineWitness(std::shared_ptr<Machine> machine, bool includePointToPointInterfaces);
 
     /// What the eight providers say now, by name: the record, or null for "none this time"; a
-    /// failed power reading is the text "failure". The graphics devices are left out, for there is
-    /// no reader of them yet.
+    /// failed power reading is the text "failure".
     ///
     /// Nothing in it comes from the machine that the tests run on: the architecture is replaced by
     /// a placeholder, processes are in the order of their numbers, and their memory is told in

@@ -63,6 +63,11 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"desktop-disks-vpn",
             {"*0x300 AMD Radeon RX 6800 XT, 17163091968: Device Utilization %=63"
              " Temperature(C)=52 VRAM Used=2147483648 VRAM Total=17163091968"}},
+        Row{"hybrid-laptop",
+            {" 0x300 AMD Radeon RX 6800S, 8589934592: Device Utilization %=87"
+             " Temperature(C)=61 VRAM Used=2147483648 VRAM Total=8589934592",
+             "*0x700 AMD Radeon 680M, unified, 8573157376: Device Utilization %=14"
+             " Temperature(C)=57 VRAM Used=446693376 VRAM Total=8573157376"}},
         Row{"ipv6-only-host",
             {" 0x10 Intel 0x9a49, unified, 0:",
              "*0x300 Intel 0x56a0, 0: Device Utilization %=25 Temperature(C)=44"}},
@@ -88,6 +93,16 @@ INSTANTIATE_TEST_SUITE_P(
         std::replace(name.begin(), name.end(), '-', '_');
         return name;
     });
+
+TEST(RecordedGraphicsThatSleep, AreNamedAndHaveNoFiguresUntilTheyWake) {
+    RecordedMachine machine("hybrid-laptop");
+    const auto asleep = cardsOf(machine);
+    machine.wind(1);
+    EXPECT_EQ(cardsOf(machine), asleep);
+    EXPECT_EQ(asleep.at(0), " 0x300 AMD Radeon RX 6650 XT / 6700S / 6800S, 0:");
+    machine.advance(1);
+    EXPECT_THAT(cardsOf(machine).at(0), testing::HasSubstr("RX 6800S, 8589934592: Device"));
+}
 
 TEST_P(RecordedGraphics, AreTold) {
     RecordedMachine machine(GetParam().machine);
