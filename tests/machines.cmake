@@ -5,7 +5,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         machines/machine_document.cpp
         machines/machines_test.cpp
         machines/recorded_graphics_test.cpp
+        machines/sleeping_card_test.cpp
         support/line_difference.cpp
+        support/opened_files.cpp
         support/recorded_calls.cpp
         support/recorded_machine.cpp
         support/recorded_tree.cpp)

@@ -140,6 +140,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         support/fake_graphics.cpp
         support/fake_kernel_tree.cpp
         support/live_child.cpp
+        support/opened_files.cpp
         support/private_mounts.cpp)
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.

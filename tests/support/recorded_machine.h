@@ -57,6 +57,8 @@ class RecordedMachine : public DerivedMachine {
     void advance(double seconds);
     /// Lets time pass and nothing change.
     void wind(double seconds);
+    /// The same with processors that do some work meanwhile, or there would be no reading of them.
+    void work(double seconds);
 
     const RecordedTree& tree() const { return *tree_; }
 

@@ -40,6 +40,11 @@ bool isThere(const Path& path) {
     return std::filesystem::exists(path, ignored);
 }
 
+/// Tells by folders alone, so that nothing of a card that sleeps is opened.
+bool isOfGraphicsCard(const Path& monitor) {
+    return isThere(monitor / "device/drm");
+}
+
 std::vector<FoundSensor> sensorsOf(const Path& monitor, const std::string& driver) {
     std::vector<FoundSensor> found;
     for (const Path& entry : entriesOf(monitor, "temp")) {
@@ -84,6 +89,7 @@ void addMonitor(ProcessorSensorList& list, const Path& monitor, const std::strin
 std::shared_ptr<const ProcessorSensorList> scanProcessorSensors(const Path& classFolder) {
     auto list = std::make_shared<ProcessorSensorList>();
     for (const Path& monitor : entriesOf(classFolder / "hwmon", "hwmon")) {
+        if (isOfGraphicsCard(monitor)) continue;
         const auto driver = readKernelText(monitor / "name");
         if (driver && isProcessorMonitor(*driver)) addMonitor(*list, monitor, *driver);
     }

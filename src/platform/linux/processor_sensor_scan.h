@@ -7,8 +7,8 @@
 
 namespace vantor {
 
-/// Lists the processors' sensors below /sys/class. Opens the names of all monitors and zones, and
-/// the labels of the processors' own.
+/// Lists the processors' sensors below /sys/class. Opens the names of all monitors but those of
+/// graphics cards, the types of all zones, and the labels of the processors' own.
 std::shared_ptr<const ProcessorSensorList> scanProcessorSensors(
     const std::filesystem::path& classFolder);
 

@@ -36,7 +36,7 @@ struct ProcessorSensorList {
 /// The temperature sensors of the processors, by driver and label, because their numbers change
 /// from boot to boot: /sys/class/hwmon (https://docs.kernel.org/hwmon/sysfs-interface.html), and
 /// the thermal zones where that knows no package or none answers. Of other devices only the name is
-/// read, so that no disk and no graphics card is woken.
+/// read, so that no disk is woken, and of graphics cards nothing.
 ///
 /// Any thread. One of them scans, the others get the list before at once; nothing is locked while
 /// files are read.

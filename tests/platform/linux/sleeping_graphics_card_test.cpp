@@ -1,70 +1,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/inotify.h>
-#include <unistd.h>
 
-#include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <set>
-#include <stdexcept>
 #include <string>
 
-#include "platform/linux/file_descriptor.h"
 #include "support/fake_graphics.h"
+#include "support/opened_files.h"
 
 namespace vantor {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// Watches a folder and all folders in it, by what the kernel says of them.
-class OpenedFiles {
-  public:
-    explicit OpenedFiles(const std::filesystem::path& folder)
-        : queue_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-        watch(folder, "");
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-            if (entry.is_symlink() || !entry.is_directory()) continue;
-            watch(entry.path(), entry.path().lexically_relative(folder).native() + "/");
-        }
-        take();  // of this listing
-    }
-
-    /// What was opened or read since the last question: "power/runtime_status", and "." or "hwmon/"
-    /// for a folder that was listed.
-    std::set<std::string> take() {
-        std::set<std::string> names;
-        alignas(inotify_event) std::array<char, 16384> buffer{};
-        for (;;) {
-            const ssize_t count = ::read(queue_.get(), buffer.data(), buffer.size());
-            if (count <= 0) return names;
-            for (std::size_t at = 0; at < static_cast<std::size_t>(count);) {
-                inotify_event event{};
-                std::memcpy(&event, buffer.data() + at, sizeof event);
-                const char* const name = event.len > 0 ? buffer.data() + at + sizeof event : ".";
-                names.insert(folders_[event.wd] + name);
-                at += sizeof event + event.len;
-            }
-        }
-    }
-
-  private:
-    void watch(const std::filesystem::path& folder, const std::string& name) {
-        const int watch =
-            ::inotify_add_watch(queue_.get(), folder.c_str(), IN_OPEN | IN_ACCESS | IN_MODIFY);
-        if (watch < 0) throw std::runtime_error(std::strerror(errno));
-        folders_[watch] = name;
-    }
-
-    FileDescriptor queue_;
-    std::map<int, std::string> folders_;
-};
 
 class SleepingGraphicsCard : public testing::Test {
   protected:
