@@ -22,17 +22,24 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/dashboard_view_test.cpp
     ui/footer_test.cpp
     ui/formatters_test.cpp
+    ui/gpu_storage_card_test.cpp
     ui/horizontal_fit_test.cpp
     ui/layouts_test.cpp
+    ui/memory_network_card_test.cpp
     ui/metric_row_test.cpp
     ui/picture_test.cpp
     ui/pixels_test.cpp
+    ui/process_explorer_test.cpp
+    ui/process_explorer_view_test.cpp
     ui/process_mini_list_test.cpp
     ui/ring_gauge_test.cpp
+    ui/small_components_test.cpp
     ui/sparkline_test.cpp
     ui/symbols_test.cpp
+    ui/system_card_test.cpp
     ui/theme_test.cpp
-    ui/typography_test.cpp)
+    ui/typography_test.cpp
+    ui/usage_bar_test.cpp)
 
 add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)

@@ -9,7 +9,7 @@
 #include "app/qt_defaults_store.h"
 #include "app/qt_main_loop.h"
 #include "platform/native_machine.h"
-#include "ui/components/painted_view.h"
+#include "ui/components/accessible_views.h"
 
 namespace vantor {
 
@@ -40,9 +40,9 @@ void VantorApp::openDashboard() {
             // one. Whoever waits for them from outside can watch it.
             window_->setWindowIconText(QStringLiteral("Vantor"));
         };
-        window_ = std::make_unique<DashboardWindow>(
-            DashboardView::Environment{settings_, monitor_, machine_, metadata_, AdaptiveColumns{},
-                                       [] { QApplication::quit(); }, onFirstLiveFrame});
+        window_ = std::make_unique<DashboardWindow>(DashboardView::Environment{
+            settings_, monitor_, machine_, mainLoop_, metadata_, AdaptiveColumns{},
+            [] { QApplication::quit(); }, onFirstLiveFrame});
         window_->setWindowIconText(QStringLiteral("Vantor (collecting live data)"));
     }
     window_->show();
@@ -62,7 +62,7 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     QApplication::setApplicationDisplayName(QStringLiteral("Vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("vantor"));
-    installPaintedViewAccessibility();
+    installViewAccessibility();
 
     VantorApp vantor(machine, QtDefaultsStore::userFile());
     vantor.openDashboard();

@@ -8,6 +8,13 @@ namespace vantor {
 struct PlatformWords {
     std::string_view subtitle;         ///< under the product's name in the header
     std::string_view unknownHardware;  ///< where the machine does not say what it is
+    std::string_view noGraphicsTitle;  ///< where there is no graphics device
+    std::string_view noGraphicsMessage;
+    std::string_view noVolumesMessage;
+    /// What sets the load of some devices apart from that of others, and the word in their names
+    /// that tells them; empty where all are counted alike.
+    std::string_view graphicsLoadNote;
+    std::string_view graphicsLoadNoteMark;
 };
 
 }  // namespace vantor

@@ -35,11 +35,21 @@ struct Revisions {
     bool operator==(const Revisions&) const = default;
 };
 
+/// Which sections have had an answer at all. A list that was asked for and is empty changes
+/// nothing, and yet it is known then that there is nothing.
+struct Answered {
+    bool gpus = false;
+    bool volumes = false;
+
+    bool operator==(const Answered&) const = default;
+};
+
 /// Everything that the views show, published as one value.
 struct DashboardState {
     SystemSnapshot snapshot = SystemSnapshot::empty();
     Histories histories;
     Revisions revisions;
+    Answered answered;
     std::vector<ProcessStats> processesByCPU;
     std::vector<ProcessStats> processesByMemory;
     std::optional<std::string> gpuHistoryDeviceID;  ///< whose utilization histories.gpu holds

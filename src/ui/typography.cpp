@@ -62,6 +62,8 @@ double leftEdge(const QRectF& area, Qt::Alignment alignment, double width) {
     return area.left();
 }
 
+}  // namespace
+
 QString onOneLine(const QString& text) {
     QString line = text.left(longestLine);
     for (QChar& c : line) {
@@ -72,8 +74,6 @@ QString onOneLine(const QString& text) {
     }
     return line;
 }
-
-}  // namespace
 
 QFont font(double size, QFont::Weight weight) {
     QFont result = QApplication::font();

@@ -197,6 +197,20 @@ TEST(Commit, VolumesCountOnlyWhenTheyDiffer) {
     EXPECT_EQ(state.revisions.storage, 2u);
 }
 
+TEST(Commit, AnEmptyListChangesNothingButIsAnAnswer) {
+    DashboardState state;
+    PendingUpdate update;
+    update.gpus = std::vector<GPUStats>{};
+    EXPECT_FALSE(apply(update, state));
+    EXPECT_TRUE(state.answered.gpus);
+    EXPECT_FALSE(state.answered.volumes);
+    update = {};
+    update.volumes = std::vector<VolumeStats>{};
+    EXPECT_FALSE(apply(update, state));
+    EXPECT_TRUE(state.answered.volumes);
+    EXPECT_EQ(state.revisions, Revisions{});
+}
+
 struct PowerRow : NamedRow {
     std::optional<PowerStats> before;
     std::optional<PowerStats> arrived;

@@ -129,12 +129,13 @@ TEST_F(CPUCardViewTest, HeightDoesNotChangeWhenTheFirstFiguresArrive) {
 TEST_F(CPUCardViewTest, GaugeStandsBesideTheRows) {
     showCard();
     open();
-    const QRect gauge = view.gauge().geometry();
+    const QRect gauge(view.gauge().mapTo(&view, QPoint(0, 0)), view.gauge().size());
     EXPECT_EQ(gauge.size(), QSize(126, 126));
     EXPECT_EQ(gauge.left(), 18);
     for (std::size_t i = 0; i < 4; ++i) {
-        EXPECT_GT(view.row(i).geometry().left(), gauge.right());
-        EXPECT_EQ(view.row(i).geometry().right(), 460 - 18 - 1);
+        const QRect row(view.row(i).mapTo(&view, QPoint(0, 0)), view.row(i).size());
+        EXPECT_GT(row.left(), gauge.right());
+        EXPECT_EQ(row.right(), 460 - 18 - 1);
     }
     const auto gap = [&](std::size_t upper) {
         return view.row(upper + 1).geometry().top() - view.row(upper).geometry().bottom() - 1;

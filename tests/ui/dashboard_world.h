@@ -62,9 +62,9 @@ struct DashboardWorld {
 
     /// Makes the view, without showing it yet.
     DashboardView& make() {
-        view = std::make_unique<DashboardView>(
-            DashboardView::Environment{settings, monitor, machine, metadata, AdaptiveColumns{},
-                                       [this] { ++quits; }, [this] { onFirstLiveFrame(); }});
+        view = std::make_unique<DashboardView>(DashboardView::Environment{
+            settings, monitor, machine, loop, metadata, AdaptiveColumns{}, [this] { ++quits; },
+            [this] { onFirstLiveFrame(); }});
         return *view;
     }
 

@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-#include "ui/components/painted_view.h"
+#include "ui/components/accessible_views.h"
 #include "ui/rendering.h"
 
 /// Runs tests of widgets on any machine, with or without a screen, and always with the same look:
@@ -47,6 +47,6 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication::setPalette(vantor::paletteOf(vantor::ColorScheme::dark));
-    vantor::installPaintedViewAccessibility();
+    vantor::installViewAccessibility();
     return RUN_ALL_TESTS();
 }

@@ -89,7 +89,15 @@ class LinuxMachine : public Machine {
     LinuxProcessTable processTable_;
     LinuxSystemController systemController_;
     SystemWallClock wallClock_;
-    PlatformWords words_{"Live Linux performance intelligence", "Unknown Computer"};
+    PlatformWords words_{
+        .subtitle = "Live Linux performance intelligence",
+        .unknownHardware = "Unknown Computer",
+        .noGraphicsTitle = "No Graphics Device",
+        .noGraphicsMessage = "The active graphics driver did not expose a graphics device.",
+        .noVolumesMessage = "No browsable mounted volume was returned by Linux.",
+        // Their drivers tell each process's use to its owner, and the whole to nobody else.
+        .graphicsLoadNote = "Load of your own processes",
+        .graphicsLoadNoteMark = "Intel"};
 };
 
 }  // namespace vantor

@@ -128,7 +128,14 @@ class SimulatedMachine : public Machine {
     SimulatedProcessTable processTable_;
     SimulatedSystemController systemController_;
     SimulatedWallClock wallClock_;
-    PlatformWords words_{"Live macOS performance intelligence", "Unknown Mac"};
+    PlatformWords words_{
+        .subtitle = "Live macOS performance intelligence",
+        .unknownHardware = "Unknown Mac",
+        .noGraphicsTitle = "No Metal Device",
+        .noGraphicsMessage = "The active graphics driver did not expose a Metal device.",
+        .noVolumesMessage = "No browsable mounted volume was returned by macOS.",
+        .graphicsLoadNote = "",
+        .graphicsLoadNoteMark = ""};
 };
 
 }  // namespace vantor

@@ -1,9 +1,9 @@
 #include "ui/cards/cpu_card.h"
 
-#include <QHBoxLayout>
 #include <QStringList>
 #include <QVBoxLayout>
 
+#include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
@@ -14,20 +14,10 @@ namespace vantor {
 
 namespace {
 
-constexpr double gaugeLineWidth = 12;
-constexpr int gaugeSpacing = 20;
-constexpr int rowSpacing = 10;
 constexpr int chartHeight = 62;
 constexpr int sectionSpacing = 8;
 // Enough to name the culprit; more is the process explorer's business.
 constexpr std::size_t processRows = 5;
-
-QString notPublished() {
-    return QStringLiteral("Not published");
-}
-QString unknownYet() {
-    return QStringLiteral("—");
-}
 
 }  // namespace
 
@@ -45,25 +35,24 @@ DashboardCard CPUCard::frame() const {
 }
 
 RingGauge CPUCard::gauge() const {
-    const QString title = isWaiting() ? unknownYet() : Formatters::percent(stats.totalUsage, 0);
+    const QString title =
+        isWaiting() ? CardTexts::unknownYet() : Formatters::percent(stats.totalUsage, 0);
     return {stats.totalUsage, title, QStringLiteral("CPU Load"), VantorTheme::cyan(),
-            gaugeLineWidth};
+            GaugeAndRowsView::gaugeLineWidth};
 }
 
 std::array<MetricRow, 4> CPUCard::rows() const {
     const auto share = [&](double value) {
-        return isWaiting() ? unknownYet() : Formatters::percent(value, 1);
+        return isWaiting() ? CardTexts::unknownYet() : Formatters::percent(value, 1);
     };
-    const QString absent = isWaiting() ? unknownYet() : notPublished();
+    const QString absent = isWaiting() ? CardTexts::unknownYet() : CardTexts::notPublished();
     const QString nominal =
         stats.nominalFrequencyHz
             ? Formatters::fixed(static_cast<double>(*stats.nominalFrequencyHz) / 1e9, 2) +
                   QStringLiteral(" GHz")
             : absent;
     const QString temperature =
-        stats.temperatureCelsius
-            ? Formatters::fixed(*stats.temperatureCelsius, 0) + QStringLiteral(" °C")
-            : absent;
+        stats.temperatureCelsius ? CardTexts::temperature(stats.temperatureCelsius) : absent;
     return {MetricRow{QStringLiteral("User"), share(stats.userUsage), VantorTheme::orange()},
             MetricRow{QStringLiteral("System"), share(stats.systemUsage), VantorTheme::blue()},
             MetricRow{QStringLiteral("Nominal"), nominal, VantorTheme::pink()},
@@ -74,7 +63,7 @@ QString CPUCard::loadAverageText() const {
     QStringList averages;
     for (const double average : stats.loadAverage)
         averages << Formatters::fixed(average, 2);
-    if (averages.isEmpty()) averages << unknownYet();
+    if (averages.isEmpty()) averages << CardTexts::unknownYet();
     return QStringLiteral("Load avg ") + averages.join(QStringLiteral("  "));
 }
 
@@ -82,7 +71,8 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     : DashboardCardView(CPUCard::of(DashboardState{}).frame(), parent) {
     const DashboardState waiting;
     const CPUCard card = CPUCard::of(waiting);
-    addGaugeAndRows(card);
+    figures_ = makeChild<GaugeAndRowsView>(this, card.gauge(), card.rows());
+    body().addWidget(figures_);
     loadAverage_ = makeChild<TextLineView>(this, card.loadAverageText(), Typography::caption,
                                            QFont::Normal, TextLineView::Tone::secondary);
     body().addWidget(loadAverage_);
@@ -99,41 +89,19 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     cores_ = makeChild<CoreActivityView>(this);
     activity->addWidget(cores_);
     body().addLayout(activity);
-    const bool hasDashedSymbol = versions.isOperatingSystemAtLeast(12, 0, 0);
     processes_ = makeChild<ProcessMiniListView>(
         this,
         ProcessMiniList{QStringLiteral("Top CPU Processes"), {}, ProcessMiniList::Metric::cpu},
-        processRows, hasDashedSymbol ? QStringLiteral("app.dashed") : QStringLiteral("app"));
+        processRows, processSymbol(versions));
     body().addWidget(processes_);
     body().addStretch();
-}
-
-void CPUCardView::addGaugeAndRows(const CPUCard& card) {
-    auto* top = makeInnerLayout<QHBoxLayout>();
-    top->setSpacing(gaugeSpacing);
-    gauge_ = makeChild<RingGaugeView>(this, card.gauge());
-    top->addWidget(gauge_, 0, Qt::AlignVCenter);
-    auto* rows = makeInnerLayout<QVBoxLayout>();
-    rows->setSpacing(rowSpacing);
-    rows->addStretch();
-    const auto values = card.rows();
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        rows_[i] = makeChild<MetricRowView>(this, values[i]);
-        rows->addWidget(rows_[i]);
-    }
-    rows->addStretch();
-    top->addLayout(rows, 1);
-    body().addLayout(top);
 }
 
 void CPUCardView::show(const CPUCard& card) {
     if (card.revision != revision_) {
         showCard(card.frame());
         header().setToolTip(toolTipText(QString::fromStdString(card.stats.model)));
-        gauge_->show(card.gauge());
-        const auto values = card.rows();
-        for (std::size_t i = 0; i < rows_.size(); ++i)
-            rows_[i]->show(values[i]);
+        figures_->show(card.gauge(), card.rows());
         loadAverage_->show(card.loadAverageText());
         history_->show(card.history, card.gauge().title);
         cores_->show(card.stats.perCoreUsage);

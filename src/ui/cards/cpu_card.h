@@ -9,10 +9,9 @@
 #include "platform/process_info.h"
 #include "sampling/dashboard_state.h"
 #include "ui/cards/core_activity.h"
+#include "ui/cards/gauge_and_rows.h"
 #include "ui/cards/process_mini_list.h"
 #include "ui/components/dashboard_card.h"
-#include "ui/components/metric_row.h"
-#include "ui/components/ring_gauge.h"
 #include "ui/components/sparkline.h"
 #include "ui/components/text_line.h"
 
@@ -53,18 +52,15 @@ class CPUCardView : public DashboardCardView {
     /// The last revision shown.
     std::uint64_t revision() const { return revision_; }
 
-    RingGaugeView& gauge() { return *gauge_; }
-    MetricRowView& row(std::size_t index) { return *rows_.at(index); }
+    RingGaugeView& gauge() { return figures_->gauge(); }
+    MetricRowView& row(std::size_t index) { return figures_->row(index); }
     TextLineView& loadAverage() { return *loadAverage_; }
     SparklineView& history() { return *history_; }
     CoreActivityView& cores() { return *cores_; }
     ProcessMiniListView& processes() { return *processes_; }
 
   private:
-    void addGaugeAndRows(const CPUCard& card);
-
-    RingGaugeView* gauge_ = nullptr;  // all owned by this widget, as its children
-    std::array<MetricRowView*, 4> rows_{};
+    GaugeAndRowsView* figures_ = nullptr;  // all owned by this widget, as its children
     TextLineView* loadAverage_ = nullptr;
     SparklineView* history_ = nullptr;
     CoreActivityView* cores_ = nullptr;

@@ -39,6 +39,11 @@ QString ProcessMiniList::value(const ProcessStats& process, Metric metric) {
     return Formatters::fixed(process.cpuPercent, 1) + u'%';
 }
 
+QString processSymbol(const ProcessInfo& versions) {
+    return versions.isOperatingSystemAtLeast(12, 0, 0) ? QStringLiteral("app.dashed")
+                                                       : QStringLiteral("app");
+}
+
 ProcessMiniListView::ProcessMiniListView(const ProcessMiniList& list, std::size_t rowLimit,
                                          QString symbol, QWidget* parent)
     : PaintedView(parent),

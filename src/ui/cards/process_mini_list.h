@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/process_stats.h"
+#include "platform/process_info.h"
 #include "ui/components/painted_view.h"
 
 namespace vantor {
@@ -21,6 +22,9 @@ struct ProcessMiniList {
     /// What a row says on its right side.
     static QString value(const ProcessStats& process, Metric metric);
 };
+
+/// What stands before a process; older systems lack the finer one.
+QString processSymbol(const ProcessInfo& versions);
 
 /// Draws the list with room for a fixed number of rows, so that the card does not change its height
 /// when the first processes arrive.

@@ -1,14 +1,14 @@
 #include "ui/components/dashboard_card.h"
 
 #include <QPainter>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
 
 #include "ui/components/card_chrome.h"
 #include "ui/components/make_child.h"
-#include "ui/pixels.h"
-#include "ui/symbols.h"
+#include "ui/components/symbol_tile.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -18,8 +18,8 @@ namespace {
 
 constexpr double titleSize = 14;
 constexpr double iconFrame = 28;
-constexpr double iconCorner = 9;
-constexpr double iconSymbol = 17;  // what a symbol of font size 14 measures
+// A symbol of font size 14 measures 17.
+constexpr SymbolTile::Shape iconShape{.side = iconFrame, .corner = 9, .symbol = 17};
 constexpr double headerSpacing = 10;
 constexpr double titleSpacing = 1;
 constexpr int cardPadding = 18;
@@ -59,14 +59,8 @@ void CardHeaderView::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const ColorScheme scheme = colorScheme(*this);
     const double side = Typography::scaled(iconFrame);
-    const QRectF frame = Pixels::snapped(painter, {0, (height() - side) / 2, side, side});
-    const double corner = iconCorner * side / iconFrame;
-    QPainterPath tile;
-    tile.addRoundedRect(frame, corner, corner);
-    vantorBackground(painter, VantorTheme::faded(card_.accent, 0.14), tile);
-    const double symbol = iconSymbol * side / iconFrame;
-    const double inset = (side - symbol) / 2;
-    Symbols::draw(painter, frame.adjusted(inset, inset, -inset, -inset), card_.icon, card_.accent);
+    SymbolTile::paint(painter, {0, (height() - side) / 2, side, side}, iconShape, card_.icon,
+                      card_.accent);
 
     const double left = side + headerSpacing;
     const double total = textHeight();
@@ -92,6 +86,17 @@ DashboardCardView::DashboardCardView(const DashboardCard& card, QWidget* parent)
     body_->setSpacing(cardSpacing);
     body_->addWidget(header_);
     setAccessibleName(card.title);
+}
+
+QString DashboardCardView::summary() const {
+    QStringList texts;
+    for (const QWidget* child : findChildren<QWidget*>()) {
+        const auto* view = dynamic_cast<const PaintedView*>(child);
+        if (!view || !view->isVisibleTo(this)) continue;
+        const QString text = (view->accessibleLabel() + u' ' + view->accessibleValueText());
+        texts << text.simplified();
+    }
+    return texts.join(QStringLiteral(", "));
 }
 
 void DashboardCardView::paintEvent(QPaintEvent*) {

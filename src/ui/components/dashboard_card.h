@@ -52,6 +52,9 @@ class DashboardCardView : public QWidget {
 
     void showCard(const DashboardCard& card) { header_->show(card); }
     CardHeaderView& header() { return *header_; }
+
+    /// All that the card says, in one sentence: "CPU, 2 physical..., CPU Load 37%, User ...".
+    QString summary() const;
     QVBoxLayout& body() { return *body_; }
 
   protected:

@@ -1,38 +1,20 @@
 #include "ui/components/painted_view.h"
 
-#include <QAccessibleWidget>
-
 namespace vantor {
 
 namespace {
 
-class AccessiblePaintedView : public QAccessibleWidget {
-  public:
-    explicit AccessiblePaintedView(PaintedView& view)
-        : QAccessibleWidget(&view, view.accessibleRole()), view_(view) {}
+QAccessibleInterface* rowOf(PaintedView& view, int row) {
+    QAccessibleInterface* const whole = QAccessible::queryAccessibleInterface(&view);
+    return whole ? whole->child(row) : nullptr;
+}
 
-    QString text(QAccessible::Text kind) const override {
-        switch (kind) {
-            case QAccessible::Name:
-                return view_.accessibleLabel();
-            case QAccessible::Value:
-                return view_.accessibleValueText();
-            case QAccessible::Description:
-                return view_.toolTip();
-            default:
-                return QAccessibleWidget::text(kind);
-        }
-    }
-
-  private:
-    PaintedView& view_;
-};
-
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-    auto* view = dynamic_cast<PaintedView*>(object);
-    if (!view) return nullptr;
-    // The toolkit's registry takes ownership of what a factory returns.
-    return std::make_unique<AccessiblePaintedView>(*view).release();
+void announce(PaintedView& view, int row, QAccessible::Event kind) {
+    if (!QAccessible::isActive()) return;
+    QAccessibleInterface* const interface = rowOf(view, row);
+    if (!interface) return;
+    QAccessibleEvent event(interface, kind);
+    QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace
@@ -43,8 +25,18 @@ void PaintedView::announceValue() {
     QAccessible::updateAccessibility(&event);
 }
 
-void installPaintedViewAccessibility() {
-    QAccessible::installFactory(makeInterface);
+void PaintedView::announceRow(int row) {
+    announce(*this, row, QAccessible::NameChanged);
+}
+
+void PaintedView::announceRowCount() {
+    if (!QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&event);
+}
+
+void PaintedView::announceFocus(int row) {
+    if (hasFocus()) announce(*this, row, QAccessible::Focus);
 }
 
 }  // namespace vantor

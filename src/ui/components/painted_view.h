@@ -7,7 +7,8 @@
 namespace vantor {
 
 /// A widget that paints itself and tells assistive technology what it shows: a role, a label and a
-/// value. A view repaints only when it is shown something new.
+/// value. A view that paints several rows tells of each of them. A view repaints only when it is
+/// shown something new.
 class PaintedView : public QWidget {
   public:
     explicit PaintedView(QWidget* parent = nullptr) : QWidget(parent) {}
@@ -16,13 +17,18 @@ class PaintedView : public QWidget {
     virtual QString accessibleLabel() const = 0;
     virtual QString accessibleValueText() const { return {}; }
 
+    virtual int accessibleRowCount() const { return 0; }
+    virtual QString accessibleRowLabel(int) const { return {}; }
+    virtual QRect accessibleRowArea(int) const { return {}; }  ///< in this widget
+    virtual bool isAccessibleRowChosen(int) const { return false; }
+
   protected:
-    /// Tells whoever reads the screen that the value is another one. Costs nothing when nobody
+    /// Tell whoever reads the screen that something is another one. They cost nothing when nobody
     /// does.
     void announceValue();
+    void announceRow(int row);
+    void announceRowCount();
+    void announceFocus(int row);
 };
-
-/// Lets assistive technology see the painted views; once, before the first window.
-void installPaintedViewAccessibility();
 
 }  // namespace vantor

@@ -58,6 +58,19 @@ QPainterPath SparklineGeometry::fill() const {
     return path;
 }
 
+void paintSparkline(QPainter& painter, const QRectF& area, std::span<const double> values,
+                    const QColor& accent, std::optional<std::pair<double, double>> fixedRange) {
+    // Half the stroke's width above and below, or a line along an edge would be cut in half.
+    const auto geometry =
+        SparklineGeometry::make(values, area.width(), area.height() - lineWidth, fixedRange);
+    painter.save();
+    painter.translate(area.left(), area.top() + lineWidth / 2);
+    vantorBackground(painter, VantorTheme::faded(accent, fillOpacity), geometry.fill());
+    painter.strokePath(geometry.line(),
+                       QPen(accent, lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.restore();
+}
+
 SparklineView::SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent)
     : PaintedView(parent),
       label_(std::move(label)),
@@ -81,13 +94,7 @@ QSize SparklineView::sizeHint() const {
 void SparklineView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Half the stroke's width above and below, or a line along an edge would be cut in half.
-    const auto geometry = SparklineGeometry::make(sparkline_.values, width(), height() - lineWidth,
-                                                  sparkline_.fixedRange);
-    painter.translate(0, lineWidth / 2);
-    vantorBackground(painter, VantorTheme::faded(sparkline_.accent, fillOpacity), geometry.fill());
-    painter.strokePath(geometry.line(), QPen(sparkline_.accent, lineWidth, Qt::SolidLine,
-                                             Qt::FlatCap, Qt::RoundJoin));
+    paintSparkline(painter, rect(), sparkline_.values, sparkline_.accent, sparkline_.fixedRange);
 }
 
 }  // namespace vantor

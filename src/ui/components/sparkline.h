@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPainter>
 #include <QPainterPath>
 #include <QPointF>
 #include <QString>
@@ -36,6 +37,10 @@ struct SparklineGeometry {
     QPainterPath line() const;
     QPainterPath fill() const;  ///< the line, closed along the bottom
 };
+
+/// Paints a series across `area`, the whole stroke within it.
+void paintSparkline(QPainter& painter, const QRectF& area, std::span<const double> values,
+                    const QColor& accent, std::optional<std::pair<double, double>> fixedRange);
 
 /// Draws a series across its whole width, 62 points high unless told otherwise.
 class SparklineView : public PaintedView {

@@ -7,11 +7,17 @@
 #include <QVBoxLayout>
 
 #include "ui/cards/cpu_card.h"
+#include "ui/cards/gpu_card.h"
+#include "ui/cards/memory_card.h"
+#include "ui/cards/network_card.h"
+#include "ui/cards/storage_card.h"
+#include "ui/cards/system_card.h"
 #include "ui/components/make_child.h"
 #include "ui/components/text_line.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/dashboard/horizontal_fit.h"
 #include "ui/dashboard/scroll_view.h"
+#include "ui/explorer/process_explorer_view.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -64,48 +70,72 @@ DashboardView::DashboardView(Environment environment, QWidget* parent)
 
 DashboardView::~DashboardView() = default;
 
+/// Systems that can measure what fits need none.
+std::optional<double> DashboardView::breakpoint(double legacy) const {
+    const bool measuresFit = environment_.machine->processInfo().isOperatingSystemAtLeast(13, 0, 0);
+    return measuresFit ? std::nullopt : std::optional(legacy);
+}
+
 void DashboardView::build() {
-    const ProcessInfo& versions = environment_.machine->processInfo();
-    const bool measuresFit = versions.isOperatingSystemAtLeast(13, 0, 0);
-    const auto breakpoint = [&](double legacy) {
-        return measuresFit ? std::nullopt : std::optional<double>(legacy);
-    };
     auto* content = makeChild<QWidget>(this);
     auto* column = makeLayout<QVBoxLayout>(content);
     column->setContentsMargins(outerPadding, outerPadding, outerPadding, outerPadding);
     column->setSpacing(partSpacing);
+    addHeader(content);
+    addCards(content);
+    column->addStretch();
+    addFooter(content);
+    auto* whole = makeLayout<QVBoxLayout>(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(makeScrollView(content));
+}
 
-    const auto& [settings, monitor, machine, metadata, columns, onQuit, onFirst] = environment_;
+void DashboardView::addHeader(QWidget* content) {
+    const auto& settings = environment_.settings;
+    const auto& monitor = environment_.monitor;
     DashboardHeader header;
     header.refreshInterval = settings->refreshInterval();
     header.isPaused = monitor->isPaused();
     header.onRefreshIntervalChange = [s = settings](double v) { s->setRefreshInterval(v); };
     header.onTogglePause = [m = monitor] { m->togglePause(); };
     header.onRefresh = [m = monitor] { m->forceRefresh(); };
-    header.onQuit = onQuit;
-    header_ = makeChild<DashboardHeaderView>(content, std::move(header), machine->words().subtitle,
+    header.onQuit = environment_.onQuit;
+    header_ = makeChild<DashboardHeaderView>(content, std::move(header),
+                                             environment_.machine->words().subtitle,
                                              breakpoint(headerBreakpoint));
-    column->addWidget(header_);
+    content->layout()->addWidget(header_);
+}
 
-    auto* grid = makeInnerLayout<AdaptiveGridLayout>(columns);
+void DashboardView::addCards(QWidget* content) {
+    const ProcessInfo& versions = environment_.machine->processInfo();
+    const PlatformWords& words = environment_.machine->words();
+    auto* grid = makeInnerLayout<AdaptiveGridLayout>(environment_.dashboardColumns);
     cpuCard_ = makeChild<CPUCardView>(content, versions);
-    grid->addWidget(cpuCard_);
+    memoryCard_ = makeChild<MemoryCardView>(content, versions);
+    networkCard_ = makeChild<NetworkCardView>(content);
+    gpuCard_ = makeChild<GPUCardView>(content, words);
+    storageCard_ = makeChild<StorageCardView>(content, words);
+    systemCard_ = makeChild<SystemCardView>(content, versions);
+    for (QWidget* card : std::initializer_list<QWidget*>{cpuCard_, memoryCard_, networkCard_,
+                                                         gpuCard_, storageCard_, systemCard_}) {
+        grid->addWidget(card);
+    }
+    auto* column = static_cast<QVBoxLayout*>(content->layout());
     column->addLayout(grid);
-    column->addStretch();
+    explorer_ = makeChild<ProcessExplorerView>(content, versions, environment_.mainLoop);
+    column->addWidget(explorer_);
+}
 
-    auto* product =
-        makeChild<TextLineView>(content, QStringLiteral("Vantor ") + metadata.version(),
-                                Typography::caption, QFont::Normal, TextLineView::Tone::secondary);
-    const QString waiting = lastUpdateText(SystemSnapshot::empty().timestamp, locale());
-    lastUpdate_ = makeChild<TextLineView>(content, waiting, Typography::caption, QFont::Normal,
-                                          TextLineView::Tone::secondary);
-    footer_ = makeChild<VantorHorizontalFit>(content, product, lastUpdate_, footerGap,
-                                             footerSpacing, breakpoint(footerBreakpoint));
-    column->addWidget(footer_);
-
-    auto* whole = makeLayout<QVBoxLayout>(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(makeScrollView(content));
+void DashboardView::addFooter(QWidget* content) {
+    const auto line = [&](const QString& text) {
+        return makeChild<TextLineView>(content, text, Typography::caption, QFont::Normal,
+                                       TextLineView::Tone::secondary);
+    };
+    lastUpdate_ = line(lastUpdateText(SystemSnapshot::empty().timestamp, locale()));
+    footer_ = makeChild<VantorHorizontalFit>(
+        content, line(QStringLiteral("Vantor ") + environment_.metadata.version()), lastUpdate_,
+        footerGap, footerSpacing, breakpoint(footerBreakpoint));
+    content->layout()->addWidget(footer_);
 }
 
 QWidget* DashboardView::makeScrollView(QWidget* content) {
@@ -137,6 +167,12 @@ void DashboardView::observe() {
 
 void DashboardView::show(const DashboardState& state) {
     cpuCard_->show(CPUCard::of(state));
+    memoryCard_->show(MemoryCard::of(state));
+    networkCard_->show(NetworkCard::of(state));
+    gpuCard_->show(GPUCard::of(state));
+    storageCard_->show(StorageCard::of(state));
+    systemCard_->show(SystemCard::of(state));
+    explorer_->show(ProcessExplorer::of(state));
     lastUpdate_->show(lastUpdateText(state.snapshot.timestamp, locale()));
     const bool isOnScreen = isVisible() && !window()->isMinimized();
     if (!hasShownLiveData_ && isOnScreen && state.revisions.cpu > 0) {

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/machine.h"
+#include "platform/main_loop.h"
 #include "platform/published.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
@@ -17,20 +18,28 @@ namespace vantor {
 
 class CPUCardView;
 class DashboardHeaderView;
+class GPUCardView;
+class MemoryCardView;
+class NetworkCardView;
+class ProcessExplorerView;
+class StorageCardView;
+class SystemCardView;
 class TextLineView;
 class VantorHorizontalFit;
 
 /// What the footer says of the last commit: its time of day, or that there has been none.
 QString lastUpdateText(Timestamp timestamp, const QLocale& locale);
 
-/// The content of the main window: header, cards and footer in one scroll view over the theme's
-/// background. Starts the sampling when it first appears; shows whatever the monitor publishes.
+/// The content of the main window: header, cards, process explorer and footer in one scroll view
+/// over the theme's background. Starts the sampling when it first appears; shows whatever the
+/// monitor publishes.
 class DashboardView : public QWidget {
   public:
     struct Environment {
         std::shared_ptr<AppSettings> settings;
         std::shared_ptr<SystemMonitor> monitor;
         std::shared_ptr<Machine> machine;
+        std::shared_ptr<MainLoop> mainLoop;
         const AppMetadata& metadata;
         AdaptiveColumns dashboardColumns;
         std::function<void()> onQuit;
@@ -43,6 +52,12 @@ class DashboardView : public QWidget {
 
     DashboardHeaderView& header() { return *header_; }
     CPUCardView& cpuCard() { return *cpuCard_; }
+    MemoryCardView& memoryCard() { return *memoryCard_; }
+    NetworkCardView& networkCard() { return *networkCard_; }
+    GPUCardView& gpuCard() { return *gpuCard_; }
+    StorageCardView& storageCard() { return *storageCard_; }
+    SystemCardView& systemCard() { return *systemCard_; }
+    ProcessExplorerView& explorer() { return *explorer_; }
     TextLineView& lastUpdate() { return *lastUpdate_; }
     VantorHorizontalFit& footer() { return *footer_; }
 
@@ -52,6 +67,10 @@ class DashboardView : public QWidget {
 
   private:
     void build();
+    void addHeader(QWidget* content);
+    void addCards(QWidget* content);
+    void addFooter(QWidget* content);
+    std::optional<double> breakpoint(double legacy) const;
     QWidget* makeScrollView(QWidget* content);
     void observe();
     void show(const DashboardState& state);
@@ -60,6 +79,12 @@ class DashboardView : public QWidget {
     Environment environment_;
     DashboardHeaderView* header_ = nullptr;  // all owned by this widget, as its children
     CPUCardView* cpuCard_ = nullptr;
+    MemoryCardView* memoryCard_ = nullptr;
+    NetworkCardView* networkCard_ = nullptr;
+    GPUCardView* gpuCard_ = nullptr;
+    StorageCardView* storageCard_ = nullptr;
+    SystemCardView* systemCard_ = nullptr;
+    ProcessExplorerView* explorer_ = nullptr;
     VantorHorizontalFit* footer_ = nullptr;
     TextLineView* lastUpdate_ = nullptr;
     Subscription stateObservation_;

@@ -1,0 +1,113 @@
+#include "ui/cards/graphics_device_view.h"
+
+#include <QPainter>
+#include <QStringList>
+
+#include <cmath>
+
+#include "ui/cards/card_texts.h"
+#include "ui/components/tool_tip_text.h"
+#include "ui/formatters.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double lineSpacing = 3;
+constexpr double textGap = 8;
+
+QFont nameFont() {
+    return Typography::font(Typography::caption, QFont::Medium);
+}
+QFont detailFont() {
+    return Typography::font(Typography::caption2);
+}
+double lineHeight(const QWidget* widget) {
+    return std::ceil(std::max(QFontMetricsF(nameFont(), widget).height(),
+                              QFontMetricsF(detailFont(), widget).height()));
+}
+QString workingSetLabel() {
+    return QStringLiteral("Recommended Working Set");
+}
+
+}  // namespace
+
+GraphicsDeviceBlock GraphicsDeviceBlock::of(const GPUStats& gpu, const PlatformWords& words) {
+    GraphicsDeviceBlock block;
+    block.name = QString::fromStdString(gpu.name);
+    block.kind = gpu.isUnifiedMemory ? QStringLiteral("Unified memory architecture")
+                                     : QStringLiteral("Discrete graphics");
+    block.utilization =
+        gpu.utilization ? Formatters::percent(*gpu.utilization, 1) : CardTexts::notPublished();
+    if (gpu.recommendedWorkingSetBytes) {
+        block.workingSet = Formatters::bytes(*gpu.recommendedWorkingSetBytes);
+    }
+    const bool isMarked = !words.graphicsLoadNoteMark.empty() &&
+                          gpu.name.find(words.graphicsLoadNoteMark) != std::string::npos;
+    if (isMarked && gpu.utilization) {
+        block.note = QString::fromUtf8(words.graphicsLoadNote.data(),
+                                       static_cast<qsizetype>(words.graphicsLoadNote.size()));
+    }
+    return block;
+}
+
+GraphicsDeviceView::GraphicsDeviceView(QWidget* parent) : PaintedView(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void GraphicsDeviceView::show(const GraphicsDeviceBlock& block) {
+    if (block == block_) return;
+    const int lines = lineCount();
+    block_ = block;
+    if (lineCount() != lines) updateGeometry();
+    setToolTip(toolTipText(block_.name));
+    update();
+    announceValue();
+}
+
+QString GraphicsDeviceView::accessibleValueText() const {
+    QStringList texts{block_.kind, block_.utilization};
+    if (!block_.note.isEmpty()) texts << block_.note;
+    if (block_.workingSet) texts << workingSetLabel() + u' ' + *block_.workingSet;
+    return texts.join(QStringLiteral(", "));
+}
+
+QSize GraphicsDeviceView::sizeHint() const {
+    const double lines = lineCount();
+    return {Typography::scaled(240),
+            static_cast<int>(lines * lineHeight(this) + (lines - 1) * lineSpacing)};
+}
+
+QSize GraphicsDeviceView::minimumSizeHint() const {
+    return {0, sizeHint().height()};
+}
+
+void GraphicsDeviceView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const ColorScheme scheme = colorScheme(*this);
+    const double step = lineHeight(this) + lineSpacing;
+    QRectF line(0, 0, width(), lineHeight(this));
+    const auto drawPair = [&](const QString& leading, const QFont& leadingFont, bool isPrimary,
+                              const QString& trailing) {
+        painter.setFont(detailFont());
+        if (isPrimary) painter.setFont(nameFont());
+        vantorPrimaryForeground(painter, scheme);
+        Typography::drawDigitText(painter, line, Qt::AlignRight | Qt::AlignVCenter, trailing);
+        const double used =
+            Typography::digitTextWidth(trailing, QFontMetricsF(painter.font(), this));
+        painter.setFont(leadingFont);
+        if (!isPrimary) vantorSecondaryForeground(painter, scheme);
+        Typography::drawLine(painter, line.adjusted(0, 0, -used - textGap, 0),
+                             Qt::AlignLeft | Qt::AlignVCenter, leading);
+        line.translate(0, step);
+    };
+    drawPair(block_.name, nameFont(), true, block_.utilization);
+    const QString kind =
+        block_.note.isEmpty() ? block_.kind : block_.kind + QStringLiteral(" • ") + block_.note;
+    drawPair(kind, detailFont(), false, {});
+    if (block_.workingSet) drawPair(workingSetLabel(), detailFont(), false, *block_.workingSet);
+}
+
+}  // namespace vantor

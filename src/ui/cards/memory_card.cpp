@@ -1,0 +1,85 @@
+#include "ui/cards/memory_card.h"
+
+#include "ui/cards/card_texts.h"
+#include "ui/components/make_child.h"
+#include "ui/formatters.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int chartHeight = 62;
+// As many as leave this card about as high as its neighbour, which has cells for its cores instead.
+constexpr std::size_t processRows = 9;
+
+double usedFraction(const MemoryStats& stats) {
+    if (stats.totalBytes == 0) return 0;
+    return std::min(static_cast<double>(stats.usedBytes) / static_cast<double>(stats.totalBytes),
+                    1.0);
+}
+
+}  // namespace
+
+MemoryCard MemoryCard::of(const DashboardState& state) {
+    return {state.snapshot.memory, state.histories.memory, state.processesByMemory,
+            state.revisions.memory, state.revisions.processes};
+}
+
+DashboardCard MemoryCard::frame() const {
+    const QString subtitle =
+        isWaiting() ? QStringLiteral("Waiting for memory data")
+                    : Formatters::bytes(stats.totalBytes) + QStringLiteral(" installed");
+    return {QStringLiteral("Memory"), subtitle, QStringLiteral("memorychip"), VantorTheme::pink()};
+}
+
+RingGauge MemoryCard::gauge() const {
+    const double used = usedFraction(stats);
+    return {used, isWaiting() ? CardTexts::unknownYet() : Formatters::percent(used, 0),
+            QStringLiteral("In Use"), VantorTheme::pink(), GaugeAndRowsView::gaugeLineWidth};
+}
+
+std::array<MetricRow, 4> MemoryCard::rows() const {
+    const auto size = [&](std::uint64_t count) {
+        return isWaiting() ? CardTexts::unknownYet() : Formatters::bytes(count);
+    };
+    return {
+        MetricRow{QStringLiteral("Active"), size(stats.activeBytes), VantorTheme::blue()},
+        MetricRow{QStringLiteral("Wired"), size(stats.wiredBytes), VantorTheme::pink()},
+        MetricRow{QStringLiteral("Compressed"), size(stats.compressedBytes), VantorTheme::orange()},
+        MetricRow{QStringLiteral("Available"), size(stats.availableBytes), VantorTheme::green()}};
+}
+
+MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
+    : DashboardCardView(MemoryCard::of({}).frame(), parent) {
+    const DashboardState none;
+    const MemoryCard card = MemoryCard::of(none);
+    figures_ = makeChild<GaugeAndRowsView>(this, card.gauge(), card.rows());
+    body().addWidget(figures_);
+    history_ = makeChild<SparklineView>(this, QStringLiteral("Memory history"),
+                                        Sparkline{{}, VantorTheme::pink(), std::pair{0.0, 1.0}},
+                                        chartHeight);
+    body().addWidget(history_);
+    processes_ = makeChild<ProcessMiniListView>(
+        this,
+        ProcessMiniList{
+            QStringLiteral("Top Memory Processes"), {}, ProcessMiniList::Metric::memory},
+        processRows, processSymbol(versions));
+    body().addWidget(processes_);
+    body().addStretch();
+}
+
+void MemoryCardView::show(const MemoryCard& card) {
+    if (card.revision != revision_) {
+        showCard(card.frame());
+        figures_->show(card.gauge(), card.rows());
+        history_->show(card.history, card.gauge().title);
+        revision_ = card.revision;
+    }
+    if (card.processRevision != processRevision_) {
+        processes_->show(card.processes);
+        processRevision_ = card.processRevision;
+    }
+}
+
+}  // namespace vantor

@@ -1,0 +1,140 @@
+#include "ui/cards/network_card.h"
+
+#include <QHBoxLayout>
+#include <QStringList>
+#include <QVBoxLayout>
+
+#include "ui/cards/card_texts.h"
+#include "ui/components/make_child.h"
+#include "ui/components/tool_tip_text.h"
+#include "ui/formatters.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int tileSpacing = 12;
+constexpr int rowSpacing = 10;
+constexpr std::size_t interfacesRow = 3;
+// A container host has hundreds; a tool tip that covers the screen helps nobody.
+constexpr std::size_t mostHelpLines = 16;
+
+QString addressText(const std::optional<std::string>& address) {
+    return CardTexts::orElse(address.value_or(std::string{}), QStringLiteral("Not assigned"));
+}
+
+LabeledSparkline sparkline(const QString& label, const QColor& color) {
+    return {label, CardTexts::unknownYet(), {}, color};
+}
+
+}  // namespace
+
+NetworkCard NetworkCard::of(const DashboardState& state) {
+    return {state.snapshot.network, state.histories.download, state.histories.upload,
+            state.revisions.network};
+}
+
+DashboardCard NetworkCard::frame() const {
+    QString subtitle = QStringLiteral("Waiting for network data");
+    if (!isWaiting()) {
+        subtitle = stats.primaryInterfaceName
+                       ? QStringLiteral("Active interface: ") +
+                             QString::fromStdString(*stats.primaryInterfaceName)
+                       : QStringLiteral("No active interface");
+    }
+    return {QStringLiteral("Network"), subtitle, QStringLiteral("network"), VantorTheme::green()};
+}
+
+QString NetworkCard::downloadText() const {
+    return isWaiting() ? CardTexts::unknownYet() : Formatters::rate(stats.downloadBytesPerSecond);
+}
+
+QString NetworkCard::uploadText() const {
+    return isWaiting() ? CardTexts::unknownYet() : Formatters::rate(stats.uploadBytesPerSecond);
+}
+
+SpeedTile NetworkCard::downloadTile() const {
+    return {QStringLiteral("Download"), downloadText(), QStringLiteral("arrow.down"),
+            VantorTheme::green()};
+}
+
+SpeedTile NetworkCard::uploadTile() const {
+    return {QStringLiteral("Upload"), uploadText(), QStringLiteral("arrow.up"),
+            VantorTheme::orange()};
+}
+
+std::array<MetricRow, 4> NetworkCard::rows() const {
+    const auto known = [&](const QString& text) {
+        return isWaiting() ? CardTexts::unknownYet() : text;
+    };
+    return {MetricRow{QStringLiteral("Hostname"),
+                      known(CardTexts::orElse(stats.hostname, QStringLiteral("Unknown"))),
+                      std::nullopt},
+            MetricRow{QStringLiteral("IPv4"), known(addressText(stats.primaryIPv4Address)),
+                      std::nullopt},
+            MetricRow{QStringLiteral("IPv6"), known(addressText(stats.primaryIPv6Address)),
+                      std::nullopt},
+            MetricRow{QStringLiteral("Interfaces"), known(QString::number(stats.interfaces.size())),
+                      std::nullopt}};
+}
+
+QString NetworkCard::interfacesHelp() const {
+    QStringList lines;
+    for (const NetworkInterfaceStats& interface : stats.interfaces) {
+        if (static_cast<std::size_t>(lines.size()) == mostHelpLines) {
+            lines << QStringLiteral("…");
+            break;
+        }
+        QStringList words{QString::fromStdString(interface.name)};
+        for (const auto& address : {interface.ipv4Address, interface.ipv6Address}) {
+            if (address) words << QString::fromStdString(*address);
+        }
+        lines << words.join(QStringLiteral("  "));
+    }
+    return lines.join(u'\n');
+}
+
+NetworkCardView::NetworkCardView(QWidget* parent)
+    : DashboardCardView(NetworkCard::of(DashboardState{}).frame(), parent) {
+    const DashboardState none;
+    const NetworkCard card = NetworkCard::of(none);
+    auto* tiles = makeInnerLayout<QHBoxLayout>();
+    tiles->setSpacing(tileSpacing);
+    downloadTile_ = makeChild<SpeedTileView>(this, card.downloadTile());
+    uploadTile_ = makeChild<SpeedTileView>(this, card.uploadTile());
+    tiles->addWidget(downloadTile_, 1);
+    tiles->addWidget(uploadTile_, 1);
+    body().addLayout(tiles);
+    downloadHistory_ = makeChild<LabeledSparklineView>(
+        this, sparkline(QStringLiteral("Download"), VantorTheme::green()));
+    uploadHistory_ = makeChild<LabeledSparklineView>(
+        this, sparkline(QStringLiteral("Upload"), VantorTheme::orange()));
+    body().addWidget(downloadHistory_);
+    body().addWidget(uploadHistory_);
+    auto* column = makeInnerLayout<QVBoxLayout>();
+    column->setSpacing(rowSpacing);
+    const auto rows = card.rows();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        rows_[i] = makeChild<MetricRowView>(this, rows[i]);
+        column->addWidget(rows_[i]);
+    }
+    body().addLayout(column);
+    body().addStretch();
+}
+
+void NetworkCardView::show(const NetworkCard& card) {
+    if (card.revision == revision_) return;
+    revision_ = card.revision;
+    showCard(card.frame());
+    downloadTile_->show(card.downloadTile());
+    uploadTile_->show(card.uploadTile());
+    downloadHistory_->show(card.downloadText(), card.downloadHistory);
+    uploadHistory_->show(card.uploadText(), card.uploadHistory);
+    const auto rows = card.rows();
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        rows_[i]->show(rows[i]);
+    rows_[interfacesRow]->setToolTip(toolTipText(card.interfacesHelp()));
+}
+
+}  // namespace vantor

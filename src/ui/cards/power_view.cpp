@@ -1,0 +1,123 @@
+#include "ui/cards/power_view.h"
+
+#include <QPainter>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/components/tool_tip_text.h"
+#include "ui/formatters.h"
+#include "ui/pixels.h"
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double padding = 10;
+constexpr double corner = 12;
+constexpr double groundOpacity = 0.045;
+constexpr double symbolSide = 20;
+constexpr double symbolGap = 9;
+constexpr double low = 0.2;
+constexpr double middling = 0.4;
+
+QFont textFont() {
+    return Typography::font(Typography::caption, QFont::Medium);
+}
+QFont chargeFont() {
+    return Typography::font(Typography::body, QFont::Bold);
+}
+
+QString batterySymbol(bool isConnectedToAC, const ProcessInfo& versions) {
+    // The finer names are known from this version on.
+    if (versions.isOperatingSystemAtLeast(14, 0, 0)) {
+        return isConnectedToAC ? QStringLiteral("battery.100percent.bolt")
+                               : QStringLiteral("battery.100percent");
+    }
+    return isConnectedToAC ? QStringLiteral("battery.100.bolt") : QStringLiteral("battery.100");
+}
+
+QString timeText(std::int64_t minutes) {
+    return Formatters::uptime(static_cast<double>(minutes) * 60);
+}
+
+}  // namespace
+
+QColor PowerBlock::chargeColor(const std::optional<PowerStats>& power) {
+    if (!power) return VantorTheme::green();
+    if (power->chargeFraction < low) return VantorTheme::red();
+    if (power->chargeFraction < middling) return VantorTheme::orange();
+    return VantorTheme::green();
+}
+
+PowerBlock PowerBlock::of(const PowerStats& power, const ProcessInfo& versions) {
+    PowerBlock block;
+    block.symbol = batterySymbol(power.isConnectedToAC, versions);
+    block.text =
+        power.isConnectedToAC ? QStringLiteral("AC connected") : QStringLiteral("On battery");
+    const double charge = std::clamp(power.chargeFraction, 0.0, 1.0);
+    block.charge = QString::number(std::llround(charge * 100)) + u'%';
+    block.color = chargeColor(power);
+    QStringList lines{QString::fromStdString(power.name)};
+    if (power.timeRemainingMinutes) {
+        lines << timeText(*power.timeRemainingMinutes) + (power.isCharging
+                                                              ? QStringLiteral(" until full")
+                                                              : QStringLiteral(" remaining"));
+    }
+    if (power.cycleCount) lines << QStringLiteral("%1 charge cycles").arg(*power.cycleCount);
+    block.help = lines.join(u'\n');
+    return block;
+}
+
+PowerView::PowerView(QWidget* parent) : PaintedView(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void PowerView::show(const PowerBlock& block) {
+    if (block == block_) return;
+    block_ = block;
+    setToolTip(toolTipText(block_.help));
+    update();
+    announceValue();
+}
+
+QSize PowerView::sizeHint() const {
+    const double text = std::max(QFontMetricsF(textFont(), this).height(),
+                                 QFontMetricsF(chargeFont(), this).height());
+    return {Typography::scaled(200),
+            static_cast<int>(
+                std::ceil(std::max(text, symbolSide * Typography::lengthScale()) + 2 * padding))};
+}
+
+QSize PowerView::minimumSizeHint() const {
+    return {0, sizeHint().height()};
+}
+
+void PowerView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    QPainterPath ground;
+    ground.addRoundedRect(Pixels::snapped(painter, rect()), corner, corner);
+    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), groundOpacity),
+                     ground);
+    const double symbol = symbolSide * Typography::lengthScale();
+    Symbols::draw(painter, {padding, (height() - symbol) / 2, symbol, symbol}, block_.symbol,
+                  block_.color);
+    const QRectF line(padding, 0, width() - 2 * padding, height());
+    painter.setFont(chargeFont());
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawDigitText(painter, line, Qt::AlignRight | Qt::AlignVCenter, block_.charge);
+    const double used =
+        Typography::digitTextWidth(block_.charge, QFontMetricsF(painter.font(), this));
+    painter.setFont(textFont());
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawLine(painter, line.adjusted(symbol + symbolGap, 0, -used - symbolGap, 0),
+                         Qt::AlignLeft | Qt::AlignVCenter, block_.text);
+}
+
+}  // namespace vantor

@@ -1,0 +1,68 @@
+#include "ui/cards/storage_card.h"
+
+#include <algorithm>
+
+#include "ui/components/make_child.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int volumeSpacing = 14;
+
+}  // namespace
+
+StorageCard StorageCard::of(const DashboardState& state) {
+    return {state.snapshot.volumes, state.revisions.storage, !state.answered.volumes};
+}
+
+DashboardCard StorageCard::frame() const {
+    const QString subtitle = isWaiting ? QStringLiteral("Waiting for storage data")
+                                       : QStringLiteral("%1 mounted volume").arg(volumes.size()) +
+                                             (volumes.size() == 1 ? QString() : QString(u's'));
+    return {QStringLiteral("Storage"), subtitle, QStringLiteral("internaldrive"),
+            VantorTheme::blue()};
+}
+
+std::span<const VolumeStats> StorageCard::shownVolumes() const {
+    return volumes.first(std::min(volumes.size(), mostVolumes));
+}
+
+EmptyState StorageCard::emptyState(const PlatformWords& words) {
+    return {QStringLiteral("No Volumes"), QStringLiteral("externaldrive.badge.questionmark"),
+            QString::fromUtf8(words.noVolumesMessage.data(),
+                              static_cast<qsizetype>(words.noVolumesMessage.size()))};
+}
+
+StorageCardView::StorageCardView(const PlatformWords& words, QWidget* parent)
+    : DashboardCardView(StorageCard{}.frame(), parent),
+      emptyState_(makeChild<EmptyStateView>(this, StorageCard::emptyState(words))),
+      list_(makeInnerLayout<QVBoxLayout>()) {
+    // Before the first list nobody knows that there is none.
+    emptyState_->setVisible(false);
+    body().addWidget(emptyState_);
+    list_->setSpacing(volumeSpacing);
+    body().addLayout(list_);
+    body().addStretch();
+}
+
+void StorageCardView::show(const StorageCard& card) {
+    if (card.revision == revision_ && card.isWaiting == isWaiting_) return;
+    revision_ = card.revision;
+    isWaiting_ = card.isWaiting;
+    showCard(card.frame());
+    const auto shown = card.shownVolumes();
+    emptyState_->setVisible(shown.empty() && !card.isWaiting);
+    while (volumes_.size() < shown.size()) {
+        volumes_.push_back(makeChild<VolumeView>(this));
+        list_->addWidget(volumes_.back());
+    }
+    for (std::size_t i = 0; i < volumes_.size(); ++i) {
+        if (i < shown.size()) volumes_[i]->show(shown[i]);
+        volumes_[i]->setVisible(i < shown.size());
+    }
+    count_ = shown.size();
+}
+
+}  // namespace vantor

@@ -1,0 +1,104 @@
+#include "ui/cards/system_card.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+
+#include "ui/cards/card_texts.h"
+#include "ui/components/make_child.h"
+#include "ui/components/tool_tip_text.h"
+#include "ui/formatters.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int rowSpacing = 10;
+constexpr std::size_t thermalRow = 4;
+
+}  // namespace
+
+SystemCard SystemCard::of(const DashboardState& state) {
+    return {state.snapshot.system, state.snapshot.power, state.revisions.system};
+}
+
+DashboardCard SystemCard::frame() const {
+    const QString subtitle = isWaiting() ? QStringLiteral("Waiting for system data")
+                                         : QString::fromStdString(stats.hardwareModel);
+    return {QStringLiteral("System"), subtitle, QStringLiteral("desktopcomputer"),
+            VantorTheme::orange()};
+}
+
+QColor SystemCard::thermalColor(const std::string& state, ColorScheme scheme) {
+    if (state == "Nominal") return VantorTheme::green();
+    if (state == "Fair") return VantorTheme::orange();
+    if (state == "Serious" || state == "Critical") return VantorTheme::red();
+    return VantorTheme::secondaryLabel(scheme);
+}
+
+std::array<MetricRow, 6> SystemCard::rows() const {
+    const auto row = [&](const QString& label, const QString& value) {
+        return MetricRow{label, isWaiting() ? CardTexts::unknownYet() : value, VantorTheme::blue()};
+    };
+    const auto text = [](const std::string& value) {
+        return CardTexts::orElse(value, QStringLiteral("Unknown"));
+    };
+    return {
+        row(QStringLiteral("Operating System"), text(stats.operatingSystem)),
+        row(QStringLiteral("Kernel Build"), text(stats.kernelVersion)),
+        row(QStringLiteral("Architecture"), text(stats.architecture)),
+        row(QStringLiteral("Uptime"), Formatters::uptime(stats.uptimeSeconds)),
+        row(QStringLiteral("Thermal State"), text(stats.thermalState)),
+        row(QStringLiteral("Low Power Mode"),
+            stats.lowPowerModeEnabled ? QStringLiteral("Enabled") : QStringLiteral("Disabled"))};
+}
+
+SystemCardView::SystemCardView(const ProcessInfo& versions, QWidget* parent)
+    : DashboardCardView(SystemCard::of(DashboardState{}).frame(), parent), versions_(versions) {
+    const DashboardState none;
+    const auto rows = SystemCard::of(none).rows();
+    auto* column = makeInnerLayout<QVBoxLayout>();
+    column->setSpacing(rowSpacing);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        rows_[i] = makeChild<MetricRowView>(this, rows[i]);
+        column->addWidget(rows_[i]);
+    }
+    body().addLayout(column);
+    power_ = makeChild<PowerView>(this);
+    power_->setVisible(false);
+    body().addWidget(power_);
+    body().addStretch();
+    colorThermalState();
+}
+
+void SystemCardView::show(const SystemCard& card) {
+    if (card.revision == revision_) return;
+    revision_ = card.revision;
+    showCard(card.frame());
+    header().setToolTip(toolTipText(QString::fromStdString(card.stats.hardwareModel)));
+    thermalState_ = card.stats.thermalState;
+    const auto rows = card.rows();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (i != thermalRow) rows_[i]->show(rows[i]);
+        rows_[i]->setToolTip(toolTipText(rows[i].value));
+    }
+    MetricRow thermal = rows[thermalRow];
+    thermal.color = SystemCard::thermalColor(thermalState_, colorScheme(*this));
+    rows_[thermalRow]->show(thermal);
+    if (card.power) power_->show(PowerBlock::of(*card.power, versions_));
+    power_->setVisible(card.power.has_value());
+}
+
+/// The colour of an unknown state is the scheme's own.
+void SystemCardView::colorThermalState() {
+    MetricRow row = rows_[thermalRow]->row();
+    row.color = SystemCard::thermalColor(thermalState_, colorScheme(*this));
+    rows_[thermalRow]->show(row);
+}
+
+void SystemCardView::changeEvent(QEvent* event) {
+    DashboardCardView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) colorThermalState();
+}
+
+}  // namespace vantor

@@ -1,0 +1,108 @@
+#include "ui/cards/volume_view.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/components/tool_tip_text.h"
+#include "ui/components/usage_bar.h"
+#include "ui/formatters.h"
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double fullFrom = 0.9;
+constexpr double symbolSide = 15;
+constexpr double symbolGap = 8;
+constexpr double spacing = 6;
+constexpr double barHeight = 7;
+
+QFont nameFont() {
+    return Typography::font(Typography::caption, QFont::Medium);
+}
+QFont detailFont() {
+    return Typography::font(Typography::caption2);
+}
+double heightOf(const QFont& font, const QWidget* widget) {
+    return std::ceil(QFontMetricsF(font, widget).height());
+}
+
+}  // namespace
+
+VolumeBlock VolumeBlock::of(const VolumeStats& volume) {
+    const std::uint64_t free = std::min(volume.availableBytes, volume.totalBytes);
+    const std::uint64_t used = volume.totalBytes - free;
+    VolumeBlock block;
+    block.symbol =
+        volume.isInternal ? QStringLiteral("internaldrive") : QStringLiteral("externaldrive");
+    block.name = QString::fromStdString(volume.name);
+    if (volume.totalBytes > 0) {
+        block.usedFraction = static_cast<double>(used) / static_cast<double>(volume.totalBytes);
+    }
+    block.accent = block.usedFraction >= fullFrom ? VantorTheme::red() : VantorTheme::blue();
+    block.usedText = Formatters::bytes(used) + QStringLiteral(" used");
+    block.freeText = Formatters::bytes(free) + QStringLiteral(" free");
+    block.help = QString::fromStdString(volume.path);
+    if (volume.isReadOnly) block.help += QStringLiteral(" (read only)");
+    return block;
+}
+
+VolumeView::VolumeView(VolumeBlock block, QWidget* parent)
+    : PaintedView(parent), block_(std::move(block)) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void VolumeView::show(const VolumeStats& volume) {
+    VolumeBlock block = VolumeBlock::of(volume);
+    if (block == block_) return;
+    block_ = std::move(block);
+    setToolTip(toolTipText(block_.help));
+    update();
+    announceValue();
+}
+
+QString VolumeView::accessibleValueText() const {
+    return Formatters::percent(block_.usedFraction, 0) + QStringLiteral(" full, ") +
+           block_.usedText + QStringLiteral(", ") + block_.freeText;
+}
+
+QSize VolumeView::sizeHint() const {
+    return {Typography::scaled(240),
+            static_cast<int>(heightOf(nameFont(), this) + heightOf(detailFont(), this) +
+                             2 * spacing + barHeight)};
+}
+
+QSize VolumeView::minimumSizeHint() const {
+    return {0, sizeHint().height()};
+}
+
+void VolumeView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    const double across = width();
+    const double nameHeight = heightOf(nameFont(), this);
+    const double symbol = symbolSide * Typography::lengthScale();
+    Symbols::draw(painter, {0, (nameHeight - symbol) / 2, symbol, symbol}, block_.symbol,
+                  VantorTheme::secondaryLabel(scheme));
+    const double left = symbol + symbolGap;
+    painter.setFont(nameFont());
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawLine(painter, {left, 0, across - left, nameHeight}, Qt::AlignLeft, block_.name);
+    double top = nameHeight + spacing;
+    paintUsageBar(painter, {0, top, across, barHeight},
+                  {block_.usedFraction, block_.accent, barHeight}, scheme);
+    top += barHeight + spacing;
+    painter.setFont(detailFont());
+    vantorSecondaryForeground(painter, scheme);
+    const QRectF line(0, top, across, heightOf(detailFont(), this));
+    Typography::drawDigitText(painter, line, Qt::AlignLeft, block_.usedText);
+    Typography::drawDigitText(painter, line, Qt::AlignRight, block_.freeText);
+}
+
+}  // namespace vantor

@@ -1,0 +1,101 @@
+#include "ui/components/empty_state_view.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double padding = 10;
+constexpr double spacing = 10;
+constexpr double leastHeight = 180;
+constexpr double symbolSide = 34;  // what a symbol of font size 28 measures
+// Lines longer than this are tiring to read.
+constexpr double widestMessage = 420;
+constexpr int messageFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+
+QFont titleFont() {
+    return Typography::font(Typography::headline, QFont::DemiBold);
+}
+QFont messageFont() {
+    return Typography::font(Typography::caption);
+}
+
+double messageWidth(double width) {
+    return std::min(width - 2 * padding, widestMessage * Typography::lengthScale());
+}
+
+}  // namespace
+
+EmptyStateView::EmptyStateView(EmptyState state, QWidget* parent)
+    : PaintedView(parent), state_(std::move(state)) {
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void EmptyStateView::show(const EmptyState& state) {
+    if (state == state_) return;
+    state_ = state;
+    updateGeometry();
+    update();
+    announceValue();
+}
+
+double EmptyStateView::messageHeight(double width) const {
+    const QRectF room(0, 0, messageWidth(width), 1e6);
+    return QFontMetricsF(messageFont(), this)
+        .boundingRect(room, messageFlags, Typography::onOneLine(state_.message))
+        .height();
+}
+
+double EmptyStateView::contentHeight(double width) const {
+    return symbolSide * Typography::lengthScale() + spacing +
+           QFontMetricsF(titleFont(), this).height() + spacing + messageHeight(width);
+}
+
+int EmptyStateView::heightForWidth(int width) const {
+    return std::max(static_cast<int>(leastHeight),
+                    static_cast<int>(std::ceil(contentHeight(width) + 2 * padding)));
+}
+
+QSize EmptyStateView::sizeHint() const {
+    const int width = Typography::scaled(320);
+    return {width, heightForWidth(width)};
+}
+
+QSize EmptyStateView::minimumSizeHint() const {
+    return {Typography::scaled(120), static_cast<int>(leastHeight)};
+}
+
+void EmptyStateView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    const double across = width();
+    double top = (height() - contentHeight(across)) / 2;
+    const double symbol = symbolSide * Typography::lengthScale();
+    Symbols::draw(painter, {(across - symbol) / 2, top, symbol, symbol}, state_.systemImage,
+                  VantorTheme::secondaryLabel(scheme));
+    top += symbol + spacing;
+    painter.setFont(titleFont());
+    const double titleHeight = QFontMetricsF(painter.font(), this).height();
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawLine(painter, {padding, top, across - 2 * padding, titleHeight},
+                         Qt::AlignHCenter, state_.title);
+    top += titleHeight + spacing;
+    painter.setFont(messageFont());
+    vantorSecondaryForeground(painter, scheme);
+    const double wide = messageWidth(across);
+    painter.drawText(QRectF((across - wide) / 2, top, wide, messageHeight(across)), messageFlags,
+                     Typography::onOneLine(state_.message));
+}
+
+}  // namespace vantor

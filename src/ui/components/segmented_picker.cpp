@@ -1,0 +1,149 @@
+#include "ui/components/segmented_picker.h"
+
+#include <QButtonGroup>
+#include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <cmath>
+
+#include "ui/components/make_child.h"
+#include "ui/components/text_line.h"
+#include "ui/pixels.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double horizontalPadding = 12;
+constexpr double verticalPadding = 5;
+constexpr int trackInset = 3;
+constexpr int labelGap = 8;
+constexpr double trackOpacity = 0.07;
+constexpr double chosenOpacity = 0.16;
+constexpr double hoverOpacity = 0.06;
+constexpr double focusWidth = 2;
+
+QFont titleFont() {
+    return Typography::font(Typography::caption, QFont::DemiBold);
+}
+
+}  // namespace
+
+SegmentButton::SegmentButton(const QString& title, QWidget* parent) : QAbstractButton(parent) {
+    setText(title);
+    setCheckable(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+}
+
+QSize SegmentButton::sizeHint() const {
+    const QFontMetricsF metrics(titleFont(), this);
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()) + 2 * horizontalPadding)),
+            static_cast<int>(std::ceil(metrics.height() + 2 * verticalPadding))};
+}
+
+void SegmentButton::focusInEvent(QFocusEvent* event) {
+    const auto reason = event->reason();
+    if (reason == Qt::MouseFocusReason) {
+        showsFocus_ = false;
+    } else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+        showsFocus_ = true;
+    }
+    QAbstractButton::focusInEvent(event);
+}
+
+void SegmentButton::keyPressEvent(QKeyEvent* event) {
+    showsFocus_ = true;
+    QAbstractButton::keyPressEvent(event);
+}
+
+void SegmentButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void SegmentButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void SegmentButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    const QColor label = VantorTheme::primaryLabel(scheme);
+    const QRectF area = Pixels::snapped(painter, rect());
+    const double radius = area.height() / 2;
+    if (isChecked() || underMouse()) {
+        QPainterPath shape;
+        shape.addRoundedRect(area, radius, radius);
+        vantorBackground(
+            painter, VantorTheme::faded(label, isChecked() ? chosenOpacity : hoverOpacity), shape);
+    }
+    if (hasFocus() && showsFocus_) {
+        constexpr double inset = focusWidth / 2;
+        painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
+        painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), radius - inset,
+                                radius - inset);
+    }
+    painter.setFont(titleFont());
+    vantorForeground(painter, isChecked() ? label : VantorTheme::secondaryLabel(scheme));
+    Typography::drawLine(painter, area, Qt::AlignHCenter | Qt::AlignVCenter, text());
+}
+
+SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choices,
+                                 std::function<void(int)> onChange, QWidget* parent)
+    : QWidget(parent) {
+    setAccessibleName(label);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* row = makeLayout<QHBoxLayout>(this);
+    row->setContentsMargins(0, trackInset, trackInset, trackInset);
+    row->setSpacing(0);
+    row->addWidget(makeChild<TextLineView>(this, label, Typography::caption, QFont::Normal,
+                                           TextLineView::Tone::secondary));
+    row->addSpacing(labelGap + trackInset);
+    auto* group = makeChild<QButtonGroup>(this);
+    for (int i = 0; i < static_cast<int>(choices.size()); ++i) {
+        buttons_.push_back(makeChild<SegmentButton>(this, choices[i]));
+        group->addButton(buttons_.back(), i);
+        row->addWidget(buttons_.back());
+    }
+    if (!buttons_.empty()) buttons_.front()->setChecked(true);
+    connect(group, &QButtonGroup::idToggled, this,
+            [onChange = std::move(onChange)](int id, bool isChosen) {
+                if (isChosen && onChange) onChange(id);
+            });
+}
+
+int SegmentedPicker::choice() const {
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        if (buttons_[i]->isChecked()) return static_cast<int>(i);
+    }
+    return -1;
+}
+
+void SegmentedPicker::choose(int index) {
+    button(index).setChecked(true);
+}
+
+void SegmentedPicker::paintEvent(QPaintEvent*) {
+    if (buttons_.empty()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QRect track;
+    for (const SegmentButton* button : buttons_)
+        track = track.united(button->geometry());
+    const QRectF area =
+        Pixels::snapped(painter, track.adjusted(-trackInset, -trackInset, trackInset, trackInset));
+    QPainterPath shape;
+    shape.addRoundedRect(area, area.height() / 2, area.height() / 2);
+    vantorBackground(
+        painter, VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)), trackOpacity),
+        shape);
+}
+
+}  // namespace vantor

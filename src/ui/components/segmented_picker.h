@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace vantor {
+
+/// One of a picker's choices.
+class SegmentButton : public QAbstractButton {
+  public:
+    explicit SegmentButton(const QString& title, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    bool showsFocus_ = false;
+};
+
+/// A label, and a few choices of which one holds. The arrow keys change it.
+class SegmentedPicker : public QWidget {
+  public:
+    /// The first choice holds; `onChange` hears of every other one.
+    SegmentedPicker(const QString& label, const QStringList& choices,
+                    std::function<void(int)> onChange, QWidget* parent = nullptr);
+
+    int choice() const;
+    void choose(int index);
+    SegmentButton& button(int index) { return *buttons_.at(static_cast<std::size_t>(index)); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    std::vector<SegmentButton*> buttons_;  // owned by this widget, as its children
+};
+
+}  // namespace vantor

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+#include "ui/components/painted_view.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+/// A share of a whole as a bar.
+struct UsageBar {
+    double value = 0;  ///< 0 to 1; drawn held within that
+    QColor accent;
+    double height = 6;
+
+    bool operator==(const UsageBar&) const = default;
+};
+
+/// Where the parts of a bar that spans `bounds` lie; its height is the bounds'.
+struct UsageBarGeometry {
+    QRectF track;
+    QRectF fill;  ///< from the leading edge; without width at zero
+
+    static UsageBarGeometry make(const QRectF& bounds, double value);
+    bool operator==(const UsageBarGeometry&) const = default;
+};
+
+/// Paints a bar across `bounds`, of its own height in the middle of them.
+void paintUsageBar(QPainter& painter, const QRectF& bounds, const UsageBar& bar,
+                   ColorScheme scheme);
+
+/// Draws a bar across its whole width.
+class UsageBarView : public PaintedView {
+  public:
+    /// `label` is for those who cannot see the bar.
+    UsageBarView(QString label, UsageBar bar, QWidget* parent = nullptr);
+
+    void show(const UsageBar& bar);
+    const UsageBar& bar() const { return bar_; }
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::ProgressBar; }
+    QString accessibleLabel() const override { return label_; }
+    QString accessibleValueText() const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString label_;
+    UsageBar bar_;
+};
+
+}  // namespace vantor

@@ -1,0 +1,89 @@
+#include "ui/explorer/filter_field.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <cmath>
+
+#include "ui/pixels.h"
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double corner = 8;
+constexpr double symbolSide = 14;
+constexpr double symbolLeft = 9;
+constexpr double textGap = 6;
+constexpr double verticalPadding = 8;
+constexpr double groundOpacity = 0.06;
+constexpr double borderOpacity = 0.16;
+constexpr double focusWidth = 2;
+
+double symbolSize() {
+    return symbolSide * Typography::lengthScale();
+}
+
+}  // namespace
+
+FilterField::FilterField(const QString& placeholder, QWidget* parent) : QLineEdit(parent) {
+    setPlaceholderText(placeholder);
+    setAccessibleName(placeholder);
+    setFrame(false);
+    setClearButtonEnabled(true);
+    // The ground is painted here; the field itself must not paint over it.
+    QPalette transparent = palette();
+    transparent.setColor(QPalette::Base, Qt::transparent);
+    setPalette(transparent);
+    setTextMargins(static_cast<int>(symbolLeft + symbolSize() + textGap) - 2, 0, 4, 0);
+    adoptFont();
+}
+
+void FilterField::adoptFont() {
+    setFont(Typography::font(Typography::caption));
+}
+
+void FilterField::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::ApplicationFontChange) adoptFont();
+}
+
+QSize FilterField::sizeHint() const {
+    const double text = QFontMetricsF(font(), this).height();
+    return {Typography::scaled(widest), static_cast<int>(std::ceil(text + 2 * verticalPadding))};
+}
+
+QSize FilterField::minimumSizeHint() const {
+    return {Typography::scaled(120), sizeHint().height()};
+}
+
+void FilterField::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ColorScheme scheme = colorScheme(*this);
+    const QColor label = VantorTheme::primaryLabel(scheme);
+    const QRectF area = Pixels::snapped(painter, rect());
+    QPainterPath ground;
+    ground.addRoundedRect(area, corner, corner);
+    vantorBackground(painter, VantorTheme::faded(label, groundOpacity), ground);
+    const bool isFocused = hasFocus();
+    const double width = isFocused ? focusWidth : Pixels::snappedLineWidth(painter, 1);
+    const double inset = width / 2;
+    painter.setPen(QPen(
+        isFocused ? palette().color(QPalette::Highlight) : VantorTheme::faded(label, borderOpacity),
+        width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), corner - inset,
+                            corner - inset);
+    const double side = symbolSize();
+    const double left = isRightToLeft() ? this->width() - symbolLeft - side : symbolLeft;
+    Symbols::draw(painter, {left, (height() - side) / 2, side, side},
+                  QStringLiteral("magnifyingglass"), VantorTheme::secondaryLabel(scheme));
+    painter.end();
+    QLineEdit::paintEvent(event);
+}
+
+}  // namespace vantor

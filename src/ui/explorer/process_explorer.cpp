@@ -1,0 +1,81 @@
+#include "ui/explorer/process_explorer.h"
+
+#include <algorithm>
+
+#include "ui/explorer/process_search.h"
+#include "ui/formatters.h"
+
+namespace vantor {
+
+namespace {
+
+bool isBefore(const ProcessStats& a, const ProcessStats& b, SortMode mode) {
+    if (mode == SortMode::cpu && a.cpuPercent != b.cpuPercent) return a.cpuPercent > b.cpuPercent;
+    if (mode == SortMode::memory && a.residentMemoryBytes != b.residentMemoryBytes) {
+        return a.residentMemoryBytes > b.residentMemoryBytes;
+    }
+    return a.pid < b.pid;
+}
+
+}  // namespace
+
+QString sortModeLabel(SortMode mode) {
+    return mode == SortMode::cpu ? QStringLiteral("CPU") : QStringLiteral("Memory");
+}
+
+ProcessExplorer ProcessExplorer::of(const DashboardState& state) {
+    return {state.snapshot.processes, state.processesByCPU, state.processesByMemory,
+            state.revisions.processes};
+}
+
+std::vector<const ProcessStats*> ProcessExplorer::makeVisibleProcesses(
+    const QString& query, SortMode mode, const QLocale& locale) const {
+    std::vector<const ProcessStats*> visible;
+    if (query.isEmpty()) {
+        const auto sorted = mode == SortMode::cpu ? sortedByCPU : sortedByMemory;
+        for (const ProcessStats& process : sorted.first(std::min(sorted.size(), mostRows)))
+            visible.push_back(&process);
+        return visible;
+    }
+    // The sorted lists hold only the first ones: whoever searches wants to find the others, too.
+    const ProcessSearch search(query, locale);
+    for (const ProcessStats& process : processes) {
+        if (search.matches(process)) visible.push_back(&process);
+    }
+    const auto count = std::min(visible.size(), mostRows);
+    std::partial_sort(
+        visible.begin(), visible.begin() + static_cast<std::ptrdiff_t>(count), visible.end(),
+        [mode](const ProcessStats* a, const ProcessStats* b) { return isBefore(*a, *b, mode); });
+    visible.resize(count);
+    return visible;
+}
+
+EmptyState ProcessExplorer::noProcesses() {
+    return {QStringLiteral("Waiting for Processes"),
+            QStringLiteral("list.bullet.rectangle.portrait"),
+            QStringLiteral("No process data is available yet.")};
+}
+
+EmptyState ProcessExplorer::noMatch(const QString& query) {
+    return {QStringLiteral("No Matching Processes"), QStringLiteral("magnifyingglass"),
+            QStringLiteral("No process matches “") + query + QStringLiteral("”.")};
+}
+
+QString ProcessRow::cpuText() const {
+    return Formatters::fixed(process.cpuPercent, 1) + u'%';
+}
+
+QString ProcessRow::memoryText() const {
+    return Formatters::bytes(process.residentMemoryBytes);
+}
+
+double ProcessRow::cpuShare() const {
+    return maximumCPU > 0 ? process.cpuPercent / maximumCPU : 0;
+}
+
+double ProcessRow::memoryShare() const {
+    if (maximumMemory == 0) return 0;
+    return static_cast<double>(process.residentMemoryBytes) / static_cast<double>(maximumMemory);
+}
+
+}  // namespace vantor

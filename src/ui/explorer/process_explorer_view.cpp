@@ -1,0 +1,149 @@
+#include "ui/explorer/process_explorer_view.h"
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QStackedLayout>
+
+#include <algorithm>
+#include <chrono>
+
+#include "ui/cards/process_mini_list.h"
+#include "ui/components/make_child.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+// Longer than between two keystrokes of a quick typist, shorter than anybody notices.
+constexpr std::chrono::milliseconds debounceDelay{150};
+constexpr int controlSpacing = 12;
+constexpr int scrollMargin = 24;
+
+DashboardCard frame() {
+    return {QStringLiteral("Process Explorer"), QStringLiteral("Live process activity"),
+            QStringLiteral("list.bullet.rectangle"), VantorTheme::cyan()};
+}
+
+}  // namespace
+
+ProcessExplorerView::ProcessExplorerView(const ProcessInfo& versions,
+                                         std::shared_ptr<MainLoop> mainLoop, QWidget* parent)
+    : DashboardCardView(frame(), parent), mainLoop_(std::move(mainLoop)) {
+    build(versions);
+    addShortcuts();
+    refresh();
+}
+
+ProcessExplorerView::~ProcessExplorerView() {
+    cancelDebounce();
+}
+
+void ProcessExplorerView::build(const ProcessInfo& versions) {
+    auto* controls = makeInnerLayout<QHBoxLayout>();
+    controls->setSpacing(controlSpacing);
+    filter_ = makeChild<FilterField>(this, QStringLiteral("Filter processes"));
+    filter_->setMaximumWidth(Typography::scaled(FilterField::widest));
+    connect(filter_, &QLineEdit::textChanged, this,
+            [this](const QString& text) { setQuery(text); });
+    controls->addWidget(filter_, 1);
+    controls->addStretch();
+    QStringList labels;
+    for (const SortMode mode : allSortModes)
+        labels << sortModeLabel(mode);
+    const auto onChange = [this](int choice) {
+        sortMode_ = allSortModes.at(static_cast<std::size_t>(choice));
+        refresh();
+    };
+    picker_ = makeChild<SegmentedPicker>(this, QStringLiteral("Sort"), labels, onChange);
+    controls->addWidget(picker_);
+    body().addLayout(controls);
+
+    content_ = makeInnerLayout<QStackedLayout>();
+    table_ = makeChild<ProcessTableView>(this, processSymbol(versions));
+    emptyState_ = makeChild<EmptyStateView>(this, ProcessExplorer::noProcesses());
+    content_->addWidget(table_);
+    content_->addWidget(emptyState_);
+    body().addLayout(content_);
+    setTabOrder(filter_, &picker_->button(0));
+    setTabOrder(&picker_->button(1), table_);
+}
+
+void ProcessExplorerView::addShortcuts() {
+    auto* find = makeChild<QShortcut>(this, QKeySequence(QKeySequence::Find));
+    find->setContext(Qt::WindowShortcut);
+    connect(find, &QShortcut::activated, this, [this] { focusFilter(); });
+    auto* clear = makeChild<QShortcut>(this, QKeySequence(Qt::Key_Escape));
+    clear->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(clear, &QShortcut::activated, this, [this] { filter_->clear(); });
+}
+
+void ProcessExplorerView::focusFilter() {
+    filter_->setFocus(Qt::ShortcutFocusReason);
+    filter_->selectAll();
+    for (QWidget* above = parentWidget(); above; above = above->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(above)) {
+            area->ensureWidgetVisible(filter_, 0, scrollMargin);
+            return;
+        }
+    }
+}
+
+void ProcessExplorerView::setQuery(const QString& query) {
+    query_ = query;
+    cancelDebounce();
+    if (query_.isEmpty()) {
+        applyQuery();  // at once: there is nothing to wait for
+        return;
+    }
+    debounce_ = mainLoop_->runAfter(debounceDelay, [this] {
+        debounce_.reset();
+        applyQuery();
+    });
+}
+
+void ProcessExplorerView::applyQuery() {
+    if (debouncedQuery_ == query_) return;
+    debouncedQuery_ = query_;
+    refresh();
+}
+
+void ProcessExplorerView::cancelDebounce() {
+    if (debounce_) mainLoop_->cancel(*debounce_);
+    debounce_.reset();
+}
+
+void ProcessExplorerView::show(const ProcessExplorer& explorer) {
+    const bool isSame = explorer == explorer_;
+    explorer_ = explorer;  // even so: what the former ones were borrowed from may be gone
+    if (!isSame) refresh();
+}
+
+bool ProcessExplorerView::isEmptyStateShown() const {
+    return content_->currentWidget() == emptyState_;
+}
+
+void ProcessExplorerView::refresh() {
+    const auto visible = explorer_.makeVisibleProcesses(debouncedQuery_, sortMode_, locale());
+    double maximumCPU = 0;
+    std::uint64_t maximumMemory = 0;
+    for (const ProcessStats* process : visible) {
+        maximumCPU = std::max(maximumCPU, process->cpuPercent);
+        maximumMemory = std::max(maximumMemory, process->residentMemoryBytes);
+    }
+    std::vector<ProcessRow> rows;
+    rows.reserve(visible.size());
+    for (const ProcessStats* process : visible)
+        rows.push_back({*process, maximumCPU, maximumMemory});
+    table_->show(rows);
+    if (rows.empty()) {
+        const bool hasNone = explorer_.processes.empty();
+        emptyState_->show(hasNone ? ProcessExplorer::noProcesses()
+                                  : ProcessExplorer::noMatch(debouncedQuery_));
+    }
+    content_->setCurrentWidget(rows.empty() ? static_cast<QWidget*>(emptyState_) : table_);
+}
+
+}  // namespace vantor

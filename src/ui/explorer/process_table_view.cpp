@@ -1,0 +1,333 @@
+#include "ui/explorer/process_table_view.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStringList>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/components/tool_tip_text.h"
+#include "ui/components/usage_bar.h"
+#include "ui/pixels.h"
+#include "ui/symbols.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double rowSpacing = 8;
+constexpr double sideInset = 8;  // what the ground of the chosen row stands out beyond its texts
+constexpr double columnGap = 12;
+constexpr double iconWidth = 18;
+constexpr double iconGap = 8;
+constexpr double pidWidth = 64;
+constexpr double cpuWidth = 120;
+constexpr double memoryWidth = 140;
+constexpr double cpuBarWidth = 48;
+constexpr double memoryBarWidth = 72;
+constexpr double barGap = 8;
+constexpr double barHeight = 5;
+constexpr double currentOpacity = 0.08;
+constexpr double currentCorner = 6;
+constexpr double focusWidth = 2;
+
+QFont nameFont() {
+    return Typography::font(Typography::caption);
+}
+QFont figureFont() {
+    return Typography::font(Typography::caption);
+}
+
+/// In steps of half a point of the bar: less cannot be seen, and need not be painted.
+double visibleShare(double share, double barWidth) {
+    const double steps = 2 * barWidth;
+    return std::round(std::clamp(share, 0.0, 1.0) * steps) / steps;
+}
+
+}  // namespace
+
+ProcessColumns ProcessColumns::make(double width, double height, double scale) {
+    double right = width - sideInset;
+    const auto take = [&](double length) {
+        right -= length * scale;
+        return QRectF(right, 0, length * scale, height);
+    };
+    ProcessColumns columns;
+    columns.memoryBar = take(memoryBarWidth);
+    right -= barGap;
+    columns.memoryText = take(memoryWidth - memoryBarWidth - barGap);
+    right -= columnGap;
+    columns.cpuBar = take(cpuBarWidth);
+    right -= barGap;
+    columns.cpuText = take(cpuWidth - cpuBarWidth - barGap);
+    right -= columnGap;
+    columns.pid = take(pidWidth);
+    right -= columnGap;
+    columns.icon = QRectF(sideInset, 0, iconWidth * scale, height);
+    const double left = columns.icon.right() + iconGap;
+    columns.name = QRectF(left, 0, std::max(0.0, right - left), height);
+    return columns;
+}
+
+ProcessTableView::ProcessTableView(QString symbol, QWidget* parent)
+    : PaintedView(parent), symbol_(std::move(symbol)) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+ProcessTableView::Row ProcessTableView::makeRow(const ProcessRow& row) {
+    return {row.process.pid,
+            QString::fromStdString(row.process.name),
+            QString::fromStdString(row.process.command),
+            row.cpuText(),
+            row.memoryText(),
+            visibleShare(row.cpuShare(), cpuBarWidth),
+            visibleShare(row.memoryShare(), memoryBarWidth)};
+}
+
+void ProcessTableView::show(std::span<const ProcessRow> rows) {
+    const std::size_t before = rows_.size();
+    std::vector<Row> next;
+    next.reserve(rows.size());
+    for (const ProcessRow& row : rows)
+        next.push_back(makeRow(row));
+    next.swap(rows_);
+    const auto& old = next;
+    for (std::size_t i = 0; i < std::max(before, rows_.size()); ++i) {
+        const bool isSame = i < before && i < rows_.size() && rows_[i] == old[i];
+        if (isSame) continue;
+        update(rowArea(i).toAlignedRect().adjusted(0, -static_cast<int>(rowSpacing / 2), 0,
+                                                   static_cast<int>(rowSpacing / 2)));
+        announceRow(static_cast<int>(i));
+    }
+    if (before != rows_.size()) announceRowCount();
+}
+
+double ProcessTableView::rowHeight() const {
+    const double text = QFontMetricsF(nameFont(), this).height();
+    return std::ceil(std::max(text, QFontMetricsF(figureFont(), this).height()));
+}
+
+/// The header takes the place of a row before the first one.
+QRectF ProcessTableView::rowArea(std::size_t index) const {
+    const double step = rowHeight() + rowSpacing;
+    return {0, step * static_cast<double>(index + 1) + rowSpacing / 2, static_cast<double>(width()),
+            rowHeight()};
+}
+
+std::optional<std::size_t> ProcessTableView::rowAt(QPointF place) const {
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        if (rowArea(i).adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2).contains(place)) return i;
+    }
+    return std::nullopt;
+}
+
+QSize ProcessTableView::sizeHint() const {
+    const QRectF last = rowArea(ProcessExplorer::mostRows - 1);
+    return {Typography::scaled(560), static_cast<int>(std::ceil(last.bottom() + rowSpacing / 2))};
+}
+
+QSize ProcessTableView::minimumSizeHint() const {
+    return {Typography::scaled(420), sizeHint().height()};
+}
+
+QStringList ProcessTableView::rowTexts(std::size_t index) const {
+    const Row& row = rows_.at(index);
+    return {row.name, QString::number(row.pid), row.cpuText, row.memoryText};
+}
+
+std::optional<std::size_t> ProcessTableView::currentRow() const {
+    const auto found = std::ranges::find_if(
+        rows_, [this](const Row& row) { return currentPID_ && row.pid == *currentPID_; });
+    if (found == rows_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - rows_.begin());
+}
+
+void ProcessTableView::setCurrentRow(std::optional<std::size_t> row) {
+    if (row && *row < rows_.size()) {
+        currentPID_ = rows_[*row].pid;
+        announceFocus(static_cast<int>(*row));
+    } else {
+        currentPID_.reset();
+    }
+    update();
+}
+
+void ProcessTableView::copyCurrentRow() const {
+    const auto current = currentRow();
+    if (!current) return;
+    QStringList texts = rowTexts(*current);
+    texts << rows_[*current].command;
+    QGuiApplication::clipboard()->setText(texts.join(u'\t'));
+}
+
+QString ProcessTableView::accessibleValueText() const {
+    return QStringLiteral("%1 processes").arg(rows_.size());
+}
+
+QString ProcessTableView::accessibleRowLabel(int row) const {
+    const auto index = static_cast<std::size_t>(row);
+    if (row < 0 || index >= rows_.size()) return {};
+    const Row& shown = rows_[index];
+    return QStringLiteral("%1, PID %2, CPU %3, memory %4")
+        .arg(Typography::onOneLine(shown.name))
+        .arg(shown.pid)
+        .arg(shown.cpuText, shown.memoryText);
+}
+
+QRect ProcessTableView::accessibleRowArea(int row) const {
+    return rowArea(static_cast<std::size_t>(std::max(row, 0))).toAlignedRect();
+}
+
+bool ProcessTableView::isAccessibleRowChosen(int row) const {
+    return row >= 0 && currentRow() == static_cast<std::size_t>(row);
+}
+
+void ProcessTableView::mousePressEvent(QMouseEvent* event) {
+    showsFocus_ = false;
+    if (event->button() == Qt::LeftButton) setCurrentRow(rowAt(event->position()));
+    PaintedView::mousePressEvent(event);
+}
+
+void ProcessTableView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        copyCurrentRow();
+        return;
+    }
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (isPlain && moveBy(static_cast<Qt::Key>(event->key()))) {
+        showsFocus_ = true;
+        update();
+        return;
+    }
+    PaintedView::keyPressEvent(event);
+}
+
+/// Whether the key chose a row. At the ends the arrow keys are left to whatever scrolls.
+bool ProcessTableView::moveBy(Qt::Key key) {
+    if (rows_.empty()) return false;
+    const auto current = currentRow();
+    const std::size_t last = rows_.size() - 1;
+    switch (key) {
+        case Qt::Key_Down:
+            if (current == last) return false;
+            setCurrentRow(current ? *current + 1 : 0);
+            return true;
+        case Qt::Key_Up:
+            if (!current || *current == 0) return false;
+            setCurrentRow(*current - 1);
+            return true;
+        case Qt::Key_Home:
+            setCurrentRow(0);
+            return true;
+        case Qt::Key_End:
+            setCurrentRow(last);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void ProcessTableView::focusInEvent(QFocusEvent* event) {
+    const auto reason = event->reason();
+    const bool isByKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                         reason == Qt::ShortcutFocusReason;
+    if (isByKey) {
+        showsFocus_ = true;
+        if (!currentRow()) setCurrentRow(0);
+    }
+    PaintedView::focusInEvent(event);
+    update();
+}
+
+void ProcessTableView::focusOutEvent(QFocusEvent* event) {
+    PaintedView::focusOutEvent(event);
+    update();
+}
+
+bool ProcessTableView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (const auto row = rowAt(help->pos())) {
+        QToolTip::showText(help->globalPos(), toolTipText(rows_[*row].command), this,
+                           rowArea(*row).toAlignedRect());
+    } else {
+        QToolTip::hideText();
+    }
+    return true;
+}
+
+void ProcessTableView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (event->rect().top() < rowArea(0).top()) paintHeader(painter);
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const QRect area = rowArea(i).toAlignedRect();
+        if (event->region().intersects(area)) paintRow(painter, i);
+    }
+}
+
+void ProcessTableView::paintHeader(QPainter& painter) const {
+    const auto columns = ProcessColumns::make(width(), rowHeight(), Typography::lengthScale());
+    painter.setFont(figureFont());
+    vantorSecondaryForeground(painter, colorScheme(*this));
+    constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
+    Typography::drawLine(painter, columns.icon.united(columns.name),
+                         Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Process"));
+    Typography::drawLine(painter, columns.pid, trailing, QStringLiteral("PID"));
+    Typography::drawLine(painter, columns.cpuText, trailing, QStringLiteral("CPU"));
+    Typography::drawLine(painter, columns.memoryText, trailing, QStringLiteral("Memory"));
+}
+
+void ProcessTableView::paintCurrent(QPainter& painter, const QRectF& area) const {
+    const ColorScheme scheme = colorScheme(*this);
+    const QRectF ground =
+        Pixels::snapped(painter, area.adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2));
+    QPainterPath shape;
+    shape.addRoundedRect(ground, currentCorner, currentCorner);
+    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), currentOpacity),
+                     shape);
+    if (!hasFocus() || !showsFocus_) return;
+    constexpr double inset = focusWidth / 2;
+    painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(ground.adjusted(inset, inset, -inset, -inset), currentCorner - inset,
+                            currentCorner - inset);
+}
+
+void ProcessTableView::paintRow(QPainter& painter, std::size_t index) const {
+    const Row& row = rows_[index];
+    const QRectF area = rowArea(index);
+    const ColorScheme scheme = colorScheme(*this);
+    if (currentPID_ && row.pid == *currentPID_) paintCurrent(painter, area);
+    const auto columns =
+        ProcessColumns::make(area.width(), area.height(), Typography::lengthScale());
+    const auto at = [&](const QRectF& column) { return column.translated(area.topLeft()); };
+    const double symbol = std::min(columns.icon.width(), area.height());
+    QRectF icon = at(columns.icon);
+    icon.setWidth(symbol);
+    Symbols::draw(painter, icon, symbol_, VantorTheme::secondaryLabel(scheme));
+    constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
+    painter.setFont(nameFont());
+    vantorPrimaryForeground(painter, scheme);
+    Typography::drawLine(painter, at(columns.name), Qt::AlignLeft | Qt::AlignVCenter, row.name);
+    painter.setFont(figureFont());
+    Typography::drawDigitText(painter, at(columns.cpuText), trailing, row.cpuText);
+    Typography::drawDigitText(painter, at(columns.memoryText), trailing, row.memoryText);
+    vantorSecondaryForeground(painter, scheme);
+    Typography::drawDigitText(painter, at(columns.pid), trailing, QString::number(row.pid));
+    paintUsageBar(painter, at(columns.cpuBar), {row.cpuShare, VantorTheme::cyan(), barHeight},
+                  scheme);
+    paintUsageBar(painter, at(columns.memoryBar), {row.memoryShare, VantorTheme::pink(), barHeight},
+                  scheme);
+}
+
+}  // namespace vantor

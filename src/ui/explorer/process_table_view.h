@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "ui/components/painted_view.h"
+#include "ui/explorer/process_explorer.h"
+
+namespace vantor {
+
+/// Where the columns of the table lie. The figures stand at the trailing edge of their column's
+/// text part, so that their digits stand below each other.
+struct ProcessColumns {
+    QRectF icon;
+    QRectF name;
+    QRectF pid;
+    QRectF cpuText;
+    QRectF cpuBar;
+    QRectF memoryText;
+    QRectF memoryBar;
+
+    /// For a row of that size; `scale` is what lengths that hold text are multiplied with.
+    static ProcessColumns make(double width, double height, double scale);
+};
+
+/// Draws the column header and one row for each visible process, with room for as many as there
+/// can be, so that nothing below it moves. One row can be chosen, and stays the same process
+/// wherever it goes.
+class ProcessTableView : public PaintedView {
+  public:
+    explicit ProcessTableView(QString symbol, QWidget* parent = nullptr);
+
+    void show(std::span<const ProcessRow> rows);
+    std::size_t rowCount() const { return rows_.size(); }
+
+    /// What a row says, column by column.
+    QStringList rowTexts(std::size_t index) const;
+    std::optional<std::size_t> currentRow() const;
+    void setCurrentRow(std::optional<std::size_t> row);
+
+    /// Puts the chosen row on the clipboard, its columns and the command divided by tabs.
+    void copyCurrentRow() const;
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::List; }
+    QString accessibleLabel() const override { return QStringLiteral("Processes"); }
+    QString accessibleValueText() const override;
+    int accessibleRowCount() const override { return static_cast<int>(rows_.size()); }
+    QString accessibleRowLabel(int row) const override;
+    QRect accessibleRowArea(int row) const override;
+    bool isAccessibleRowChosen(int row) const override;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    struct Row {
+        std::int32_t pid = 0;
+        QString name;
+        QString command;
+        QString cpuText;
+        QString memoryText;
+        double cpuShare = 0;
+        double memoryShare = 0;
+        bool operator==(const Row&) const = default;
+    };
+
+    static Row makeRow(const ProcessRow& row);
+    double rowHeight() const;
+    QRectF rowArea(std::size_t index) const;
+    std::optional<std::size_t> rowAt(QPointF place) const;
+    void paintHeader(QPainter& painter) const;
+    void paintRow(QPainter& painter, std::size_t index) const;
+    void paintCurrent(QPainter& painter, const QRectF& area) const;
+    bool moveBy(Qt::Key key);
+
+    QString symbol_;
+    std::vector<Row> rows_;
+    std::optional<std::int32_t> currentPID_;
+    bool showsFocus_ = false;
+};
+
+}  // namespace vantor

@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include "ui/components/empty_state_view.h"
+#include "ui/components/labeled_sparkline.h"
+#include "ui/components/segmented_picker.h"
+#include "ui/components/speed_tile.h"
+#include "ui/gestures.h"
+#include "ui/rendering.h"
+
+/// Speed tile, labelled chart, empty state, picker.
+namespace vantor {
+namespace {
+
+SpeedTile tile() {
+    return {QStringLiteral("Download"), QStringLiteral("1.25 MB/s"), QStringLiteral("arrow.down"),
+            VantorTheme::green()};
+}
+
+TEST(SpeedTile, DrawsSymbolTitleAndValueOnAFaintGround) {
+    SpeedTileView view(tile());
+    const QSize size(180, view.sizeHint().height());
+    EXPECT_GE(size.height(), 46) << "a symbol's tile of 26 and the padding";
+    const QImage image = rendered(view, size);
+    const QColor ground = VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.045);
+    EXPECT_TRUE(isNear(colorAt(image, 170, 23), ground));
+    EXPECT_EQ(colorAt(image, 0.5, 0.5).alpha(), 0) << "its corners are round";
+    EXPECT_GT(pixelsLike(image, QRectF(10, 10, 26, 26), VantorTheme::green()), 5);
+    EXPECT_GT(paintedPixels(image, QRectF(45, 10, 60, 26)), 0);
+    EXPECT_EQ(utf8(view.accessibleLabel()), "Download");
+    EXPECT_EQ(utf8(view.accessibleValueText()), "1.25 MB/s");
+}
+
+TEST(SpeedTile, IsPaintedOnlyWhenItShowsSomethingElse) {
+    SpeedTileView view(tile());
+    view.resize(180, 46);
+    view.setVisible(true);
+    settleEvents();
+    PaintCount paints;
+    paints.watch(view);
+    view.show(tile());
+    settleEvents();
+    EXPECT_EQ(paints.take(), 0);
+    SpeedTile other = tile();
+    other.value = QStringLiteral("0 B/s");
+    view.show(other);
+    settleEvents();
+    EXPECT_EQ(paints.take(), 1);
+}
+
+TEST(LabeledSparkline, StandsUnderItsLabelAndValue) {
+    LabeledSparklineView view(
+        {QStringLiteral("Upload"), QStringLiteral("3 KB/s"), {1, 3, 2}, VantorTheme::orange()});
+    const int text = view.sizeHint().height() - 54 - 6;
+    EXPECT_GT(text, 8);
+    const QImage image = rendered(view, QSize(200, view.sizeHint().height()));
+    EXPECT_GT(paintedPixels(image, QRectF(0, 0, 60, text)), 0);
+    EXPECT_GT(paintedPixels(image, QRectF(160, 0, 40, text)), 0);
+    EXPECT_EQ(paintedPixels(image, QRectF(0, text, 200, 5)), 0) << "the spacing";
+    EXPECT_GT(pixelsLike(image, QRectF(0, text + 6, 200, 54), VantorTheme::orange()), 50);
+}
+
+TEST(LabeledSparkline, RangesOverItsOwnValues) {
+    LabeledSparklineView view(
+        {QStringLiteral("Upload"), {}, {500'000, 1'000'000}, VantorTheme::orange()});
+    const int height = view.sizeHint().height();
+    const QImage image = rendered(view, QSize(200, height));
+    EXPECT_GT(pixelsLike(image, QRectF(0, height - 6, 12, 6), VantorTheme::orange()), 0);
+    EXPECT_GT(pixelsLike(image, QRectF(188, height - 54, 12, 6), VantorTheme::orange()), 0);
+}
+
+TEST(EmptyState, StandsInTheMiddleAndIsAtLeastSoHigh) {
+    EmptyStateView view({QStringLiteral("No Volumes"),
+                         QStringLiteral("externaldrive.badge.questionmark"),
+                         QStringLiteral("None was returned.")});
+    EXPECT_EQ(view.heightForWidth(400), 180);
+    const QImage image = rendered(view, QSize(400, 180));
+    EXPECT_GT(paintedPixels(image, QRectF(180, 30, 40, 60)), 50) << "the symbol";
+    EXPECT_EQ(paintedPixels(image, QRectF(0, 0, 60, 180)), 0);
+    EXPECT_EQ(utf8(view.accessibleLabel()), "No Volumes");
+    EXPECT_EQ(utf8(view.accessibleValueText()), "None was returned.");
+}
+
+TEST(EmptyState, ALongMessageBreaksIntoLinesAndMakesRoom) {
+    EmptyStateView view({QStringLiteral("t"), QStringLiteral("magnifyingglass"),
+                         QString(QStringLiteral("word ")).repeated(150)});
+    EXPECT_GT(view.heightForWidth(300), 240);
+    EXPECT_GT(view.heightForWidth(300), view.heightForWidth(500));
+}
+
+TEST(SegmentedPicker, ChangesByClickAndByArrowKeys) {
+    std::vector<int> heard;
+    SegmentedPicker picker(QStringLiteral("Sort"),
+                           {QStringLiteral("CPU"), QStringLiteral("Memory")},
+                           [&](int choice) { heard.push_back(choice); });
+    picker.setVisible(true);
+    settleEvents();
+    EXPECT_EQ(picker.choice(), 0);
+    click(picker.button(1));
+    EXPECT_EQ(picker.choice(), 1);
+    picker.button(1).setFocus();
+    pressKey(picker.button(1), Qt::Key_Left);
+    EXPECT_EQ(picker.choice(), 0);
+    click(picker.button(0));
+    EXPECT_EQ(heard, (std::vector<int>{1, 0})) << "the choice that holds already is no change";
+}
+
+TEST(SegmentedPicker, ItsChoicesAreRadioButtonsUnderItsName) {
+    SegmentedPicker picker(QStringLiteral("Sort"),
+                           {QStringLiteral("CPU"), QStringLiteral("Memory")}, {});
+    EXPECT_EQ(utf8(picker.accessibleName()), "Sort");
+    QAccessibleInterface* choice = QAccessible::queryAccessibleInterface(&picker.button(0));
+    ASSERT_NE(choice, nullptr);
+    EXPECT_EQ(utf8(choice->text(QAccessible::Name)), "CPU");
+    EXPECT_TRUE(choice->state().checked);
+}
+
+}  // namespace
+}  // namespace vantor
