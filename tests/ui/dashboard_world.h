@@ -42,8 +42,8 @@ class TestBundle : public BundleInfo {
 /// Its processors spend 30 ticks for the user and 10 for the kernel out of every 100, so that each
 /// reading after the first says 40 %.
 struct DashboardWorld {
-    const std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
-    const std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop(clock);
+    const std::shared_ptr<WoundClock> clock;
+    const std::shared_ptr<SimulatedMachine> machine;
     const std::shared_ptr<ManualMainLoop> loop = std::make_shared<ManualMainLoop>(clock);
     const std::shared_ptr<ManualSerialQueueFactory> queues =
         std::make_shared<ManualSerialQueueFactory>();
@@ -58,7 +58,14 @@ struct DashboardWorld {
     std::function<void()> onFirstLiveFrame = [this] { ++firstFrames; };
     std::unique_ptr<DashboardView> view;
 
-    DashboardWorld() { machine->hostProcessors().growth = {30, 10, 60, 0}; }
+    DashboardWorld() : DashboardWorld(std::make_shared<WoundClock>()) {
+        machine->hostProcessors().growth = {30, 10, 60, 0};
+    }
+
+    /// On another machine, which lives by that clock.
+    DashboardWorld(std::shared_ptr<WoundClock> itsClock,
+                   std::shared_ptr<SimulatedMachine> itsMachine)
+        : clock(std::move(itsClock)), machine(std::move(itsMachine)) {}
 
     /// Makes the view, without showing it yet.
     DashboardView& make() {
@@ -75,6 +82,9 @@ struct DashboardWorld {
         settle();
         return *view;
     }
+
+    explicit DashboardWorld(const std::shared_ptr<WoundClock>& itsClock)
+        : DashboardWorld(itsClock, SimulatedMachine::laptop(itsClock)) {}
 
     /// Runs everything that is left to run at this instant.
     void settle() {

@@ -7,10 +7,19 @@
 #include <functional>
 #include <memory>
 
+#include "platform/simulated/manual_main_loop.h"
 #include "platform/simulated/simulated_machine.h"
+#include "ui/card_samples.h"
 #include "ui/cards/cpu_card.h"
-#include "ui/cpu_samples.h"
+#include "ui/cards/gpu_card.h"
+#include "ui/cards/memory_card.h"
+#include "ui/cards/network_card.h"
+#include "ui/cards/storage_card.h"
+#include "ui/cards/system_card.h"
+#include "ui/components/empty_state_view.h"
+#include "ui/components/usage_bar.h"
 #include "ui/dashboard/dashboard_header.h"
+#include "ui/explorer/process_explorer_view.h"
 #include "ui/rendering.h"
 
 /// Every component as it is meant to look, in both schemes, on ordinary and on fine screens.
@@ -26,6 +35,16 @@ struct Subject {
 template <class View, class... Arguments>
 std::unique_ptr<View> makeView(Arguments&&... arguments) {
     return std::make_unique<View>(std::forward<Arguments>(arguments)...);
+}
+
+SimulatedMachine& laptop() {
+    static const auto machine = SimulatedMachine::laptop();
+    return *machine;
+}
+
+const DashboardState& everything() {
+    static const DashboardState state = stateWithEverything();
+    return state;
 }
 
 std::unique_ptr<QWidget> gauge() {
@@ -77,6 +96,33 @@ std::unique_ptr<QWidget> header() {
                                          std::nullopt);
 }
 
+template <class View, class Card, class Source>
+std::unique_ptr<QWidget> cardOf(const Source& source, const DashboardState& state) {
+    auto view = makeView<View>(source);
+    view->show(Card::of(state));
+    return view;
+}
+
+std::unique_ptr<QWidget> network() {
+    auto view = std::make_unique<NetworkCardView>();
+    const DashboardState state = stateWithEverything();
+    view->show(NetworkCard::of(state));
+    return view;
+}
+
+/// Its processes live as long as the tests.
+std::unique_ptr<QWidget> explorer(const char* query) {
+    static const DashboardState state = stateWithEverything();
+    const auto clock = std::make_shared<WoundClock>();
+    const auto loop = std::make_shared<ManualMainLoop>(clock);
+    auto view = makeView<ProcessExplorerView>(laptop().processInfo(), loop);
+    view->show(ProcessExplorer::of(state));
+    view->filter().setText(QString::fromLatin1(query));
+    clock->setNow(clock->now() + std::chrono::seconds(1));
+    loop->runDueTimer();
+    return view;
+}
+
 std::unique_ptr<QWidget> card(bool isWaiting) {
     auto view = makeView<CPUCardView>(SimulatedMachine::laptop()->processInfo());
     DashboardState state = stateWithCPU();
@@ -100,6 +146,53 @@ const std::vector<Subject>& subjects() {
         {"status_pill_paused", 0, [] { return pill(true); }},
         {"header_row", 1000, header},
         {"header_stacked", 700, header},
+        {"usage_bar", 240,
+         [] {
+             return makeView<UsageBarView>(QStringLiteral("use"),
+                                           UsageBar{0.4, VantorTheme::blue(), 7});
+         }},
+        {"speed_tile", 200,
+         [] { return makeView<SpeedTileView>(NetworkCard::of(everything()).downloadTile()); }},
+        {"labeled_sparkline", 240,
+         [] {
+             return makeView<LabeledSparklineView>(LabeledSparkline{QStringLiteral("Upload"),
+                                                                    QStringLiteral("64 KB/s"),
+                                                                    {1, 5, 2, 8, 3},
+                                                                    VantorTheme::orange()});
+         }},
+        {"empty_state", 400,
+         [] { return makeView<EmptyStateView>(ProcessExplorer::noMatch(QStringLiteral("zzz"))); }},
+        {"segmented_picker", 0,
+         [] {
+             return makeView<SegmentedPicker>(
+                 QStringLiteral("Sort"),
+                 QStringList{QStringLiteral("CPU"), QStringLiteral("Memory")}, nullptr);
+         }},
+        {"memory_card", 430,
+         [] {
+             return cardOf<MemoryCardView, MemoryCard>(std::cref(laptop().processInfo()),
+                                                       everything());
+         }},
+        {"network_card", 430, network},
+        {"gpu_card", 430,
+         [] { return cardOf<GPUCardView, GPUCard>(std::cref(laptop().words()), everything()); }},
+        {"gpu_card_empty", 430,
+         [] {
+             DashboardState state;
+             state.answered.gpus = true;
+             return cardOf<GPUCardView, GPUCard>(std::cref(laptop().words()), state);
+         }},
+        {"storage_card", 430,
+         [] {
+             return cardOf<StorageCardView, StorageCard>(std::cref(laptop().words()), everything());
+         }},
+        {"system_card", 430,
+         [] {
+             return cardOf<SystemCardView, SystemCard>(std::cref(laptop().processInfo()),
+                                                       everything());
+         }},
+        {"process_explorer", 700, [] { return explorer(""); }},
+        {"process_explorer_nothing_found", 700, [] { return explorer("zzz"); }},
         {"cpu_card", 430, [] { return card(false); }},
         {"cpu_card_waiting", 430, [] { return card(true); }},
     };

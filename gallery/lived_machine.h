@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+#include "ui/dashboard_world.h"
+
+namespace vantor {
+
+/// A simulated machine that is at work: load, traffic and processes go up and down by fixed curves,
+/// so that every run draws the same pictures.
+class LivedMachine {
+  public:
+    LivedMachine(QString name, std::shared_ptr<SimulatedMachine> machine,
+                 std::shared_ptr<WoundClock> clock);
+
+    const QString& name() const { return name_; }
+    const std::shared_ptr<SimulatedMachine>& machine() const { return machine_; }
+    const std::shared_ptr<WoundClock>& clock() const { return clock_; }
+
+    /// Half a second of its life, number `step`.
+    void live(int step);
+
+  private:
+    QString name_;
+    std::shared_ptr<SimulatedMachine> machine_;
+    std::shared_ptr<WoundClock> clock_;
+};
+
+/// The machines that there are pictures of.
+std::vector<LivedMachine> livedMachines();
+
+/// A dashboard on such a machine after `steps` of its life; 0 shows what waits for readings.
+class LivedDashboard {
+  public:
+    LivedDashboard(LivedMachine machine, ColorScheme scheme, int steps);
+
+    DashboardView& view() { return *world_.view; }
+
+    /// How high the view must be to show everything.
+    int wholeHeight(int width);
+
+  private:
+    LivedMachine machine_;
+    DashboardWorld world_;
+};
+
+}  // namespace vantor

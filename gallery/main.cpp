@@ -1,0 +1,66 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QScrollArea>
+#include <QStyleFactory>
+#include <QTabWidget>
+
+#include "ui/components/accessible_views.h"
+#include "ui/components/make_child.h"
+
+#include "gallery_view.h"
+#include "pictures.h"
+
+/// Shows every component and card in every state; or, with --pictures FOLDER, draws them and the
+/// dashboards of the simulated machines into files and ends.
+namespace {
+
+template <class Number>
+std::vector<Number> numbers(const QString& text) {
+    std::vector<Number> result;
+    for (const QString& part : text.split(u','))
+        result.push_back(static_cast<Number>(part.toDouble()));
+    return result;
+}
+
+int showGallery() {
+    QTabWidget window;
+    for (const auto scheme : {vantor::ColorScheme::dark, vantor::ColorScheme::light}) {
+        auto* area = vantor::makeChild<QScrollArea>(&window);
+        area->setWidgetResizable(true);
+        area->setWidget(vantor::makeChild<vantor::GalleryView>(area, scheme));
+        window.addTab(area, scheme == vantor::ColorScheme::dark ? QStringLiteral("Dark")
+                                                                : QStringLiteral("Light"));
+    }
+    window.setWindowTitle(QStringLiteral("Vantor's components"));
+    window.resize(1500, 900);
+    window.show();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("TZ", "UTC");
+    QLocale::setDefault(QLocale::c());
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QApplication application(argc, argv);
+    vantor::installViewAccessibility();
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    const QCommandLineOption pictures(QStringLiteral("pictures"),
+                                      QStringLiteral("Draw pictures into <folder> and end."),
+                                      QStringLiteral("folder"));
+    const QCommandLineOption widths(QStringLiteral("widths"),
+                                    QStringLiteral("Widths of the dashboards in points."),
+                                    QStringLiteral("list"), QStringLiteral("1280"));
+    const QCommandLineOption scales(QStringLiteral("scales"),
+                                    QStringLiteral("Device pixels per point."),
+                                    QStringLiteral("list"), QStringLiteral("1"));
+    parser.addOptions({pictures, widths, scales});
+    parser.process(application);
+    if (!parser.isSet(pictures)) return showGallery();
+    const bool isDone =
+        vantor::takePictures({parser.value(pictures), numbers<int>(parser.value(widths)),
+                              numbers<double>(parser.value(scales))});
+    return isDone ? 0 : 1;
+}

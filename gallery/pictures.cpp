@@ -1,0 +1,80 @@
+#include "pictures.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTextStream>
+
+#include <cmath>
+
+#include "gallery_view.h"
+#include "lived_machine.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int stepsOfLife = 90;
+constexpr int galleryWidth = 1480;
+
+QString nameOf(ColorScheme scheme) {
+    return scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light");
+}
+
+bool save(QWidget& widget, QSize size, double scale, const QString& file) {
+    widget.resize(size);
+    settleEvents();
+    QImage image(QSize(static_cast<int>(std::ceil(size.width() * scale)),
+                       static_cast<int>(std::ceil(size.height() * scale))),
+                 QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    QTextStream(stdout) << file << Qt::endl;
+    return image.save(file);
+}
+
+QString suffix(int width, double scale, const PictureOptions& options) {
+    QString text;
+    if (options.widths.size() > 1) text += QStringLiteral("-%1").arg(width);
+    if (options.scales.size() > 1) text += QStringLiteral("@%1x").arg(scale);
+    return text;
+}
+
+bool takeDashboard(const LivedMachine& machine, ColorScheme scheme, int steps, const QString& name,
+                   const PictureOptions& options) {
+    LivedDashboard dashboard(machine, scheme, steps);
+    bool isSaved = true;
+    for (const int width : options.widths) {
+        for (const double scale : options.scales) {
+            const QString file =
+                QStringLiteral("%1/dashboard-%2-%3%4.png")
+                    .arg(options.folder, name, nameOf(scheme), suffix(width, scale, options));
+            const QSize size(width, dashboard.wholeHeight(width));
+            isSaved = save(dashboard.view(), size, scale, file) && isSaved;
+        }
+    }
+    return isSaved;
+}
+
+}  // namespace
+
+bool takePictures(const PictureOptions& options) {
+    if (!QDir().mkpath(options.folder)) return false;
+    bool isSaved = true;
+    for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
+        QApplication::setPalette(paletteOf(scheme));
+        GalleryView gallery(scheme);
+        const QSize size(galleryWidth, gallery.heightForWidth(galleryWidth));
+        const QString file =
+            QStringLiteral("%1/gallery-%2.png").arg(options.folder, nameOf(scheme));
+        isSaved = save(gallery, size, 1, file) && isSaved;
+        for (const LivedMachine& machine : livedMachines())
+            isSaved =
+                takeDashboard(machine, scheme, stepsOfLife, machine.name(), options) && isSaved;
+        isSaved =
+            takeDashboard(livedMachines().front(), scheme, 0, QStringLiteral("waiting"), options) &&
+            isSaved;
+    }
+    return isSaved;
+}
+
+}  // namespace vantor

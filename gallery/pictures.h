@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace vantor {
+
+/// Which pictures of the whole dashboard are taken.
+struct PictureOptions {
+    QString folder;
+    std::vector<int> widths{1280};
+    std::vector<double> scales{1};
+};
+
+/// Draws the gallery and each simulated machine's dashboard, dark and light, into PNG files. False
+/// when one could not be written.
+bool takePictures(const PictureOptions& options);
+
+}  // namespace vantor
