@@ -29,7 +29,8 @@ bool save(QWidget& widget, QSize size, double scale, const QString& file) {
     image.setDevicePixelRatio(scale);
     widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     QTextStream(stdout) << file << Qt::endl;
-    return image.save(file);
+    constexpr int smallest = 0;  // of the format's qualities: they all hold the same picture
+    return image.save(file, "PNG", smallest);
 }
 
 QString suffix(int width, double scale, const PictureOptions& options) {
