@@ -52,13 +52,14 @@ std::map<std::string, fs::path> monitorsOf(const RecordedTree& tree) {
     return monitors;
 }
 
-/// Gives each monitor the number of another one, as the next boot may.
+/// Gives each monitor the number of another one, or of none, as the next boot may.
 void renumberMonitors(const RecordedTree& tree) {
     const auto monitors = monitorsOf(tree);
     std::vector<std::string> names;
     for (const auto& [name, folder] : monitors)
         names.push_back(name);
-    std::rotate(names.begin(), names.begin() + (names.empty() ? 0 : 1), names.end());
+    // The first one's is new, for a single monitor would keep its own otherwise.
+    names.insert(names.begin(), "hwmon19");
     const fs::path list = tree.roots().sys / "class/hwmon";
     std::set<std::string> listed;
     for (const auto& [name, folder] : monitors) {
