@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <future>
 #include <memory>
@@ -91,19 +92,29 @@ struct EndRow : NamedRow {
 
 class ProgramsEnd : public testing::TestWithParam<EndRow> {};
 
-TEST_P(ProgramsEnd, IsCleanAndWaitsForNobody) {
-    Program program(GetParam().path);
-    ASSERT_TRUE(program.hasStarted());
+/// How long the program took from the end of its main to its own; the longest time there is when it
+/// went wrong.
+Clock::duration timeToEnd(const char* path) {
+    Program program(path);
+    EXPECT_TRUE(program.hasStarted());
     const std::string output = program.readToEnd(20s);
     const auto ended = Clock::now();
-    ASSERT_FALSE(output.empty()) << "it never came to its end";
+    EXPECT_FALSE(output.empty()) << "it never came to its end";
+    const int status = program.wait();
+    EXPECT_TRUE(WIFEXITED(status)) << "it was killed by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    if (output.empty()) return Clock::duration::max();
     // The program writes the time at which its main returned, on the clock that all processes
     // share.
-    const Clock::time_point returned{std::chrono::nanoseconds{std::stoll(output)}};
-    EXPECT_LT(ended - returned, 1s);
-    const int status = program.wait();
-    ASSERT_TRUE(WIFEXITED(status)) << "it was killed by signal " << WTERMSIG(status);
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    return ended - Clock::time_point{std::chrono::nanoseconds{std::stoll(output)}};
+}
+
+TEST_P(ProgramsEnd, IsCleanAndWaitsForNobody) {
+    // Waiting for somebody takes long each time, a busy machine only now and then.
+    auto shortest = Clock::duration::max();
+    for (int attempt = 0; attempt < 3 && shortest >= 1s && !HasFailure(); ++attempt)
+        shortest = std::min(shortest, timeToEnd(GetParam().path));
+    EXPECT_LT(shortest, 1s);
 }
 
 INSTANTIATE_TEST_SUITE_P(WithAProbeThat, ProgramsEnd,

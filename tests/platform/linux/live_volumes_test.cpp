@@ -69,6 +69,10 @@ TEST(LiveVolumes, HaveTheFiguresOfDF) {
     const auto list = StorageReader(makeNativeMachine()).read();
     const auto after = askDF("--local");
     if (before.empty()) GTEST_SKIP() << "there is no df here that says sizes and targets";
+    const bool hasDisks = std::any_of(before.begin(), before.end(), [](const auto& row) {
+        return row.second.source.starts_with("/dev/");
+    });
+    if (!hasDisks) GTEST_SKIP() << "no disk is mounted within this root folder";
     ASSERT_TRUE(list);
     int compared = 0;
     for (const VolumeStats& volume : *list) {
