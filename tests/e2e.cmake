@@ -1,9 +1,16 @@
+find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
+
 # The program itself, in a real X server with a window manager.
 add_executable(vantor_e2e_tests
-    e2e/desktop.cpp e2e/main.cpp e2e/program_test.cpp e2e/small_screen_test.cpp)
+    e2e/assistive_client.cpp
+    e2e/assistive_test.cpp
+    e2e/desktop.cpp
+    e2e/main.cpp
+    e2e/program_test.cpp
+    e2e/small_screen_test.cpp)
 target_include_directories(vantor_e2e_tests PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(vantor_e2e_tests PRIVATE
     VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_PROGRAM="$<TARGET_FILE:vantor>")
-target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui vantor_warnings GTest::gtest)
+target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui vantor_warnings Qt6::DBus GTest::gmock GTest::gtest)
 add_dependencies(vantor_e2e_tests vantor)
 gtest_discover_tests(vantor_e2e_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS e2e)

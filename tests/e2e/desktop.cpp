@@ -88,8 +88,22 @@ bool Desktop::startWindowManager() {
     return managing;
 }
 
+QString Desktop::startSessionBus() {
+    sessionBus_.setProcessEnvironment(environment_);
+    sessionBus_.setStandardErrorFile(QProcess::nullDevice());
+    sessionBus_.start(QStringLiteral("dbus-daemon"),
+                      {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                       QStringLiteral("--print-address=1")});
+    if (!sessionBus_.waitForReadyRead(toolPatience)) return {};
+    const QString address = QString::fromLatin1(sessionBus_.readLine()).trimmed();
+    environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address);
+    environment_.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
+    return address;
+}
+
 Desktop::~Desktop() {
-    for (QProcess* process : {&windowManager_, &server_}) {
+    for (QProcess* process : {&sessionBus_, &windowManager_, &server_}) {
+        if (process->state() == QProcess::NotRunning) continue;
         process->terminate();
         if (!process->waitForFinished(3000)) process->kill();
         process->waitForFinished(3000);

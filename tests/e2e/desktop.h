@@ -23,6 +23,10 @@ class Desktop {
     bool isUp() const { return isUp_; }
     const QProcessEnvironment& environment() const { return environment_; }
 
+    /// Gives the desktop a session bus of its own, with assistive technology switched on for every
+    /// program that is started from then on; its address, empty when it did not start.
+    QString startSessionBus();
+
     /// The user's settings file on this desktop.
     QString settingsFile() const;
 
@@ -42,6 +46,7 @@ class Desktop {
     QProcessEnvironment environment_;
     QProcess server_;
     QProcess windowManager_;
+    QProcess sessionBus_;
     bool isUp_ = false;
 };
 

@@ -269,6 +269,9 @@ TEST(ProcessColumns, HaveTheirWidthsAndScaleWithTheFont) {
     const auto large = ProcessColumns::make(1200, 24, 1.5);
     EXPECT_EQ(large.pid.width(), 96);
     EXPECT_GE(ProcessColumns::make(100, 16, 1).name.width(), 0) << "no room at all";
+    const auto tight = ProcessColumns::make(620, 24, 1.5);
+    EXPECT_EQ(tight.cpuBar.width(), 0) << "rather no bars than no names";
+    EXPECT_GT(tight.name.width(), 150);
 }
 
 }  // namespace

@@ -111,6 +111,7 @@ TEST(SegmentedPicker, ItsChoicesAreRadioButtonsUnderItsName) {
     QAccessibleInterface* choice = QAccessible::queryAccessibleInterface(&picker.button(0));
     ASSERT_NE(choice, nullptr);
     EXPECT_EQ(utf8(choice->text(QAccessible::Name)), "CPU");
+    EXPECT_EQ(choice->role(), QAccessible::RadioButton);
     EXPECT_TRUE(choice->state().checked);
 }
 

@@ -34,6 +34,7 @@ class VolumeView : public PaintedView {
     QAccessible::Role accessibleRole() const override { return QAccessible::ProgressBar; }
     QString accessibleLabel() const override { return block_.name; }
     QString accessibleValueText() const override;
+    std::optional<double> accessibleFraction() const override { return block_.usedFraction; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -53,7 +53,7 @@ class AccessibleRow : public QAccessibleInterface {
     int row_;
 };
 
-class AccessiblePaintedView : public QAccessibleWidget {
+class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueInterface {
   public:
     explicit AccessiblePaintedView(PaintedView& view)
         : QAccessibleWidget(&view, view.accessibleRole()), view_(view) {}
@@ -71,11 +71,24 @@ class AccessiblePaintedView : public QAccessibleWidget {
             case QAccessible::Value:
                 return view_.accessibleValueText();
             case QAccessible::Description:
-                return view_.toolTip();
+                return description();
             default:
                 return QAccessibleWidget::text(kind);
         }
     }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface && view_.accessibleFraction()) {
+            return static_cast<QAccessibleValueInterface*>(this);
+        }
+        return QAccessibleWidget::interface_cast(type);
+    }
+    QVariant currentValue() const override { return view_.accessibleFraction().value_or(0); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return 1.0; }
+    QVariant minimumValue() const override { return 0.0; }
+    QVariant minimumStepSize() const override { return 0.01; }
+
     int childCount() const override { return view_.accessibleRowCount(); }
     QAccessibleInterface* child(int row) const override {
         if (row < 0 || row >= childCount()) return nullptr;
@@ -107,6 +120,17 @@ class AccessiblePaintedView : public QAccessibleWidget {
     }
 
   private:
+    /// The value comes first: some desktops' assistive technology is told of names and descriptions
+    /// alone.
+    QString description() const {
+        const QString value = view_.accessibleValueText();
+        const QString help = view_.toolTip();
+        if (value.isEmpty() || help.isEmpty() || value == help) {
+            return value.isEmpty() ? help : value;
+        }
+        return value + QStringLiteral(", ") + help;
+    }
+
     PaintedView& view_;
     mutable std::vector<QAccessible::Id> rows_;  // made when somebody asks
 };

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+
 namespace vantor {
 
 /// A widget that paints itself and tells assistive technology what it shows: a role, a label and a
@@ -16,6 +18,9 @@ class PaintedView : public QWidget {
     virtual QAccessible::Role accessibleRole() const { return QAccessible::StaticText; }
     virtual QString accessibleLabel() const = 0;
     virtual QString accessibleValueText() const { return {}; }
+
+    /// Where it shows a share of a whole: that share, 0 to 1.
+    virtual std::optional<double> accessibleFraction() const { return std::nullopt; }
 
     virtual int accessibleRowCount() const { return 0; }
     virtual QString accessibleRowLabel(int) const { return {}; }

@@ -37,6 +37,11 @@ void RingGaugeView::show(const RingGauge& gauge) {
     announceValue();
 }
 
+std::optional<double> RingGaugeView::accessibleFraction() const {
+    if (!(gauge_.value >= 0)) return std::nullopt;
+    return std::min(gauge_.value, 1.0);
+}
+
 QSize RingGaugeView::sizeHint() const {
     const int side = Typography::scaled(frame);
     return {side, side};

@@ -39,6 +39,7 @@ class RingGaugeView : public PaintedView {
     QAccessible::Role accessibleRole() const override { return QAccessible::ProgressBar; }
     QString accessibleLabel() const override { return gauge_.detail; }
     QString accessibleValueText() const override { return gauge_.title; }
+    std::optional<double> accessibleFraction() const override;
     QSize sizeHint() const override;
 
   protected:

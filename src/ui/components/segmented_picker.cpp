@@ -35,6 +35,7 @@ QFont titleFont() {
 SegmentButton::SegmentButton(const QString& title, QWidget* parent) : QAbstractButton(parent) {
     setText(title);
     setCheckable(true);
+    setAutoExclusive(true);  // what makes it a radio button for assistive technology
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);

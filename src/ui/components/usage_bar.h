@@ -43,6 +43,9 @@ class UsageBarView : public PaintedView {
     QAccessible::Role accessibleRole() const override { return QAccessible::ProgressBar; }
     QString accessibleLabel() const override { return label_; }
     QString accessibleValueText() const override;
+    std::optional<double> accessibleFraction() const override {
+        return UsageBarGeometry::make({0, 0, 1, 1}, bar_.value).fill.width();
+    }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

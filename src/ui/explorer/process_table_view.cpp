@@ -35,6 +35,7 @@ constexpr double cpuBarWidth = 48;
 constexpr double memoryBarWidth = 72;
 constexpr double barGap = 8;
 constexpr double barHeight = 5;
+constexpr double narrowestName = 110;
 constexpr double currentOpacity = 0.08;
 constexpr double currentCorner = 6;
 constexpr double focusWidth = 2;
@@ -54,19 +55,23 @@ double visibleShare(double share, double barWidth) {
 
 }  // namespace
 
+/// Where a large font leaves no room for names, the bars give way: the figures say the same.
 ProcessColumns ProcessColumns::make(double width, double height, double scale) {
+    const double figures = 2 * sideInset + iconGap + 3 * columnGap +
+                           (iconWidth + pidWidth + cpuWidth + memoryWidth) * scale;
+    const bool hasBars = width - figures >= narrowestName * scale;
     double right = width - sideInset;
     const auto take = [&](double length) {
         right -= length * scale;
         return QRectF(right, 0, length * scale, height);
     };
     ProcessColumns columns;
-    columns.memoryBar = take(memoryBarWidth);
-    right -= barGap;
+    columns.memoryBar = take(hasBars ? memoryBarWidth : 0);
+    right -= hasBars ? barGap : 0;
     columns.memoryText = take(memoryWidth - memoryBarWidth - barGap);
     right -= columnGap;
-    columns.cpuBar = take(cpuBarWidth);
-    right -= barGap;
+    columns.cpuBar = take(hasBars ? cpuBarWidth : 0);
+    right -= hasBars ? barGap : 0;
     columns.cpuText = take(cpuWidth - cpuBarWidth - barGap);
     right -= columnGap;
     columns.pid = take(pidWidth);
@@ -324,6 +329,7 @@ void ProcessTableView::paintRow(QPainter& painter, std::size_t index) const {
     Typography::drawDigitText(painter, at(columns.memoryText), trailing, row.memoryText);
     vantorSecondaryForeground(painter, scheme);
     Typography::drawDigitText(painter, at(columns.pid), trailing, QString::number(row.pid));
+    if (columns.cpuBar.width() <= 0) return;
     paintUsageBar(painter, at(columns.cpuBar), {row.cpuShare, VantorTheme::cyan(), barHeight},
                   scheme);
     paintUsageBar(painter, at(columns.memoryBar), {row.memoryShare, VantorTheme::pink(), barHeight},

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace vantor {
+
+/// Something that a screen reader can speak of.
+struct AccessibleElement {
+    QString service;
+    QDBusObjectPath path;
+    QString role;
+    QString name;
+    QString description;
+};
+
+/// What a screen reader is: a client of the desktop's accessibility bus.
+class AssistiveClient {
+  public:
+    /// Asks the session bus at that address for the accessibility bus.
+    explicit AssistiveClient(const QString& sessionBus);
+    AssistiveClient(const AssistiveClient&) = delete;
+    AssistiveClient& operator=(const AssistiveClient&) = delete;
+    ~AssistiveClient();
+
+    bool isConnected() const { return bus_.has_value(); }
+
+    /// Every element of the program of that name, outermost first; none when it is not there.
+    std::vector<AccessibleElement> walk(const QString& program) const;
+
+  private:
+    std::vector<AccessibleElement> childrenOf(const AccessibleElement& element) const;
+    QString property(const AccessibleElement& element, const char* name) const;
+    void collect(const AccessibleElement& element, std::vector<AccessibleElement>& all) const;
+
+    std::optional<QDBusConnection> bus_;
+};
+
+}  // namespace vantor
