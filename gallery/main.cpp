@@ -56,8 +56,14 @@ int main(int argc, char** argv) {
     const QCommandLineOption scales(QStringLiteral("scales"),
                                     QStringLiteral("Device pixels per point."),
                                     QStringLiteral("list"), QStringLiteral("1"));
-    parser.addOptions({pictures, widths, scales});
+    const QCommandLineOption fontScale(QStringLiteral("font-scale"),
+                                       QStringLiteral("How much larger the system's font is."),
+                                       QStringLiteral("factor"), QStringLiteral("1"));
+    parser.addOptions({pictures, widths, scales, fontScale});
     parser.process(application);
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * parser.value(fontScale).toDouble());
+    QApplication::setFont(font);
     if (!parser.isSet(pictures)) return showGallery();
     const bool isDone =
         vantor::takePictures({parser.value(pictures), numbers<int>(parser.value(widths)),

@@ -47,7 +47,9 @@ bool ProcessSearch::matches(const ProcessStats& process) const {
 bool ProcessSearch::isIn(std::string_view text) const {
     // Nearly all names are plain, and there may be thousands at each refresh.
     if (!plain_.empty() && isPlain(text)) {
-        return !std::ranges::search(text, plain_, {}, lowered).empty();
+        const auto found = std::search(text.begin(), text.end(), plain_.begin(), plain_.end(),
+                                       [](char a, char b) { return lowered(a) == b; });
+        return found != text.end();
     }
     const QString whole = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     return folded(whole, locale_).contains(folded_);
