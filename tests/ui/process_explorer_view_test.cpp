@@ -12,6 +12,7 @@
 #include "platform/simulated/manual_main_loop.h"
 #include "platform/simulated/simulated_machine.h"
 #include "ui/cpu_samples.h"
+#include "ui/explorer/process_columns.h"
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 

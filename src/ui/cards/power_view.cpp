@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/components/card_chrome.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
-#include "ui/pixels.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -18,8 +18,6 @@ namespace vantor {
 namespace {
 
 constexpr double padding = 10;
-constexpr double corner = 12;
-constexpr double groundOpacity = 0.045;
 constexpr double symbolSide = 20;
 constexpr double symbolGap = 9;
 constexpr double low = 0.2;
@@ -101,10 +99,7 @@ void PowerView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const ColorScheme scheme = colorScheme(*this);
-    QPainterPath ground;
-    ground.addRoundedRect(Pixels::snapped(painter, rect()), corner, corner);
-    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), groundOpacity),
-                     ground);
+    CardChrome::paintTile(painter, rect(), scheme);
     const double symbol = symbolSide * Typography::lengthScale();
     Symbols::draw(painter, {padding, (height() - symbol) / 2, symbol, symbol}, block_.symbol,
                   block_.color);

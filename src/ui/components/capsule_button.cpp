@@ -23,7 +23,6 @@ constexpr double groundOpacity = 0.07;
 constexpr double hoverOpacity = 0.12;
 constexpr double pressedOpacity = 0.18;
 constexpr double disabledOpacity = 0.38;
-constexpr double focusWidth = 2;
 
 QFont labelFont() {
     return Typography::font(Typography::caption, QFont::DemiBold);
@@ -83,20 +82,12 @@ void CapsuleButtonView::leaveEvent(QEvent* event) {
 }
 
 void CapsuleButtonView::focusInEvent(QFocusEvent* event) {
-    // The ring is for those who come by key. A mouse user knows where the pointer is, and a window
-    // that becomes active again shows what it showed before.
-    const auto reason = event->reason();
-    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-        reason == Qt::ShortcutFocusReason) {
-        showsFocus_ = true;
-    } else if (reason == Qt::MouseFocusReason) {
-        showsFocus_ = false;
-    }
+    ring_.focusIn(*event);
     QAbstractButton::focusInEvent(event);
 }
 
 void CapsuleButtonView::keyPressEvent(QKeyEvent* event) {
-    showsFocus_ = true;
+    ring_.keyPressed();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (!event->isAutoRepeat()) click();
         return;
@@ -125,12 +116,9 @@ void CapsuleButtonView::paintGround(QPainter& painter) const {
     capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
     vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), opacity),
                      capsule);
-    if (!hasFocus() || !showsFocus_) return;
-    const double inset = focusWidth / 2;
-    const QRectF ring = area.adjusted(inset, inset, -inset, -inset);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
+    if (hasFocus() && ring_.isShown()) {
+        FocusRing::paint(painter, area, area.height() / 2, palette());
+    }
 }
 
 void CapsuleButtonView::paintLabel(QPainter& painter) const {

@@ -5,6 +5,8 @@
 
 #include <functional>
 
+#include "ui/components/focus_ring.h"
+
 namespace vantor {
 
 /// A text with a symbol on a capsule, and what happens when it is pressed.
@@ -47,7 +49,7 @@ class CapsuleButtonView : public QAbstractButton {
 
     QString systemImage_;
     QString widestTitle_;
-    bool showsFocus_ = false;
+    FocusRing ring_;
 };
 
 }  // namespace vantor

@@ -23,4 +23,12 @@ void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QCol
     painter.restore();
 }
 
+void paintTile(QPainter& painter, const QRectF& area, ColorScheme scheme) {
+    constexpr double corner = 12;
+    constexpr double opacity = 0.045;
+    QPainterPath tile;
+    tile.addRoundedRect(Pixels::snapped(painter, area), corner, corner);
+    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), opacity), tile);
+}
+
 }  // namespace vantor::CardChrome

@@ -13,4 +13,7 @@ inline constexpr double cornerRadius = 22;
 /// inside its edge.
 void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QColor& border);
 
+/// Fills `area` as the faint tile that sets figures apart within a card.
+void paintTile(QPainter& painter, const QRectF& area, ColorScheme scheme);
+
 }  // namespace vantor::CardChrome

@@ -24,7 +24,6 @@ constexpr int labelGap = 8;
 constexpr double trackOpacity = 0.07;
 constexpr double chosenOpacity = 0.16;
 constexpr double hoverOpacity = 0.06;
-constexpr double focusWidth = 2;
 
 QFont titleFont() {
     return Typography::font(Typography::caption, QFont::DemiBold);
@@ -48,17 +47,12 @@ QSize SegmentButton::sizeHint() const {
 }
 
 void SegmentButton::focusInEvent(QFocusEvent* event) {
-    const auto reason = event->reason();
-    if (reason == Qt::MouseFocusReason) {
-        showsFocus_ = false;
-    } else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
-        showsFocus_ = true;
-    }
+    ring_.focusIn(*event);
     QAbstractButton::focusInEvent(event);
 }
 
 void SegmentButton::keyPressEvent(QKeyEvent* event) {
-    showsFocus_ = true;
+    ring_.keyPressed();
     QAbstractButton::keyPressEvent(event);
 }
 
@@ -85,12 +79,7 @@ void SegmentButton::paintEvent(QPaintEvent*) {
         vantorBackground(
             painter, VantorTheme::faded(label, isChecked() ? chosenOpacity : hoverOpacity), shape);
     }
-    if (hasFocus() && showsFocus_) {
-        constexpr double inset = focusWidth / 2;
-        painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
-        painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), radius - inset,
-                                radius - inset);
-    }
+    if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, area, radius, palette());
     painter.setFont(titleFont());
     vantorForeground(painter, isChecked() ? label : VantorTheme::secondaryLabel(scheme));
     Typography::drawLine(painter, area, Qt::AlignHCenter | Qt::AlignVCenter, text());

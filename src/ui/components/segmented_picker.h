@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+#include "ui/components/focus_ring.h"
+
 namespace vantor {
 
 /// One of a picker's choices.
@@ -26,7 +28,7 @@ class SegmentButton : public QAbstractButton {
     void leaveEvent(QEvent* event) override;
 
   private:
-    bool showsFocus_ = false;
+    FocusRing ring_;
 };
 
 /// A label, and a few choices of which one holds. The arrow keys change it.

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/components/card_chrome.h"
 #include "ui/components/symbol_tile.h"
-#include "ui/pixels.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -17,8 +17,6 @@ namespace {
 constexpr double padding = 10;
 constexpr double spacing = 9;
 constexpr double textSpacing = 1;
-constexpr double corner = 12;
-constexpr double groundOpacity = 0.045;
 constexpr SymbolTile::Shape iconShape{.side = 26, .corner = 8, .symbol = 15};
 
 QFont titleFont() {
@@ -62,10 +60,7 @@ void SpeedTileView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const ColorScheme scheme = colorScheme(*this);
-    QPainterPath ground;
-    ground.addRoundedRect(Pixels::snapped(painter, rect()), corner, corner);
-    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), groundOpacity),
-                     ground);
+    CardChrome::paintTile(painter, rect(), scheme);
 
     const double side = Typography::scaled(iconShape.side);
     SymbolTile::paint(painter, {padding, (height() - side) / 2, side, side}, iconShape, tile_.icon,

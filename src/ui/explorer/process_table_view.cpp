@@ -14,6 +14,7 @@
 
 #include "ui/components/tool_tip_text.h"
 #include "ui/components/usage_bar.h"
+#include "ui/explorer/process_columns.h"
 #include "ui/pixels.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -24,21 +25,9 @@ namespace vantor {
 namespace {
 
 constexpr double rowSpacing = 8;
-constexpr double sideInset = 8;  // what the ground of the chosen row stands out beyond its texts
-constexpr double columnGap = 12;
-constexpr double iconWidth = 18;
-constexpr double iconGap = 8;
-constexpr double pidWidth = 64;
-constexpr double cpuWidth = 120;
-constexpr double memoryWidth = 140;
-constexpr double cpuBarWidth = 48;
-constexpr double memoryBarWidth = 72;
-constexpr double barGap = 8;
 constexpr double barHeight = 5;
-constexpr double narrowestName = 110;
 constexpr double currentOpacity = 0.08;
 constexpr double currentCorner = 6;
-constexpr double focusWidth = 2;
 
 QFont nameFont() {
     return Typography::font(Typography::caption);
@@ -55,33 +44,6 @@ double visibleShare(double share, double barWidth) {
 
 }  // namespace
 
-/// Where a large font leaves no room for names, the bars give way: the figures say the same.
-ProcessColumns ProcessColumns::make(double width, double height, double scale) {
-    const double figures = 2 * sideInset + iconGap + 3 * columnGap +
-                           (iconWidth + pidWidth + cpuWidth + memoryWidth) * scale;
-    const bool hasBars = width - figures >= narrowestName * scale;
-    double right = width - sideInset;
-    const auto take = [&](double length) {
-        right -= length * scale;
-        return QRectF(right, 0, length * scale, height);
-    };
-    ProcessColumns columns;
-    columns.memoryBar = take(hasBars ? memoryBarWidth : 0);
-    right -= hasBars ? barGap : 0;
-    columns.memoryText = take(memoryWidth - memoryBarWidth - barGap);
-    right -= columnGap;
-    columns.cpuBar = take(hasBars ? cpuBarWidth : 0);
-    right -= hasBars ? barGap : 0;
-    columns.cpuText = take(cpuWidth - cpuBarWidth - barGap);
-    right -= columnGap;
-    columns.pid = take(pidWidth);
-    right -= columnGap;
-    columns.icon = QRectF(sideInset, 0, iconWidth * scale, height);
-    const double left = columns.icon.right() + iconGap;
-    columns.name = QRectF(left, 0, std::max(0.0, right - left), height);
-    return columns;
-}
-
 ProcessTableView::ProcessTableView(QString symbol, QWidget* parent)
     : PaintedView(parent), symbol_(std::move(symbol)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -94,8 +56,8 @@ ProcessTableView::Row ProcessTableView::makeRow(const ProcessRow& row) {
             QString::fromStdString(row.process.command),
             row.cpuText(),
             row.memoryText(),
-            visibleShare(row.cpuShare(), cpuBarWidth),
-            visibleShare(row.memoryShare(), memoryBarWidth)};
+            visibleShare(row.cpuShare(), ProcessColumns::cpuBarWidth),
+            visibleShare(row.memoryShare(), ProcessColumns::memoryBarWidth)};
 }
 
 void ProcessTableView::show(std::span<const ProcessRow> rows) {
@@ -197,7 +159,7 @@ bool ProcessTableView::isAccessibleRowChosen(int row) const {
 }
 
 void ProcessTableView::mousePressEvent(QMouseEvent* event) {
-    showsFocus_ = false;
+    ring_.mousePressed();
     if (event->button() == Qt::LeftButton) setCurrentRow(rowAt(event->position()));
     PaintedView::mousePressEvent(event);
 }
@@ -209,7 +171,7 @@ void ProcessTableView::keyPressEvent(QKeyEvent* event) {
     }
     const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
     if (isPlain && moveBy(static_cast<Qt::Key>(event->key()))) {
-        showsFocus_ = true;
+        ring_.keyPressed();
         update();
         return;
     }
@@ -242,13 +204,8 @@ bool ProcessTableView::moveBy(Qt::Key key) {
 }
 
 void ProcessTableView::focusInEvent(QFocusEvent* event) {
-    const auto reason = event->reason();
-    const bool isByKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                         reason == Qt::ShortcutFocusReason;
-    if (isByKey) {
-        showsFocus_ = true;
-        if (!currentRow()) setCurrentRow(0);
-    }
+    ring_.focusIn(*event);
+    if (ring_.isShown() && !currentRow()) setCurrentRow(0);
     PaintedView::focusInEvent(event);
     update();
 }
@@ -300,12 +257,7 @@ void ProcessTableView::paintCurrent(QPainter& painter, const QRectF& area) const
     shape.addRoundedRect(ground, currentCorner, currentCorner);
     vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), currentOpacity),
                      shape);
-    if (!hasFocus() || !showsFocus_) return;
-    constexpr double inset = focusWidth / 2;
-    painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(ground.adjusted(inset, inset, -inset, -inset), currentCorner - inset,
-                            currentCorner - inset);
+    if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, ground, currentCorner, palette());
 }
 
 void ProcessTableView::paintRow(QPainter& painter, std::size_t index) const {

@@ -7,25 +7,11 @@
 #include <span>
 #include <vector>
 
+#include "ui/components/focus_ring.h"
 #include "ui/components/painted_view.h"
 #include "ui/explorer/process_explorer.h"
 
 namespace vantor {
-
-/// Where the columns of the table lie. The figures stand at the trailing edge of their column's
-/// text part, so that their digits stand below each other.
-struct ProcessColumns {
-    QRectF icon;
-    QRectF name;
-    QRectF pid;
-    QRectF cpuText;
-    QRectF cpuBar;
-    QRectF memoryText;
-    QRectF memoryBar;
-
-    /// For a row of that size; `scale` is what lengths that hold text are multiplied with.
-    static ProcessColumns make(double width, double height, double scale);
-};
 
 /// Draws the column header and one row for each visible process, with room for as many as there
 /// can be, so that nothing below it moves. One row can be chosen, and stays the same process
@@ -88,7 +74,7 @@ class ProcessTableView : public PaintedView {
     QString symbol_;
     std::vector<Row> rows_;
     std::optional<std::int32_t> currentPID_;
-    bool showsFocus_ = false;
+    FocusRing ring_;
 };
 
 }  // namespace vantor
