@@ -18,6 +18,21 @@ class SharedText {
     SharedText(const char* text)  // NOLINT(google-explicit-constructor)
         : SharedText(std::string(text)) {}
 
+    /// Two texts that are kept beside each other: who uses one uses the other.
+    static std::pair<SharedText, SharedText> pair(std::string first, std::string second) {
+        struct Both {
+            std::string first;
+            std::string second;
+        };
+        const auto both = std::make_shared<const Both>(Both{std::move(first), std::move(second)});
+        const auto part = [&](const std::string& text) {
+            SharedText shared;
+            if (!text.empty()) shared.text_ = std::shared_ptr<const std::string>(both, &text);
+            return shared;
+        };
+        return {part(both->first), part(both->second)};
+    }
+
     const std::string& string() const { return text_ ? *text_ : emptyString(); }
     operator const std::string&() const { return string(); }  // NOLINT(google-explicit-constructor)
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <span>
+#include <tuple>
 
 #include "probes/utf8.h"
 
@@ -16,8 +17,15 @@ std::string_view written(std::span<const char> buffer, int count) {
     return bytes.substr(0, bytes.find('\0'));
 }
 
-void assign(SharedText& text, std::string_view value) {
-    if (text.string() != value) text = std::string(value);
+/// Keeps the texts that are there when they say the same.
+void assign(ProcessMetadata& metadata, std::string_view name, std::string_view command) {
+    if (metadata.name.string() == name && metadata.command.string() == command) return;
+    if (name == command) {
+        metadata.name = metadata.command = std::string(name);
+        return;
+    }
+    std::tie(metadata.name, metadata.command) =
+        SharedText::pair(std::string(name), std::string(command));
 }
 
 }  // namespace
@@ -41,18 +49,13 @@ std::string_view ProcessNames::kernelName(std::int32_t pid) {
 void ProcessNames::lookUp(std::int32_t pid, ProcessMetadata& metadata) {
     const std::string_view path = this->path(pid);
     if (const std::string_view name = lastPathComponent(path); !name.empty()) {
-        assign(metadata.name, name);
-        assign(metadata.command, path);
+        assign(metadata, name, path);
         return;
     }
     const std::string command(path);  // the name's lookup reuses the buffer of mended text
-    const std::string_view name = kernelName(pid);
-    assign(metadata.name, name.empty() ? "PID " + std::to_string(pid) : std::string(name));
-    if (command.empty()) {
-        metadata.command = metadata.name;
-    } else {
-        assign(metadata.command, command);
-    }
+    const std::string_view read = kernelName(pid);
+    const std::string name = read.empty() ? "PID " + std::to_string(pid) : std::string(read);
+    assign(metadata, name, command.empty() ? name : command);
 }
 
 }  // namespace vantor

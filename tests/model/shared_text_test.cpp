@@ -12,6 +12,17 @@
 namespace vantor {
 namespace {
 
+TEST(SharedText, APairLivesAsLongAsEitherOfItsTexts) {
+    auto [name, command] = SharedText::pair("tool", "/usr/bin/tool");
+    EXPECT_EQ(name.string(), "tool");
+    EXPECT_EQ(command.string(), "/usr/bin/tool");
+    name = SharedText();
+    EXPECT_EQ(command.string(), "/usr/bin/tool");
+    const auto [empty, other] = SharedText::pair("", "text");
+    EXPECT_TRUE(empty.isSame(SharedText())) << "no empty text costs anything";
+    EXPECT_EQ(other.string(), "text");
+}
+
 TEST(SharedText, IsEmptyAtFirst) {
     const SharedText text;
     EXPECT_EQ(text.string(), "");

@@ -138,7 +138,7 @@ TEST_F(ProcessNamesTest, UnchangedTextsKeepTheirObjects) {
     EXPECT_TRUE(metadata.command.isSame(before.command));
     process.path = "/usr/local/bin/tool";
     lookUp();
-    EXPECT_TRUE(metadata.name.isSame(before.name));
+    EXPECT_EQ(metadata.name.string(), before.name.string());
     EXPECT_EQ(metadata.command.string(), "/usr/local/bin/tool");
 }
 

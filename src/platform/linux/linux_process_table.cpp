@@ -84,6 +84,13 @@ bool LinuxProcessTable::refreshListing() {
 
 /// Both lists ascend, so one walk along both finds who came and who went.
 void LinuxProcessTable::adoptListing() {
+    cursor_ = 0;
+    // Nearly always nobody came or went.
+    const auto pids = census_.pids();
+    const auto isSame = [](const Known& known, std::int32_t pid) {
+        return known.pid == pid && !known.isGone;
+    };
+    if (std::equal(known_.begin(), known_.end(), pids.begin(), pids.end(), isSame)) return;
     nextKnown_.clear();
     nextKnown_.reserve(census_.pids().size());
     auto old = known_.begin();
@@ -98,7 +105,6 @@ void LinuxProcessTable::adoptListing() {
         }
     }
     known_.swap(nextKnown_);
-    cursor_ = 0;
 }
 
 int LinuxProcessTable::listAllPIDs(std::span<std::int32_t> buffer) {

@@ -1,5 +1,8 @@
 #include "platform/linux/process_clocks.h"
 
+#include <sys/syscall.h>
+#include <unistd.h>
+
 #include <chrono>
 #include <ctime>
 
@@ -20,7 +23,8 @@ class LiveProcessClocks : public ProcessClocks {
   public:
     std::optional<std::uint64_t> read(std::int32_t pid) override {
         struct timespec time = {};
-        if (::clock_gettime(clockOf(pid), &time) != 0) return std::nullopt;
+        // The library would first look whether it can answer without the kernel, which it cannot.
+        if (::syscall(SYS_clock_gettime, clockOf(pid), &time) != 0) return std::nullopt;
         return static_cast<std::uint64_t>(time.tv_sec) * nanosecondsPerSecond +
                static_cast<std::uint64_t>(time.tv_nsec);
     }
