@@ -5,12 +5,14 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
 #include "platform/simulated/manual_main_loop.h"
 #include "platform/simulated/simulated_machine.h"
+#include "ui/components/make_child.h"
 #include "ui/cpu_samples.h"
 #include "ui/explorer/process_columns.h"
 #include "ui/gestures.h"
@@ -256,6 +258,33 @@ TEST_F(ProcessExplorerViewTest, RowsAreToldToThoseWhoCannotSeeThem) {
     EXPECT_FALSE(row->isValid());
     EXPECT_EQ(utf8(list->child(0)->text(QAccessible::Name)),
               "editor, PID 12, CPU 10.0%, memory 1.5 MB");
+}
+
+TEST_F(ProcessExplorerViewTest, ARowThatIsChosenByKeyComesIntoView) {
+    showProcesses();
+    QScrollArea area;
+    auto* content = makeChild<QWidget>(&area);
+    area.setWidget(content);
+    content->resize(800, 1600);
+    view.setParent(content);
+    view.setGeometry(0, 900, 780, view.sizeHint().height());
+    area.resize(820, 300);
+    area.setVisible(true);
+    view.setVisible(true);
+    settleEvents();
+    ProcessTableView& table = view.table();
+    const auto isSeen = [&](int row) {
+        const QRect place(table.mapTo(area.viewport(), table.accessibleRowArea(row).topLeft()),
+                          table.accessibleRowArea(row).size());
+        return area.viewport()->rect().contains(place.topLeft()) &&
+               place.bottom() < area.viewport()->height();
+    };
+    EXPECT_FALSE(isSeen(6));
+    pressKey(table, Qt::Key_End);
+    EXPECT_TRUE(isSeen(6));
+    view.focusFilter();
+    EXPECT_GE(view.filter().mapTo(area.viewport(), QPoint(0, 0)).y(), 0);
+    view.setParent(nullptr);
 }
 
 TEST(ProcessColumns, HaveTheirWidthsAndScaleWithTheFont) {

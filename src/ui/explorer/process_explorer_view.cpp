@@ -1,7 +1,6 @@
 #include "ui/explorer/process_explorer_view.h"
 
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedLayout>
 
@@ -10,6 +9,7 @@
 
 #include "ui/cards/process_mini_list.h"
 #include "ui/components/make_child.h"
+#include "ui/components/reveal.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -20,7 +20,6 @@ namespace {
 // Longer than between two keystrokes of a quick typist, shorter than anybody notices.
 constexpr std::chrono::milliseconds debounceDelay{150};
 constexpr int controlSpacing = 12;
-constexpr int scrollMargin = 24;
 
 DashboardCard frame() {
     return {QStringLiteral("Process Explorer"), QStringLiteral("Live process activity"),
@@ -83,12 +82,7 @@ void ProcessExplorerView::addShortcuts() {
 void ProcessExplorerView::focusFilter() {
     filter_->setFocus(Qt::ShortcutFocusReason);
     filter_->selectAll();
-    for (QWidget* above = parentWidget(); above; above = above->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(above)) {
-            area->ensureWidgetVisible(filter_, 0, scrollMargin);
-            return;
-        }
-    }
+    reveal(*filter_, filter_->rect());
 }
 
 void ProcessExplorerView::setQuery(const QString& query) {

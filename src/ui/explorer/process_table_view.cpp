@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/components/reveal.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/components/usage_bar.h"
 #include "ui/explorer/process_columns.h"
@@ -172,6 +173,7 @@ void ProcessTableView::keyPressEvent(QKeyEvent* event) {
     const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
     if (isPlain && moveBy(static_cast<Qt::Key>(event->key()))) {
         ring_.keyPressed();
+        if (const auto row = currentRow()) reveal(*this, rowArea(*row).toAlignedRect());
         update();
         return;
     }
