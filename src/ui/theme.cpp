@@ -24,14 +24,6 @@ double luminance(const QColor& color) {
            0.0722 * linear(color.blueF());
 }
 
-/// `color`, as it looks over an opaque ground.
-QColor over(const QColor& color, const QColor& ground) {
-    const double a = color.alphaF();
-    return rgb(color.redF() * a + ground.redF() * (1 - a),
-               color.greenF() * a + ground.greenF() * (1 - a),
-               color.blueF() * a + ground.blueF() * (1 - a));
-}
-
 }  // namespace
 
 ColorScheme colorScheme(const QWidget& widget) {
@@ -86,14 +78,26 @@ QColor secondaryLabel(ColorScheme scheme) {
     return scheme == ColorScheme::dark ? rgb(1, 1, 1, 0.6) : rgb(0, 0, 0, 0.6);
 }
 
+QColor card(ColorScheme scheme) {
+    return scheme == ColorScheme::dark ? rgb(0.075, 0.085, 0.115, 0.96) : rgb(1, 1, 1, 0.9);
+}
+
+QColor over(const QColor& color, const QColor& ground) {
+    const double a = color.alphaF();
+    return rgb(color.redF() * a + ground.redF() * (1 - a),
+               color.greenF() * a + ground.greenF() * (1 - a),
+               color.blueF() * a + ground.blueF() * (1 - a));
+}
+
 QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(color.alphaF() * opacity));
     return color;
 }
 
 QColor labelOn(const QColor& fill, ColorScheme scheme) {
-    const QColor card = scheme == ColorScheme::dark ? rgb(0.075, 0.085, 0.115) : rgb(1, 1, 1);
-    const double ground = luminance(over(fill, card));
+    QColor opaque = card(scheme);
+    opaque.setAlpha(255);
+    const double ground = luminance(over(fill, opaque));
     const double contrastOfWhite = 1.05 / (ground + 0.05);
     const double contrastOfBlack = (ground + 0.05) / 0.05;
     // Opaque: on a fill of middle brightness there is no contrast to give away.

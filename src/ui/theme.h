@@ -32,6 +32,12 @@ QLinearGradient background(ColorScheme scheme, const QRectF& area);
 QColor primaryLabel(ColorScheme scheme);
 QColor secondaryLabel(ColorScheme scheme);
 
+/// What cards are filled with; the background shows through a little.
+QColor card(ColorScheme scheme);
+
+/// `color` as it looks over an opaque ground.
+QColor over(const QColor& color, const QColor& ground);
+
 /// `color` at `opacity` of its own.
 QColor faded(QColor color, double opacity);
 

@@ -30,13 +30,6 @@ double widestDigit(const QFontMetricsF& metrics) {
     return widest;
 }
 
-bool hasEqualDigits(const QFontMetricsF& metrics, double widest) {
-    for (char16_t c = u'0'; c <= u'9'; ++c) {
-        if (std::abs(metrics.horizontalAdvance(QChar(c)) - widest) > 0.01) return false;
-    }
-    return true;
-}
-
 /// Calls visit(run, isDigit) for each digit and each run of other characters.
 template <class Visit>
 void forEachRun(const QString& text, Visit&& visit) {
@@ -48,18 +41,6 @@ void forEachRun(const QString& text, Visit&& visit) {
         visit(text.mid(start, end - start), digit);
         start = end;
     }
-}
-
-double baseline(const QRectF& area, Qt::Alignment alignment, const QFontMetricsF& metrics) {
-    if (alignment & Qt::AlignTop) return area.top() + metrics.ascent();
-    if (alignment & Qt::AlignBottom) return area.bottom() - metrics.descent();
-    return area.top() + (area.height() - metrics.height()) / 2 + metrics.ascent();
-}
-
-double leftEdge(const QRectF& area, Qt::Alignment alignment, double width) {
-    if (alignment & Qt::AlignRight) return area.right() - width;
-    if (alignment & Qt::AlignHCenter) return area.left() + (area.width() - width) / 2;
-    return area.left();
 }
 
 }  // namespace
@@ -87,6 +68,13 @@ QFont font(double size, QFont::Weight weight) {
     return result;
 }
 
+QFont font(const TextStyle& style) {
+    QFont result = font(style.size, style.weight);
+    if (style.leastPixels > QFontInfo(result).pixelSize())
+        result.setPixelSize(static_cast<int>(std::lround(style.leastPixels)));
+    return result;
+}
+
 double lengthScale() {
     return std::max(1.0, systemPixelSize() / referenceSize);
 }
@@ -102,32 +90,6 @@ double digitTextWidth(const QString& text, const QFontMetricsF& metrics) {
         width += digit ? digitWidth : metrics.horizontalAdvance(run);
     });
     return width;
-}
-
-void drawDigitText(QPainter& painter, const QRectF& area, Qt::Alignment alignment,
-                   const QString& text) {
-    const QFontMetricsF metrics(painter.font(), painter.device());
-    const double digitWidth = widestDigit(metrics);
-    const double y = baseline(area, alignment, metrics);
-    double x = leftEdge(area, alignment, digitTextWidth(text, metrics));
-    if (hasEqualDigits(metrics, digitWidth)) {
-        painter.drawText(QPointF(x, y), text);
-        return;
-    }
-    forEachRun(text, [&](const QString& run, bool digit) {
-        const double advance = metrics.horizontalAdvance(run);
-        painter.drawText(QPointF(digit ? x + (digitWidth - advance) / 2 : x, y), run);
-        x += digit ? digitWidth : advance;
-    });
-}
-
-void drawLine(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text,
-              Qt::TextElideMode elide) {
-    const QFontMetricsF metrics(painter.font(), painter.device());
-    const QString line = metrics.elidedText(onOneLine(text), elide, area.width());
-    const double width = metrics.horizontalAdvance(line);
-    painter.drawText(QPointF(leftEdge(area, alignment, width), baseline(area, alignment, metrics)),
-                     line);
 }
 
 }  // namespace vantor::Typography

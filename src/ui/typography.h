@@ -2,8 +2,20 @@
 
 #include <QFont>
 #include <QFontMetricsF>
-#include <QPainter>
 #include <QString>
+
+namespace vantor {
+
+/// How a text looks: its size for a system font of 13, and its weight.
+struct TextStyle {
+    double size = 13;
+    QFont::Weight weight = QFont::Normal;
+    double leastPixels = 0;  ///< never smaller than this, whatever the system's font
+
+    bool operator==(const TextStyle&) const = default;
+};
+
+}  // namespace vantor
 
 /// Text follows the system's font and its size. Sizes are given for a system font of 13 and scale
 /// with the real one.
@@ -18,6 +30,7 @@ inline constexpr double caption2 = 10.5;
 
 /// The system's font at a size.
 QFont font(double size, QFont::Weight weight = QFont::Normal);
+QFont font(const TextStyle& style);
 
 /// What lengths that hold text are multiplied with: 1, or more where the system's font is larger.
 double lengthScale();
@@ -31,15 +44,5 @@ QString onOneLine(const QString& text);
 
 /// The width of `text` with all digits as wide as the widest one.
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics);
-
-/// Draws one line of text in the painter's font and pen with all digits equally wide, so that a
-/// number that changes does not move its neighbours. Many fonts have only proportional digits.
-void drawDigitText(QPainter& painter, const QRectF& area, Qt::Alignment alignment,
-                   const QString& text);
-
-/// Draws one line of text, cut with an ellipsis where it does not fit. Control characters and line
-/// breaks in it are drawn as blanks.
-void drawLine(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text,
-              Qt::TextElideMode elide = Qt::ElideRight);
 
 }  // namespace vantor::Typography

@@ -86,28 +86,44 @@ struct DashboardWorld {
     explicit DashboardWorld(const std::shared_ptr<WoundClock>& itsClock)
         : DashboardWorld(itsClock, SimulatedMachine::laptop(itsClock)) {}
 
-    /// Runs everything that is left to run at this instant.
-    void settle() {
+    /// Runs all work that is left to do at this instant, and paints nothing of it yet.
+    void work() {
         while (queues->runWaiting() + loop->runPosted() > 0) {
         }
+    }
+
+    /// Runs everything that is left to run at this instant.
+    void settle() {
+        work();
         settleEvents();
     }
 
     /// Lets time pass, from one due timer to the next.
     void advance(std::chrono::nanoseconds by) {
-        settle();
-        const auto end = clock->now() + by;
-        while (loop->nextDue() <= end) {
-            clock->setNow(std::max(clock->now(), loop->nextDue()));
-            while (loop->runDueTimer())
-                settle();
-        }
-        clock->setNow(end);
-        settle();
+        pass(by, [this] { settle(); });
+    }
+
+    /// The same, with all painting left to do.
+    void advanceUnpainted(std::chrono::nanoseconds by) {
+        pass(by, [this] { work(); });
     }
 
     /// Until the second reading, the first that says anything, is on the screen.
     void goLive() { advance(std::chrono::milliseconds(1100)); }
+
+  private:
+    template <class Settle>
+    void pass(std::chrono::nanoseconds by, Settle&& settleNow) {
+        settleNow();
+        const auto end = clock->now() + by;
+        while (loop->nextDue() <= end) {
+            clock->setNow(std::max(clock->now(), loop->nextDue()));
+            while (loop->runDueTimer())
+                settleNow();
+        }
+        clock->setNow(end);
+        settleNow();
+    }
 };
 
 }  // namespace vantor

@@ -2,12 +2,12 @@
 
 #include <QHelpEvent>
 #include <QPaintEvent>
-#include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
 
+#include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/pixels.h"
 #include "ui/theme.h"
@@ -21,17 +21,9 @@ constexpr double unscaledCellHeight = 26;
 constexpr double narrowestCell = 24;
 constexpr double cellSpacing = 4;
 constexpr double cellCorner = 4;
-constexpr double numberSize = 7;
-// An ordinary screen cannot draw digits smaller than this legibly.
-constexpr double smallestNumberPixels = 9;
+// An ordinary screen cannot draw digits of less than 9 pixels legibly.
+constexpr TextStyle numberStyle{7, QFont::Bold, 9};
 constexpr double idleBelow = 0.01;
-
-QFont numberFont(double scale) {
-    QFont font = Typography::font(numberSize, QFont::Bold);
-    font.setPixelSize(
-        static_cast<int>(std::lround(std::max(numberSize * scale, smallestNumberPixels))));
-    return font;
-}
 
 }  // namespace
 
@@ -98,7 +90,7 @@ void CoreActivityView::show(std::span<const double> usage) {
     const auto grid = gridFor(width());
     for (std::size_t i = 0; i < usage.size(); ++i) {
         if (CoreActivity::fill(usage[i]) == CoreActivity::fill(usage_[i])) continue;
-        update(grid.cell(i).toAlignedRect());
+        update(placeOf(grid.cell(i)));
     }
     usage_.assign(usage.begin(), usage.end());
     announceValue();
@@ -106,6 +98,12 @@ void CoreActivityView::show(std::span<const double> usage) {
 
 CoreGridGeometry CoreActivityView::gridFor(double width) const {
     return CoreGridGeometry::make(usage_.size(), width, Typography::lengthScale());
+}
+
+/// Where a cell lies in the direction of reading.
+QRect CoreActivityView::placeOf(QRectF cell) const {
+    if (isRightToLeft()) cell.moveRight(width() - cell.left());
+    return cell.toAlignedRect();
 }
 
 QString CoreActivityView::accessibleValueText() const {
@@ -134,10 +132,12 @@ bool CoreActivityView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto grid = gridFor(width());
-    const std::size_t index = grid.cellAt(help->pos(), usage_.size());
+    const QPointF place(isRightToLeft() ? width() - help->pos().x() : help->pos().x(),
+                        help->pos().y());
+    const std::size_t index = grid.cellAt(place, usage_.size());
     if (index < usage_.size()) {
         QToolTip::showText(help->globalPos(), CoreActivity::help(index, usage_[index]), this,
-                           grid.cell(index).toAlignedRect());
+                           placeOf(grid.cell(index)));
     } else {
         QToolTip::hideText();
     }
@@ -145,25 +145,24 @@ bool CoreActivityView::event(QEvent* event) {
 }
 
 void CoreActivityView::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(numberFont(Typography::lengthScale()));
+    ViewPainter painter(*this);
     const auto grid = gridFor(width());
     for (std::size_t i = 0; i < usage_.size(); ++i) {
         const QRectF cell = grid.cell(i);
-        if (event->region().intersects(cell.toAlignedRect())) paintCell(painter, cell, i);
+        if (event->region().intersects(placeOf(cell))) paintCell(painter, cell, i);
     }
 }
 
-void CoreActivityView::paintCell(QPainter& painter, const QRectF& cell, std::size_t index) const {
+void CoreActivityView::paintCell(ViewPainter& painter, const QRectF& cell,
+                                 std::size_t index) const {
     const QColor fill = CoreActivity::fill(usage_[index]);
-    const QRectF area = Pixels::snapped(painter, cell);
+    const QRectF area = Pixels::snapped(painter, painter.leading(cell));
     QPainterPath shape;
     shape.addRoundedRect(area, cellCorner, cellCorner);
     vantorBackground(painter, fill, shape);
-    vantorForeground(painter, VantorTheme::labelOn(fill, colorScheme(*this)));
-    Typography::drawDigitText(painter, area, Qt::AlignHCenter | Qt::AlignVCenter,
-                              QString::number(index + 1));
+    vantorForeground(painter, VantorTheme::labelOn(fill, painter.scheme()));
+    painter.figures(numberStyle, cell, Qt::AlignHCenter | Qt::AlignVCenter,
+                    QString::number(index + 1));
 }
 
 }  // namespace vantor

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ui/components/painted_view.h"
+#include "ui/drawing/view_painter.h"
 
 namespace vantor {
 
@@ -60,7 +61,8 @@ class CoreActivityView : public PaintedView {
 
   private:
     CoreGridGeometry gridFor(double width) const;
-    void paintCell(QPainter& painter, const QRectF& cell, std::size_t index) const;
+    QRect placeOf(QRectF cell) const;
+    void paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index) const;
 
     std::vector<double> usage_;
 };

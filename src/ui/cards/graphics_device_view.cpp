@@ -1,12 +1,12 @@
 #include "ui/cards/graphics_device_view.h"
 
-#include <QPainter>
 #include <QStringList>
 
 #include <cmath>
 
 #include "ui/cards/card_texts.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -18,15 +18,11 @@ namespace {
 constexpr double lineSpacing = 3;
 constexpr double textGap = 8;
 
-QFont nameFont() {
-    return Typography::font(Typography::caption, QFont::Medium);
-}
-QFont detailFont() {
-    return Typography::font(Typography::caption2);
-}
+constexpr TextStyle nameStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle detailStyle{Typography::caption2};
 double lineHeight(const QWidget* widget) {
-    return std::ceil(std::max(QFontMetricsF(nameFont(), widget).height(),
-                              QFontMetricsF(detailFont(), widget).height()));
+    return std::ceil(std::max(QFontMetricsF(Typography::font(nameStyle), widget).height(),
+                              QFontMetricsF(Typography::font(detailStyle), widget).height()));
 }
 QString workingSetLabel() {
     return QStringLiteral("Recommended Working Set");
@@ -85,29 +81,23 @@ QSize GraphicsDeviceView::minimumSizeHint() const {
 }
 
 void GraphicsDeviceView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
     const double step = lineHeight(this) + lineSpacing;
     QRectF line(0, 0, width(), lineHeight(this));
-    const auto drawPair = [&](const QString& leading, const QFont& leadingFont, bool isPrimary,
-                              const QString& trailing) {
-        painter.setFont(detailFont());
-        if (isPrimary) painter.setFont(nameFont());
-        vantorPrimaryForeground(painter, scheme);
-        Typography::drawDigitText(painter, line, Qt::AlignRight | Qt::AlignVCenter, trailing);
-        const double used =
-            Typography::digitTextWidth(trailing, QFontMetricsF(painter.font(), this));
-        painter.setFont(leadingFont);
-        if (!isPrimary) vantorSecondaryForeground(painter, scheme);
-        Typography::drawLine(painter, line.adjusted(0, 0, -used - textGap, 0),
-                             Qt::AlignLeft | Qt::AlignVCenter, leading);
+    const auto drawPair = [&](const TextStyle& style, const QString& label, const QString& value) {
+        painter.primary();
+        painter.figures(style, line, Qt::AlignRight | Qt::AlignVCenter, value);
+        const double used = painter.figuresWidth(style, value);
+        if (style == detailStyle) painter.secondary();
+        painter.line(style, line.adjusted(0, 0, -used - textGap, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter, label);
         line.translate(0, step);
     };
-    drawPair(block_.name, nameFont(), true, block_.utilization);
+    drawPair(nameStyle, block_.name, block_.utilization);
     const QString kind =
         block_.note.isEmpty() ? block_.kind : block_.kind + QStringLiteral(" • ") + block_.note;
-    drawPair(kind, detailFont(), false, {});
-    if (block_.workingSet) drawPair(workingSetLabel(), detailFont(), false, *block_.workingSet);
+    drawPair(detailStyle, kind, {});
+    if (block_.workingSet) drawPair(detailStyle, workingSetLabel(), *block_.workingSet);
 }
 
 }  // namespace vantor

@@ -1,6 +1,5 @@
 #include "ui/cards/power_view.h"
 
-#include <QPainter>
 #include <QStringList>
 
 #include <algorithm>
@@ -8,6 +7,7 @@
 
 #include "ui/components/card_chrome.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -23,12 +23,8 @@ constexpr double symbolGap = 9;
 constexpr double low = 0.2;
 constexpr double middling = 0.4;
 
-QFont textFont() {
-    return Typography::font(Typography::caption, QFont::Medium);
-}
-QFont chargeFont() {
-    return Typography::font(Typography::body, QFont::Bold);
-}
+constexpr TextStyle textStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle chargeStyle{Typography::body, QFont::Bold};
 
 QString batterySymbol(bool isConnectedToAC, const ProcessInfo& versions) {
     // The finer names are known from this version on.
@@ -84,8 +80,8 @@ void PowerView::show(const PowerBlock& block) {
 }
 
 QSize PowerView::sizeHint() const {
-    const double text = std::max(QFontMetricsF(textFont(), this).height(),
-                                 QFontMetricsF(chargeFont(), this).height());
+    const double text = std::max(QFontMetricsF(Typography::font(textStyle), this).height(),
+                                 QFontMetricsF(Typography::font(chargeStyle), this).height());
     return {Typography::scaled(200),
             static_cast<int>(
                 std::ceil(std::max(text, symbolSide * Typography::lengthScale()) + 2 * padding))};
@@ -96,23 +92,17 @@ QSize PowerView::minimumSizeHint() const {
 }
 
 void PowerView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
-    CardChrome::paintTile(painter, rect(), scheme);
+    ViewPainter painter(*this);
+    CardChrome::paintTile(painter, rect(), painter.scheme());
     const double symbol = symbolSide * Typography::lengthScale();
-    Symbols::draw(painter, {padding, (height() - symbol) / 2, symbol, symbol}, block_.symbol,
-                  block_.color);
+    Symbols::draw(painter, painter.leading({padding, (height() - symbol) / 2, symbol, symbol}),
+                  block_.symbol, block_.color);
     const QRectF line(padding, 0, width() - 2 * padding, height());
-    painter.setFont(chargeFont());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, line, Qt::AlignRight | Qt::AlignVCenter, block_.charge);
-    const double used =
-        Typography::digitTextWidth(block_.charge, QFontMetricsF(painter.font(), this));
-    painter.setFont(textFont());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawLine(painter, line.adjusted(symbol + symbolGap, 0, -used - symbolGap, 0),
-                         Qt::AlignLeft | Qt::AlignVCenter, block_.text);
+    painter.primary();
+    painter.figures(chargeStyle, line, Qt::AlignRight | Qt::AlignVCenter, block_.charge);
+    const double used = painter.figuresWidth(chargeStyle, block_.charge);
+    painter.line(textStyle, line.adjusted(symbol + symbolGap, 0, -used - symbolGap, 0),
+                 Qt::AlignLeft | Qt::AlignVCenter, block_.text);
 }
 
 }  // namespace vantor

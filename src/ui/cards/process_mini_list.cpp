@@ -1,7 +1,6 @@
 #include "ui/cards/process_mini_list.h"
 
 #include <QHelpEvent>
-#include <QPainter>
 #include <QStringList>
 #include <QToolTip>
 
@@ -9,6 +8,7 @@
 #include <cmath>
 
 #include "ui/components/tool_tip_text.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -25,12 +25,8 @@ constexpr double symbolGap = 8;
 QString waitingText() {
     return QStringLiteral("Waiting for process data…");
 }
-QFont nameFont() {
-    return Typography::font(Typography::caption);
-}
-QFont valueFont() {
-    return Typography::font(Typography::caption, QFont::Medium);
-}
+constexpr TextStyle nameStyle{Typography::caption};
+constexpr TextStyle valueStyle{Typography::caption, QFont::Medium};
 
 }  // namespace
 
@@ -79,12 +75,12 @@ QString ProcessMiniListView::accessibleValueText() const {
 }
 
 double ProcessMiniListView::titleHeight() const {
-    return QFontMetricsF(nameFont(), this).height();
+    return QFontMetricsF(Typography::font(nameStyle), this).height();
 }
 
 double ProcessMiniListView::rowHeight() const {
-    return std::max(QFontMetricsF(nameFont(), this).height(),
-                    QFontMetricsF(valueFont(), this).height());
+    return std::max(QFontMetricsF(Typography::font(nameStyle), this).height(),
+                    QFontMetricsF(Typography::font(valueStyle), this).height());
 }
 
 QRectF ProcessMiniListView::rowArea(std::size_t index) const {
@@ -115,32 +111,29 @@ bool ProcessMiniListView::event(QEvent* event) {
 }
 
 void ProcessMiniListView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const ColorScheme scheme = colorScheme(*this);
-    const QColor secondary = VantorTheme::secondaryLabel(scheme);
-    painter.setFont(nameFont());
+    ViewPainter painter(*this);
+    const QColor secondary = VantorTheme::secondaryLabel(painter.scheme());
     vantorForeground(painter, secondary);
     const double across = width();
-    Typography::drawLine(painter, {0, 0, across, titleHeight()}, Qt::AlignLeft, title_);
+    painter.line(nameStyle, {0, 0, across, painter.lineHeight(nameStyle)}, Qt::AlignLeft, title_);
+    QRectF area = rowArea(0);
     if (rows_.empty()) {
-        Typography::drawLine(painter, rowArea(0), Qt::AlignLeft | Qt::AlignVCenter, waitingText());
+        painter.line(nameStyle, area, Qt::AlignLeft | Qt::AlignVCenter, waitingText());
         return;
     }
     const double symbol = symbolWidth * Typography::lengthScale();
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const QRectF area = rowArea(i);
-        Symbols::draw(painter, {area.left(), area.top(), symbol, area.height()}, symbol_,
+    const double step = area.height() + rowSpacing;
+    for (const Row& row : rows_) {
+        Symbols::draw(painter, painter.leading({0, area.top(), symbol, area.height()}), symbol_,
                       secondary);
-        painter.setFont(valueFont());
-        vantorPrimaryForeground(painter, scheme);
-        Typography::drawDigitText(painter, area, Qt::AlignRight | Qt::AlignVCenter, rows_[i].value);
-        const double valueWidth =
-            Typography::digitTextWidth(rows_[i].value, QFontMetricsF(painter.font(), this));
-        painter.setFont(nameFont());
+        painter.primary();
+        painter.figures(valueStyle, area, Qt::AlignRight | Qt::AlignVCenter, row.value);
+        const double valueWidth = painter.figuresWidth(valueStyle, row.value);
         const double left = symbol + symbolGap;
-        Typography::drawLine(
-            painter, {left, area.top(), across - left - symbolGap - valueWidth, area.height()},
-            Qt::AlignLeft | Qt::AlignVCenter, rows_[i].name);
+        painter.line(nameStyle,
+                     {left, area.top(), across - left - symbolGap - valueWidth, area.height()},
+                     Qt::AlignLeft | Qt::AlignVCenter, row.name);
+        area.translate(0, step);
     }
 }
 

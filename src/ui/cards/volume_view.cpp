@@ -1,12 +1,11 @@
 #include "ui/cards/volume_view.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
 #include "ui/components/tool_tip_text.h"
 #include "ui/components/usage_bar.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -22,14 +21,10 @@ constexpr double symbolGap = 8;
 constexpr double spacing = 6;
 constexpr double barHeight = 7;
 
-QFont nameFont() {
-    return Typography::font(Typography::caption, QFont::Medium);
-}
-QFont detailFont() {
-    return Typography::font(Typography::caption2);
-}
-double heightOf(const QFont& font, const QWidget* widget) {
-    return std::ceil(QFontMetricsF(font, widget).height());
+constexpr TextStyle nameStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle detailStyle{Typography::caption2};
+double heightOf(const TextStyle& style, const QWidget* widget) {
+    return std::ceil(QFontMetricsF(Typography::font(style), widget).height());
 }
 
 }  // namespace
@@ -73,8 +68,8 @@ QString VolumeView::accessibleValueText() const {
 
 QSize VolumeView::sizeHint() const {
     return {Typography::scaled(240),
-            static_cast<int>(heightOf(nameFont(), this) + heightOf(detailFont(), this) +
-                             2 * spacing + barHeight)};
+            static_cast<int>(heightOf(nameStyle, this) + heightOf(detailStyle, this) + 2 * spacing +
+                             barHeight)};
 }
 
 QSize VolumeView::minimumSizeHint() const {
@@ -82,27 +77,25 @@ QSize VolumeView::minimumSizeHint() const {
 }
 
 void VolumeView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
+    const ColorScheme scheme = painter.scheme();
     const double across = width();
-    const double nameHeight = heightOf(nameFont(), this);
+    const double nameHeight = heightOf(nameStyle, this);
     const double symbol = symbolSide * Typography::lengthScale();
-    Symbols::draw(painter, {0, (nameHeight - symbol) / 2, symbol, symbol}, block_.symbol,
-                  VantorTheme::secondaryLabel(scheme));
+    Symbols::draw(painter, painter.leading({0, (nameHeight - symbol) / 2, symbol, symbol}),
+                  block_.symbol, VantorTheme::secondaryLabel(scheme));
     const double left = symbol + symbolGap;
-    painter.setFont(nameFont());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawLine(painter, {left, 0, across - left, nameHeight}, Qt::AlignLeft, block_.name);
+    painter.primary();
+    painter.line(nameStyle, {left, 0, across - left, nameHeight}, Qt::AlignLeft | Qt::AlignTop,
+                 block_.name);
     double top = nameHeight + spacing;
     paintUsageBar(painter, {0, top, across, barHeight},
-                  {block_.usedFraction, block_.accent, barHeight}, scheme);
+                  {block_.usedFraction, block_.accent, barHeight});
     top += barHeight + spacing;
-    painter.setFont(detailFont());
-    vantorSecondaryForeground(painter, scheme);
-    const QRectF line(0, top, across, heightOf(detailFont(), this));
-    Typography::drawDigitText(painter, line, Qt::AlignLeft, block_.usedText);
-    Typography::drawDigitText(painter, line, Qt::AlignRight, block_.freeText);
+    painter.secondary();
+    const QRectF line(0, top, across, heightOf(detailStyle, this));
+    painter.figures(detailStyle, line, Qt::AlignLeft | Qt::AlignTop, block_.usedText);
+    painter.figures(detailStyle, line, Qt::AlignRight | Qt::AlignTop, block_.freeText);
 }
 
 }  // namespace vantor

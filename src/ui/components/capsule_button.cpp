@@ -2,11 +2,11 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
 
+#include "ui/drawing/view_painter.h"
 #include "ui/pixels.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -24,12 +24,10 @@ constexpr double hoverOpacity = 0.12;
 constexpr double pressedOpacity = 0.18;
 constexpr double disabledOpacity = 0.38;
 
-QFont labelFont() {
-    return Typography::font(Typography::caption, QFont::DemiBold);
-}
+constexpr TextStyle labelStyle{Typography::caption, QFont::DemiBold};
 
 double symbolSize() {
-    return std::round(QFontMetricsF(labelFont()).height());
+    return std::round(QFontMetricsF(Typography::font(labelStyle)).height());
 }
 
 }  // namespace
@@ -62,11 +60,11 @@ void CapsuleButtonView::reserveWidthFor(const QString& title) {
 
 double CapsuleButtonView::widthFor(const QString& title) const {
     return symbolSize() + symbolSpacing +
-           Typography::digitTextWidth(title, QFontMetricsF(labelFont(), this));
+           Typography::digitTextWidth(title, QFontMetricsF(Typography::font(labelStyle), this));
 }
 
 QSize CapsuleButtonView::sizeHint() const {
-    const double height = QFontMetricsF(labelFont(), this).height();
+    const double height = QFontMetricsF(Typography::font(labelStyle), this).height();
     return {static_cast<int>(std::ceil(widthFor(widestTitle_) + 2 * horizontalPadding)),
             static_cast<int>(std::ceil(height + 2 * verticalPadding))};
 }
@@ -96,15 +94,13 @@ void CapsuleButtonView::keyPressEvent(QKeyEvent* event) {
 }
 
 void CapsuleButtonView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    ViewPainter painter(*this);
     if (!isEnabled()) painter.setOpacity(disabledOpacity);
     paintGround(painter);
     paintLabel(painter);
 }
 
-void CapsuleButtonView::paintGround(QPainter& painter) const {
-    const ColorScheme scheme = colorScheme(*this);
+void CapsuleButtonView::paintGround(ViewPainter& painter) const {
     const QRectF area = Pixels::snapped(painter, rect());
     double opacity = groundOpacity;
     if (isEnabled() && isDown()) {
@@ -114,28 +110,26 @@ void CapsuleButtonView::paintGround(QPainter& painter) const {
     }
     QPainterPath capsule;
     capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
-    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), opacity),
-                     capsule);
+    vantorBackground(
+        painter, VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), opacity), capsule);
     if (hasFocus() && ring_.isShown()) {
         FocusRing::paint(painter, area, area.height() / 2, palette());
     }
 }
 
-void CapsuleButtonView::paintLabel(QPainter& painter) const {
-    const QColor color = VantorTheme::primaryLabel(colorScheme(*this));
-    painter.setFont(labelFont());
-    const double symbol = symbolSize();
-    const double textWidth =
-        Typography::digitTextWidth(text(), QFontMetricsF(painter.font(), this));
+void CapsuleButtonView::paintLabel(ViewPainter& painter) const {
+    const QColor color = VantorTheme::primaryLabel(painter.scheme());
+    const double symbol = std::round(painter.lineHeight(labelStyle));
+    const double textWidth = painter.figuresWidth(labelStyle, text());
     const double left = (width() - symbol - symbolSpacing - textWidth) / 2;
-    const bool trailing = isSymbolTrailing() != isRightToLeft();
+    const bool trailing = isSymbolTrailing();
     const double symbolLeft = trailing ? left + textWidth + symbolSpacing : left;
     const double textLeft = trailing ? left : left + symbol + symbolSpacing;
-    Symbols::draw(painter, {symbolLeft, (height() - symbol) / 2, symbol, symbol}, systemImage_,
-                  color);
+    Symbols::draw(painter, painter.leading({symbolLeft, (height() - symbol) / 2, symbol, symbol}),
+                  systemImage_, color);
     vantorForeground(painter, color);
-    Typography::drawDigitText(painter, {textLeft, 0, textWidth, static_cast<double>(height())},
-                              Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.figures(labelStyle, {textLeft, 0, textWidth, static_cast<double>(height())},
+                    Qt::AlignLeft | Qt::AlignVCenter, text());
 }
 
 }  // namespace vantor

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "ui/components/focus_ring.h"
+#include "ui/drawing/view_painter.h"
 
 namespace vantor {
 
@@ -44,8 +45,8 @@ class CapsuleButtonView : public QAbstractButton {
 
   private:
     double widthFor(const QString& title) const;
-    void paintGround(QPainter& painter) const;
-    void paintLabel(QPainter& painter) const;
+    void paintGround(ViewPainter& painter) const;
+    void paintLabel(ViewPainter& painter) const;
 
     QString systemImage_;
     QString widestTitle_;

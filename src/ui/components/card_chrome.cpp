@@ -5,15 +5,12 @@
 namespace vantor::CardChrome {
 
 void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QColor& border) {
-    const QColor fill = scheme == ColorScheme::dark
-                            ? QColor::fromRgbF(0.075f, 0.085f, 0.115f, 0.96f)
-                            : QColor::fromRgbF(1, 1, 1, 0.9f);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF outer = Pixels::snapped(painter, area);
     QPainterPath shape;
     shape.addRoundedRect(outer, cornerRadius, cornerRadius);
-    vantorBackground(painter, fill, shape);
+    vantorBackground(painter, VantorTheme::card(scheme), shape);
     const double width = Pixels::snappedLineWidth(painter, 1);
     const double inset = width / 2;
     painter.setPen(QPen(border, width));

@@ -1,14 +1,13 @@
 #include "ui/components/dashboard_card.h"
 
-#include <QPainter>
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
 
-#include "ui/components/card_chrome.h"
 #include "ui/components/make_child.h"
 #include "ui/components/symbol_tile.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -16,7 +15,8 @@ namespace vantor {
 
 namespace {
 
-constexpr double titleSize = 14;
+constexpr TextStyle titleStyle{14, QFont::DemiBold};
+constexpr TextStyle subtitleStyle{Typography::caption};
 constexpr double iconFrame = 28;
 // A symbol of font size 14 measures 17.
 constexpr SymbolTile::Shape iconShape{.side = iconFrame, .corner = 9, .symbol = 17};
@@ -40,8 +40,8 @@ void CardHeaderView::show(const DashboardCard& card) {
 }
 
 double CardHeaderView::textHeight() const {
-    const QFontMetricsF title(Typography::font(titleSize, QFont::DemiBold), this);
-    const QFontMetricsF subtitle(Typography::font(Typography::caption), this);
+    const QFontMetricsF title(Typography::font(titleStyle), this);
+    const QFontMetricsF subtitle(Typography::font(subtitleStyle), this);
     return title.height() + (card_.subtitle ? titleSpacing + subtitle.height() : 0);
 }
 
@@ -55,31 +55,28 @@ QSize CardHeaderView::minimumSizeHint() const {
 }
 
 void CardHeaderView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
     const double side = Typography::scaled(iconFrame);
-    SymbolTile::paint(painter, {0, (height() - side) / 2, side, side}, iconShape, card_.icon,
-                      card_.accent);
+    SymbolTile::paint(painter, painter.leading({0, (height() - side) / 2, side, side}), iconShape,
+                      card_.icon, card_.accent);
 
     const double left = side + headerSpacing;
-    const double total = textHeight();
+    const double titleHeight = painter.lineHeight(titleStyle);
+    const double subtitleHeight = painter.lineHeight(subtitleStyle);
+    const double total = titleHeight + (card_.subtitle ? titleSpacing + subtitleHeight : 0);
     double top = (height() - total) / 2;
-    painter.setFont(Typography::font(titleSize, QFont::DemiBold));
-    vantorPrimaryForeground(painter, scheme);
-    const double titleHeight = QFontMetricsF(painter.font(), this).height();
-    Typography::drawLine(painter, {left, top, width() - left, titleHeight}, Qt::AlignLeft,
-                         card_.title);
+    const double across = width() - left;
+    painter.primary();
+    painter.line(titleStyle, {left, top, across, titleHeight}, Qt::AlignLeft, card_.title);
     if (!card_.subtitle) return;
     top += titleHeight + titleSpacing;
-    painter.setFont(Typography::font(Typography::caption));
-    vantorSecondaryForeground(painter, scheme);
-    Typography::drawLine(painter, {left, top, width() - left, height() - top}, Qt::AlignTop,
-                         *card_.subtitle);
+    painter.secondary();
+    painter.line(subtitleStyle, {left, top, across, subtitleHeight}, Qt::AlignLeft,
+                 *card_.subtitle);
 }
 
 DashboardCardView::DashboardCardView(const DashboardCard& card, QWidget* parent)
-    : QWidget(parent),
+    : CardGround(parent),
       header_(makeChild<CardHeaderView>(this, card)),
       body_(makeLayout<QVBoxLayout>(this)) {
     body_->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
@@ -99,10 +96,8 @@ QString DashboardCardView::summary() const {
     return texts.join(QStringLiteral(", "));
 }
 
-void DashboardCardView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    CardChrome::paint(painter, rect(), colorScheme(*this),
-                      VantorTheme::faded(header_->card().accent, 0.16));
+QColor DashboardCardView::borderColor() const {
+    return VantorTheme::faded(header_->card().accent, 0.16);
 }
 
 }  // namespace vantor

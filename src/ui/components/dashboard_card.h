@@ -7,6 +7,7 @@
 
 #include <optional>
 
+#include "ui/components/card_ground.h"
 #include "ui/components/painted_view.h"
 
 namespace vantor {
@@ -46,7 +47,7 @@ class CardHeaderView : public PaintedView {
 };
 
 /// The whole card; a section's views go into body(), top to bottom.
-class DashboardCardView : public QWidget {
+class DashboardCardView : public CardGround {
   public:
     explicit DashboardCardView(const DashboardCard& card, QWidget* parent = nullptr);
 
@@ -58,7 +59,7 @@ class DashboardCardView : public QWidget {
     QVBoxLayout& body() { return *body_; }
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    QColor borderColor() const override;
 
   private:
     CardHeaderView* header_;  // owned by this widget, as its child

@@ -1,10 +1,9 @@
 #include "ui/components/empty_state_view.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
+#include "ui/drawing/view_painter.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -21,12 +20,8 @@ constexpr double symbolSide = 34;  // what a symbol of font size 28 measures
 constexpr double widestMessage = 420;
 constexpr int messageFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
-QFont titleFont() {
-    return Typography::font(Typography::headline, QFont::DemiBold);
-}
-QFont messageFont() {
-    return Typography::font(Typography::caption);
-}
+constexpr TextStyle titleStyle{Typography::headline, QFont::DemiBold};
+constexpr TextStyle messageStyle{Typography::caption};
 
 double messageWidth(double width) {
     return std::min(width - 2 * padding, widestMessage * Typography::lengthScale());
@@ -51,14 +46,15 @@ void EmptyStateView::show(const EmptyState& state) {
 
 double EmptyStateView::messageHeight(double width) const {
     const QRectF room(0, 0, messageWidth(width), 1e6);
-    return QFontMetricsF(messageFont(), this)
+    return QFontMetricsF(Typography::font(messageStyle), this)
         .boundingRect(room, messageFlags, Typography::onOneLine(state_.message))
         .height();
 }
 
 double EmptyStateView::contentHeight(double width) const {
     return symbolSide * Typography::lengthScale() + spacing +
-           QFontMetricsF(titleFont(), this).height() + spacing + messageHeight(width);
+           QFontMetricsF(Typography::font(titleStyle), this).height() + spacing +
+           messageHeight(width);
 }
 
 int EmptyStateView::heightForWidth(int width) const {
@@ -76,23 +72,20 @@ QSize EmptyStateView::minimumSizeHint() const {
 }
 
 void EmptyStateView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
     const double across = width();
     double top = (height() - contentHeight(across)) / 2;
     const double symbol = symbolSide * Typography::lengthScale();
     Symbols::draw(painter, {(across - symbol) / 2, top, symbol, symbol}, state_.systemImage,
-                  VantorTheme::secondaryLabel(scheme));
+                  VantorTheme::secondaryLabel(painter.scheme()));
     top += symbol + spacing;
-    painter.setFont(titleFont());
-    const double titleHeight = QFontMetricsF(painter.font(), this).height();
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawLine(painter, {padding, top, across - 2 * padding, titleHeight},
-                         Qt::AlignHCenter, state_.title);
+    const double titleHeight = painter.lineHeight(titleStyle);
+    painter.primary();
+    painter.line(titleStyle, {padding, top, across - 2 * padding, titleHeight}, Qt::AlignHCenter,
+                 state_.title);
     top += titleHeight + spacing;
-    painter.setFont(messageFont());
-    vantorSecondaryForeground(painter, scheme);
+    painter.setFont(Typography::font(messageStyle));
+    painter.secondary();
     const double wide = messageWidth(across);
     painter.drawText(QRectF((across - wide) / 2, top, wide, messageHeight(across)), messageFlags,
                      Typography::onOneLine(state_.message));

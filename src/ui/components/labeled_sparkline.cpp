@@ -1,10 +1,9 @@
 #include "ui/components/labeled_sparkline.h"
 
-#include <QPainter>
-
 #include <cmath>
 
 #include "ui/components/sparkline.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -15,9 +14,7 @@ namespace {
 constexpr double spacing = 6;
 constexpr double chartHeight = 54;
 
-QFont textFont() {
-    return Typography::font(Typography::caption2);
-}
+constexpr TextStyle textStyle{Typography::caption2};
 
 }  // namespace
 
@@ -34,7 +31,7 @@ void LabeledSparklineView::show(const QString& value, std::span<const double> va
 }
 
 double LabeledSparklineView::textHeight() const {
-    return std::ceil(QFontMetricsF(textFont(), this).height());
+    return std::ceil(QFontMetricsF(Typography::font(textStyle), this).height());
 }
 
 QSize LabeledSparklineView::sizeHint() const {
@@ -47,20 +44,17 @@ QSize LabeledSparklineView::minimumSizeHint() const {
 }
 
 void LabeledSparklineView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
-    painter.setFont(textFont());
-    const QRectF text(0, 0, width(), textHeight());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, text, Qt::AlignRight, sparkline_.value);
-    const double valueWidth =
-        Typography::digitTextWidth(sparkline_.value, QFontMetricsF(painter.font(), this));
-    vantorSecondaryForeground(painter, scheme);
-    Typography::drawLine(painter, text.adjusted(0, 0, -valueWidth - spacing, 0), Qt::AlignLeft,
-                         sparkline_.label);
+    ViewPainter painter(*this);
+    const double textHeight = std::ceil(painter.lineHeight(textStyle));
+    const QRectF text(0, 0, width(), textHeight);
+    painter.primary();
+    painter.figures(textStyle, text, Qt::AlignRight | Qt::AlignTop, sparkline_.value);
+    const double valueWidth = painter.figuresWidth(textStyle, sparkline_.value);
+    painter.secondary();
+    painter.line(textStyle, text.adjusted(0, 0, -valueWidth - spacing, 0),
+                 Qt::AlignLeft | Qt::AlignTop, sparkline_.label);
     paintSparkline(painter,
-                   {0, textHeight() + spacing, text.width(), height() - textHeight() - spacing},
+                   {0, textHeight + spacing, text.width(), height() - textHeight - spacing},
                    sparkline_.values, sparkline_.color, std::nullopt);
 }
 

@@ -1,9 +1,8 @@
 #include "ui/components/metric_row.h"
 
-#include <QPainter>
-
 #include <cmath>
 
+#include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -14,12 +13,8 @@ namespace {
 constexpr double spacing = 8;
 constexpr double dotSize = 7;
 
-QFont labelFont() {
-    return Typography::font(Typography::caption);
-}
-QFont valueFont() {
-    return Typography::font(Typography::caption, QFont::Medium);
-}
+constexpr TextStyle labelStyle{Typography::caption};
+constexpr TextStyle valueStyle{Typography::caption, QFont::Medium};
 
 }  // namespace
 
@@ -41,8 +36,8 @@ void MetricRowView::show(const MetricRow& row) {
 }
 
 QSize MetricRowView::sizeHint() const {
-    const QFontMetricsF label(labelFont(), this);
-    const QFontMetricsF value(valueFont(), this);
+    const QFontMetricsF label(Typography::font(labelStyle), this);
+    const QFontMetricsF value(Typography::font(valueStyle), this);
     const double width = MetricRowGeometry::make(0, row_.color.has_value()).labelLeft +
                          label.horizontalAdvance(row_.label) + spacing +
                          Typography::digitTextWidth(row_.value, value);
@@ -55,25 +50,20 @@ QSize MetricRowView::minimumSizeHint() const {
 }
 
 void MetricRowView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
     const auto geometry = MetricRowGeometry::make(height(), row_.color.has_value());
     if (geometry.dot) {
         QPainterPath dot;
-        dot.addEllipse(*geometry.dot);
+        dot.addEllipse(painter.leading(*geometry.dot));
         vantorBackground(painter, *row_.color, dot);
     }
-    painter.setFont(valueFont());
-    const double valueWidth =
-        Typography::digitTextWidth(row_.value, QFontMetricsF(painter.font(), this));
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, rect(), Qt::AlignRight | Qt::AlignVCenter, row_.value);
-    painter.setFont(labelFont());
-    vantorSecondaryForeground(painter, scheme);
+    const double valueWidth = painter.figuresWidth(valueStyle, row_.value);
+    painter.primary();
+    painter.figures(valueStyle, rect(), Qt::AlignRight | Qt::AlignVCenter, row_.value);
+    painter.secondary();
     const QRectF label(geometry.labelLeft, 0, width() - geometry.labelLeft - spacing - valueWidth,
                        height());
-    Typography::drawLine(painter, label, Qt::AlignLeft | Qt::AlignVCenter, row_.label);
+    painter.line(labelStyle, label, Qt::AlignLeft | Qt::AlignVCenter, row_.label);
 }
 
 }  // namespace vantor

@@ -1,9 +1,8 @@
 #include "ui/components/ring_gauge.h"
 
-#include <QPainter>
-
 #include <algorithm>
 
+#include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -12,7 +11,8 @@ namespace vantor {
 namespace {
 
 constexpr double frame = 126;
-constexpr double titleSize = 24;
+constexpr TextStyle titleStyle{24, QFont::Bold};
+constexpr TextStyle detailStyle{Typography::caption2, QFont::Medium};
 constexpr double textSpacing = 2;
 
 }  // namespace
@@ -48,9 +48,8 @@ QSize RingGaugeView::sizeHint() const {
 }
 
 void RingGaugeView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
+    const ColorScheme scheme = painter.scheme();
     const double width = gauge_.lineWidth * Typography::lengthScale();
     const auto geometry = RingGaugeGeometry::make(rect(), gauge_.value, width);
 
@@ -63,20 +62,16 @@ void RingGaugeView::paintEvent(QPaintEvent*) {
         painter.drawArc(geometry.circle, 90 * 16, static_cast<int>(-geometry.sweep * 16));
     }
 
-    const QFont titleFont = Typography::font(titleSize, QFont::Bold);
-    const QFont detailFont = Typography::font(Typography::caption2, QFont::Medium);
-    const double titleHeight = QFontMetricsF(titleFont, this).height();
-    const double detailHeight = QFontMetricsF(detailFont, this).height();
+    const double titleHeight = painter.lineHeight(titleStyle);
+    const double detailHeight = painter.lineHeight(detailStyle);
     const double top = (height() - titleHeight - textSpacing - detailHeight) / 2;
-    painter.setFont(titleFont);
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, QRectF(0, top, this->width(), titleHeight), Qt::AlignHCenter,
-                              gauge_.title);
-    painter.setFont(detailFont);
-    vantorSecondaryForeground(painter, scheme);
+    painter.primary();
+    painter.figures(titleStyle, QRectF(0, top, this->width(), titleHeight), Qt::AlignHCenter,
+                    gauge_.title);
+    painter.secondary();
     const QRectF detail(width, top + titleHeight + textSpacing, this->width() - 2 * width,
                         detailHeight);
-    Typography::drawLine(painter, detail, Qt::AlignHCenter, gauge_.detail);
+    painter.line(detailStyle, detail, Qt::AlignHCenter, gauge_.detail);
 }
 
 }  // namespace vantor

@@ -3,12 +3,12 @@
 #include <QButtonGroup>
 #include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QPainter>
 
 #include <cmath>
 
 #include "ui/components/make_child.h"
 #include "ui/components/text_line.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/pixels.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -25,9 +25,7 @@ constexpr double trackOpacity = 0.07;
 constexpr double chosenOpacity = 0.16;
 constexpr double hoverOpacity = 0.06;
 
-QFont titleFont() {
-    return Typography::font(Typography::caption, QFont::DemiBold);
-}
+constexpr TextStyle titleStyle{Typography::caption, QFont::DemiBold};
 
 }  // namespace
 
@@ -41,7 +39,7 @@ SegmentButton::SegmentButton(const QString& title, QWidget* parent) : QAbstractB
 }
 
 QSize SegmentButton::sizeHint() const {
-    const QFontMetricsF metrics(titleFont(), this);
+    const QFontMetricsF metrics(Typography::font(titleStyle), this);
     return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()) + 2 * horizontalPadding)),
             static_cast<int>(std::ceil(metrics.height() + 2 * verticalPadding))};
 }
@@ -67,9 +65,8 @@ void SegmentButton::leaveEvent(QEvent* event) {
 }
 
 void SegmentButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
+    const ColorScheme scheme = painter.scheme();
     const QColor label = VantorTheme::primaryLabel(scheme);
     const QRectF area = Pixels::snapped(painter, rect());
     const double radius = area.height() / 2;
@@ -80,9 +77,8 @@ void SegmentButton::paintEvent(QPaintEvent*) {
             painter, VantorTheme::faded(label, isChecked() ? chosenOpacity : hoverOpacity), shape);
     }
     if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, area, radius, palette());
-    painter.setFont(titleFont());
     vantorForeground(painter, isChecked() ? label : VantorTheme::secondaryLabel(scheme));
-    Typography::drawLine(painter, area, Qt::AlignHCenter | Qt::AlignVCenter, text());
+    painter.line(titleStyle, area, Qt::AlignHCenter | Qt::AlignVCenter, text());
 }
 
 SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choices,
@@ -122,8 +118,7 @@ void SegmentedPicker::choose(int index) {
 
 void SegmentedPicker::paintEvent(QPaintEvent*) {
     if (buttons_.empty()) return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    ViewPainter painter(*this);
     QRect track;
     for (const SegmentButton* button : buttons_)
         track = track.united(button->geometry());

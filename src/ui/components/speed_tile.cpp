@@ -1,12 +1,11 @@
 #include "ui/components/speed_tile.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
 #include "ui/components/card_chrome.h"
 #include "ui/components/symbol_tile.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -19,12 +18,8 @@ constexpr double spacing = 9;
 constexpr double textSpacing = 1;
 constexpr SymbolTile::Shape iconShape{.side = 26, .corner = 8, .symbol = 15};
 
-QFont titleFont() {
-    return Typography::font(Typography::caption2);
-}
-QFont valueFont() {
-    return Typography::font(Typography::caption, QFont::DemiBold);
-}
+constexpr TextStyle titleStyle{Typography::caption2};
+constexpr TextStyle valueStyle{Typography::caption, QFont::DemiBold};
 
 }  // namespace
 
@@ -41,8 +36,8 @@ void SpeedTileView::show(const SpeedTile& tile) {
 }
 
 QSize SpeedTileView::sizeHint() const {
-    const QFontMetricsF title(titleFont(), this);
-    const QFontMetricsF value(valueFont(), this);
+    const QFontMetricsF title(Typography::font(titleStyle), this);
+    const QFontMetricsF value(Typography::font(valueStyle), this);
     const double icon = Typography::scaled(iconShape.side);
     const double text = std::max(title.horizontalAdvance(tile_.title),
                                  Typography::digitTextWidth(tile_.value, value));
@@ -57,26 +52,22 @@ QSize SpeedTileView::minimumSizeHint() const {
 }
 
 void SpeedTileView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
-    CardChrome::paintTile(painter, rect(), scheme);
+    ViewPainter painter(*this);
+    CardChrome::paintTile(painter, rect(), painter.scheme());
 
     const double side = Typography::scaled(iconShape.side);
-    SymbolTile::paint(painter, {padding, (height() - side) / 2, side, side}, iconShape, tile_.icon,
-                      tile_.color);
+    SymbolTile::paint(painter, painter.leading({padding, (height() - side) / 2, side, side}),
+                      iconShape, tile_.icon, tile_.color);
     const double left = padding + side + spacing;
     const double across = width() - left - padding;
-    const double titleHeight = QFontMetricsF(titleFont(), this).height();
-    const double valueHeight = QFontMetricsF(valueFont(), this).height();
+    const double titleHeight = painter.lineHeight(titleStyle);
+    const double valueHeight = painter.lineHeight(valueStyle);
     const double top = (height() - titleHeight - textSpacing - valueHeight) / 2;
-    painter.setFont(titleFont());
-    vantorSecondaryForeground(painter, scheme);
-    Typography::drawLine(painter, {left, top, across, titleHeight}, Qt::AlignLeft, tile_.title);
-    painter.setFont(valueFont());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, {left, top + titleHeight + textSpacing, across, valueHeight},
-                              Qt::AlignLeft, tile_.value);
+    painter.secondary();
+    painter.line(titleStyle, {left, top, across, titleHeight}, Qt::AlignLeft, tile_.title);
+    painter.primary();
+    painter.figures(valueStyle, {left, top + titleHeight + textSpacing, across, valueHeight},
+                    Qt::AlignLeft, tile_.value);
 }
 
 }  // namespace vantor

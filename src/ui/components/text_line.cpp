@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 
 namespace vantor {
@@ -36,19 +37,18 @@ QSize TextLineView::minimumSizeHint() const {
 }
 
 void TextLineView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setFont(Typography::font(size_, weight_));
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
     if (tone_ == Tone::primary) {
-        vantorPrimaryForeground(painter, scheme);
+        painter.primary();
     } else {
-        vantorSecondaryForeground(painter, scheme);
+        painter.secondary();
     }
+    const TextStyle style{size_, weight_};
     const Qt::Alignment alignment = alignment_ | Qt::AlignVCenter;
-    if (sizeHint().width() > width()) {
-        Typography::drawLine(painter, rect(), alignment, text_);
+    if (painter.figuresWidth(style, text_) > width()) {
+        painter.line(style, rect(), alignment, text_);
     } else {
-        Typography::drawDigitText(painter, rect(), alignment, text_);
+        painter.figures(style, rect(), alignment, text_);
     }
 }
 

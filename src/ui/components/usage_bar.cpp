@@ -30,13 +30,14 @@ UsageBarGeometry UsageBarGeometry::make(const QRectF& bounds, double value) {
     return {bounds, fill};
 }
 
-void paintUsageBar(QPainter& painter, const QRectF& bounds, const UsageBar& bar,
-                   ColorScheme scheme) {
+void paintUsageBar(ViewPainter& painter, const QRectF& bounds, const UsageBar& bar) {
     const QRectF whole(bounds.left(), bounds.top() + (bounds.height() - bar.height) / 2,
                        bounds.width(), bar.height);
-    const auto geometry = UsageBarGeometry::make(Pixels::snapped(painter, whole), bar.value);
+    auto geometry =
+        UsageBarGeometry::make(Pixels::snapped(painter, painter.leading(whole)), bar.value);
+    if (painter.isMirrored()) geometry.fill.moveRight(geometry.track.right());
     fillCapsule(painter, geometry.track,
-                VantorTheme::faded(VantorTheme::primaryLabel(scheme), trackOpacity));
+                VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), trackOpacity));
     if (geometry.fill.width() > 0) {
         fillCapsule(painter, geometry.fill, VantorTheme::faded(bar.accent, fillOpacity));
     }
@@ -67,9 +68,8 @@ QSize UsageBarView::minimumSizeHint() const {
 }
 
 void UsageBarView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintUsageBar(painter, rect(), bar_, colorScheme(*this));
+    ViewPainter painter(*this);
+    paintUsageBar(painter, rect(), bar_);
 }
 
 }  // namespace vantor

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QColor>
-#include <QPainter>
 #include <QRectF>
 
 #include "ui/components/painted_view.h"
-#include "ui/theme.h"
+#include "ui/drawing/view_painter.h"
 
 namespace vantor {
 
@@ -28,8 +27,7 @@ struct UsageBarGeometry {
 };
 
 /// Paints a bar across `bounds`, of its own height in the middle of them.
-void paintUsageBar(QPainter& painter, const QRectF& bounds, const UsageBar& bar,
-                   ColorScheme scheme);
+void paintUsageBar(ViewPainter& painter, const QRectF& bounds, const UsageBar& bar);
 
 /// Draws a bar across its whole width.
 class UsageBarView : public PaintedView {

@@ -1,11 +1,9 @@
 #include "ui/dashboard/dashboard_header.h"
 
-#include <QPainter>
 #include <QVBoxLayout>
 
 #include <cmath>
 
-#include "ui/components/card_chrome.h"
 #include "ui/components/make_child.h"
 #include "ui/dashboard/flow_layout.h"
 #include "ui/dashboard/horizontal_fit.h"
@@ -43,7 +41,7 @@ QString DashboardHeader::intervalText(double seconds) {
 
 DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
                                          std::optional<double> legacyBreakpoint, QWidget* parent)
-    : QWidget(parent), header_(std::move(header)) {
+    : CardGround(parent), header_(std::move(header)) {
     auto* layout = makeLayout<QVBoxLayout>(this);
     layout->setContentsMargins(padding, padding, padding, padding);
     auto* identity = makeChild<IdentityView>(this, subtitle);
@@ -87,11 +85,8 @@ void DashboardHeaderView::show(double refreshInterval, bool isPaused) {
     pauseButton().show(header_.pauseTitle(), header_.pauseSymbol());
 }
 
-void DashboardHeaderView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const ColorScheme scheme = colorScheme(*this);
-    CardChrome::paint(painter, rect(), scheme,
-                      VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.08));
+QColor DashboardHeaderView::borderColor() const {
+    return VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)), 0.08);
 }
 
 }  // namespace vantor

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "ui/components/capsule_button.h"
+#include "ui/components/card_ground.h"
 #include "ui/components/painted_view.h"
 
 class QMenu;
@@ -93,7 +94,7 @@ class IntervalMenuView : public CapsuleButtonView {
 };
 
 /// Draws the header and runs its callbacks.
-class DashboardHeaderView : public QWidget {
+class DashboardHeaderView : public CardGround {
   public:
     DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
                         std::optional<double> legacyBreakpoint, QWidget* parent = nullptr);
@@ -111,7 +112,7 @@ class DashboardHeaderView : public QWidget {
     CapsuleButtonView& quitButton() { return *buttons_[3]; }
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    QColor borderColor() const override;
 
   private:
     QWidget* makeControls();

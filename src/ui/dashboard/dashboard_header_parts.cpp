@@ -2,13 +2,13 @@
 #include <QActionGroup>
 #include <QLinearGradient>
 #include <QMenu>
-#include <QPainter>
 
 #include <cmath>
 
 #include "settings/app_settings.h"
 #include "ui/components/make_child.h"
 #include "ui/dashboard/dashboard_header.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/pixels.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
@@ -30,15 +30,9 @@ constexpr double identitySpacing = 13;
 constexpr double nameSize = 23;
 constexpr double subtitleSize = 12;
 
-QFont pillFont() {
-    return Typography::font(Typography::caption, QFont::DemiBold);
-}
-QFont nameFont() {
-    return Typography::font(nameSize, QFont::Bold);
-}
-QFont subtitleFont() {
-    return Typography::font(subtitleSize);
-}
+constexpr TextStyle pillStyle{Typography::caption, QFont::DemiBold};
+constexpr TextStyle nameStyle{nameSize, QFont::Bold};
+constexpr TextStyle subtitleStyle{subtitleSize};
 
 QString statusText(bool isPaused) {
     DashboardHeader header;
@@ -64,7 +58,7 @@ QString StatusPillView::accessibleValueText() const {
 }
 
 QSize StatusPillView::sizeHint() const {
-    const QFontMetricsF metrics(pillFont(), this);
+    const QFontMetricsF metrics(Typography::font(pillStyle), this);
     // Room for either word: the controls beside the pill must not move when the user pauses.
     const double text = std::max(metrics.horizontalAdvance(statusText(true)),
                                  metrics.horizontalAdvance(statusText(false)));
@@ -73,24 +67,22 @@ QSize StatusPillView::sizeHint() const {
 }
 
 void StatusPillView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor label = VantorTheme::primaryLabel(colorScheme(*this));
+    ViewPainter painter(*this);
+    const QColor label = VantorTheme::primaryLabel(painter.scheme());
     const QRectF area = Pixels::snapped(painter, rect());
     QPainterPath capsule;
     capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
     vantorBackground(painter, VantorTheme::faded(label, 0.07), capsule);
-    painter.setFont(pillFont());
     const QString text = accessibleValueText();
-    const double textWidth = QFontMetricsF(painter.font(), this).horizontalAdvance(text);
+    const double textWidth = painter.lineWidth(pillStyle, text);
     const double left = (width() - pillDot - pillSpacing - textWidth) / 2;
     QPainterPath dot;
-    dot.addEllipse(QRectF(left, (height() - pillDot) / 2, pillDot, pillDot));
+    dot.addEllipse(painter.leading({left, (height() - pillDot) / 2, pillDot, pillDot}));
     vantorBackground(painter, isPaused_ ? VantorTheme::orange() : VantorTheme::green(), dot);
     vantorForeground(painter, label);
-    Typography::drawLine(
-        painter, {left + pillDot + pillSpacing, 0, textWidth + 1, static_cast<double>(height())},
-        Qt::AlignLeft | Qt::AlignVCenter, text);
+    painter.line(pillStyle,
+                 {left + pillDot + pillSpacing, 0, textWidth + 1, static_cast<double>(height())},
+                 Qt::AlignLeft | Qt::AlignVCenter, text);
 }
 
 IdentityView::IdentityView(std::string_view subtitle, QWidget* parent)
@@ -100,8 +92,8 @@ IdentityView::IdentityView(std::string_view subtitle, QWidget* parent)
 }
 
 QSize IdentityView::sizeHint() const {
-    const QFontMetricsF name(nameFont(), this);
-    const QFontMetricsF subtitle(subtitleFont(), this);
+    const QFontMetricsF name(Typography::font(nameStyle), this);
+    const QFontMetricsF subtitle(Typography::font(subtitleStyle), this);
     const double side = Typography::scaled(tileSide);
     const double text =
         std::max(name.horizontalAdvance(accessibleLabel()), subtitle.horizontalAdvance(subtitle_));
@@ -114,11 +106,10 @@ QSize IdentityView::minimumSizeHint() const {
 }
 
 void IdentityView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const ColorScheme scheme = colorScheme(*this);
+    ViewPainter painter(*this);
     const double side = Typography::scaled(tileSide);
-    const QRectF tile = Pixels::snapped(painter, {0, (height() - side) / 2, side, side});
+    const QRectF tile =
+        Pixels::snapped(painter, painter.leading({0, (height() - side) / 2, side, side}));
     const double corner = tileCorner * side / tileSide;
     QLinearGradient gradient(tile.topLeft(), tile.bottomRight());
     gradient.setColorAt(0, VantorTheme::cyan());
@@ -131,17 +122,15 @@ void IdentityView::paintEvent(QPaintEvent*) {
                   QStringLiteral("waveform.path.ecg"), Qt::white);
 
     const double left = side + identitySpacing;
-    const double nameHeight = QFontMetricsF(nameFont(), this).height();
-    const double subtitleHeight = QFontMetricsF(subtitleFont(), this).height();
+    const double nameHeight = painter.lineHeight(nameStyle);
+    const double subtitleHeight = painter.lineHeight(subtitleStyle);
     const double top = (height() - nameHeight - subtitleHeight) / 2;
-    painter.setFont(nameFont());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawLine(painter, {left, top, width() - left, nameHeight}, Qt::AlignLeft,
-                         accessibleLabel());
-    painter.setFont(subtitleFont());
-    vantorSecondaryForeground(painter, scheme);
-    Typography::drawLine(painter, {left, top + nameHeight, width() - left, subtitleHeight},
-                         Qt::AlignLeft, subtitle_);
+    const double across = width() - left;
+    painter.primary();
+    painter.line(nameStyle, {left, top, across, nameHeight}, Qt::AlignLeft, accessibleLabel());
+    painter.secondary();
+    painter.line(subtitleStyle, {left, top + nameHeight, across, subtitleHeight}, Qt::AlignLeft,
+                 subtitle_);
 }
 
 IntervalMenuView::IntervalMenuView(const std::function<void(double)>& onChange, QWidget* parent)

@@ -63,7 +63,7 @@ QString lastUpdateText(Timestamp timestamp, const QLocale& locale) {
 }
 
 DashboardView::DashboardView(Environment environment, QWidget* parent)
-    : QWidget(parent), environment_(std::move(environment)) {
+    : GroundView(parent), environment_(std::move(environment)) {
     build();
     observe();
 }
@@ -193,11 +193,6 @@ void DashboardView::reportFirstLiveFrame() {
 void DashboardView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     environment_.monitor->start();
-}
-
-void DashboardView::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    painter.fillRect(event->rect(), VantorTheme::background(colorScheme(*this), rect()));
 }
 
 }  // namespace vantor

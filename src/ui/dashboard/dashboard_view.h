@@ -13,6 +13,7 @@
 #include "settings/app_settings.h"
 #include "ui/app_metadata.h"
 #include "ui/dashboard/adaptive_grid.h"
+#include "ui/drawing/ground_view.h"
 
 namespace vantor {
 
@@ -33,7 +34,7 @@ QString lastUpdateText(Timestamp timestamp, const QLocale& locale);
 /// The content of the main window: header, cards, process explorer and footer in one scroll view
 /// over the theme's background. Starts the sampling when it first appears; shows whatever the
 /// monitor publishes.
-class DashboardView : public QWidget {
+class DashboardView : public GroundView {
   public:
     struct Environment {
         std::shared_ptr<AppSettings> settings;
@@ -62,7 +63,6 @@ class DashboardView : public QWidget {
     VantorHorizontalFit& footer() { return *footer_; }
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
   private:

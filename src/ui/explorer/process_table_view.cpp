@@ -5,7 +5,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QStringList>
 #include <QToolTip>
 
@@ -15,6 +14,7 @@
 #include "ui/components/reveal.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/components/usage_bar.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/explorer/process_columns.h"
 #include "ui/pixels.h"
 #include "ui/symbols.h"
@@ -30,12 +30,8 @@ constexpr double barHeight = 5;
 constexpr double currentOpacity = 0.08;
 constexpr double currentCorner = 6;
 
-QFont nameFont() {
-    return Typography::font(Typography::caption);
-}
-QFont figureFont() {
-    return Typography::font(Typography::caption);
-}
+constexpr TextStyle nameStyle{Typography::caption};
+constexpr TextStyle figureStyle{Typography::caption};
 
 /// In steps of half a point of the bar: less cannot be seen, and need not be painted.
 double visibleShare(double share, double barWidth) {
@@ -80,8 +76,8 @@ void ProcessTableView::show(std::span<const ProcessRow> rows) {
 }
 
 double ProcessTableView::rowHeight() const {
-    const double text = QFontMetricsF(nameFont(), this).height();
-    return std::ceil(std::max(text, QFontMetricsF(figureFont(), this).height()));
+    const double text = QFontMetricsF(Typography::font(nameStyle), this).height();
+    return std::ceil(std::max(text, QFontMetricsF(Typography::font(figureStyle), this).height()));
 }
 
 /// The header takes the place of a row before the first one.
@@ -230,8 +226,7 @@ bool ProcessTableView::event(QEvent* event) {
 }
 
 void ProcessTableView::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    ViewPainter painter(*this);
     if (event->rect().top() < rowArea(0).top()) paintHeader(painter);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const QRect area = rowArea(i).toAlignedRect();
@@ -239,20 +234,19 @@ void ProcessTableView::paintEvent(QPaintEvent* event) {
     }
 }
 
-void ProcessTableView::paintHeader(QPainter& painter) const {
+void ProcessTableView::paintHeader(ViewPainter& painter) const {
     const auto columns = ProcessColumns::make(width(), rowHeight(), Typography::lengthScale());
-    painter.setFont(figureFont());
-    vantorSecondaryForeground(painter, colorScheme(*this));
+    painter.secondary();
     constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
-    Typography::drawLine(painter, columns.icon.united(columns.name),
-                         Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Process"));
-    Typography::drawLine(painter, columns.pid, trailing, QStringLiteral("PID"));
-    Typography::drawLine(painter, columns.cpuText, trailing, QStringLiteral("CPU"));
-    Typography::drawLine(painter, columns.memoryText, trailing, QStringLiteral("Memory"));
+    painter.line(figureStyle, columns.icon.united(columns.name), Qt::AlignLeft | Qt::AlignVCenter,
+                 QStringLiteral("Process"));
+    painter.line(figureStyle, columns.pid, trailing, QStringLiteral("PID"));
+    painter.line(figureStyle, columns.cpuText, trailing, QStringLiteral("CPU"));
+    painter.line(figureStyle, columns.memoryText, trailing, QStringLiteral("Memory"));
 }
 
-void ProcessTableView::paintCurrent(QPainter& painter, const QRectF& area) const {
-    const ColorScheme scheme = colorScheme(*this);
+void ProcessTableView::paintCurrent(ViewPainter& painter, const QRectF& area) const {
+    const ColorScheme scheme = painter.scheme();
     const QRectF ground =
         Pixels::snapped(painter, area.adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2));
     QPainterPath shape;
@@ -262,10 +256,10 @@ void ProcessTableView::paintCurrent(QPainter& painter, const QRectF& area) const
     if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, ground, currentCorner, palette());
 }
 
-void ProcessTableView::paintRow(QPainter& painter, std::size_t index) const {
+void ProcessTableView::paintRow(ViewPainter& painter, std::size_t index) const {
     const Row& row = rows_[index];
     const QRectF area = rowArea(index);
-    const ColorScheme scheme = colorScheme(*this);
+    const ColorScheme scheme = painter.scheme();
     if (currentPID_ && row.pid == *currentPID_) paintCurrent(painter, area);
     const auto columns =
         ProcessColumns::make(area.width(), area.height(), Typography::lengthScale());
@@ -273,21 +267,18 @@ void ProcessTableView::paintRow(QPainter& painter, std::size_t index) const {
     const double symbol = std::min(columns.icon.width(), area.height());
     QRectF icon = at(columns.icon);
     icon.setWidth(symbol);
-    Symbols::draw(painter, icon, symbol_, VantorTheme::secondaryLabel(scheme));
+    Symbols::draw(painter, painter.leading(icon), symbol_, VantorTheme::secondaryLabel(scheme));
     constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
-    painter.setFont(nameFont());
-    vantorPrimaryForeground(painter, scheme);
-    Typography::drawLine(painter, at(columns.name), Qt::AlignLeft | Qt::AlignVCenter, row.name);
-    painter.setFont(figureFont());
-    Typography::drawDigitText(painter, at(columns.cpuText), trailing, row.cpuText);
-    Typography::drawDigitText(painter, at(columns.memoryText), trailing, row.memoryText);
-    vantorSecondaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, at(columns.pid), trailing, QString::number(row.pid));
+    painter.primary();
+    painter.line(nameStyle, at(columns.name), Qt::AlignLeft | Qt::AlignVCenter, row.name);
+    painter.figures(figureStyle, at(columns.cpuText), trailing, row.cpuText);
+    painter.figures(figureStyle, at(columns.memoryText), trailing, row.memoryText);
+    painter.secondary();
+    painter.figures(figureStyle, at(columns.pid), trailing, QString::number(row.pid));
     if (columns.cpuBar.width() <= 0) return;
-    paintUsageBar(painter, at(columns.cpuBar), {row.cpuShare, VantorTheme::cyan(), barHeight},
-                  scheme);
-    paintUsageBar(painter, at(columns.memoryBar), {row.memoryShare, VantorTheme::pink(), barHeight},
-                  scheme);
+    paintUsageBar(painter, at(columns.cpuBar), {row.cpuShare, VantorTheme::cyan(), barHeight});
+    paintUsageBar(painter, at(columns.memoryBar),
+                  {row.memoryShare, VantorTheme::pink(), barHeight});
 }
 
 }  // namespace vantor

@@ -9,6 +9,7 @@
 
 #include "ui/components/focus_ring.h"
 #include "ui/components/painted_view.h"
+#include "ui/drawing/view_painter.h"
 #include "ui/explorer/process_explorer.h"
 
 namespace vantor {
@@ -66,9 +67,9 @@ class ProcessTableView : public PaintedView {
     double rowHeight() const;
     QRectF rowArea(std::size_t index) const;
     std::optional<std::size_t> rowAt(QPointF place) const;
-    void paintHeader(QPainter& painter) const;
-    void paintRow(QPainter& painter, std::size_t index) const;
-    void paintCurrent(QPainter& painter, const QRectF& area) const;
+    void paintHeader(ViewPainter& painter) const;
+    void paintRow(ViewPainter& painter, std::size_t index) const;
+    void paintCurrent(ViewPainter& painter, const QRectF& area) const;
     bool moveBy(Qt::Key key);
 
     QString symbol_;

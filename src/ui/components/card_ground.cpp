@@ -1,0 +1,142 @@
+#include "ui/components/card_ground.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+
+#include <array>
+#include <cmath>
+#include <optional>
+
+#include "ui/components/card_chrome.h"
+#include "ui/drawing/device_pixels.h"
+#include "ui/drawing/ground_view.h"
+#include "ui/pixels.h"
+
+namespace vantor {
+
+namespace {
+
+using Layer = Ground::Layer;
+
+/// Paints a card and what it stands on, from the window's ground. Counts in device pixels.
+class OpaqueCard {
+  public:
+    OpaqueCard(QPainter& painter, const Ground& ground, QRect card, QPoint origin, double scale)
+        : painter_(painter),
+          ground_(ground),
+          card_(card),
+          origin_(origin),
+          radius_(CardChrome::cornerRadius * scale),
+          line_(std::max(1, static_cast<int>(std::lround(scale)))) {}
+
+    void paint(const QRect& dirty, ColorScheme scheme, const QColor& border) {
+        const QRect part = dirty & card_;
+        copy(Layer::card, part);
+        // So far inside the corners' circles nothing but the card's colour can be.
+        const int inner = static_cast<int>(std::ceil(radius_ * (1 - M_SQRT1_2))) + line_;
+        if (card_.adjusted(inner, inner, -inner, -inner).contains(part)) return;
+        paintLines(part, border);
+        paintCorners(part, scheme, border);
+    }
+
+  private:
+    void copy(Layer layer, const QRect& area) {
+        ground_.paint(painter_, layer, area.translated(-origin_), origin_);
+    }
+    QColor blended(const QColor& color, QPoint place) const {
+        return VantorTheme::over(color, ground_.color(Layer::card, place - origin_));
+    }
+    int side() const { return static_cast<int>(std::ceil(radius_)); }
+    void paintLines(const QRect& part, const QColor& border);
+    void paintCorners(const QRect& part, ColorScheme scheme, const QColor& border);
+
+    QPainter& painter_;
+    const Ground& ground_;
+    QRect card_;
+    QPoint origin_;
+    double radius_;
+    int line_;
+};
+
+/// The straight parts of the border, in lengths over which the ground's colour does not change:
+/// blending a long thin line costs far more than filling it.
+void OpaqueCard::paintLines(const QRect& part, const QColor& border) {
+    constexpr int length = 32;
+    const auto fill = [&](const QRect& piece) {
+        const QRect seen = piece & part;
+        if (!seen.isEmpty()) painter_.fillRect(seen, blended(border, piece.center()));
+    };
+    const QRect across = card_.adjusted(side(), 0, -side(), 0);
+    for (int x = across.left(); x <= across.right(); x += length) {
+        const int width = std::min(length, across.right() - x + 1);
+        fill({x, card_.top(), width, line_});
+        fill({x, card_.bottom() + 1 - line_, width, line_});
+    }
+    const QRect down = card_.adjusted(0, side(), 0, -side());
+    for (int y = down.top(); y <= down.bottom(); y += length) {
+        const int height = std::min(length, down.bottom() - y + 1);
+        fill({card_.left(), y, line_, height});
+        fill({card_.right() + 1 - line_, y, line_, height});
+    }
+}
+
+void OpaqueCard::paintCorners(const QRect& part, ColorScheme scheme, const QColor& border) {
+    struct Corner {
+        QPoint place;    // of the square
+        QPointF center;  // of the circle
+        double firstAngle;
+    };
+    const QRectF card(card_);
+    const double r = radius_;
+    const int s = side();
+    const std::array corners{
+        Corner{card_.topLeft(), card.topLeft() + QPointF(r, r), 90},
+        Corner{{card_.right() + 1 - s, card_.top()}, card.topRight() + QPointF(-r, r), 0},
+        Corner{{card_.left(), card_.bottom() + 1 - s}, card.bottomLeft() + QPointF(r, -r), 180},
+        Corner{{card_.right() + 1 - s, card_.bottom() + 1 - s},
+               card.bottomRight() + QPointF(-r, -r),
+               270}};
+    for (const auto& [place, center, angle] : corners) {
+        const QRect square(place, QSize(s, s));
+        if (!square.intersects(part)) continue;
+        copy(Layer::window, square);
+        const auto circle = [&, c = center](double radius) {
+            return QRectF(c.x() - radius, c.y() - radius, 2 * radius, 2 * radius);
+        };
+        QPainterPath pie(center);
+        pie.arcTo(circle(r), angle, 90);
+        pie.closeSubpath();
+        vantorBackground(painter_, VantorTheme::card(scheme), pie);
+        QPainterPath arc;
+        arc.arcMoveTo(circle(r - line_ / 2.0), angle);
+        arc.arcTo(circle(r - line_ / 2.0), angle, 90);
+        painter_.strokePath(arc, QPen(border, line_, Qt::SolidLine, Qt::FlatCap));
+    }
+}
+
+}  // namespace
+
+bool CardGround::event(QEvent* event) {
+    if (event->type() == QEvent::Polish || event->type() == QEvent::ParentChange) {
+        setAttribute(Qt::WA_OpaquePaintEvent, GroundView::behind(*this) != nullptr);
+    }
+    return QWidget::event(event);
+}
+
+void CardGround::paintEvent(QPaintEvent* event) {
+    const ColorScheme scheme = colorScheme(*this);
+    GroundView* const below = GroundView::behind(*this);
+    QPainter painter(this);
+    if (!below) {
+        CardChrome::paint(painter, rect(), scheme, borderColor());
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    const DevicePixels pixels(painter);
+    const QPoint origin = pixels.at(-QPointF(mapTo(below, QPoint())));
+    OpaqueCard card(painter, below->ground(), pixels.at(QRectF(rect())), origin, pixels.scale());
+    for (const QRect& part : event->region())
+        card.paint(pixels.at(QRectF(part)), scheme, borderColor());
+}
+
+}  // namespace vantor

@@ -1,0 +1,38 @@
+#include "ui/drawing/view_painter.h"
+
+#include <QStyle>
+
+#include "ui/drawing/ground_view.h"
+
+namespace vantor {
+
+ViewPainter::ViewPainter(QWidget& view)
+    : QPainter(&view),
+      width_(view.width()),
+      isMirrored_(view.isRightToLeft()),
+      scheme_(colorScheme(view)) {
+    GroundView* const below = GroundView::behind(view);
+    shapes_ = below ? &below->shapes() : &own_.emplace();
+    setRenderHint(QPainter::Antialiasing);
+}
+
+QRectF ViewPainter::leading(const QRectF& area) const {
+    if (!isMirrored_) return area;
+    return {width_ - area.right(), area.top(), area.width(), area.height()};
+}
+
+Qt::Alignment ViewPainter::leading(Qt::Alignment alignment) const {
+    return QStyle::visualAlignment(isMirrored_ ? Qt::RightToLeft : Qt::LeftToRight, alignment);
+}
+
+void ViewPainter::line(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
+                       const QString& text) {
+    shapes_->drawLine(*this, style, leading(area), leading(alignment), text);
+}
+
+void ViewPainter::figures(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
+                          const QString& text) {
+    shapes_->drawFigures(*this, style, leading(area), leading(alignment), text);
+}
+
+}  // namespace vantor
