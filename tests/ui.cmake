@@ -23,6 +23,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/footer_test.cpp
     ui/formatters_test.cpp
     ui/gpu_storage_card_test.cpp
+    ui/ground_test.cpp
     ui/horizontal_fit_test.cpp
     ui/layouts_test.cpp
     ui/memory_network_card_test.cpp
@@ -32,11 +33,14 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/process_explorer_test.cpp
     ui/process_explorer_view_test.cpp
     ui/process_mini_list_test.cpp
+    ui/rasters_test.cpp
+    ui/repaint_test.cpp
     ui/ring_gauge_test.cpp
     ui/small_components_test.cpp
     ui/sparkline_test.cpp
     ui/symbols_test.cpp
     ui/system_card_test.cpp
+    ui/text_shapes_test.cpp
     ui/theme_test.cpp
     ui/typography_test.cpp
     ui/usage_bar_test.cpp)

@@ -11,8 +11,6 @@ namespace vantor::Typography {
 namespace {
 
 constexpr double referenceSize = 13;
-// The longest text worth shaping: whatever is cut off would not fit on any screen.
-constexpr qsizetype longestLine = 1024;
 
 double systemPixelSize() {
     return QFontInfo(QApplication::font()).pixelSize();

@@ -28,6 +28,9 @@ inline constexpr double headline = 13;
 inline constexpr double caption = 11.5;
 inline constexpr double caption2 = 10.5;
 
+/// The longest text worth shaping: whatever is cut off would not fit on any screen.
+inline constexpr qsizetype longestLine = 1024;
+
 /// The system's font at a size.
 QFont font(double size, QFont::Weight weight = QFont::Normal);
 QFont font(const TextStyle& style);

@@ -112,7 +112,8 @@ TEST_F(ProcessExplorerTest, CaseIsThatOfTheUsersLanguage) {
 
 TEST_F(ProcessExplorerTest, HostileNamesAreSearchedToo) {
     add({withMemory(70, ") R 1 (", 50, 1), withMemory(71, "a\nb", 40, 1),
-         withMemory(72, std::string(4000, 'x').append("END"), 30, 1), withMemory(73, "ファイル", 20, 1)});
+         withMemory(72, std::string(4000, 'x').append("END"), 30, 1),
+         withMemory(73, "ファイル", 20, 1)});
     EXPECT_THAT(visible(u") r"), ElementsAre(70));
     EXPECT_THAT(visible(u"A\nB"), ElementsAre(71));
     EXPECT_THAT(visible(u"xend"), ElementsAre(72));

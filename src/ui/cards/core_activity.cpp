@@ -161,8 +161,8 @@ void CoreActivityView::paintCell(ViewPainter& painter, const QRectF& cell,
     shape.addRoundedRect(area, cellCorner, cellCorner);
     vantorBackground(painter, fill, shape);
     vantorForeground(painter, VantorTheme::labelOn(fill, painter.scheme()));
-    painter.figures(numberStyle, cell, Qt::AlignHCenter | Qt::AlignVCenter,
-                    QString::number(index + 1));
+    painter.figures(numberStyle, Pixels::snapped(painter, cell),
+                    Qt::AlignHCenter | Qt::AlignVCenter, QString::number(index + 1));
 }
 
 }  // namespace vantor

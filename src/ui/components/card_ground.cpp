@@ -80,37 +80,45 @@ void OpaqueCard::paintLines(const QRect& part, const QColor& border) {
     }
 }
 
+/// A quarter of a circle and, where its radius is no whole number, the rest of the square around
+/// it.
+struct CornerPath {
+    QPointF tip;        // where the edges would meet
+    QPointF inwards;    // one pixel along both edges
+    double firstAngle;  // of the arc, counterclockwise
+    bool startsAcross;  // whether the arc begins at the horizontal edge
+
+    /// The arc `inset` within the edges, from one side of the square to the other.
+    QPainterPath arc(double radius, double side, double inset) const {
+        const QPointF along(inwards.x() * side, inwards.y() * inset);
+        const QPointF down(inwards.x() * inset, inwards.y() * side);
+        const QPointF center = tip + inwards * radius;
+        const double r = radius - inset;
+        QPainterPath path(tip + (startsAcross ? along : down));
+        path.arcTo(QRectF(center.x() - r, center.y() - r, 2 * r, 2 * r), firstAngle, 90);
+        path.lineTo(tip + (startsAcross ? down : along));
+        return path;
+    }
+};
+
 void OpaqueCard::paintCorners(const QRect& part, ColorScheme scheme, const QColor& border) {
-    struct Corner {
-        QPoint place;    // of the square
-        QPointF center;  // of the circle
-        double firstAngle;
-    };
     const QRectF card(card_);
-    const double r = radius_;
     const int s = side();
-    const std::array corners{
-        Corner{card_.topLeft(), card.topLeft() + QPointF(r, r), 90},
-        Corner{{card_.right() + 1 - s, card_.top()}, card.topRight() + QPointF(-r, r), 0},
-        Corner{{card_.left(), card_.bottom() + 1 - s}, card.bottomLeft() + QPointF(r, -r), 180},
-        Corner{{card_.right() + 1 - s, card_.bottom() + 1 - s},
-               card.bottomRight() + QPointF(-r, -r),
-               270}};
-    for (const auto& [place, center, angle] : corners) {
-        const QRect square(place, QSize(s, s));
+    const std::array corners{CornerPath{card.topLeft(), {1, 1}, 90, true},
+                             CornerPath{card.topRight(), {-1, 1}, 0, false},
+                             CornerPath{card.bottomLeft(), {1, -1}, 180, false},
+                             CornerPath{card.bottomRight(), {-1, -1}, 270, true}};
+    for (const CornerPath& corner : corners) {
+        const QPointF inner = corner.tip + corner.inwards * s;
+        const QRect square = QRectF(corner.tip, inner).normalized().toRect();
         if (!square.intersects(part)) continue;
         copy(Layer::window, square);
-        const auto circle = [&, c = center](double radius) {
-            return QRectF(c.x() - radius, c.y() - radius, 2 * radius, 2 * radius);
-        };
-        QPainterPath pie(center);
-        pie.arcTo(circle(r), angle, 90);
-        pie.closeSubpath();
-        vantorBackground(painter_, VantorTheme::card(scheme), pie);
-        QPainterPath arc;
-        arc.arcMoveTo(circle(r - line_ / 2.0), angle);
-        arc.arcTo(circle(r - line_ / 2.0), angle, 90);
-        painter_.strokePath(arc, QPen(border, line_, Qt::SolidLine, Qt::FlatCap));
+        QPainterPath filled = corner.arc(radius_, s, 0);
+        filled.lineTo(inner);
+        filled.closeSubpath();
+        vantorBackground(painter_, VantorTheme::card(scheme), filled);
+        painter_.strokePath(corner.arc(radius_, s, line_ / 2.0),
+                            QPen(border, line_, Qt::SolidLine, Qt::FlatCap));
     }
 }
 
@@ -134,7 +142,8 @@ void CardGround::paintEvent(QPaintEvent* event) {
     painter.setRenderHint(QPainter::Antialiasing);
     const DevicePixels pixels(painter);
     const QPoint origin = pixels.at(-QPointF(mapTo(below, QPoint())));
-    OpaqueCard card(painter, below->ground(), pixels.at(QRectF(rect())), origin, pixels.scale());
+    OpaqueCard card(painter, below->ground(pixels.scale()), pixels.at(QRectF(rect())), origin,
+                    pixels.scale());
     for (const QRect& part : event->region())
         card.paint(pixels.at(QRectF(part)), scheme, borderColor());
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/drawing/device_pixels.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -47,20 +48,20 @@ QSize RingGaugeView::sizeHint() const {
     return {side, side};
 }
 
+void RingGaugeView::paintRing(ViewPainter& painter, const RingGaugeGeometry& geometry,
+                              double width) const {
+    const QColor track = VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), 0.08);
+    const DevicePixels pixels(painter);
+    const double scale = pixels.scale();
+    painter.rings().draw(
+        painter, {pixels.exact(geometry.circle.center()), geometry.circle.width() / 2 * scale,
+                  width * scale, geometry.sweep, track, gauge_.accent});
+}
+
 void RingGaugeView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    const ColorScheme scheme = painter.scheme();
     const double width = gauge_.lineWidth * Typography::lengthScale();
-    const auto geometry = RingGaugeGeometry::make(rect(), gauge_.value, width);
-
-    const QColor track = VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.08);
-    painter.setPen(QPen(track, width, Qt::SolidLine, Qt::FlatCap));
-    painter.drawEllipse(geometry.circle);
-    if (geometry.sweep > 0) {
-        // The toolkit counts sixteenths of a degree, counterclockwise from three o'clock.
-        painter.setPen(QPen(gauge_.accent, width, Qt::SolidLine, Qt::RoundCap));
-        painter.drawArc(geometry.circle, 90 * 16, static_cast<int>(-geometry.sweep * 16));
-    }
+    paintRing(painter, RingGaugeGeometry::make(rect(), gauge_.value, width), width);
 
     const double titleHeight = painter.lineHeight(titleStyle);
     const double detailHeight = painter.lineHeight(detailStyle);

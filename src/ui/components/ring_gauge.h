@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "ui/components/painted_view.h"
+#include "ui/drawing/view_painter.h"
 
 namespace vantor {
 
@@ -46,6 +47,8 @@ class RingGaugeView : public PaintedView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void paintRing(ViewPainter& painter, const RingGaugeGeometry& geometry, double width) const;
+
     RingGauge gauge_;
 };
 

@@ -1,9 +1,8 @@
 #include "ui/components/sparkline.h"
 
-#include <QPainter>
-
 #include <algorithm>
 
+#include "ui/drawing/device_pixels.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -26,7 +25,6 @@ SparklineGeometry SparklineGeometry::make(std::span<const double> values, double
     if (!(upper > lower)) upper = lower + 1;
     const double span = upper - lower;
     const double step = values.size() >= 2 ? width / static_cast<double>(values.size() - 1) : 0;
-    geometry.height = height;
     geometry.points.reserve(values.size());
     for (std::size_t i = 0; i < values.size(); ++i) {
         const double held = std::clamp(values[i], lower, upper);
@@ -36,39 +34,17 @@ SparklineGeometry SparklineGeometry::make(std::span<const double> values, double
     return geometry;
 }
 
-QPainterPath SparklineGeometry::line() const {
-    QPainterPath path;
-    if (points.empty()) return path;
-    path.reserve(static_cast<int>(points.size()));
-    path.moveTo(points.front());
-    for (std::size_t i = 1; i < points.size(); ++i)
-        path.lineTo(points[i]);
-    return path;
-}
-
-QPainterPath SparklineGeometry::fill() const {
-    QPainterPath path;
-    if (points.empty()) return path;
-    path.reserve(static_cast<int>(points.size()) + 3);
-    path.moveTo(points.front().x(), height);
-    for (const QPointF& point : points)
-        path.lineTo(point);
-    path.lineTo(points.back().x(), height);
-    path.closeSubpath();
-    return path;
-}
-
-void paintSparkline(QPainter& painter, const QRectF& area, std::span<const double> values,
+void paintSparkline(ViewPainter& painter, const QRectF& area, std::span<const double> values,
                     const QColor& accent, std::optional<std::pair<double, double>> fixedRange) {
+    const DevicePixels pixels(painter);
+    const QRect place = pixels.at(area);
+    const double width = lineWidth * pixels.scale();
     // Half the stroke's width above and below, or a line along an edge would be cut in half.
-    const auto geometry =
-        SparklineGeometry::make(values, area.width(), area.height() - lineWidth, fixedRange);
-    painter.save();
-    painter.translate(area.left(), area.top() + lineWidth / 2);
-    vantorBackground(painter, VantorTheme::faded(accent, fillOpacity), geometry.fill());
-    painter.strokePath(geometry.line(),
-                       QPen(accent, lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
-    painter.restore();
+    auto geometry =
+        SparklineGeometry::make(values, place.width(), place.height() - width, fixedRange);
+    for (QPointF& point : geometry.points)
+        point.ry() += width / 2;
+    painter.lines().draw(painter, place, geometry.points, {accent, width, fillOpacity});
 }
 
 SparklineView::SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent)
@@ -92,8 +68,7 @@ QSize SparklineView::sizeHint() const {
 }
 
 void SparklineView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    ViewPainter painter(*this);
     paintSparkline(painter, rect(), sparkline_.values, sparkline_.accent, sparkline_.fixedRange);
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPointF>
 #include <QString>
 
@@ -12,6 +10,7 @@
 #include <vector>
 
 #include "ui/components/painted_view.h"
+#include "ui/drawing/view_painter.h"
 
 namespace vantor {
 
@@ -27,19 +26,15 @@ struct Sparkline {
 /// Where the points of a series lie in an area of that size.
 struct SparklineGeometry {
     std::vector<QPointF> points;
-    double height = 0;
 
     /// No points for no values or an area without width or height. A series of equal values lies
     /// along the bottom.
     static SparklineGeometry make(std::span<const double> values, double width, double height,
                                   std::optional<std::pair<double, double>> fixedRange);
-
-    QPainterPath line() const;
-    QPainterPath fill() const;  ///< the line, closed along the bottom
 };
 
 /// Paints a series across `area`, the whole stroke within it.
-void paintSparkline(QPainter& painter, const QRectF& area, std::span<const double> values,
+void paintSparkline(ViewPainter& painter, const QRectF& area, std::span<const double> values,
                     const QColor& accent, std::optional<std::pair<double, double>> fixedRange);
 
 /// Draws a series across its whole width, 62 points high unless told otherwise.

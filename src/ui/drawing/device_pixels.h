@@ -21,6 +21,8 @@ class DevicePixels {
 
     double scale() const { return toDevice_.m11(); }
 
+    QPointF exact(QPointF place) const { return toDevice_.map(place); }
+
     /// Where the painter counted `place` and `area` before, with edges on the nearest pixels.
     QPoint at(QPointF place) const { return toDevice_.map(place).toPoint(); }
     QRect at(const QRectF& area) const {

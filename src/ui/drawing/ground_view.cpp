@@ -13,15 +13,15 @@ GroundView* GroundView::behind(const QWidget& view) {
     return nullptr;
 }
 
-const Ground& GroundView::ground() {
-    ground_.fit((QSizeF(size()) * devicePixelRatioF()).toSize(), colorScheme(*this));
+const Ground& GroundView::ground(double scale) {
+    ground_.fit((QSizeF(size()) * scale).toSize(), colorScheme(*this));
     return ground_;
 }
 
 void GroundView::paintEvent(QPaintEvent* event) {
-    const Ground& whole = ground();
     QPainter painter(this);
     const DevicePixels pixels(painter);
+    const Ground& whole = ground(pixels.scale());
     const QPoint origin = pixels.at(QPointF());
     for (const QRect& part : event->region())
         whole.paint(painter, Ground::Layer::window, pixels.at(QRectF(part)).translated(-origin),

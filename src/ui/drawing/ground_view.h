@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
+#include "ui/drawing/drawing_kit.h"
 #include "ui/drawing/ground.h"
-#include "ui/drawing/text_shapes.h"
 
 namespace vantor {
 
@@ -16,17 +16,17 @@ class GroundView : public QWidget {
     /// The one that `view` stands on; null where there is none.
     static GroundView* behind(const QWidget& view);
 
-    /// As the view is now: its size, its screen's resolution and its colours.
-    const Ground& ground();
+    /// As the view is now, for a device with that many pixels to a point.
+    const Ground& ground(double scale);
 
-    TextShapes& shapes() { return shapes_; }
+    DrawingKit& kit() { return kit_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     Ground ground_;
-    TextShapes shapes_;
+    DrawingKit kit_;
 };
 
 }  // namespace vantor

@@ -127,6 +127,10 @@ void TextShapes::drawLine(QPainter& painter, const TextStyle& style, const QRect
                           Qt::Alignment alignment, const QString& text) {
     if (text.isEmpty() || !(area.width() > 0)) return;
     const Face& face = faceOf(style);
+    if (text.size() > Typography::longestLine) {
+        drawLine(painter, style, area, alignment, text.left(Typography::longestLine));
+        return;
+    }
     const Shape* shape = &shapeOf(face, text, uncut);
     if (shape->width > area.width())
         shape = &shapeOf(face, text, static_cast<int>(std::floor(area.width())));

@@ -12,7 +12,7 @@ ViewPainter::ViewPainter(QWidget& view)
       isMirrored_(view.isRightToLeft()),
       scheme_(colorScheme(view)) {
     GroundView* const below = GroundView::behind(view);
-    shapes_ = below ? &below->shapes() : &own_.emplace();
+    kit_ = below ? &below->kit() : &own_.emplace();
     setRenderHint(QPainter::Antialiasing);
 }
 
@@ -27,12 +27,12 @@ Qt::Alignment ViewPainter::leading(Qt::Alignment alignment) const {
 
 void ViewPainter::line(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
                        const QString& text) {
-    shapes_->drawLine(*this, style, leading(area), leading(alignment), text);
+    kit_->shapes.drawLine(*this, style, leading(area), leading(alignment), text);
 }
 
 void ViewPainter::figures(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
                           const QString& text) {
-    shapes_->drawFigures(*this, style, leading(area), leading(alignment), text);
+    kit_->shapes.drawFigures(*this, style, leading(area), leading(alignment), text);
 }
 
 }  // namespace vantor

@@ -5,14 +5,14 @@
 
 #include <optional>
 
-#include "ui/drawing/text_shapes.h"
+#include "ui/drawing/drawing_kit.h"
 #include "ui/theme.h"
 
 namespace vantor {
 
 /// Paints one view, with soft edges. Places count from the leading edge: where the language is read
 /// from right to left, `leading` and the texts mirror them, so that a view is written for one
-/// direction only. Texts come from the shapes that the window keeps.
+/// direction only. What it draws with is the window's.
 class ViewPainter : public QPainter {
   public:
     explicit ViewPainter(QWidget& view);
@@ -25,12 +25,15 @@ class ViewPainter : public QPainter {
     /// Where something lies that is at `area` for who reads from left to right.
     QRectF leading(const QRectF& area) const;
 
-    double lineHeight(const TextStyle& style) { return shapes_->height(style); }
+    LineRaster& lines() { return kit_->lines; }
+    RingRaster& rings() { return kit_->rings; }
+
+    double lineHeight(const TextStyle& style) { return kit_->shapes.height(style); }
     double figuresWidth(const TextStyle& style, const QString& text) {
-        return shapes_->figuresWidth(style, text);
+        return kit_->shapes.figuresWidth(style, text);
     }
     double lineWidth(const TextStyle& style, const QString& text) {
-        return shapes_->lineWidth(style, text);
+        return kit_->shapes.lineWidth(style, text);
     }
     void line(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
               const QString& text);
@@ -43,8 +46,8 @@ class ViewPainter : public QPainter {
     double width_;
     bool isMirrored_;
     ColorScheme scheme_;
-    std::optional<TextShapes> own_;  // of a view that stands on no ground
-    TextShapes* shapes_;             // the window's, else own_
+    std::optional<DrawingKit> own_;  // of a view that stands on no ground
+    DrawingKit* kit_;                // the window's, else own_
 };
 
 }  // namespace vantor

@@ -1,0 +1,111 @@
+#include "ui/drawing/line_raster.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace vantor {
+
+namespace {
+
+std::uint8_t level(double share) {
+    return static_cast<std::uint8_t>(std::lround(std::clamp(share, 0.0, 1.0) * 255));
+}
+
+int clampedFloor(double value, int low, int high) {
+    return static_cast<int>(std::floor(std::clamp<double>(value, low, high)));
+}
+
+}  // namespace
+
+/// How much of each pixel lies below the line, as a share of what full coverage is worth there.
+void LineRaster::fillBelow(std::span<const QPointF> points, double share) {
+    const std::uint8_t whole = level(share);
+    std::size_t segment = 1;
+    for (int x = 0; x < width_; ++x) {
+        const double middle = x + 0.5;
+        if (middle < points.front().x() || middle > points.back().x()) continue;
+        while (segment + 1 < points.size() && points[segment].x() < middle)
+            ++segment;
+        const QPointF from = points[segment - 1];
+        const QPointF to = points[segment];
+        const double across = to.x() - from.x();
+        const double part = across > 0 ? (middle - from.x()) / across : 1;
+        const double y = std::lerp(from.y(), to.y(), part);
+        const int top = clampedFloor(y, 0, height_ - 1);
+        row(top)[x] = level(share * (top + 1 - y));
+        for (int below = top + 1; below < height_; ++below)
+            row(below)[x] = whole;
+    }
+}
+
+/// Adds what lies within `reach` of the segment, with an edge one pixel soft.
+void LineRaster::addSegment(QPointF from, QPointF to, double reach) {
+    const double outer = reach + 0.5;
+    const QPointF along = to - from;
+    const double length = std::hypot(along.x(), along.y());
+    if (!(length > 0)) return;
+    const double unitX = along.x() / length;
+    const double unitY = along.y() / length;
+    const int firstX = clampedFloor(from.x() - outer, 0, width_);
+    const int lastX = clampedFloor(to.x() + outer, -1, width_ - 1);
+    for (int x = firstX; x <= lastX; ++x) {
+        // The rows that the band of the line crosses within this column.
+        const double nearX = std::clamp(x + 0.5 - outer, from.x(), to.x());
+        const double farX = std::clamp(x + 0.5 + outer, from.x(), to.x());
+        const double slope = along.x() > 0 ? along.y() / along.x() : 0;
+        double y1 = along.x() > 0 ? from.y() + (nearX - from.x()) * slope : from.y();
+        double y2 = along.x() > 0 ? from.y() + (farX - from.x()) * slope : to.y();
+        if (y1 > y2) std::swap(y1, y2);
+        const int firstY = clampedFloor(y1 - outer, 0, height_);
+        const int lastY = clampedFloor(y2 + outer, -1, height_ - 1);
+        const double dx = x + 0.5 - from.x();
+        for (int y = firstY; y <= lastY; ++y) {
+            const double dy = y + 0.5 - from.y();
+            const double along01 = std::clamp(dx * unitX + dy * unitY, 0.0, length);
+            const double offX = dx - along01 * unitX;
+            const double offY = dy - along01 * unitY;
+            const double squared = offX * offX + offY * offY;
+            if (squared >= outer * outer) continue;
+            std::uint8_t& pixel = row(y)[x];
+            pixel = std::max(pixel, level(outer - std::sqrt(squared)));
+        }
+    }
+}
+
+void LineRaster::colour(const QColor& color) {
+    std::array<QRgb, 256> shades{};
+    for (int alpha = 0; alpha < 256; ++alpha)
+        shades[static_cast<std::size_t>(alpha)] =
+            qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
+    for (int y = 0; y < height_; ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        const std::uint8_t* const covered = row(y);
+        for (int x = 0; x < width_; ++x)
+            line[x] = shades[covered[x]];
+    }
+}
+
+void LineRaster::draw(QPainter& painter, const QRect& area, std::span<const QPointF> points,
+                      const Style& style) {
+    if (points.size() < 2 || area.isEmpty()) return;
+    width_ = area.width();
+    height_ = area.height();
+    if (image_.width() < width_ || image_.height() < height_)
+        image_ = QImage(area.size().expandedTo(image_.size()), QImage::Format_ARGB32_Premultiplied);
+    const auto pixels = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
+    coverage_.assign(pixels, 0);
+    fillBelow(points, style.fillShare);
+    below_ = coverage_;
+    std::ranges::fill(coverage_, std::uint8_t{0});
+    for (std::size_t i = 1; i < points.size(); ++i)
+        addSegment(points[i - 1], points[i], style.width / 2);
+    // The line lies over what is below it.
+    for (std::size_t i = 0; i < pixels; ++i)
+        coverage_[i] =
+            static_cast<std::uint8_t>(coverage_[i] + (255 - coverage_[i]) * below_[i] / 255);
+    colour(style.color);
+    painter.drawImage(area.topLeft(), image_, QRect(0, 0, width_, height_));
+}
+
+}  // namespace vantor

@@ -1,0 +1,117 @@
+#include "ui/drawing/ring_raster.h"
+
+#include <QRect>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace vantor {
+
+namespace {
+
+/// Premultiplied, 0 to 1.
+struct Shade {
+    double red, green, blue, alpha;
+
+    static Shade of(const QColor& color) {
+        const double a = color.alphaF();
+        return {color.redF() * a, color.greenF() * a, color.blueF() * a, a};
+    }
+    Shade at(double share) const {
+        return {red * share, green * share, blue * share, alpha * share};
+    }
+    Shade over(const Shade& ground) const {
+        const double rest = 1 - alpha;
+        return {red + ground.red * rest, green + ground.green * rest, blue + ground.blue * rest,
+                alpha + ground.alpha * rest};
+    }
+    QRgb pixel() const {
+        const auto level = [](double x) { return static_cast<int>(x * 255 + 0.5); };
+        return qRgba(level(red), level(green), level(blue), level(alpha));
+    }
+};
+
+/// What of a ring covers a pixel.
+class Band {
+  public:
+    explicit Band(const RingRaster::Ring& ring)
+        : radius_(ring.radius),
+          reach_(ring.width / 2 + 0.5),
+          isWhole_(ring.sweep >= 360),
+          isEmpty_(!(ring.sweep > 0)),
+          isWide_(ring.sweep > 180),
+          end_(direction(ring.sweep)) {}
+
+    double inner() const { return std::max(0.0, radius_ - reach_); }
+    double outer() const { return radius_ + reach_; }
+
+    /// All arguments are relative to the ring's center.
+    double covered(double distance) const {
+        return std::clamp(reach_ - std::abs(distance - radius_), 0.0, 1.0);
+    }
+    double lit(QPointF place, double distance) const {
+        if (isEmpty_) return 0;
+        if (isWhole_ || isInSector(place)) return covered(distance);
+        return std::max(capped(place, {0, -radius_}), capped(place, end_ * radius_));
+    }
+
+  private:
+    static QPointF direction(double degrees) {
+        const double angle = degrees * std::numbers::pi / 180;
+        return {std::sin(angle), -std::cos(angle)};
+    }
+    static double cross(QPointF a, QPointF b) { return a.x() * b.y() - a.y() * b.x(); }
+
+    bool isInSector(QPointF place) const {
+        const bool isAfterStart = place.x() >= 0;  // within half a turn after the top
+        const bool isBeforeEnd = cross(place, end_) >= 0;
+        return isWide_ ? isAfterStart || isBeforeEnd : isAfterStart && isBeforeEnd;
+    }
+    double capped(QPointF place, QPointF cap) const {
+        const QPointF off = place - cap;
+        return std::clamp(reach_ - std::hypot(off.x(), off.y()), 0.0, 1.0);
+    }
+
+    double radius_;
+    double reach_;
+    bool isWhole_;
+    bool isEmpty_;
+    bool isWide_;
+    QPointF end_;
+};
+
+}  // namespace
+
+void RingRaster::draw(QPainter& painter, const Ring& ring) {
+    const Band band(ring);
+    const double outer = band.outer();
+    const QRect area =
+        QRectF(ring.center.x() - outer, ring.center.y() - outer, 2 * outer, 2 * outer)
+            .toAlignedRect();
+    if (area.isEmpty()) return;
+    if (image_.width() < area.width() || image_.height() < area.height())
+        image_ = QImage(area.size().expandedTo(image_.size()), QImage::Format_ARGB32_Premultiplied);
+    const Shade track = Shade::of(ring.track);
+    const Shade accent = Shade::of(ring.accent);
+    const double innerSquared = band.inner() * band.inner();
+    for (int y = 0; y < area.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        const double dy = area.top() + y + 0.5 - ring.center.y();
+        for (int x = 0; x < area.width(); ++x) {
+            const double dx = area.left() + x + 0.5 - ring.center.x();
+            const double squared = dx * dx + dy * dy;
+            if (squared >= outer * outer || squared <= innerSquared) {
+                line[x] = 0;
+                continue;
+            }
+            const double distance = std::sqrt(squared);
+            const double lit = band.lit({dx, dy}, distance);
+            const Shade ground = track.at(band.covered(distance));
+            line[x] = accent.at(lit).over(ground).pixel();
+        }
+    }
+    painter.drawImage(area.topLeft(), image_, QRect(QPoint(), area.size()));
+}
+
+}  // namespace vantor
