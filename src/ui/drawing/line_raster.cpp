@@ -9,7 +9,7 @@ namespace vantor {
 namespace {
 
 std::uint8_t level(double share) {
-    return static_cast<std::uint8_t>(std::lround(std::clamp(share, 0.0, 1.0) * 255));
+    return static_cast<std::uint8_t>(std::clamp(share, 0.0, 1.0) * 255 + 0.5);
 }
 
 int clampedFloor(double value, int low, int high) {
@@ -18,9 +18,9 @@ int clampedFloor(double value, int low, int high) {
 
 }  // namespace
 
-/// How much of each pixel lies below the line, as a share of what full coverage is worth there.
-void LineRaster::fillBelow(std::span<const QPointF> points, double share) {
-    const std::uint8_t whole = level(share);
+/// Where the area below the line begins in each column, and how much of that pixel it covers.
+void LineRaster::findSurface(std::span<const QPointF> points, double share) {
+    surface_.assign(static_cast<std::size_t>(width_), Surface{height_, 0});
     std::size_t segment = 1;
     for (int x = 0; x < width_; ++x) {
         const double middle = x + 0.5;
@@ -31,11 +31,9 @@ void LineRaster::fillBelow(std::span<const QPointF> points, double share) {
         const QPointF to = points[segment];
         const double across = to.x() - from.x();
         const double part = across > 0 ? (middle - from.x()) / across : 1;
-        const double y = std::lerp(from.y(), to.y(), part);
+        const double y = from.y() + (to.y() - from.y()) * part;
         const int top = clampedFloor(y, 0, height_ - 1);
-        row(top)[x] = level(share * (top + 1 - y));
-        for (int below = top + 1; below < height_; ++below)
-            row(below)[x] = whole;
+        surface_[static_cast<std::size_t>(x)] = {top, level(share * (top + 1 - y))};
     }
 }
 
@@ -73,16 +71,24 @@ void LineRaster::addSegment(QPointF from, QPointF to, double reach) {
     }
 }
 
-void LineRaster::colour(const QColor& color) {
+/// Puts the line over what is below it, in shades of one colour.
+void LineRaster::colour(const Style& style) {
     std::array<QRgb, 256> shades{};
+    const QColor& color = style.color;
     for (int alpha = 0; alpha < 256; ++alpha)
         shades[static_cast<std::size_t>(alpha)] =
             qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
+    const std::uint8_t whole = level(style.fillShare);
     for (int y = 0; y < height_; ++y) {
         auto* const line = reinterpret_cast<QRgb*>(image_.scanLine(y));
         const std::uint8_t* const covered = row(y);
-        for (int x = 0; x < width_; ++x)
-            line[x] = shades[covered[x]];
+        for (int x = 0; x < width_; ++x) {
+            const Surface& surface = surface_[static_cast<std::size_t>(x)];
+            const int below = y > surface.top ? whole : y == surface.top ? surface.covered : 0;
+            const int over = covered[x];
+            line[x] = shades[static_cast<std::size_t>(
+                over == 0 ? below : over + (255 - over) * below / 255)];
+        }
     }
 }
 
@@ -93,18 +99,11 @@ void LineRaster::draw(QPainter& painter, const QRect& area, std::span<const QPoi
     height_ = area.height();
     if (image_.width() < width_ || image_.height() < height_)
         image_ = QImage(area.size().expandedTo(image_.size()), QImage::Format_ARGB32_Premultiplied);
-    const auto pixels = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
-    coverage_.assign(pixels, 0);
-    fillBelow(points, style.fillShare);
-    below_ = coverage_;
-    std::ranges::fill(coverage_, std::uint8_t{0});
+    coverage_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0);
+    findSurface(points, style.fillShare);
     for (std::size_t i = 1; i < points.size(); ++i)
         addSegment(points[i - 1], points[i], style.width / 2);
-    // The line lies over what is below it.
-    for (std::size_t i = 0; i < pixels; ++i)
-        coverage_[i] =
-            static_cast<std::uint8_t>(coverage_[i] + (255 - coverage_[i]) * below_[i] / 255);
-    colour(style.color);
+    colour(style);
     painter.drawImage(area.topLeft(), image_, QRect(0, 0, width_, height_));
 }
 

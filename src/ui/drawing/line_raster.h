@@ -29,15 +29,20 @@ class LineRaster {
               const Style& style);
 
   private:
+    struct Surface {
+        int top;
+        std::uint8_t covered;
+    };
+
     std::uint8_t* row(int y) { return coverage_.data() + static_cast<std::ptrdiff_t>(y) * width_; }
-    void fillBelow(std::span<const QPointF> points, double share);
+    void findSurface(std::span<const QPointF> points, double share);
     void addSegment(QPointF from, QPointF to, double reach);
-    void colour(const QColor& color);
+    void colour(const Style& style);
 
     int width_ = 0;
     int height_ = 0;
-    std::vector<std::uint8_t> coverage_;
-    std::vector<std::uint8_t> below_;
+    std::vector<std::uint8_t> coverage_;  // by the line, row by row
+    std::vector<Surface> surface_;        // of what is below it, column by column
     QImage image_;
 };
 

@@ -50,9 +50,9 @@ class Band {
     double covered(double distance) const {
         return std::clamp(reach_ - std::abs(distance - radius_), 0.0, 1.0);
     }
-    double lit(QPointF place, double distance) const {
+    double lit(QPointF place, double covered) const {
         if (isEmpty_) return 0;
-        if (isWhole_ || isInSector(place)) return covered(distance);
+        if (isWhole_ || isInSector(place)) return covered;
         return std::max(capped(place, {0, -radius_}), capped(place, end_ * radius_));
     }
 
@@ -70,7 +70,9 @@ class Band {
     }
     double capped(QPointF place, QPointF cap) const {
         const QPointF off = place - cap;
-        return std::clamp(reach_ - std::hypot(off.x(), off.y()), 0.0, 1.0);
+        const double squared = off.x() * off.x() + off.y() * off.y();
+        if (squared >= reach_ * reach_) return 0;
+        return std::min(reach_ - std::sqrt(squared), 1.0);
     }
 
     double radius_;
@@ -94,6 +96,8 @@ void RingRaster::draw(QPainter& painter, const Ring& ring) {
         image_ = QImage(area.size().expandedTo(image_.size()), QImage::Format_ARGB32_Premultiplied);
     const Shade track = Shade::of(ring.track);
     const Shade accent = Shade::of(ring.accent);
+    const QRgb wholeTrack = track.pixel();
+    const QRgb wholeAccent = accent.pixel();
     const double innerSquared = band.inner() * band.inner();
     for (int y = 0; y < area.height(); ++y) {
         auto* const line = reinterpret_cast<QRgb*>(image_.scanLine(y));
@@ -106,9 +110,15 @@ void RingRaster::draw(QPainter& painter, const Ring& ring) {
                 continue;
             }
             const double distance = std::sqrt(squared);
-            const double lit = band.lit({dx, dy}, distance);
-            const Shade ground = track.at(band.covered(distance));
-            line[x] = accent.at(lit).over(ground).pixel();
+            const double covered = band.covered(distance);
+            const double lit = band.lit({dx, dy}, covered);
+            if (lit == 1) {
+                line[x] = wholeAccent;
+            } else if (lit == 0 && covered == 1) {
+                line[x] = wholeTrack;
+            } else {
+                line[x] = accent.at(lit).over(track.at(covered)).pixel();
+            }
         }
     }
     painter.drawImage(area.topLeft(), image_, QRect(QPoint(), area.size()));
