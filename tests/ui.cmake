@@ -28,6 +28,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/layouts_test.cpp
     ui/memory_network_card_test.cpp
     ui/metric_row_test.cpp
+    ui/mirrored_test.cpp
     ui/picture_test.cpp
     ui/pixels_test.cpp
     ui/process_explorer_test.cpp
@@ -36,6 +37,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/rasters_test.cpp
     ui/repaint_test.cpp
     ui/ring_gauge_test.cpp
+    ui/scroll_view_test.cpp
     ui/small_components_test.cpp
     ui/sparkline_test.cpp
     ui/symbols_test.cpp

@@ -2,6 +2,7 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QVariantAnimation>
 
 namespace vantor {
 
@@ -24,10 +25,23 @@ class LegacyVantorScrollView : public QScrollArea {
     explicit LegacyVantorScrollView(Qt::Orientations axes, QWidget* parent = nullptr);
 };
 
-/// The same with the slim bar.
+/// The same with the slim bar, and gliding where a wheel would make the page jump.
 class VantorScrollView : public LegacyVantorScrollView {
   public:
     explicit VantorScrollView(Qt::Orientations axes, QWidget* parent = nullptr);
+
+    /// Where the page is gliding to; where it is when it rests.
+    int destination() const;
+
+    /// How the page glides; for those who wind time by hand.
+    QVariantAnimation& glide() { return glide_; }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    QVariantAnimation glide_;
+    int lastStep_ = 0;  // where the glide has put the page
 };
 
 }  // namespace vantor
