@@ -12,6 +12,17 @@ namespace {
 
 using testing::IsSupersetOf;
 
+/// The number that a text such as "1.25 MB" says, near enough to compare such texts.
+double bytesIn(const QString& text) {
+    double unit = 1;
+    for (const char* const name : {"KB", "MB", "GB", "TB"}) {
+        unit *= 1024;
+        if (text.contains(QLatin1StringView(name)))
+            return text.section(u' ', 0, 0).toDouble() * unit;
+    }
+    return text.section(u' ', 0, 0).toDouble();
+}
+
 class ForScreenReaders : public testing::Test {
   protected:
     void SetUp() override {
@@ -98,6 +109,38 @@ TEST_F(ForScreenReaders, AFilterThatIsTypedChangesTheRows) {
     })) << testing::PrintToString(rows());
     desktop_.key(QStringLiteral("Escape"));
     EXPECT_TRUE(eventually([this] { return rows().size() > 1; }));
+}
+
+TEST_F(ForScreenReaders, TheExplorerIsOperatedByKeyboardAlone) {
+    ASSERT_TRUE(eventually([this] { return rows().size() > 1; }));
+    desktop_.key(QStringLiteral("ctrl+f"));
+    // From the filter to the sort: the chosen order, then by arrow key the other one.
+    desktop_.key(QStringLiteral("Tab"));
+    desktop_.key(QStringLiteral("Right"));
+    const auto heaviestFirst = [this] {
+        std::vector<double> sizes;
+        for (const AccessibleElement& element : look()) {
+            if (element.name.contains(QLatin1StringView(", PID ")))
+                sizes.push_back(bytesIn(element.name.section(QStringLiteral("memory "), 1)));
+        }
+        return sizes.size() > 1 && std::ranges::is_sorted(sizes, std::ranges::greater());
+    };
+    EXPECT_TRUE(eventually(heaviestFirst)) << testing::PrintToString(rows());
+    // On to the rows: the second one is copied and put into the filter, which then finds it alone.
+    desktop_.key(QStringLiteral("Tab"));
+    desktop_.key(QStringLiteral("Down"));
+    desktop_.key(QStringLiteral("ctrl+c"));
+    desktop_.key(QStringLiteral("ctrl+f"));
+    desktop_.key(QStringLiteral("ctrl+v"));
+    EXPECT_TRUE(eventually([this] {
+        look();
+        return find("No Matching Processes") != nullptr;
+    })) << "a whole row is no process's name";
+    const QString message = find("No Matching Processes")->description;
+    EXPECT_TRUE(message.contains(u'%')) << message.toStdString();
+    EXPECT_TRUE(message.startsWith(QStringLiteral("No process matches \u201c")));
+    desktop_.key(QStringLiteral("Escape"));
+    EXPECT_TRUE(eventually(heaviestFirst)) << "the order is kept";
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "ui/components/ring_gauge.h"
 #include "ui/components/speed_tile.h"
 #include "ui/components/usage_bar.h"
+#include "ui/explorer/filter_field.h"
 #include "ui/rendering.h"
 
 namespace vantor {
@@ -118,6 +119,15 @@ TEST(Mirrored, AChangeRepaintsTheProcessorWhereItIs) {
     settleEvents();
     EXPECT_GT(paint.area.left(), 290);
     EXPECT_EQ(paint.area.right(), cores.width() - 1);
+}
+
+TEST(Mirrored, TheFiltersTextBeginsBesideItsSymbol) {
+    FilterField field(QStringLiteral("Filter"));
+    const int leading = field.textMargins().left();
+    EXPECT_GT(leading, 20);
+    field.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(field.textMargins().right(), leading);
+    EXPECT_LT(field.textMargins().left(), 10);
 }
 
 TEST(Mirrored, ChartsAndRingsRunAsTimeAndClocksDo) {

@@ -38,8 +38,16 @@ FilterField::FilterField(const QString& placeholder, QWidget* parent) : QLineEdi
     QPalette transparent = palette();
     transparent.setColor(QPalette::Base, Qt::transparent);
     setPalette(transparent);
-    setTextMargins(static_cast<int>(symbolLeft + symbolSize() + textGap) - 2, 0, 4, 0);
+    adoptDirection();
     adoptFont();
+}
+
+/// The text begins behind the symbol, on whichever side that is.
+void FilterField::adoptDirection() {
+    const int leading = static_cast<int>(symbolLeft + symbolSize() + textGap) - 2;
+    constexpr int trailing = 4;
+    setTextMargins(isRightToLeft() ? trailing : leading, 0, isRightToLeft() ? leading : trailing,
+                   0);
 }
 
 void FilterField::adoptFont() {
@@ -48,7 +56,11 @@ void FilterField::adoptFont() {
 
 void FilterField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::ApplicationFontChange) adoptFont();
+    if (event->type() == QEvent::LayoutDirectionChange) adoptDirection();
+    if (event->type() == QEvent::ApplicationFontChange) {
+        adoptFont();
+        adoptDirection();  // the symbol grows with the text
+    }
 }
 
 QSize FilterField::sizeHint() const {

@@ -20,6 +20,7 @@ class FilterField : public QLineEdit {
 
   private:
     void adoptFont();
+    void adoptDirection();
 };
 
 }  // namespace vantor

@@ -43,6 +43,11 @@ struct ProcessExplorer {
     static EmptyState noMatch(const QString& query);
 };
 
+/// What stands above the columns.
+struct ProcessHeader {
+    static constexpr std::array<QStringView, 4> titles{u"Process", u"PID", u"CPU", u"Memory"};
+};
+
 /// One visible process, and what its bars are measured by.
 struct ProcessRow {
     const ProcessStats& process;

@@ -238,11 +238,13 @@ void ProcessTableView::paintHeader(ViewPainter& painter) const {
     const auto columns = ProcessColumns::make(width(), rowHeight(), Typography::lengthScale());
     painter.secondary();
     constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
-    painter.line(figureStyle, columns.icon.united(columns.name), Qt::AlignLeft | Qt::AlignVCenter,
-                 QStringLiteral("Process"));
-    painter.line(figureStyle, columns.pid, trailing, QStringLiteral("PID"));
-    painter.line(figureStyle, columns.cpuText, trailing, QStringLiteral("CPU"));
-    painter.line(figureStyle, columns.memoryText, trailing, QStringLiteral("Memory"));
+    const auto title = [&](std::size_t column, const QRectF& area, Qt::Alignment alignment) {
+        painter.line(figureStyle, area, alignment, ProcessHeader::titles.at(column).toString());
+    };
+    title(0, columns.icon.united(columns.name), Qt::AlignLeft | Qt::AlignVCenter);
+    title(1, columns.pid, trailing);
+    title(2, columns.cpuText, trailing);
+    title(3, columns.memoryText, trailing);
 }
 
 void ProcessTableView::paintCurrent(ViewPainter& painter, const QRectF& area) const {
