@@ -4,7 +4,10 @@ vantor_add_tests(model_tests LABEL core SOURCES
     model/record_coding_test.cpp
     model/record_values_test.cpp
     model/shared_text_test.cpp
-    model/timestamp_test.cpp)
+    model/snapshot_document_test.cpp
+    model/snapshot_file_name_test.cpp
+    model/timestamp_test.cpp
+    model/utf8_test.cpp)
 
 vantor_add_tests(probes_tests LABEL core SOURCES
     probes/address_rules_test.cpp
@@ -46,8 +49,7 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/standard_order_test.cpp
     probes/storage_reader_test.cpp
     probes/sysctl_test.cpp
-    probes/system_info_reader_test.cpp
-    probes/utf8_test.cpp)
+    probes/system_info_reader_test.cpp)
 
 vantor_add_tests(platform_tests LABEL core SOURCES
     platform/property_value_test.cpp
