@@ -76,6 +76,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/drm_fdinfo_test.cpp
         platform/linux/engine_use_test.cpp
         platform/linux/failing_card_sensor_test.cpp
+        platform/linux/failing_file_writes_test.cpp
         platform/linux/failing_processor_sensor_test.cpp
         platform/linux/file_system_kind_test.cpp
         platform/linux/graphics_names_test.cpp
@@ -85,6 +86,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/link_numbers_test.cpp
         platform/linux/link_source_test.cpp
         platform/linux/linux_accelerators_test.cpp
+        platform/linux/linux_atomic_file_writer_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
         platform/linux/linux_graphics_devices_test.cpp
         platform/linux/linux_hid_event_system_test.cpp
@@ -92,6 +94,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
         platform/linux/linux_load_averages_test.cpp
+        platform/linux/linux_local_calendar_test.cpp
         platform/linux/linux_mounted_volumes_test.cpp
         platform/linux/linux_network_interfaces_test.cpp
         platform/linux/linux_power_sources_test.cpp
