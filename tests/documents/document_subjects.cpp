@@ -39,6 +39,24 @@ const std::map<std::string, MakeSimulated>& simulatedMachines() {
     return machines;
 }
 
+/// Gives a machine something to do, in figures that do not come out even and names that need care.
+void enliven(SimulatedMachine& machine) {
+    machine.hostProcessors().growth = {3, 1, 3, 0};
+    machine.networkInterfaces().receivedGrowth = 1'234'567;
+    machine.networkInterfaces().sentGrowth = 7'001;
+    SimulatedProcessTable& table = machine.processTable();
+    table.add(1, "/sbin/launchd", 9'437'184);
+    table.add(70, "/Applications/An \"App\".app/Contents/MacOS/App", 1'073'741'824);
+    table.add(71, "/tmp/two\nlines\tand\x01more", 65'536);
+    table.add(99, "/tmp/caf\xC3\xA9 caf\xE9", 4'096);
+}
+
+void letPass(SimulatedMachine& machine) {
+    machine.clock()->wind(1s);
+    machine.processTable().spend(70, 1'333'333'333);
+    machine.processTable().spend(71, 1'000'003);
+}
+
 /// A monitor that reads when it is told, and never by itself.
 class ReadingMonitor {
   public:
@@ -87,7 +105,10 @@ DocumentSubject makeDocumentSubject(const std::string& name) {
         return {name, machine, [machine] { machine->advance(1); }};
     }
     const auto machine = found->second();
-    return {name, machine, [machine] { machine->clock()->wind(1s); }};
+    if (name == "simulated-broken")
+        return {name, machine, [machine] { machine->clock()->wind(1s); }};
+    enliven(*machine);
+    return {name, machine, [machine] { letPass(*machine); }};
 }
 
 SystemSnapshot exportSubject(const DocumentSubject& subject,
