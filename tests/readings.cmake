@@ -5,6 +5,7 @@ vantor_add_tests(model_tests LABEL core SOURCES
     model/record_values_test.cpp
     model/shared_text_test.cpp
     model/snapshot_document_test.cpp
+    model/snapshot_document_values_test.cpp
     model/snapshot_file_name_test.cpp
     model/timestamp_test.cpp
     model/utf8_test.cpp)

@@ -6,6 +6,7 @@ vantor_add_tests(sampling_tests LABEL core SOURCES
     sampling/monitor_end_test.cpp
     sampling/provider_gate_test.cpp
     sampling/sampler_temperature_test.cpp
+    sampling/snapshot_export_end_test.cpp
     sampling/snapshot_export_test.cpp
     sampling/system_monitor_control_test.cpp
     sampling/system_monitor_history_test.cpp

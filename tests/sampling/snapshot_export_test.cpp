@@ -1,55 +1,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include <limits>
 #include <memory>
 #include <string>
 
-#include "model/snapshot_document.h"
-#include "sampling/played_export_platform.h"
-#include "sampling/wound_world.h"
+#include "sampling/export_flow.h"
 
 /// The user saves the snapshot: question, background write, and an alert if it failed.
 namespace vantor {
 namespace {
 
 using namespace std::chrono_literals;
-using nlohmann::json;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-constexpr auto exportLabel = "com.kestrone.Vantor.export";
-
-class SnapshotExportFlow : public testing::Test {
-  protected:
-    SnapshotExportFlow() {
-        world.monitor = SystemMonitor::make(world.settings, world.machine, world.loop, world.queues,
-                                            user.platform());
-    }
-
-    SystemMonitor& monitor() { return *world.monitor; }
-
-    /// Sampling is under way and something has been committed.
-    void sample() {
-        world.start();
-        world.advance(2s);
-        ASSERT_NE(world.state().snapshot.timestamp, SystemSnapshot::empty().timestamp);
-    }
-
-    /// The writing thread's turn, and then the main loop's.
-    void finishWriting() {
-        ASSERT_TRUE(world.queues->runNext(exportLabel));
-        world.loop->runPosted();
-    }
-
-    static std::string documentOf(const SystemSnapshot& snapshot) {
-        return std::get<std::string>(encodedSnapshot(snapshot));
-    }
-
-    WoundWorld world;
-    PlayedExportPlatform user;
-};
 
 TEST_F(SnapshotExportFlow, AsksForAFileWithTheSnapshotsTimeAsItsName) {
     sample();
@@ -212,64 +176,6 @@ TEST_F(SnapshotExportFlow, WritesTheStandInWhileNothingIsCommitted) {
     finishWriting();
     ASSERT_THAT(user.writes, SizeIs(1));
     EXPECT_EQ(user.writes[0].bytes, documentOf(SystemSnapshot::empty()));
-}
-
-TEST_F(SnapshotExportFlow, ClosesItsDialogWhenTheMonitorEnds) {
-    monitor().exportSnapshot();
-    world.monitor.reset();
-    EXPECT_EQ(user.openDialogs, 0);
-}
-
-TEST_F(SnapshotExportFlow, DoesNothingForADialogThatEndsAfterTheMonitor) {
-    monitor().exportSnapshot();
-    world.monitor.reset();
-    user.confirm("/chosen.json");
-    world.settle();
-    EXPECT_THAT(user.writes, IsEmpty());
-    EXPECT_THAT(user.alerts, IsEmpty());
-}
-
-TEST_F(SnapshotExportFlow, WritesNothingWhenTheMonitorEndedBeforeTheWriteBegan) {
-    monitor().exportSnapshot();
-    user.confirm("/chosen.json");
-    world.monitor.reset();
-    finishWriting();
-    EXPECT_THAT(user.writes, IsEmpty());
-    EXPECT_THAT(user.alerts, IsEmpty());
-}
-
-TEST_F(SnapshotExportFlow, FinishesAWriteThatHadBegunWhenTheMonitorEndedAndShowsNothing) {
-    user.onWrite = [&] { world.monitor.reset(); };
-    monitor().exportSnapshot();
-    user.confirm("/chosen.json");
-    finishWriting();
-    EXPECT_EQ(world.monitor, nullptr);
-    EXPECT_THAT(user.writes, SizeIs(1));
-    EXPECT_THAT(user.alerts, IsEmpty());
-}
-
-TEST_F(SnapshotExportFlow, ShowsNoAlertWhenTheMonitorEndsWithTheResultUnderWay) {
-    user.writeError = DescribedError{"no"};
-    monitor().exportSnapshot();
-    user.confirm("/chosen.json");
-    ASSERT_TRUE(world.queues->runNext(exportLabel));
-    world.monitor.reset();
-    world.loop->runPosted();
-    EXPECT_THAT(user.alerts, IsEmpty());
-}
-
-TEST_F(SnapshotExportFlow, LetsTheMonitorEndWhileTheAlertIsRead) {
-    user.writeError = DescribedError{"no"};
-    const std::weak_ptr<SystemMonitor> weak = world.monitor;
-    bool ended = false;
-    user.onAlert = [&] {
-        world.monitor.reset();
-        ended = weak.expired();
-    };
-    monitor().exportSnapshot();
-    user.confirm("/chosen.json");
-    finishWriting();
-    EXPECT_TRUE(ended);
 }
 
 TEST(SnapshotExport, NeedsAPlatformToExportWith) {

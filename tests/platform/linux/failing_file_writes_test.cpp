@@ -2,9 +2,14 @@
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <chrono>
+#include <csignal>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "platform/linux/file_error.h"
@@ -170,6 +175,39 @@ TEST(FileSizeLimit, IsAnErrorAndNotTheProgramsEnd) {
               "\"file.json\" could not be saved. The file would be larger than it may be there.");
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_THAT(folder.names(), ElementsAre("file.json"));
+}
+
+/// A process that writes `content` again and again until it is killed.
+pid_t startWriter(const fs::path& file, const std::string& content) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        LinuxAtomicFileWriter writer;
+        while (!writer.write(file, content)) {
+        }
+        ::_exit(1);
+    }
+    return child;
+}
+
+TEST(KilledWriter, LeavesAWholeFileWhateverItWasDoing) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "file.json";
+    writeFile(file, "old");
+    std::string known = "old";
+    for (int attempt = 0; attempt < 40; ++attempt) {
+        const std::string content(100'000, static_cast<char>('a' + attempt % 26));
+        const pid_t child = startWriter(file, content);
+        ASSERT_GT(child, 0);
+        std::this_thread::sleep_for(std::chrono::microseconds(250 * attempt));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFSIGNALED(status));
+        const std::string found = contentOf(file);
+        ASSERT_TRUE(found == known || found == content) << found.substr(0, 10) << found.size();
+        known = found;
+    }
+    EXPECT_NE(known, "old");
 }
 
 /// Runs on a disk of 64 KiB that nobody else sees.
