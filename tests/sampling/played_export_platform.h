@@ -49,9 +49,9 @@ class PlayedExportPlatform {
         Dialog(const Dialog&) = delete;
         Dialog& operator=(const Dialog&) = delete;
         ~Dialog() override { --played_->openDialogs; }
-        void begin(Completion completion) override {
+        void begin(Completion whenOver) override {
             ++played_->openDialogs;
-            played_->completion = std::move(completion);
+            played_->completion = std::move(whenOver);
         }
         PlayedExportPlatform* played_;
     };
