@@ -222,7 +222,7 @@ class DocumentWriter {
 std::variant<std::string, DescribedError> encodedSnapshot(const SystemSnapshot& snapshot) {
     // What a process takes, its texts aside, and the rest of a usual machine.
     constexpr std::size_t bytesOfProcess = 256;
-    constexpr std::size_t bytesOfTheRest = 16 * 1024;
+    constexpr std::size_t bytesOfTheRest = 16384;
     std::string document;
     document.reserve(bytesOfTheRest + bytesOfProcess * snapshot.processes.size());
     DocumentWriter writer(document);
