@@ -2,8 +2,8 @@
 #include <array>
 #include <string>
 
+#include "model/utf8.h"
 #include "probes/standard_order.h"
-#include "probes/utf8.h"
 
 #include "require.h"
 

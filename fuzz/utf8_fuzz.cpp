@@ -1,4 +1,4 @@
-#include "probes/utf8.h"
+#include "model/utf8.h"
 
 #include "require.h"
 

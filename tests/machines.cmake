@@ -1,6 +1,8 @@
 # Whole machines recorded as text, see machines/README.md.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(machines_tests LABEL core SOURCES
+        documents/document_subjects.cpp
+        documents/machine_snapshots_test.cpp
         machines/damaged_machines_test.cpp
         machines/machine_document.cpp
         machines/machines_test.cpp
@@ -19,6 +21,28 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     add_custom_target(update_goldens
         COMMAND ${CMAKE_COMMAND} -E env VANTOR_UPDATE_GOLDENS=1
             $<TARGET_FILE:machines_tests> --gtest_filter=*IsAsAgreed*
-        COMMENT "Writing tests/machines/*/golden.json anew"
+        COMMENT "Writing tests/machines/*/golden.json and tests/documents/agreed anew"
         USES_TERMINAL VERBATIM)
+
+    # Exported documents, checked by a validator and a reader that are not ours.
+    add_executable(export_machines_program
+        documents/document_subjects.cpp
+        documents/export_machines_program.cpp
+        support/recorded_calls.cpp
+        support/recorded_machine.cpp
+        support/recorded_tree.cpp)
+    vantor_set_up_test_target(export_machines_program)
+    add_dependencies(core_tests export_machines_program)
+    # The system's own Python first: that is the one whose packages the scripts install.
+    find_program(VANTOR_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
+    find_program(VANTOR_PYTHON python3)
+    if(VANTOR_PYTHON)
+        add_test(NAME ExportedDocuments.FitTheirSchemaAndReadBackTheSame
+            COMMAND ${VANTOR_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/documents/validate_documents.py
+                $<TARGET_FILE:export_machines_program>
+                ${CMAKE_SOURCE_DIR}/docs/snapshot.schema.json
+                ${CMAKE_CURRENT_BINARY_DIR}/exported_documents)
+        set_tests_properties(ExportedDocuments.FitTheirSchemaAndReadBackTheSame PROPERTIES
+            TIMEOUT 120 SKIP_RETURN_CODE 77 LABELS core)
+    endif()
 endif()

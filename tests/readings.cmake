@@ -4,7 +4,11 @@ vantor_add_tests(model_tests LABEL core SOURCES
     model/record_coding_test.cpp
     model/record_values_test.cpp
     model/shared_text_test.cpp
-    model/timestamp_test.cpp)
+    model/snapshot_document_test.cpp
+    model/snapshot_document_values_test.cpp
+    model/snapshot_file_name_test.cpp
+    model/timestamp_test.cpp
+    model/utf8_test.cpp)
 
 vantor_add_tests(probes_tests LABEL core SOURCES
     probes/address_rules_test.cpp
@@ -46,8 +50,7 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/standard_order_test.cpp
     probes/storage_reader_test.cpp
     probes/sysctl_test.cpp
-    probes/system_info_reader_test.cpp
-    probes/utf8_test.cpp)
+    probes/system_info_reader_test.cpp)
 
 vantor_add_tests(platform_tests LABEL core SOURCES
     platform/property_value_test.cpp
@@ -74,6 +77,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/drm_fdinfo_test.cpp
         platform/linux/engine_use_test.cpp
         platform/linux/failing_card_sensor_test.cpp
+        platform/linux/failing_file_writes_test.cpp
         platform/linux/failing_processor_sensor_test.cpp
         platform/linux/file_system_kind_test.cpp
         platform/linux/graphics_names_test.cpp
@@ -83,6 +87,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/link_numbers_test.cpp
         platform/linux/link_source_test.cpp
         platform/linux/linux_accelerators_test.cpp
+        platform/linux/linux_atomic_file_writer_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
         platform/linux/linux_graphics_devices_test.cpp
         platform/linux/linux_hid_event_system_test.cpp
@@ -90,6 +95,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
         platform/linux/linux_load_averages_test.cpp
+        platform/linux/linux_local_calendar_test.cpp
         platform/linux/linux_mounted_volumes_test.cpp
         platform/linux/linux_network_interfaces_test.cpp
         platform/linux/linux_power_sources_test.cpp

@@ -6,6 +6,8 @@ vantor_add_tests(sampling_tests LABEL core SOURCES
     sampling/monitor_end_test.cpp
     sampling/provider_gate_test.cpp
     sampling/sampler_temperature_test.cpp
+    sampling/snapshot_export_end_test.cpp
+    sampling/snapshot_export_test.cpp
     sampling/system_monitor_control_test.cpp
     sampling/system_monitor_history_test.cpp
     sampling/system_monitor_loop_test.cpp
@@ -16,7 +18,8 @@ vantor_add_tests(sampling_tests LABEL core SOURCES
 vantor_add_tests(sampling_thread_tests LABEL core SOURCES
     sampling/hanging_probe_test.cpp
     sampling/monitor_stress_test.cpp
-    sampling/sampler_stress_test.cpp)
+    sampling/sampler_stress_test.cpp
+    sampling/snapshot_export_thread_test.cpp)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     target_sources(sampling_thread_tests PRIVATE
         sampling/hanging_volumes_test.cpp

@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/atomic_file_writer.h"
+#include "platform/local_calendar.h"
 #include "platform/machine.h"
 
 /// What the build's operating system supplies; each folder of adapters defines these once.
@@ -10,6 +12,10 @@ namespace vantor {
 
 /// The machine that the program runs on.
 std::shared_ptr<Machine> makeNativeMachine();
+
+/// Its disks, and the time zone of its user.
+std::shared_ptr<AtomicFileWriter> makeNativeFileWriter();
+std::shared_ptr<LocalCalendar> makeNativeLocalCalendar();
 
 /// Makes the calling thread a labelled background one of utility priority.
 void assumeUtilityRole(const std::string& label);

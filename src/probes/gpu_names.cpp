@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "probes/utf8.h"
+#include "model/utf8.h"
 
 namespace vantor {
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <utility>
 
+#include "model/utf8.h"
 #include "probes/gpu_matching.h"
 #include "probes/gpu_names.h"
-#include "probes/utf8.h"
 
 namespace vantor {
 

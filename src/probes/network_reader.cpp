@@ -5,8 +5,8 @@
 #include <cmath>
 #include <vector>
 
+#include "model/utf8.h"
 #include "probes/interface_order.h"
-#include "probes/utf8.h"
 
 namespace vantor {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "probes/utf8.h"
+#include "model/utf8.h"
 
 namespace vantor {
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <tuple>
 
-#include "probes/utf8.h"
+#include "model/utf8.h"
 
 namespace vantor {
 

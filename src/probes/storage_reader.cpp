@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "model/utf8.h"
 #include "probes/standard_order.h"
-#include "probes/utf8.h"
 
 namespace vantor {
 

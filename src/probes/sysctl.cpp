@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "probes/utf8.h"
+#include "model/utf8.h"
 
 namespace vantor {
 

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
+#include "model/utf8.h"
 #include "platform/program_architecture.h"
 #include "probes/sysctl.h"
-#include "probes/utf8.h"
 
 namespace vantor {
 

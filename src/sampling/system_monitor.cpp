@@ -24,32 +24,39 @@ constexpr int lastStage = 4;
 std::shared_ptr<SystemMonitor> SystemMonitor::make(std::shared_ptr<AppSettings> settings,
                                                    std::shared_ptr<Machine> machine,
                                                    std::shared_ptr<MainLoop> mainLoop,
-                                                   std::shared_ptr<SerialQueueFactory> queues) {
+                                                   std::shared_ptr<SerialQueueFactory> queues,
+                                                   ExportPlatform exportPlatform) {
     struct Constructible : SystemMonitor {
         Constructible(std::shared_ptr<AppSettings> s, std::shared_ptr<Machine> m,
-                      std::shared_ptr<MainLoop> l, std::shared_ptr<SerialQueueFactory> q)
-            : SystemMonitor(std::move(s), std::move(m), std::move(l), std::move(q)) {}
+                      std::shared_ptr<MainLoop> l, std::shared_ptr<SerialQueueFactory> q,
+                      ExportPlatform e)
+            : SystemMonitor(std::move(s), std::move(m), std::move(l), std::move(q), std::move(e)) {}
     };
     std::shared_ptr<SystemMonitor> monitor = std::make_shared<Constructible>(
-        std::move(settings), std::move(machine), std::move(mainLoop), std::move(queues));
+        std::move(settings), std::move(machine), std::move(mainLoop), std::move(queues),
+        std::move(exportPlatform));
     monitor->observeSettings();
     return monitor;
 }
 
 SystemMonitor::SystemMonitor(std::shared_ptr<AppSettings> settings,
                              std::shared_ptr<Machine> machine, std::shared_ptr<MainLoop> mainLoop,
-                             std::shared_ptr<SerialQueueFactory> queues)
+                             std::shared_ptr<SerialQueueFactory> queues,
+                             ExportPlatform exportPlatform)
     : dashboardState_(DashboardState{}),
       isPaused_(false),
       settings_(std::move(settings)),
       machine_(std::move(machine)),
       mainLoop_(std::move(mainLoop)),
-      queues_(std::move(queues)) {}
+      queues_(std::move(queues)),
+      exportPlatform_(std::move(exportPlatform)) {}
 
 SystemMonitor::~SystemMonitor() {
     cancelTask(monitoringTask_);
     cancelTask(startupTask_);
     cancelTask(pendingCommitTask_);
+    if (exportWorkerTask_) exportWorkerTask_->cancel();
+    cancelTask(exportCompletionTask_);
     if (sampler_) sampler_->invalidate();  // a run in progress may keep it alive
 }
 

@@ -2,10 +2,12 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include "platform/export_platform.h"
 #include "platform/machine.h"
 #include "platform/main_loop.h"
 #include "platform/published.h"
@@ -13,6 +15,7 @@
 #include "sampling/dashboard_state.h"
 #include "sampling/main_task.h"
 #include "sampling/pending_update.h"
+#include "sampling/snapshot_export.h"
 #include "sampling/system_sampler.h"
 #include "settings/app_settings.h"
 
@@ -27,10 +30,12 @@ namespace vantor {
 /// tasks and completions refer to it weakly and do nothing when it is gone.
 class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
   public:
+    /// Without a platform to export with, exportSnapshot does nothing.
     static std::shared_ptr<SystemMonitor> make(std::shared_ptr<AppSettings> settings,
                                                std::shared_ptr<Machine> machine,
                                                std::shared_ptr<MainLoop> mainLoop,
-                                               std::shared_ptr<SerialQueueFactory> queues);
+                                               std::shared_ptr<SerialQueueFactory> queues,
+                                               ExportPlatform exportPlatform = {});
     SystemMonitor(const SystemMonitor&) = delete;
     SystemMonitor& operator=(const SystemMonitor&) = delete;
     ~SystemMonitor();
@@ -52,6 +57,22 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
 
     /// While the user resizes the window, ticks ask for nothing and nothing is committed.
     void setDashboardLiveResizeActive(bool active);
+
+    /// Asks the user for a file and writes the snapshot into it that is published when the user
+    /// confirms; in the background, and with an alert only if that fails. Does nothing while an
+    /// earlier export is under way.
+    void exportSnapshot();
+
+    /// From the question to the result.
+    bool isExportFlowActive() const { return isExportFlowActive_; }
+
+    /// From the user's confirmation to the result.
+    bool isExportWriting() const { return exportWorkerTask_ != nullptr; }
+
+    /// For when the session ends: true once no file is being written, false after `limit`. A write
+    /// that goes on is brought to its end even without the monitor; if the program ends before,
+    /// the old file stays as it was.
+    bool waitForExport(std::chrono::milliseconds limit) const;
 
     std::uint64_t generation() const { return generation_; }
     bool isMonitoring() const { return monitoringTask_ != nullptr; }
@@ -76,7 +97,8 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
 
   private:
     SystemMonitor(std::shared_ptr<AppSettings> settings, std::shared_ptr<Machine> machine,
-                  std::shared_ptr<MainLoop> mainLoop, std::shared_ptr<SerialQueueFactory> queues);
+                  std::shared_ptr<MainLoop> mainLoop, std::shared_ptr<SerialQueueFactory> queues,
+                  ExportPlatform exportPlatform);
 
     void observeSettings();
     void restartForNewInterval();
@@ -110,22 +132,33 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     DashboardState copyOfState();
     void trimHistoriesTo(std::int64_t historyLength);
 
+    void saveDialogEnded(std::optional<std::filesystem::path> destination);
+    void writeSnapshotTo(std::filesystem::path destination);
+    static void exportEnded(const std::weak_ptr<SystemMonitor>& monitor,
+                            const std::optional<DescribedError>& error);
+
     Published<DashboardState> dashboardState_;
     Published<bool> isPaused_;
     std::shared_ptr<AppSettings> settings_;
     std::shared_ptr<Machine> machine_;
     std::shared_ptr<MainLoop> mainLoop_;
     std::shared_ptr<SerialQueueFactory> queues_;
+    const ExportPlatform exportPlatform_;
     std::shared_ptr<SystemSampler> sampler_;  // made on first use
     std::shared_ptr<MainTask> monitoringTask_;
     std::shared_ptr<MainTask> startupTask_;
     std::shared_ptr<MainTask> pendingCommitTask_;
+    std::unique_ptr<SaveDialog> saveDialog_;    // while it is open
+    std::unique_ptr<SerialQueue> exportQueue_;  // while a file is written, as are the two below
+    std::shared_ptr<SnapshotExport> exportWorkerTask_;
+    std::shared_ptr<MainTask> exportCompletionTask_;
     Subscription refreshIntervalObservation_;
     Subscription historyLengthObservation_;
     PendingUpdate pendingUpdate_;
     DashboardState spareState_;  // the state before the last one: its storage takes the next copy
     std::uint64_t generation_ = 0;
     bool slowProvidersEnabled_ = false;
+    bool isExportFlowActive_ = false;
     bool isDashboardLiveResizeActive_ = false;
 };
 

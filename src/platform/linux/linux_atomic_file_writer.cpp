@@ -1,0 +1,151 @@
+#include "platform/linux/linux_atomic_file_writer.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <ctime>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "platform/linux/file_descriptor.h"
+#include "platform/linux/file_error.h"
+#include "platform/linux/temporary_file.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int mostLinks = 40;  // what the kernel follows, too
+
+/// While this is there, a file beyond the allowed size (ulimit -f) is an error of this thread's
+/// write, and not the end of the program.
+class NoSizeSignal {
+  public:
+    NoSizeSignal() {
+        sigemptyset(&signal_);
+        sigaddset(&signal_, SIGXFSZ);
+        ::pthread_sigmask(SIG_BLOCK, &signal_, &before_);
+    }
+    NoSizeSignal(const NoSizeSignal&) = delete;
+    NoSizeSignal& operator=(const NoSizeSignal&) = delete;
+    ~NoSizeSignal() {
+        const std::timespec noTime{};
+        if (!sigismember(&before_, SIGXFSZ)) ::sigtimedwait(&signal_, nullptr, &noTime);
+        ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+    }
+
+  private:
+    sigset_t signal_{};
+    sigset_t before_{};
+};
+
+/// Where the data goes: an open folder and a name in it.
+struct Target {
+    FileDescriptor folder;
+    bool canSyncFolder = true;
+    std::string name;
+    std::optional<struct stat> old;
+};
+
+int followLinks(std::filesystem::path& destination) {
+    for (int followed = 0; followed < mostLinks; ++followed) {
+        std::error_code error;
+        const auto link = std::filesystem::read_symlink(destination, error);
+        if (error) return 0;  // no link, or something that opening its folder will complain of
+        destination = destination.parent_path() / link;
+    }
+    return ELOOP;
+}
+
+int openFolder(const std::filesystem::path& destination, Target& target) {
+    const auto parent = destination.parent_path();
+    const char* const path = parent.empty() ? "." : parent.c_str();
+    constexpr int flags = O_DIRECTORY | O_CLOEXEC;
+    target.folder = FileDescriptor(::open(path, flags | O_RDONLY));
+    if (!target.folder && errno == EACCES) {
+        // One that can be written to but not listed.
+        target.canSyncFolder = false;
+        target.folder = FileDescriptor(::open(path, flags | O_PATH));
+    }
+    return target.folder ? 0 : errno;
+}
+
+int lookAtOldFile(Target& target) {
+    struct stat old {};
+    const int folder = target.folder.get();
+    if (::fstatat(folder, target.name.c_str(), &old, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT ? 0 : errno;
+    if (S_ISDIR(old.st_mode)) return EISDIR;
+    if (!S_ISREG(old.st_mode)) return notAnOrdinaryFile;
+    if (::faccessat(folder, target.name.c_str(), W_OK, AT_EACCESS) != 0) return errno;
+    target.old = old;
+    return 0;
+}
+
+int findTarget(std::filesystem::path destination, Target& target) {
+    if (const int error = followLinks(destination)) return error;
+    target.name = destination.filename().native();
+    if (target.name.empty() || target.name == "." || target.name == "..") return EISDIR;
+    if (const int error = openFolder(destination, target)) return error;
+    return lookAtOldFile(target);
+}
+
+/// What an old file's owner allowed is allowed of the new one. What cannot be had is done without:
+/// some file systems know neither owners nor permissions.
+void takeOver(const struct stat& old, FileCalls& calls, int file) {
+    constexpr gid_t sameGroup = static_cast<gid_t>(-1);
+    constexpr uid_t sameOwner = static_cast<uid_t>(-1);
+    struct stat now {};
+    if (::fstat(file, &now) != 0) return;
+    bool hasGroup = now.st_gid == old.st_gid;
+    if (!hasGroup) hasGroup = calls.changeOwner(file, sameOwner, old.st_gid) == 0;
+    if (now.st_uid != old.st_uid) calls.changeOwner(file, old.st_uid, sameGroup);
+    mode_t mode = old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    if (!hasGroup) {
+        const mode_t ofAll = (mode & S_IRWXO) << 3;
+        mode = (mode & ~static_cast<mode_t>(S_IRWXG)) | (mode & S_IRWXG & ofAll);
+    }
+    calls.changeMode(file, mode);
+}
+
+struct Outcome {
+    int error = 0;
+    bool isOfItsKind = false;  ///< that kind of temporary file cannot be had; the other one may
+};
+
+Outcome writeBy(TemporaryFile::Kind kind, const Target& target, std::string_view bytes,
+                FileCalls& calls) {
+    TemporaryFile file(calls, target.folder.get());
+    if (const int error = file.create(kind)) return {error, true};
+    if (const int error = file.write(bytes)) return {error};
+    if (target.old) takeOver(*target.old, calls, file.descriptor());
+    if (const int error = file.sync()) return {error};
+    if (const int error = file.giveName()) return {error, true};
+    if (const int error = file.close()) return {error};
+    return {file.replace(target.name)};
+}
+
+}  // namespace
+
+std::optional<DescribedError> LinuxAtomicFileWriter::write(const std::filesystem::path& destination,
+                                                           std::string_view bytes) {
+    const NoSizeSignal noSizeSignal;
+    Target target;
+    int error = findTarget(destination, target);
+    if (error == 0) {
+        Outcome outcome = writeBy(TemporaryFile::Kind::nameless, target, bytes, *calls_);
+        if (outcome.error != 0 && outcome.isOfItsKind)
+            outcome = writeBy(TemporaryFile::Kind::named, target, bytes, *calls_);
+        error = outcome.error;
+    }
+    if (error != 0) return describeFileError(error, destination);
+    // The file is in place; if the folder cannot tell the disk so now, it will do so later.
+    if (target.canSyncFolder) calls_->sync(target.folder.get());
+    return std::nullopt;
+}
+
+}  // namespace vantor

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "platform/atomic_file_writer.h"
+#include "platform/linux/file_calls.h"
+
+namespace vantor {
+
+/// Writes a temporary file in the destination's own folder, waits until the disk has it, and
+/// renames it over the destination.
+///
+/// A new file is its owner's alone (0600). An old one's permission bits stay, and its owner and
+/// group where the user may give files away; where its group cannot stay, that group's bits go to
+/// no other group. Access lists, extended attributes and other hard links do not follow. A file
+/// that the user may not write is left alone, although the folder might let it be replaced. A
+/// symbolic link stays one: what it leads to is replaced, or made. A crash can leave a hidden file
+/// ".vantor-…" behind, where the file system has no nameless files (and for the moment of the
+/// renaming).
+class LinuxAtomicFileWriter : public AtomicFileWriter {
+  public:
+    explicit LinuxAtomicFileWriter(std::shared_ptr<FileCalls> calls = std::make_shared<FileCalls>())
+        : calls_(std::move(calls)) {}
+
+    std::optional<DescribedError> write(const std::filesystem::path& destination,
+                                        std::string_view bytes) override;
+
+  private:
+    std::shared_ptr<FileCalls> calls_;
+};
+
+}  // namespace vantor

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/local_calendar.h"
+
+namespace vantor {
+
+/// By the C library: TZ, else /etc/localtime.
+class LinuxLocalCalendar : public LocalCalendar {
+  public:
+    CalendarTime at(std::chrono::system_clock::time_point moment) const override;
+};
+
+}  // namespace vantor

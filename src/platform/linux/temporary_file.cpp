@@ -1,0 +1,100 @@
+#include "platform/linux/temporary_file.h"
+
+#include <sys/random.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+constexpr int mostAttempts = 8;  // at a name that nobody else has
+
+/// Calls again until no signal comes in between; then gives the errno.
+template <class Call>
+int untilUninterrupted(Call call) {
+    while (call() < 0) {
+        if (errno != EINTR) return errno;
+    }
+    return 0;
+}
+
+std::string hiddenName() {
+    std::array<std::uint8_t, 12> random{};
+    // The kernel gives so few bytes at once or, early in its life, not at all.
+    if (::getrandom(random.data(), random.size(), 0) < 0) return {};
+    std::string name = ".vantor-";
+    for (const std::uint8_t byte : random)
+        (name += "0123456789abcdef"[byte >> 4]) += "0123456789abcdef"[byte & 0xF];
+    return name;
+}
+
+/// Tries names until one is free.
+template <class Call>
+int underHiddenName(std::string& name, Call call) {
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        const std::string candidate = hiddenName();
+        if (candidate.empty()) return errno;
+        const int error = untilUninterrupted([&] { return call(candidate.c_str()); });
+        if (error == 0) name = candidate;
+        if (error != EEXIST) return error;
+    }
+    return EEXIST;
+}
+
+}  // namespace
+
+TemporaryFile::~TemporaryFile() {
+    close();
+    if (!name_.empty()) calls_.remove(folder_, name_.c_str());
+}
+
+int TemporaryFile::create(Kind kind) {
+    if (kind == Kind::nameless)
+        return untilUninterrupted([&] { return file_ = calls_.createNameless(folder_); });
+    return underHiddenName(name_,
+                           [&](const char* name) { return file_ = calls_.create(folder_, name); });
+}
+
+int TemporaryFile::write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = calls_.write(file_, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) return errno;
+        if (written == 0) return EIO;  // no disk does that; without this one would wait for ever
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+int TemporaryFile::sync() {
+    const int error = untilUninterrupted([&] { return calls_.sync(file_); });
+    // Some file systems have nothing to wait for and say so.
+    return error == EINVAL || error == ENOTSUP ? 0 : error;
+}
+
+int TemporaryFile::giveName() {
+    if (!name_.empty()) return 0;
+    return underHiddenName(name_,
+                           [&](const char* name) { return calls_.link(file_, folder_, name); });
+}
+
+int TemporaryFile::close() {
+    if (file_ < 0) return 0;
+    // A network's file system may tell only now that the data did not arrive. Interrupted or not,
+    // the descriptor is gone.
+    const bool wentWell = calls_.close(std::exchange(file_, -1)) == 0 || errno == EINTR;
+    return wentWell ? 0 : errno;
+}
+
+int TemporaryFile::replace(const std::string& name) {
+    const int error =
+        untilUninterrupted([&] { return calls_.rename(folder_, name_.c_str(), name.c_str()); });
+    if (error == 0) name_.clear();
+    return error;
+}
+
+}  // namespace vantor
