@@ -4,7 +4,8 @@
 
 namespace vantor::CardChrome {
 
-void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QColor& border) {
+void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QColor& border,
+           double corner) {
     const QColor fill = scheme == ColorScheme::dark
                             ? QColor::fromRgbF(0.075f, 0.085f, 0.115f, 0.96f)
                             : QColor::fromRgbF(1, 1, 1, 0.9f);
@@ -12,20 +13,19 @@ void paint(QPainter& painter, const QRectF& area, ColorScheme scheme, const QCol
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF outer = Pixels::snapped(painter, area);
     QPainterPath shape;
-    shape.addRoundedRect(outer, cornerRadius, cornerRadius);
+    shape.addRoundedRect(outer, corner, corner);
     vantorBackground(painter, fill, shape);
     const double width = Pixels::snappedLineWidth(painter, 1);
     const double inset = width / 2;
     painter.setPen(QPen(border, width));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(outer.adjusted(inset, inset, -inset, -inset), cornerRadius - inset,
-                            cornerRadius - inset);
+    painter.drawRoundedRect(outer.adjusted(inset, inset, -inset, -inset), corner - inset,
+                            corner - inset);
     painter.restore();
 }
 
-void paintTile(QPainter& painter, const QRectF& area, ColorScheme scheme) {
+void paintTile(QPainter& painter, const QRectF& area, ColorScheme scheme, double opacity) {
     constexpr double corner = 12;
-    constexpr double opacity = 0.045;
     QPainterPath tile;
     tile.addRoundedRect(Pixels::snapped(painter, area), corner, corner);
     vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), opacity), tile);

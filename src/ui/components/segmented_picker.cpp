@@ -93,8 +93,9 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
     auto* row = makeLayout<QHBoxLayout>(this);
     row->setContentsMargins(0, trackInset, trackInset, trackInset);
     row->setSpacing(0);
-    row->addWidget(makeChild<TextLineView>(this, label, Typography::caption, QFont::Normal,
-                                           TextLineView::Tone::secondary));
+    label_ = makeChild<TextLineView>(this, label, Typography::caption, QFont::Normal,
+                                     TextLineView::Tone::secondary);
+    row->addWidget(label_);
     row->addSpacing(labelGap + trackInset);
     auto* group = makeChild<QButtonGroup>(this);
     for (int i = 0; i < static_cast<int>(choices.size()); ++i) {
@@ -107,6 +108,13 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
             [onChange = std::move(onChange)](int id, bool isChosen) {
                 if (isChosen && onChange) onChange(id);
             });
+}
+
+void SegmentedPicker::hideLabel() {
+    label_->hide();
+    auto* row = static_cast<QHBoxLayout*>(layout());
+    row->itemAt(1)->spacerItem()->changeSize(trackInset, 0);
+    row->invalidate();
 }
 
 int SegmentedPicker::choice() const {

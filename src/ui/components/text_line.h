@@ -34,4 +34,13 @@ class TextLineView : public PaintedView {
     Qt::Alignment alignment_ = Qt::AlignLeft;
 };
 
+/// One that names what follows it.
+class HeadingView : public TextLineView {
+  public:
+    HeadingView(const QString& text, double size, QFont::Weight weight, QWidget* parent = nullptr)
+        : TextLineView(text, size, weight, Tone::primary, parent) {}
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Heading; }
+};
+
 }  // namespace vantor

@@ -8,9 +8,8 @@
 #include <string_view>
 
 #include "ui/components/capsule_button.h"
+#include "ui/components/menu_picker.h"
 #include "ui/components/painted_view.h"
-
-class QMenu;
 
 namespace vantor {
 
@@ -76,20 +75,11 @@ class IdentityView : public PaintedView {
 };
 
 /// Offers the refresh intervals in a menu; its label is the current one.
-class IntervalMenuView : public CapsuleButtonView {
+class IntervalMenuView : public MenuPickerView {
   public:
     explicit IntervalMenuView(const std::function<void(double)>& onChange,
                               QWidget* parent = nullptr);
     void show(double interval);
-    QMenu& menu() { return *menu_; }
-
-  protected:
-    bool isSymbolTrailing() const override { return true; }
-
-  private:
-    void open();
-
-    QMenu* menu_;  // owned by this widget, as its child
 };
 
 /// Draws the header and runs its callbacks.
