@@ -15,6 +15,8 @@ ParagraphView::ParagraphView(const QString& text, double size, QFont::Weight wei
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     adoptFont();
     adoptColor();
+    // A widget with a font of its own is not told when the program's changes; what it lies in is.
+    if (parent) parent->installEventFilter(this);
 }
 
 void ParagraphView::adoptFont() {
@@ -33,8 +35,12 @@ void ParagraphView::adoptColor() {
 
 void ParagraphView::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::ApplicationFontChange) adoptFont();
     if (event->type() == QEvent::PaletteChange) adoptColor();
+}
+
+bool ParagraphView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FontChange) adoptFont();
+    return QLabel::eventFilter(watched, event);
 }
 
 }  // namespace vantor

@@ -15,6 +15,7 @@ class ParagraphView : public QLabel {
 
   protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void adoptFont();

@@ -38,6 +38,7 @@ class StepperView : public PaintedView {
 
     QRectF areaOf(Half half) const;  ///< in this widget
     bool canStep(Half half) const;
+    int repeatTimer() const { return repeat_.timerId(); }  ///< 0 or less while nothing is held down
 
     QAccessible::Role accessibleRole() const override { return QAccessible::SpinBox; }
     QString accessibleLabel() const override { return stepper_.label; }

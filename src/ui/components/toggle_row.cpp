@@ -19,7 +19,6 @@ namespace {
 constexpr double switchWidth = 38;
 constexpr double switchHeight = 22;
 constexpr double knobInset = 2;
-constexpr double ringGap = 3;  // room around the switch for the ring of the focus
 constexpr double spacing = 16;
 constexpr double narrowestText = 120;
 constexpr double offOpacity = 0.18;
@@ -36,9 +35,9 @@ QSizeF switchSize() {
             static_cast<double>(Typography::scaled(switchHeight))};
 }
 
-/// What the switch takes of the row's width.
-double switchShare() {
-    return switchSize().width() + 2 * ringGap + spacing;
+/// What of the row's width is not the text's.
+double beside() {
+    return switchSize().width() + spacing + 2 * ToggleRowView::outset;
 }
 
 }  // namespace
@@ -65,34 +64,32 @@ double ToggleRowView::textHeight(double width) const {
 }
 
 int ToggleRowView::heightForWidth(int width) const {
-    return static_cast<int>(std::ceil(
-        std::max(switchSize().height() + 2 * ringGap, textHeight(width - switchShare()))));
+    return static_cast<int>(
+        std::ceil(std::max(switchSize().height() + 2 * outset, textHeight(width - beside()))));
 }
 
 QSize ToggleRowView::sizeHint() const {
     const QFontMetricsF metrics(textFont(), this);
-    const int width =
-        static_cast<int>(std::ceil(switchShare() + metrics.horizontalAdvance(text()) + 1));
+    const int width = static_cast<int>(std::ceil(beside() + metrics.horizontalAdvance(text()) + 1));
     return {width, heightForWidth(width)};
 }
 
 QSize ToggleRowView::minimumSizeHint() const {
-    const int width =
-        static_cast<int>(std::ceil(switchShare())) + Typography::scaled(narrowestText);
-    return {width, static_cast<int>(std::ceil(switchSize().height() + 2 * ringGap))};
+    const int width = static_cast<int>(std::ceil(beside())) + Typography::scaled(narrowestText);
+    return {width, static_cast<int>(std::ceil(switchSize().height() + 2 * outset))};
 }
 
 QRectF ToggleRowView::switchArea() const {
     const QSizeF size = switchSize();
     const bool isAtRight = (place_ == Switch::trailing) != isRightToLeft();
-    const double left = isAtRight ? width() - ringGap - size.width() : ringGap;
+    const double left = isAtRight ? width() - outset - size.width() : outset;
     return {QPointF(left, (height() - size.height()) / 2), size};
 }
 
 QRectF ToggleRowView::textArea() const {
     const bool isSwitchAtRight = (place_ == Switch::trailing) != isRightToLeft();
-    const double left = isSwitchAtRight ? 0 : switchShare();
-    return {left, 0, width() - switchShare(), static_cast<double>(height())};
+    const double left = isSwitchAtRight ? outset : beside() - outset;
+    return {left, 0, width() - beside(), static_cast<double>(height())};
 }
 
 void ToggleRowView::enterEvent(QEnterEvent* event) {
@@ -146,8 +143,8 @@ void ToggleRowView::paintSwitch(QPainter& painter) const {
                area.top() + knobInset, side, side));
     vantorBackground(painter, Qt::white, knob);
     if (hasFocus() && ring_.isShown()) {
-        FocusRing::paint(painter, area.adjusted(-ringGap, -ringGap, ringGap, ringGap),
-                         radius + ringGap, palette());
+        FocusRing::paint(painter, area.adjusted(-outset, -outset, outset, outset), radius + outset,
+                         palette());
     }
 }
 

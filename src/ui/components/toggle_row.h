@@ -15,6 +15,10 @@ class ToggleRowView : public QAbstractButton {
   public:
     enum class Switch { trailing, leading };
 
+    /// What the row keeps at each side for the ring of the focus: so much further out it has to be
+    /// placed than what it should be in line with.
+    static constexpr int outset = 3;
+
     /// `onChange` hears of what the user does, and of nothing else.
     ToggleRowView(const QString& title, Switch place, std::function<void(bool)> onChange,
                   QWidget* parent = nullptr);

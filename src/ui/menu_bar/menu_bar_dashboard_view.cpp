@@ -19,7 +19,7 @@ constexpr int rowSpacing = 10;
 constexpr int tileSpacing = 10;
 constexpr int actionSpacing = 6;
 constexpr double panelWidth = 330;
-constexpr double panelHeight = 250;
+constexpr int panelHeight = 250;
 
 }  // namespace
 
@@ -64,21 +64,24 @@ void MenuBarDashboardView::addFigures(QVBoxLayout& column, const MenuBarDashboar
 }
 
 void MenuBarDashboardView::addActions(QVBoxLayout& column, std::function<void()> onOpenDashboard) {
-    const auto button = [&](const char* title, const char* symbol, std::function<void()> action) {
-        auto* made = makeChild<CapsuleButtonView>(
-            this, CapsuleButton{QString::fromLatin1(title), QString::fromLatin1(symbol),
-                                std::move(action)});
+    const auto button = [&](const QString& title, const QString& symbol,
+                            std::function<void()> action) {
+        auto* made =
+            makeChild<CapsuleButtonView>(this, CapsuleButton{title, symbol, std::move(action)});
         made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         return made;
     };
     const auto& monitor = environment_.monitor;
     const bool canOpen = onOpenDashboard != nullptr;
-    open_ = button("Open Dashboard", "square.grid.2x2", std::move(onOpenDashboard));
+    open_ = button(QStringLiteral("Open Dashboard"), QStringLiteral("square.grid.2x2"),
+                   std::move(onOpenDashboard));
     open_->setEnabled(canOpen);
-    pause_ = button("Pause", "pause.fill", [monitor] { monitor->togglePause(); });
+    pause_ = button(QStringLiteral("Pause"), QStringLiteral("pause.fill"),
+                    [monitor] { monitor->togglePause(); });
     pause_->reserveWidthFor(QStringLiteral("Resume"));
-    refresh_ = button("Refresh", "arrow.clockwise", [monitor] { monitor->forceRefresh(); });
-    quit_ = button("Quit", "power", environment_.onQuit);
+    refresh_ = button(QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"),
+                      [monitor] { monitor->forceRefresh(); });
+    quit_ = button(QStringLiteral("Quit"), QStringLiteral("power"), environment_.onQuit);
     auto* actions = makeInnerLayout<QVBoxLayout>();
     actions->setSpacing(actionSpacing);
     actions->addWidget(open_);
@@ -91,7 +94,8 @@ void MenuBarDashboardView::addActions(QVBoxLayout& column, std::function<void()>
 }
 
 QSize MenuBarDashboardView::sizeHint() const {
-    const QSize panel(Typography::scaled(panelWidth), Typography::scaled(panelHeight));
+    // A larger font makes it wider in proportion, and just as much higher as the texts are.
+    const QSize panel(Typography::scaled(panelWidth), panelHeight);
     return panel.expandedTo(layout()->minimumSize());
 }
 

@@ -18,13 +18,13 @@ namespace {
 
 constexpr int rowSpacing = 16;  // between a label and its content
 constexpr int titleGap = 7;
-constexpr int titleInset = 2;
 constexpr double groupCorner = 14;
 constexpr int groupInset = 14;
+constexpr int largestOutset = 3;
 constexpr int rowPadding = 6;
 constexpr int leastRowHeight = 34;
 constexpr int plainGap = 8;
-constexpr double labelWidth = 190;  // of the plain form: as much as the longest label
+constexpr double labelWidth = 190;  // of the plain form: as much as the longest label has
 constexpr double borderOpacity = 0.08;
 
 }  // namespace
@@ -36,22 +36,23 @@ FormStyle formStyle(const ProcessInfo& versions) {
 FormRowsView::FormRowsView(FormStyle style, QWidget* parent)
     : QWidget(parent), style_(style), column_(makeLayout<QVBoxLayout>(this)) {
     const bool isGrouped = style == FormStyle::grouped;
-    column_->setContentsMargins(isGrouped ? groupInset : 0, 0, isGrouped ? groupInset : 0, 0);
+    const int inset = isGrouped ? groupInset - largestOutset : 0;
+    column_->setContentsMargins(inset, 0, inset, 0);
     column_->setSpacing(isGrouped ? 0 : plainGap);
 }
 
-void FormRowsView::add(QWidget* row) {
-    if (style_ == FormStyle::grouped) {
-        // What stands beside each other keeps its own height; the row gives it room.
-        auto* cell = makeChild<QWidget>(this);
-        auto* inside = makeLayout<QVBoxLayout>(cell);
-        inside->setContentsMargins(0, rowPadding, 0, rowPadding);
-        inside->addWidget(row, 0, Qt::AlignVCenter);
-        cell->setMinimumHeight(leastRowHeight);
-        row = cell;
-    }
-    rows_.push_back(row);
-    column_->addWidget(row);
+void FormRowsView::add(QWidget* row, int outset) {
+    const bool isGrouped = style_ == FormStyle::grouped;
+    // What stands beside each other keeps its own height; the row gives it room.
+    auto* cell = makeChild<QWidget>(this);
+    auto* inside = makeLayout<QVBoxLayout>(cell);
+    const int across = largestOutset - outset;
+    const int padding = isGrouped ? rowPadding : 0;
+    inside->setContentsMargins(across, padding, across, padding);
+    inside->addWidget(row, 0, Qt::AlignVCenter);
+    if (isGrouped) cell->setMinimumHeight(leastRowHeight);
+    rows_.push_back(cell);
+    column_->addWidget(cell);
 }
 
 void FormRowsView::paintEvent(QPaintEvent*) {
@@ -73,29 +74,31 @@ CompatibleFormSection::CompatibleFormSection(FormStyle style, const QString& tit
       title_(makeChild<HeadingView>(this, title, Typography::headline, QFont::DemiBold)),
       rows_(makeChild<FormRowsView>(this, style)) {
     auto* column = makeLayout<QVBoxLayout>(this);
-    const int inset = style == FormStyle::grouped ? titleInset : 0;
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(titleGap);
     auto* titleRow = makeInnerLayout<QHBoxLayout>();
-    titleRow->setContentsMargins(inset, 0, inset, 0);
+    titleRow->setContentsMargins(largestOutset, 0, largestOutset, 0);
     titleRow->addWidget(title_);
     column->addLayout(titleRow);
     column->addWidget(rows_);
 }
 
+FormLabelView::FormLabelView(FormStyle style, const QString& text, QWidget* parent)
+    : TextLineView(text, Typography::body, QFont::Normal, Tone::primary, parent), style_(style) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize FormLabelView::sizeHint() const {
+    const int least = style_ == FormStyle::plain ? Typography::scaled(labelWidth) : 0;
+    return TextLineView::sizeHint().expandedTo({least, 0});
+}
+
 CompatibleLabeledContent::CompatibleLabeledContent(FormStyle style, const QString& label,
                                                    QWidget* content, QWidget* parent)
-    : QWidget(parent),
-      label_(makeChild<TextLineView>(this, label, Typography::body, QFont::Normal,
-                                     TextLineView::Tone::primary)) {
+    : QWidget(parent), label_(makeChild<FormLabelView>(this, style, label)) {
     auto* row = makeLayout<QHBoxLayout>(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    // A label is never cut: what it takes is the least that the form can be narrowed to.
-    label_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    if (style == FormStyle::plain) {
-        label_->setFixedWidth(std::max(Typography::scaled(labelWidth), label_->sizeHint().width()));
-    }
     row->addWidget(label_);
     row->addSpacing(rowSpacing);
     if (style == FormStyle::grouped) row->addStretch();

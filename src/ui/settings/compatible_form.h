@@ -24,7 +24,7 @@ FormStyle formStyle(const ProcessInfo& versions);
 class FormRowsView : public QWidget {
   public:
     explicit FormRowsView(FormStyle style, QWidget* parent = nullptr);
-    void add(QWidget* row);
+    void add(QWidget* row, int outset);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -40,8 +40,9 @@ class CompatibleFormSection : public QWidget {
   public:
     CompatibleFormSection(FormStyle style, const QString& title, QWidget* parent = nullptr);
 
-    /// Adds a row under those that are there; it becomes this section's.
-    void add(QWidget* row) { rows_->add(row); }
+    /// Adds a row under those that are there; it becomes this section's. `outset` is how far it
+    /// reaches out of line at both sides.
+    void add(QWidget* row, int outset = 0) { rows_->add(row, outset); }
 
     FormStyle style() const { return style_; }
     HeadingView& title() { return *title_; }
@@ -52,6 +53,19 @@ class CompatibleFormSection : public QWidget {
     FormRowsView* rows_;
 };
 
+/// The label of a row. It is never cut: what it takes is the least that the form can be narrowed
+/// to.
+class FormLabelView : public TextLineView {
+  public:
+    FormLabelView(FormStyle style, const QString& text, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  private:
+    FormStyle style_;
+};
+
 /// A row: a label, and what it is the label of. Grouped, they stand at both ends; plain, the
 /// content follows a label of a fixed width.
 class CompatibleLabeledContent : public QWidget {
@@ -60,10 +74,10 @@ class CompatibleLabeledContent : public QWidget {
     CompatibleLabeledContent(FormStyle style, const QString& label, QWidget* content,
                              QWidget* parent = nullptr);
 
-    TextLineView& label() { return *label_; }
+    FormLabelView& label() { return *label_; }
 
   private:
-    TextLineView* label_;  // owned by this widget, as its child
+    FormLabelView* label_;  // owned by this widget, as its child
 };
 
 /// A text that is the value of a label; assistive technology is told both.

@@ -33,13 +33,14 @@ SettingsView::SettingsView(Environment environment, QWidget* parent)
       environment_(std::move(environment)),
       style_(formStyle(environment_.machine->processInfo())),
       form_(SettingsForm::of(*environment_.settings)) {
-    content_ = makeChild<QWidget>(this);
+    auto* content = makeChild<QWidget>(this);
     auto* limit =
-        std::make_unique<WidthLimitLayout>(Typography::scaled(widestForm), content_).release();
-    limit->addWidget(makeForm(content_));
+        std::make_unique<WidthLimitLayout>(Typography::scaled(widestForm), content).release();
+    limit->addWidget(makeForm(content));
     auto* whole = makeLayout<QVBoxLayout>(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(makeScrollView(content_));
+    scroll_ = makeScrollView(content);
+    whole->addWidget(scroll_);
     show(form_);
     observe();
 }
@@ -55,7 +56,7 @@ QWidget* SettingsView::makeForm(QWidget* content) {
     return widget;
 }
 
-QWidget* SettingsView::makeScrollView(QWidget* content) {
+QScrollArea* SettingsView::makeScrollView(QWidget* content) {
     LegacyVantorScrollView* view = nullptr;
     if (style_ == FormStyle::grouped) {
         view = makeChild<VantorScrollView>(this, Qt::Vertical);
@@ -120,10 +121,10 @@ void SettingsView::addToggles(CompatibleFormSection& section) {
     pointToPoint_ = makeChild<ToggleRowView>(
         &section, QStringLiteral("Include point-to-point and tunnel interfaces"), place,
         [s = settings](bool isOn) { s->setIncludePointToPointInterfaces(isOn); });
-    section.add(pointToPoint_);
+    section.add(pointToPoint_, ToggleRowView::outset);
     menuBar_ = makeChild<ToggleRowView>(&section, QStringLiteral("Show menu bar dashboard"), place,
                                         [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
-    section.add(menuBar_);
+    section.add(menuBar_, ToggleRowView::outset);
 }
 
 void SettingsView::addData(QFormLayout& form) {
@@ -192,8 +193,8 @@ void SettingsView::show(const SettingsForm& form) {
 }
 
 QSize SettingsView::minimumSizeHint() const {
-    const int bar = SlimScrollBar(Qt::Vertical).sizeHint().width();
-    return smallest.expandedTo({content_->minimumSizeHint().width() + bar, 0});
+    const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+    return smallest.expandedTo({scroll_->widget()->minimumSizeHint().width() + bar, 0});
 }
 
 QSize SettingsView::sizeHint() const {

@@ -19,6 +19,7 @@
 #include "ui/settings/settings_form.h"
 
 class QFormLayout;
+class QScrollArea;
 
 namespace vantor {
 
@@ -40,6 +41,7 @@ class SettingsView : public QWidget {
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
+    QScrollArea& scrollArea() { return *scroll_; }
     std::vector<CompatibleFormSection*> sections() const { return sections_; }
     std::vector<CompatibleLabeledValue*> values() const { return values_; }
     SegmentedPicker& theme() { return *theme_; }
@@ -55,7 +57,7 @@ class SettingsView : public QWidget {
 
   private:
     QWidget* makeForm(QWidget* content);
-    QWidget* makeScrollView(QWidget* content);
+    QScrollArea* makeScrollView(QWidget* content);
     CompatibleFormSection& addSection(QFormLayout& form, const char* title);
     void addAppearance(QFormLayout& form);
     void addMonitoring(QFormLayout& form);
@@ -74,7 +76,7 @@ class SettingsView : public QWidget {
     SettingsForm form_;                             // what is shown
     std::vector<CompatibleFormSection*> sections_;  // all owned by this widget, as its children
     std::vector<CompatibleLabeledValue*> values_;
-    QWidget* content_ = nullptr;
+    QScrollArea* scroll_ = nullptr;
     SegmentedPicker* theme_ = nullptr;
     MenuPickerView* interval_ = nullptr;
     CompatibleLabeledContent* historyRow_ = nullptr;
