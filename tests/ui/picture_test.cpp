@@ -136,6 +136,14 @@ std::unique_ptr<QWidget> card(bool isWaiting) {
     return view;
 }
 
+/// What scrolls is laid out only when it is shown.
+std::unique_ptr<QWidget> shown(std::unique_ptr<QWidget> view) {
+    view->setVisible(true);
+    view->resize(view->sizeHint());
+    settleEvents();
+    return view;
+}
+
 std::unique_ptr<QWidget> panel(bool isWaiting, bool isPaused) {
     const ViewsWorld world;
     if (!isWaiting) world.commit(ViewsWorld::committed());
@@ -149,8 +157,8 @@ std::unique_ptr<QWidget> settings(bool isOld) {
     static const ViewsWorld older;
     older.makeOld();
     const ViewsWorld& world = isOld ? older : modern;
-    return makeView<SettingsView>(
-        SettingsView::Environment{world.settings, world.machine, world.metadata, [] {}});
+    return shown(makeView<SettingsView>(
+        SettingsView::Environment{world.settings, world.machine, world.metadata, [] {}}));
 }
 
 const std::vector<Subject>& subjects() {
@@ -219,7 +227,8 @@ const std::vector<Subject>& subjects() {
         {"menu_bar_paused", 0, [] { return panel(false, true); }},
         {"settings", 0, [] { return settings(false); }},
         {"settings_older", 0, [] { return settings(true); }},
-        {"help", 0, [] { return makeView<HelpView>(laptop().processInfo(), laptop().words()); }},
+        {"help", 0,
+         [] { return shown(makeView<HelpView>(laptop().processInfo(), laptop().words())); }},
         {"cpu_card", 430, [] { return card(false); }},
         {"cpu_card_waiting", 430, [] { return card(true); }},
     };

@@ -91,7 +91,7 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
     setAccessibleName(label);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* row = makeLayout<QHBoxLayout>(this);
-    row->setContentsMargins(0, trackInset, trackInset, trackInset);
+    row->setContentsMargins(0, trackInset, 0, trackInset);
     row->setSpacing(0);
     label_ = makeChild<TextLineView>(this, label, Typography::caption, QFont::Normal,
                                      TextLineView::Tone::secondary);
@@ -103,6 +103,7 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
         group->addButton(buttons_.back(), i);
         row->addWidget(buttons_.back());
     }
+    row->addSpacing(trackInset);  // and no margin: that would not change sides
     if (!buttons_.empty()) buttons_.front()->setChecked(true);
     connect(group, &QButtonGroup::idToggled, this,
             [onChange = std::move(onChange)](int id, bool isChosen) {

@@ -1,6 +1,7 @@
 #include "ui/components/speed_tile.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -67,20 +68,26 @@ void SpeedTileView::paintEvent(QPaintEvent*) {
     if (ground_ == Ground::tile) CardChrome::paintTile(painter, rect(), scheme);
 
     const double side = Typography::scaled(iconShape.side);
-    SymbolTile::paint(painter, {padding(), (height() - side) / 2, side, side}, iconShape,
-                      tile_.icon, tile_.color);
     const double left = padding() + side + spacing;
     const double across = width() - left - padding();
     const double titleHeight = QFontMetricsF(titleFont(), this).height();
     const double valueHeight = QFontMetricsF(valueFont(), this).height();
     const double top = (height() - titleHeight - textSpacing - valueHeight) / 2;
+    const auto placed = [&](QRectF area) {
+        if (isRightToLeft()) area.moveRight(width() - area.left());
+        return area;
+    };
+    const auto leading = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    SymbolTile::paint(painter, placed({padding(), (height() - side) / 2, side, side}), iconShape,
+                      tile_.icon, tile_.color);
     painter.setFont(titleFont());
     vantorSecondaryForeground(painter, scheme);
-    Typography::drawLine(painter, {left, top, across, titleHeight}, Qt::AlignLeft, tile_.title);
+    Typography::drawLine(painter, placed({left, top, across, titleHeight}), leading, tile_.title);
     painter.setFont(valueFont());
     vantorPrimaryForeground(painter, scheme);
-    Typography::drawDigitText(painter, {left, top + titleHeight + textSpacing, across, valueHeight},
-                              Qt::AlignLeft, tile_.value);
+    Typography::drawDigitText(painter,
+                              placed({left, top + titleHeight + textSpacing, across, valueHeight}),
+                              leading, tile_.value);
 }
 
 }  // namespace vantor

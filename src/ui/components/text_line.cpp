@@ -1,5 +1,7 @@
 #include "ui/components/text_line.h"
 
+#include <QStyle>
+
 #include <cmath>
 
 #include "ui/theme.h"
@@ -44,7 +46,8 @@ void TextLineView::paintEvent(QPaintEvent*) {
     } else {
         vantorSecondaryForeground(painter, scheme);
     }
-    const Qt::Alignment alignment = alignment_ | Qt::AlignVCenter;
+    const Qt::Alignment alignment =
+        QStyle::visualAlignment(layoutDirection(), alignment_) | Qt::AlignVCenter;
     if (sizeHint().width() > width()) {
         Typography::drawLine(painter, rect(), alignment, text_);
     } else {

@@ -16,6 +16,7 @@ class TextLineView : public PaintedView {
                  QWidget* parent = nullptr);
 
     void show(const QString& text);
+    /// Left means leading: it is mirrored where the language runs the other way.
     void setAlignment(Qt::Alignment alignment);
     const QString& text() const { return text_; }
 
