@@ -20,6 +20,7 @@ namespace {
 
 constexpr double halfWidth = 34;
 constexpr double verticalPadding = 6;
+constexpr double symbolSide = 14;
 constexpr double groundOpacity = 0.07;
 constexpr double hoverOpacity = 0.06;
 constexpr double pressedOpacity = 0.14;
@@ -226,8 +227,11 @@ void StepperView::paintHalf(QPainter& painter, Half half) const {
         painter.fillRect(area,
                          VantorTheme::faded(label, isPressed ? pressedOpacity : hoverOpacity));
     }
-    const double side = Typography::scaled(14);
-    Symbols::draw(painter, {area.center().x() - side / 2, area.center().y() - side / 2, side, side},
+    // Odd, so that a stroke through the middle fills whole pixels.
+    const double side = Typography::scaled(symbolSide) | 1;
+    const QRectF symbol(std::round(area.center().x() - side / 2),
+                        std::round(area.center().y() - side / 2), side, side);
+    Symbols::draw(painter, symbol,
                   half == Half::more ? QStringLiteral("plus") : QStringLiteral("minus"),
                   canStep(half) ? label : VantorTheme::faded(label, disabledOpacity));
 }
