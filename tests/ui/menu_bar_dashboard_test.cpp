@@ -36,7 +36,7 @@ class MenuBarDashboardTest : public testing::Test {
         settleEvents();
     }
     std::vector<std::string> figures() const {
-        return {utf8(view->cpu().metric().value), utf8(view->memory().metric().value),
+        return {utf8(view->cpu().shown().value), utf8(view->memory().shown().value),
                 utf8(view->download().tile().value), utf8(view->upload().tile().value)};
     }
     std::array<CapsuleButtonView*, 4> actions() const {
@@ -48,7 +48,7 @@ class MenuBarDashboardTest : public testing::Test {
 TEST_F(MenuBarDashboardTest, BeforeTheFirstCommitThereAreDashesInsteadOfNumbers) {
     open();
     EXPECT_EQ(figures(), (std::vector<std::string>{"—", "—", "—", "—"}));
-    EXPECT_TRUE(std::isnan(view->cpu().metric().fraction)) << "an empty bar is no zero";
+    EXPECT_TRUE(std::isnan(view->cpu().shown().fraction)) << "an empty bar is no zero";
     EXPECT_EQ(view->cpu().accessibleFraction(), std::nullopt);
     EXPECT_EQ(utf8(view->status().accessibleValueText()), "Collecting live data…");
 }
@@ -66,10 +66,10 @@ TEST_F(MenuBarDashboardTest, ASectionThatHasNotBeenReadYetHasNoNumberEither) {
 TEST_F(MenuBarDashboardTest, ShowsLoadsAsSharesAndRatesInTheirColours) {
     open();
     world.commit(ViewsWorld::committed());
-    EXPECT_EQ(view->cpu().metric(), (MenuMetric{QStringLiteral("CPU"), QStringLiteral("42%"), 0.42,
-                                                VantorTheme::cyan()}));
-    EXPECT_EQ(view->memory().metric(), (MenuMetric{QStringLiteral("Memory"), QStringLiteral("44%"),
-                                                   7.0 / 16, VantorTheme::pink()}));
+    EXPECT_EQ(view->cpu().shown(), (MenuMetric{QStringLiteral("CPU"), QStringLiteral("42%"), 0.42,
+                                               VantorTheme::cyan()}));
+    EXPECT_EQ(view->memory().shown(), (MenuMetric{QStringLiteral("Memory"), QStringLiteral("44%"),
+                                                  7.0 / 16, VantorTheme::pink()}));
     EXPECT_EQ(view->download().tile(),
               (SpeedTile{QStringLiteral("Download"), QStringLiteral("1.25 MB/s"),
                          QStringLiteral("arrow.down"), VantorTheme::green()}));

@@ -23,7 +23,7 @@ class MenuMetricView : public PaintedView {
     explicit MenuMetricView(MenuMetric metric, QWidget* parent = nullptr);
 
     void show(const MenuMetric& metric);
-    const MenuMetric& metric() const { return metric_; }
+    const MenuMetric& shown() const { return metric_; }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::ProgressBar; }
     QString accessibleLabel() const override { return metric_.title; }
