@@ -30,6 +30,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/layouts_test.cpp
     ui/memory_network_card_test.cpp
     ui/menu_bar_dashboard_test.cpp
+    ui/menu_picker_test.cpp
     ui/metric_row_test.cpp
     ui/picture_test.cpp
     ui/pixels_test.cpp
@@ -37,6 +38,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/process_explorer_view_test.cpp
     ui/process_mini_list_test.cpp
     ui/ring_gauge_test.cpp
+    ui/settings_look_test.cpp
     ui/settings_view_test.cpp
     ui/small_components_test.cpp
     ui/sparkline_test.cpp

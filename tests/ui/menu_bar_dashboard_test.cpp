@@ -247,6 +247,16 @@ TEST_F(MenuBarDashboardTest, GrowsWithTheFontAndNothingIsCut) {
     EXPECT_THAT(cutTexts(*view), IsEmpty());
 }
 
+TEST_F(MenuBarDashboardTest, FollowsAFontThatChangesWhileItIsOpen) {
+    open();
+    const LargerFont larger(1.5);
+    settleEvents();
+    view->resize(view->sizeHint());
+    settleEvents();
+    EXPECT_GT(view->width(), 330);
+    EXPECT_THAT(cutTexts(*view), IsEmpty());
+}
+
 TEST_F(MenuBarDashboardTest, MirrorsWhereTheLanguageRunsTheOtherWay) {
     view->setLayoutDirection(Qt::RightToLeft);
     open();

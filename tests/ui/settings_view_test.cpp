@@ -1,59 +1,17 @@
-#include "ui/settings/settings_view.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <QAction>
-#include <QMenu>
-#include <QScrollArea>
-#include <QScrollBar>
 
 #include <cmath>
 #include <limits>
 
 #include "platform/native_machine.h"
-#include "ui/cut_texts.h"
-#include "ui/gestures.h"
-#include "ui/views_world.h"
+#include "ui/settings_fixture.h"
 
 namespace vantor {
 namespace {
 
 using testing::IsEmpty;
 using Half = StepperView::Half;
-using Strings = std::vector<std::string>;
-
-class SettingsViewTest : public testing::Test {
-  protected:
-    ViewsWorld world;
-    int exports = 0;
-    std::unique_ptr<SettingsView> view = make();
-
-    std::unique_ptr<SettingsView> make() {
-        return std::make_unique<SettingsView>(SettingsView::Environment{
-            world.settings, world.machine, world.metadata, [this] { ++exports; }});
-    }
-    void openAt(QSize size) const {
-        view->setVisible(true);
-        view->resize(size);
-        settleEvents();
-    }
-    void open() const { openAt(view->sizeHint()); }
-    DefaultsStore::Value stored(const char* key) const { return world.defaults->values.at(key); }
-    bool isStored(const char* key) const { return world.defaults->values.contains(key); }
-    void stepHistory(Half half) const {
-        StepperView& stepper = view->history();
-        sendMouse(stepper, QEvent::MouseButtonPress, stepper.areaOf(half).center());
-        sendMouse(stepper, QEvent::MouseButtonRelease, stepper.areaOf(half).center());
-    }
-    Strings ticked() const {
-        Strings texts;
-        for (const QAction* action : view->interval().menu().actions()) {
-            if (action->isChecked()) texts.push_back(utf8(action->text()));
-        }
-        return texts;
-    }
-};
 
 TEST_F(SettingsViewTest, HasItsFourSectionsInOrder) {
     Strings titles;
@@ -269,83 +227,6 @@ TEST_F(SettingsViewTest, GoneItFollowsNothing) {
     view.reset();
     world.settings->setHistoryLength(120);
     EXPECT_FALSE(isStored("showMenuBar"));
-}
-
-TEST_F(SettingsViewTest, TabGoesThroughTheControlsFromTopToBottom) {
-    open();
-    view->activateWindow();
-    view->theme().button(1).setFocus();
-    settleEvents();
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{&view->interval(), &view->history(), &view->pointToPoint(),
-                                         &view->menuBar(), &view->exportButton()}) {
-        pressKey(*QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget(), control);
-    }
-}
-
-TEST_F(SettingsViewTest, HasItsSmallestAndItsIdealSizeAndFitsInIt) {
-    EXPECT_EQ(view->minimumSizeHint(), QSize(480, 480));
-    EXPECT_EQ(view->sizeHint(), QSize(520, 560));
-    open();
-    EXPECT_EQ(view->scrollArea().verticalScrollBar()->maximum(), 0) << "nothing to scroll";
-}
-
-TEST_F(SettingsViewTest, WhereItIsLowItScrollsToTheControlThatHasTheFocus) {
-    openAt({480, 240});
-    QScrollBar& bar = *view->scrollArea().verticalScrollBar();
-    ASSERT_GT(bar.maximum(), 0);
-    view->activateWindow();
-    view->menuBar().setFocus();
-    settleEvents();
-    pressKey(view->menuBar(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &view->exportButton());
-    const QRect place(view->exportButton().mapTo(view.get(), QPoint()),
-                      view->exportButton().size());
-    EXPECT_TRUE(view->rect().contains(place));
-}
-
-TEST_F(SettingsViewTest, NamesAndValuesAreToldToAssistiveTechnology) {
-    const auto name = [](QWidget& widget) {
-        return utf8(QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name));
-    };
-    EXPECT_EQ(name(view->theme()), "Theme");
-    EXPECT_EQ(name(view->theme().button(1)), "Dark");
-    EXPECT_EQ(name(view->interval()), "Refresh interval 0.5 second");
-    EXPECT_EQ(name(view->history()), "Chart history");
-    EXPECT_EQ(name(view->pointToPoint()), "Include point-to-point and tunnel interfaces");
-    EXPECT_EQ(name(view->menuBar()), "Show menu bar dashboard");
-    EXPECT_EQ(name(view->exportButton()), "Export Current Snapshot…");
-    EXPECT_EQ(name(view->values()[0]->value()), "Network privacy");
-}
-
-/// Font, system version, size.
-using Look = std::tuple<double, bool, bool>;
-
-std::string nameOf(const Look& look) {
-    const auto& [factor, isOld, isSmall] = look;
-    return std::string(factor > 1 ? "Larger" : "Usual") + (isOld ? "Old" : "Modern") +
-           (isSmall ? "Small" : "Ideal");
-}
-
-class SettingsLook : public SettingsViewTest, public testing::WithParamInterface<Look> {};
-
-INSTANTIATE_TEST_SUITE_P(Of, SettingsLook,
-                         testing::Combine(testing::Values(1.0, 1.5), testing::Bool(),
-                                          testing::Bool()),
-                         [](const auto& test) { return nameOf(test.param); });
-
-TEST_P(SettingsLook, NothingIsCut) {
-    const auto& [factor, isOld, isSmall] = GetParam();
-    const LargerFont font(factor);
-    if (isOld) world.makeOld();
-    world.settings->setHistoryLength(1000);
-    view = make();
-    openAt(isSmall ? view->minimumSizeHint() : view->sizeHint());
-    EXPECT_THAT(cutTexts(*view), IsEmpty());
-    view->setLayoutDirection(Qt::RightToLeft);
-    settleEvents();
-    EXPECT_THAT(cutTexts(*view), IsEmpty());
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ constexpr int menuGap = 4;
 }  // namespace
 
 MenuPickerView::MenuPickerView(QString label, const QStringList& choices,
-                               std::function<void(std::size_t)> onChoose, QWidget* parent)
+                               const std::function<void(std::size_t)>& onChoose, QWidget* parent)
     : CapsuleButtonView({QString(), QStringLiteral("chevron.up.chevron.down"), [this] { open(); }},
                         parent),
       label_(std::move(label)),

@@ -27,7 +27,7 @@ class MenuPickerView : public CapsuleButtonView {
   public:
     /// `onChoose` hears of what the user chooses, and of nothing else.
     MenuPickerView(QString label, const QStringList& choices,
-                   std::function<void(std::size_t)> onChoose, QWidget* parent = nullptr);
+                   const std::function<void(std::size_t)>& onChoose, QWidget* parent = nullptr);
 
     /// Shows `text` and ticks that choice; none where what holds is not on offer.
     void show(const QString& text, std::optional<std::size_t> choice);
