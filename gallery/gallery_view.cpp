@@ -38,17 +38,13 @@ QWidget* framed(const Subject& subject, ColorScheme scheme, QWidget* parent) {
 
 }  // namespace
 
-GalleryView::GalleryView(ColorScheme scheme, QWidget* parent) : QWidget(parent), scheme_(scheme) {
+GalleryView::GalleryView(ColorScheme scheme, QWidget* parent)
+    : GroundView(parent), scheme_(scheme) {
     setPalette(paletteOf(scheme));
     auto* flow = std::make_unique<FlowLayout>(spacing, this).release();
     for (const Subject& subject : subjects())
         flow->addWidget(framed(subject, scheme, this));
     setContentsMargins(margin, margin, margin, margin);
-}
-
-void GalleryView::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    painter.fillRect(event->rect(), VantorTheme::background(scheme_, rect()));
 }
 
 }  // namespace vantor

@@ -2,17 +2,15 @@
 
 #include <QWidget>
 
+#include "ui/drawing/ground_view.h"
 #include "ui/theme.h"
 
 namespace vantor {
 
 /// All subjects under their names, on the window's ground, as many beside each other as fit.
-class GalleryView : public QWidget {
+class GalleryView : public GroundView {
   public:
     explicit GalleryView(ColorScheme scheme, QWidget* parent = nullptr);
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
 
   private:
     ColorScheme scheme_;

@@ -64,6 +64,9 @@ bool takePictures(const PictureOptions& options) {
     for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
         QApplication::setPalette(paletteOf(scheme));
         GalleryView gallery(scheme);
+        // What is hidden lays nothing out, and shows scroll bars that it does not need.
+        gallery.setAttribute(Qt::WA_DontShowOnScreen);
+        gallery.show();
         const QSize size(galleryWidth, gallery.heightForWidth(galleryWidth));
         const QString file =
             QStringLiteral("%1/gallery-%2.png").arg(options.folder, nameOf(scheme));

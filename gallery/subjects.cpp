@@ -13,6 +13,8 @@
 #include "ui/dashboard_world.h"
 #include "ui/explorer/process_explorer_view.h"
 
+#include "view_subjects.h"
+
 namespace vantor {
 
 namespace {
@@ -202,6 +204,7 @@ std::vector<Subject> subjects() {
                    [] { return explorer(manyProcesses(), "ed"); }});
     all.push_back({QStringLiteral("Process explorer, nothing found"), 936,
                    [] { return explorer(manyProcesses(), "zzz"); }});
+    addViews(all);
     return all;
 }
 

@@ -13,6 +13,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/app_metadata_test.cpp
     ui/byte_count_formatter_test.cpp
     ui/capsule_button_test.cpp
+    ui/compatible_form_test.cpp
     ui/core_activity_test.cpp
     ui/cpu_card_test.cpp
     ui/cpu_card_view_test.cpp
@@ -21,12 +22,16 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/dashboard_header_texts_test.cpp
     ui/dashboard_view_test.cpp
     ui/footer_test.cpp
+    ui/form_controls_test.cpp
     ui/formatters_test.cpp
     ui/gpu_storage_card_test.cpp
     ui/ground_test.cpp
+    ui/help_view_test.cpp
     ui/horizontal_fit_test.cpp
     ui/layouts_test.cpp
     ui/memory_network_card_test.cpp
+    ui/menu_bar_dashboard_test.cpp
+    ui/menu_picker_test.cpp
     ui/metric_row_test.cpp
     ui/mirrored_test.cpp
     ui/picture_test.cpp
@@ -38,6 +43,8 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/repaint_test.cpp
     ui/ring_gauge_test.cpp
     ui/scroll_view_test.cpp
+    ui/settings_look_test.cpp
+    ui/settings_view_test.cpp
     ui/small_components_test.cpp
     ui/sparkline_test.cpp
     ui/symbols_test.cpp

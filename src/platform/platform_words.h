@@ -6,6 +6,7 @@ namespace vantor {
 
 /// The texts that name the platform; everything else the program says is the same everywhere.
 struct PlatformWords {
+    std::string_view systemName;
     std::string_view subtitle;         ///< under the product's name in the header
     std::string_view unknownHardware;  ///< where the machine does not say what it is
     std::string_view noGraphicsTitle;  ///< where there is no graphics device
@@ -15,6 +16,10 @@ struct PlatformWords {
     /// that tells them; empty where all are counted alike.
     std::string_view graphicsLoadNote;
     std::string_view graphicsLoadNoteMark;
+    std::string_view processInterface;   ///< what the system tells of its processes through
+    std::string_view graphicsInterface;  ///< what publishes graphics figures beside the driver
+    std::string_view graphicsTelemetry;  ///< what graphics figures are collected from
+    std::string_view quitKeys;           ///< what the user presses to quit, as a text spells it
 };
 
 }  // namespace vantor

@@ -20,7 +20,11 @@
 #include "ui/components/usage_bar.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/explorer/process_explorer_view.h"
+#include "ui/help/help_view.h"
+#include "ui/menu_bar/menu_bar_dashboard_view.h"
 #include "ui/rendering.h"
+#include "ui/settings/settings_view.h"
+#include "ui/views_world.h"
 
 /// Every component as it is meant to look, in both schemes, on ordinary and on fine screens.
 namespace vantor {
@@ -132,6 +136,31 @@ std::unique_ptr<QWidget> card(bool isWaiting) {
     return view;
 }
 
+/// What scrolls is laid out only when it is shown.
+std::unique_ptr<QWidget> shown(std::unique_ptr<QWidget> view) {
+    view->setVisible(true);
+    view->resize(view->sizeHint());
+    settleEvents();
+    return view;
+}
+
+std::unique_ptr<QWidget> panel(bool isWaiting, bool isPaused) {
+    const ViewsWorld world;
+    if (!isWaiting) world.commit(ViewsWorld::committed());
+    world.pause(isPaused);
+    return makeView<MenuBarDashboardView>(MenuBarDashboardView::Environment{world.monitor, {}},
+                                          [] {});
+}
+
+std::unique_ptr<QWidget> settings(bool isOld) {
+    static const ViewsWorld modern;
+    static const ViewsWorld older;
+    older.makeOld();
+    const ViewsWorld& world = isOld ? older : modern;
+    return shown(makeView<SettingsView>(
+        SettingsView::Environment{world.settings, world.machine, world.metadata, [] {}}));
+}
+
 const std::vector<Subject>& subjects() {
     static const std::vector<Subject> all{
         {"ring_gauge", 126, gauge},
@@ -193,6 +222,13 @@ const std::vector<Subject>& subjects() {
          }},
         {"process_explorer", 700, [] { return explorer(""); }},
         {"process_explorer_nothing_found", 700, [] { return explorer("zzz"); }},
+        {"menu_bar_waiting", 0, [] { return panel(true, false); }},
+        {"menu_bar_live", 0, [] { return panel(false, false); }},
+        {"menu_bar_paused", 0, [] { return panel(false, true); }},
+        {"settings", 0, [] { return settings(false); }},
+        {"settings_older", 0, [] { return settings(true); }},
+        {"help", 0,
+         [] { return shown(makeView<HelpView>(laptop().processInfo(), laptop().words())); }},
         {"cpu_card", 430, [] { return card(false); }},
         {"cpu_card_waiting", 430, [] { return card(true); }},
     };

@@ -4,6 +4,7 @@
 #include "ui/components/labeled_sparkline.h"
 #include "ui/components/segmented_picker.h"
 #include "ui/components/speed_tile.h"
+#include "ui/components/text_line.h"
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
@@ -28,6 +29,33 @@ TEST(SpeedTile, DrawsSymbolTitleAndValueOnAFaintGround) {
     EXPECT_GT(paintedPixels(image, QRectF(45, 10, 60, 26)), 0);
     EXPECT_EQ(utf8(view.accessibleLabel()), "Download");
     EXPECT_EQ(utf8(view.accessibleValueText()), "1.25 MB/s");
+}
+
+TEST(SpeedTile, WithoutAGroundItsSymbolStandsAtItsEdge) {
+    SpeedTileView view(tile(), SpeedTileView::Ground::none);
+    const QSize size(180, view.sizeHint().height());
+    EXPECT_LT(size.height(), SpeedTileView(tile()).sizeHint().height());
+    const QImage image = rendered(view, size);
+    EXPECT_EQ(paintedPixels(image, QRectF(140, 0, 40, size.height())), 0);
+    EXPECT_GT(paintedPixels(image, QRectF(0, 0, 26, size.height())), 600);
+}
+
+TEST(SpeedTile, IsMirroredWhereOneReadsFromTheRight) {
+    SpeedTileView view(tile());
+    view.setLayoutDirection(Qt::RightToLeft);
+    const QImage image = rendered(view, QSize(180, view.sizeHint().height()));
+    EXPECT_GT(pixelsLike(image, QRectF(180 - 36, 10, 26, 26), VantorTheme::green()), 5);
+    EXPECT_EQ(pixelsLike(image, QRectF(0, 0, 140, 46), VantorTheme::green()), 0);
+}
+
+TEST(TextLine, BeginsAtTheRightWhereOneReadsFromThere) {
+    HeadingView view(QStringLiteral("Data"), Typography::headline, QFont::DemiBold);
+    const QImage left = rendered(view, QSize(200, view.sizeHint().height()));
+    EXPECT_EQ(paintedPixels(left, QRectF(100, 0, 100, 40)), 0);
+    view.setLayoutDirection(Qt::RightToLeft);
+    const QImage right = rendered(view, QSize(200, view.sizeHint().height()));
+    EXPECT_EQ(paintedPixels(right, QRectF(0, 0, 100, 40)), 0);
+    EXPECT_GT(paintedPixels(right, QRectF(100, 0, 100, 40)), 0);
 }
 
 TEST(SpeedTile, IsPaintedOnlyWhenItShowsSomethingElse) {

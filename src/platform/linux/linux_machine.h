@@ -90,6 +90,7 @@ class LinuxMachine : public Machine {
     LinuxSystemController systemController_;
     SystemWallClock wallClock_;
     PlatformWords words_{
+        .systemName = "Linux",
         .subtitle = "Live Linux performance intelligence",
         .unknownHardware = "Unknown Computer",
         .noGraphicsTitle = "No Graphics Device",
@@ -97,7 +98,11 @@ class LinuxMachine : public Machine {
         .noVolumesMessage = "No browsable mounted volume was returned by Linux.",
         // Their drivers tell each process's use to its owner, and the whole to nobody else.
         .graphicsLoadNote = "Load of your own processes",
-        .graphicsLoadNoteMark = "Intel"};
+        .graphicsLoadNoteMark = "Intel",
+        .processInterface = "procfs",
+        .graphicsInterface = "NVML",
+        .graphicsTelemetry = "DRM + NVML",
+        .quitKeys = "Ctrl+Q"};
 };
 
 }  // namespace vantor

@@ -129,13 +129,18 @@ class SimulatedMachine : public Machine {
     SimulatedSystemController systemController_;
     SimulatedWallClock wallClock_;
     PlatformWords words_{
+        .systemName = "macOS",
         .subtitle = "Live macOS performance intelligence",
         .unknownHardware = "Unknown Mac",
         .noGraphicsTitle = "No Metal Device",
         .noGraphicsMessage = "The active graphics driver did not expose a Metal device.",
         .noVolumesMessage = "No browsable mounted volume was returned by macOS.",
         .graphicsLoadNote = "",
-        .graphicsLoadNoteMark = ""};
+        .graphicsLoadNoteMark = "",
+        .processInterface = "libproc",
+        .graphicsInterface = "Metal",
+        .graphicsTelemetry = "Metal + IORegistry",
+        .quitKeys = "Command-Q"};
 };
 
 }  // namespace vantor

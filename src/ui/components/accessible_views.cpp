@@ -78,16 +78,18 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
     }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
-        if (type == QAccessible::ValueInterface && view_.accessibleFraction()) {
+        if (type == QAccessible::ValueInterface && view_.accessibleRange()) {
             return static_cast<QAccessibleValueInterface*>(this);
         }
         return QAccessibleWidget::interface_cast(type);
     }
-    QVariant currentValue() const override { return view_.accessibleFraction().value_or(0); }
-    void setCurrentValue(const QVariant&) override {}
-    QVariant maximumValue() const override { return 1.0; }
-    QVariant minimumValue() const override { return 0.0; }
-    QVariant minimumStepSize() const override { return 0.01; }
+    QVariant currentValue() const override { return range().value; }
+    void setCurrentValue(const QVariant& value) override {
+        view_.setAccessibleNumber(value.toDouble());
+    }
+    QVariant maximumValue() const override { return range().highest; }
+    QVariant minimumValue() const override { return range().lowest; }
+    QVariant minimumStepSize() const override { return range().step; }
 
     int childCount() const override { return view_.accessibleRowCount(); }
     QAccessibleInterface* child(int row) const override {
@@ -120,6 +122,8 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
     }
 
   private:
+    AccessibleRange range() const { return view_.accessibleRange().value_or(AccessibleRange{}); }
+
     /// The value comes first: some desktops' assistive technology is told of names and descriptions
     /// alone.
     QString description() const {

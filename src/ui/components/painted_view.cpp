@@ -19,6 +19,11 @@ void announce(PaintedView& view, int row, QAccessible::Event kind) {
 
 }  // namespace
 
+std::optional<AccessibleRange> PaintedView::accessibleRange() const {
+    const auto fraction = accessibleFraction();
+    return fraction ? std::optional(AccessibleRange{.value = *fraction}) : std::nullopt;
+}
+
 void PaintedView::announceValue() {
     if (!QAccessible::isActive()) return;
     QAccessibleValueChangeEvent event(this, accessibleValueText());

@@ -8,6 +8,14 @@
 
 namespace vantor {
 
+/// A number that assistive technology is told, and between which others it is.
+struct AccessibleRange {
+    double value = 0;
+    double lowest = 0;
+    double highest = 1;
+    double step = 0.01;
+};
+
 /// A widget that paints itself and tells assistive technology what it shows: a role, a label and a
 /// value. A view that paints several rows tells of each of them. A view repaints only when it is
 /// shown something new.
@@ -21,6 +29,12 @@ class PaintedView : public QWidget {
 
     /// Where it shows a share of a whole: that share, 0 to 1.
     virtual std::optional<double> accessibleFraction() const { return std::nullopt; }
+
+    /// Where it shows a number: that number, the share if there is one.
+    virtual std::optional<AccessibleRange> accessibleRange() const;
+
+    /// Where the number can be changed, assistive technology changes it with this.
+    virtual void setAccessibleNumber(double) {}
 
     virtual int accessibleRowCount() const { return 0; }
     virtual QString accessibleRowLabel(int) const { return {}; }

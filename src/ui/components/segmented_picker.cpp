@@ -87,10 +87,11 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
     setAccessibleName(label);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* row = makeLayout<QHBoxLayout>(this);
-    row->setContentsMargins(0, trackInset, trackInset, trackInset);
+    row->setContentsMargins(0, trackInset, 0, trackInset);
     row->setSpacing(0);
-    row->addWidget(makeChild<TextLineView>(this, label, Typography::caption, QFont::Normal,
-                                           TextLineView::Tone::secondary));
+    label_ = makeChild<TextLineView>(this, label, Typography::caption, QFont::Normal,
+                                     TextLineView::Tone::secondary);
+    row->addWidget(label_);
     row->addSpacing(labelGap + trackInset);
     auto* group = makeChild<QButtonGroup>(this);
     for (int i = 0; i < static_cast<int>(choices.size()); ++i) {
@@ -98,11 +99,19 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
         group->addButton(buttons_.back(), i);
         row->addWidget(buttons_.back());
     }
+    row->addSpacing(trackInset);  // and no margin: that would not change sides
     if (!buttons_.empty()) buttons_.front()->setChecked(true);
     connect(group, &QButtonGroup::idToggled, this,
             [onChange = std::move(onChange)](int id, bool isChosen) {
                 if (isChosen && onChange) onChange(id);
             });
+}
+
+void SegmentedPicker::hideLabel() {
+    label_->hide();
+    auto* row = static_cast<QHBoxLayout*>(layout());
+    row->itemAt(1)->spacerItem()->changeSize(trackInset, 0);
+    row->invalidate();
 }
 
 int SegmentedPicker::choice() const {

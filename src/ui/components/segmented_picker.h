@@ -38,6 +38,9 @@ class SegmentedPicker : public QWidget {
     SegmentedPicker(const QString& label, const QStringList& choices,
                     std::function<void(int)> onChange, QWidget* parent = nullptr);
 
+    /// Where the label stands elsewhere: it is only said, not shown.
+    void hideLabel();
+
     int choice() const;
     void choose(int index);
     SegmentButton& button(int index) { return *buttons_.at(static_cast<std::size_t>(index)); }
@@ -46,7 +49,8 @@ class SegmentedPicker : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    std::vector<SegmentButton*> buttons_;  // owned by this widget, as its children
+    QWidget* label_ = nullptr;  // all owned by this widget, as its children
+    std::vector<SegmentButton*> buttons_;
 };
 
 }  // namespace vantor

@@ -13,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-constexpr double padding = 10;
+constexpr double tilePadding = 10;
 constexpr double spacing = 9;
 constexpr double textSpacing = 1;
 constexpr SymbolTile::Shape iconShape{.side = 26, .corner = 8, .symbol = 15};
@@ -23,9 +23,13 @@ constexpr TextStyle valueStyle{Typography::caption, QFont::DemiBold};
 
 }  // namespace
 
-SpeedTileView::SpeedTileView(SpeedTile tile, QWidget* parent)
-    : PaintedView(parent), tile_(std::move(tile)) {
+SpeedTileView::SpeedTileView(SpeedTile tile, Ground ground, QWidget* parent)
+    : PaintedView(parent), tile_(std::move(tile)), ground_(ground) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+double SpeedTileView::padding() const {
+    return ground_ == Ground::tile ? tilePadding : 0;
 }
 
 void SpeedTileView::show(const SpeedTile& tile) {
@@ -41,25 +45,25 @@ QSize SpeedTileView::sizeHint() const {
     const double icon = Typography::scaled(iconShape.side);
     const double text = std::max(title.horizontalAdvance(tile_.title),
                                  Typography::digitTextWidth(tile_.value, value));
-    return {static_cast<int>(std::ceil(2 * padding + icon + spacing + text)),
+    return {static_cast<int>(std::ceil(2 * padding() + icon + spacing + text)),
             static_cast<int>(std::ceil(
-                2 * padding + std::max(icon, title.height() + textSpacing + value.height())))};
+                2 * padding() + std::max(icon, title.height() + textSpacing + value.height())))};
 }
 
 QSize SpeedTileView::minimumSizeHint() const {
-    return {Typography::scaled(iconShape.side) + static_cast<int>(2 * padding),
+    return {Typography::scaled(iconShape.side) + static_cast<int>(2 * padding()),
             sizeHint().height()};
 }
 
 void SpeedTileView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    CardChrome::paintTile(painter, rect(), painter.scheme());
+    if (ground_ == Ground::tile) CardChrome::paintTile(painter, rect(), painter.scheme());
 
     const double side = Typography::scaled(iconShape.side);
-    SymbolTile::paint(painter, painter.leading({padding, (height() - side) / 2, side, side}),
+    SymbolTile::paint(painter, painter.leading({padding(), (height() - side) / 2, side, side}),
                       iconShape, tile_.icon, tile_.color);
-    const double left = padding + side + spacing;
-    const double across = width() - left - padding;
+    const double left = padding() + side + spacing;
+    const double across = width() - left - padding();
     const double titleHeight = painter.lineHeight(titleStyle);
     const double valueHeight = painter.lineHeight(valueStyle);
     const double top = (height() - titleHeight - textSpacing - valueHeight) / 2;

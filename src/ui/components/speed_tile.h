@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QString>
 
+#include <utility>
+
 #include "ui/components/painted_view.h"
 
 namespace vantor {
@@ -17,10 +19,14 @@ struct SpeedTile {
     bool operator==(const SpeedTile&) const = default;
 };
 
-/// Draws a tile across its whole width.
+/// Draws a tile across its whole width; without a ground of its own it needs no padding either.
 class SpeedTileView : public PaintedView {
   public:
-    explicit SpeedTileView(SpeedTile tile, QWidget* parent = nullptr);
+    enum class Ground { tile, none };
+
+    explicit SpeedTileView(SpeedTile tile, QWidget* parent = nullptr)
+        : SpeedTileView(std::move(tile), Ground::tile, parent) {}
+    SpeedTileView(SpeedTile tile, Ground ground, QWidget* parent = nullptr);
 
     void show(const SpeedTile& tile);
     const SpeedTile& tile() const { return tile_; }
@@ -34,7 +40,10 @@ class SpeedTileView : public PaintedView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    double padding() const;
+
     SpeedTile tile_;
+    Ground ground_;
 };
 
 }  // namespace vantor

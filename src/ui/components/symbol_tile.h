@@ -18,4 +18,7 @@ struct Shape {
 void paint(QPainter& painter, const QRectF& area, const Shape& shape, const QString& symbol,
            const QColor& color);
 
+/// Paints the product's own tile: its symbol, white on a gradient from cyan to purple.
+void paintProduct(QPainter& painter, const QRectF& area, const Shape& shape);
+
 }  // namespace vantor::SymbolTile

@@ -16,6 +16,7 @@ class TextLineView : public PaintedView {
                  QWidget* parent = nullptr);
 
     void show(const QString& text);
+    /// Left means leading: it is mirrored where the language runs the other way.
     void setAlignment(Qt::Alignment alignment);
     const QString& text() const { return text_; }
 
@@ -32,6 +33,15 @@ class TextLineView : public PaintedView {
     QFont::Weight weight_;
     Tone tone_;
     Qt::Alignment alignment_ = Qt::AlignLeft;
+};
+
+/// One that names what follows it.
+class HeadingView : public TextLineView {
+  public:
+    HeadingView(const QString& text, double size, QFont::Weight weight, QWidget* parent = nullptr)
+        : TextLineView(text, size, weight, Tone::primary, parent) {}
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Heading; }
 };
 
 }  // namespace vantor

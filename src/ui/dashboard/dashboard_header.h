@@ -9,9 +9,8 @@
 
 #include "ui/components/capsule_button.h"
 #include "ui/components/card_ground.h"
+#include "ui/components/menu_picker.h"
 #include "ui/components/painted_view.h"
-
-class QMenu;
 
 namespace vantor {
 
@@ -77,20 +76,11 @@ class IdentityView : public PaintedView {
 };
 
 /// Offers the refresh intervals in a menu; its label is the current one.
-class IntervalMenuView : public CapsuleButtonView {
+class IntervalMenuView : public MenuPickerView {
   public:
     explicit IntervalMenuView(const std::function<void(double)>& onChange,
                               QWidget* parent = nullptr);
     void show(double interval);
-    QMenu& menu() { return *menu_; }
-
-  protected:
-    bool isSymbolTrailing() const override { return true; }
-
-  private:
-    void open();
-
-    QMenu* menu_;  // owned by this widget, as its child
 };
 
 /// Draws the header and runs its callbacks.

@@ -1,16 +1,11 @@
-#include <QAction>
-#include <QActionGroup>
-#include <QLinearGradient>
-#include <QMenu>
 
 #include <cmath>
 
 #include "settings/app_settings.h"
-#include "ui/components/make_child.h"
+#include "ui/components/symbol_tile.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/pixels.h"
-#include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -23,9 +18,8 @@ constexpr double pillVerticalPadding = 8;
 constexpr double pillDot = 8;
 constexpr double pillSpacing = 7;
 
-constexpr double tileSide = 46;
-constexpr double tileCorner = 14;
-constexpr double tileSymbol = 27;  // what a symbol of font size 22 measures
+// The symbol's measure is that of one of font size 22.
+constexpr SymbolTile::Shape tileShape{.side = 46, .corner = 14, .symbol = 27};
 constexpr double identitySpacing = 13;
 constexpr double nameSize = 23;
 constexpr double subtitleSize = 12;
@@ -33,6 +27,13 @@ constexpr double subtitleSize = 12;
 constexpr TextStyle pillStyle{Typography::caption, QFont::DemiBold};
 constexpr TextStyle nameStyle{nameSize, QFont::Bold};
 constexpr TextStyle subtitleStyle{subtitleSize};
+
+QStringList intervalTexts() {
+    QStringList texts;
+    for (const double interval : AppSettings::refreshIntervals)
+        texts << DashboardHeader::intervalText(interval);
+    return texts;
+}
 
 QString statusText(bool isPaused) {
     DashboardHeader header;
@@ -94,7 +95,7 @@ IdentityView::IdentityView(std::string_view subtitle, QWidget* parent)
 QSize IdentityView::sizeHint() const {
     const QFontMetricsF name(Typography::font(nameStyle), this);
     const QFontMetricsF subtitle(Typography::font(subtitleStyle), this);
-    const double side = Typography::scaled(tileSide);
+    const double side = Typography::scaled(tileShape.side);
     const double text =
         std::max(name.horizontalAdvance(accessibleLabel()), subtitle.horizontalAdvance(subtitle_));
     return {static_cast<int>(std::ceil(side + identitySpacing + text)),
@@ -102,24 +103,14 @@ QSize IdentityView::sizeHint() const {
 }
 
 QSize IdentityView::minimumSizeHint() const {
-    return {Typography::scaled(tileSide), sizeHint().height()};
+    return {Typography::scaled(tileShape.side), sizeHint().height()};
 }
 
 void IdentityView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    const double side = Typography::scaled(tileSide);
-    const QRectF tile =
-        Pixels::snapped(painter, painter.leading({0, (height() - side) / 2, side, side}));
-    const double corner = tileCorner * side / tileSide;
-    QLinearGradient gradient(tile.topLeft(), tile.bottomRight());
-    gradient.setColorAt(0, VantorTheme::cyan());
-    gradient.setColorAt(1, VantorTheme::purple());
-    QPainterPath shape;
-    shape.addRoundedRect(tile, corner, corner);
-    painter.fillPath(shape, gradient);
-    const double inset = (side - tileSymbol * side / tileSide) / 2;
-    Symbols::draw(painter, tile.adjusted(inset, inset, -inset, -inset),
-                  QStringLiteral("waveform.path.ecg"), Qt::white);
+    const double side = Typography::scaled(tileShape.side);
+    SymbolTile::paintProduct(painter, painter.leading({0, (height() - side) / 2, side, side}),
+                             tileShape);
 
     const double left = side + identitySpacing;
     const double nameHeight = painter.lineHeight(nameStyle);
@@ -134,33 +125,18 @@ void IdentityView::paintEvent(QPaintEvent*) {
 }
 
 IntervalMenuView::IntervalMenuView(const std::function<void(double)>& onChange, QWidget* parent)
-    : CapsuleButtonView({QString(), QStringLiteral("chevron.up.chevron.down"), [this] { open(); }},
-                        parent),
-      menu_(makeChild<QMenu>(this)) {
-    auto* group = makeChild<QActionGroup>(this);
-    for (const double interval : AppSettings::refreshIntervals) {
-        QAction* action = menu_->addAction(DashboardHeader::intervalText(interval));
-        action->setCheckable(true);
-        action->setData(interval);
-        group->addAction(action);
-        connect(action, &QAction::triggered, this, [onChange, interval] {
-            if (onChange) onChange(interval);
-        });
-        reserveWidthFor(action->text());
-    }
+    : MenuPickerView(
+          QStringLiteral("Refresh interval"), intervalTexts(),
+          [onChange](std::size_t choice) {
+              if (onChange) onChange(AppSettings::refreshIntervals.at(choice));
+          },
+          parent) {
     setToolTip(QStringLiteral("Refresh interval"));
 }
 
 void IntervalMenuView::show(double interval) {
-    CapsuleButtonView::show(DashboardHeader::intervalText(interval), systemImage());
-    setAccessibleName(QStringLiteral("Refresh interval ") + text());
-    for (QAction* action : menu_->actions())
-        action->setChecked(action->data() == interval);
-}
-
-void IntervalMenuView::open() {
-    menu_->popup(mapToGlobal(
-        QPoint(isRightToLeft() ? width() - menu_->sizeHint().width() : 0, height() + 4)));
+    MenuPickerView::show(DashboardHeader::intervalText(interval),
+                         placeAmong(AppSettings::refreshIntervals, interval));
 }
 
 }  // namespace vantor

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QString>
+
+#include <functional>
+
+#include "ui/components/focus_ring.h"
+
+namespace vantor {
+
+/// A text and a switch that is on or off; the whole row is what can be clicked. The text breaks
+/// into lines where it must.
+class ToggleRowView : public QAbstractButton {
+  public:
+    enum class Switch { trailing, leading };
+
+    /// What the row keeps at each side for the ring of the focus: so much further out it has to be
+    /// placed than what it should be in line with.
+    static constexpr int outset = 3;
+
+    /// `onChange` hears of what the user does, and of nothing else.
+    ToggleRowView(const QString& title, Switch place, std::function<void(bool)> onChange,
+                  QWidget* parent = nullptr);
+
+    void show(bool isOn) { setChecked(isOn); }
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    QRectF switchArea() const;  ///< in this widget
+    QRectF textArea() const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    double textHeight(double width) const;
+    void paintSwitch(QPainter& painter) const;
+
+    Switch place_;
+    FocusRing ring_;
+};
+
+}  // namespace vantor

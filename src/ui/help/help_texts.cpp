@@ -1,0 +1,64 @@
+#include "ui/help/help_texts.h"
+
+#include <string_view>
+
+namespace vantor {
+
+namespace {
+
+QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+HelpSection dashboard(const PlatformWords& words) {
+    return {QStringLiteral("Dashboard"),
+            QStringLiteral("CPU shows total and per-logical-processor activity. Memory shows "
+                           "current pressure-related usage values. Network reports local "
+                           "interface traffic. GPU values are shown only when %1 or the active "
+                           "graphics driver publishes them. Storage and power data update at "
+                           "lower cadences because they do not require sub-second polling.")
+                .arg(text(words.graphicsInterface))};
+}
+
+HelpSection processExplorer(const PlatformWords& words) {
+    return {QStringLiteral("Process Explorer"),
+            QStringLiteral("The process list uses native %1 %2 data. Sort by CPU or memory and "
+                           "use the filter field to locate a running process. Vantor does not "
+                           "launch external command-line tools to collect process telemetry.")
+                .arg(text(words.systemName), text(words.processInterface))};
+}
+
+HelpSection menuBarAndWindows(const PlatformWords& words) {
+    return {QStringLiteral("Menu Bar and Windows"),
+            QStringLiteral("When the menu bar dashboard is enabled, closing the main window keeps "
+                           "Vantor available from the menu bar. When it is disabled, closing the "
+                           "last window exits the app. Use Quit or %1 to terminate Vantor "
+                           "completely.")
+                .arg(text(words.quitKeys))};
+}
+
+}  // namespace
+
+QString HelpTexts::summary(const PlatformWords& words) {
+    return QStringLiteral(
+               "Vantor is a local %1 performance dashboard for live CPU, memory, "
+               "network, GPU, storage, process and system telemetry.")
+        .arg(text(words.systemName));
+}
+
+std::vector<HelpSection> HelpTexts::sections(const PlatformWords& words) {
+    return {{QStringLiteral("Live Monitoring"),
+             QStringLiteral("Choose a refresh interval from 0.5, 1, 2, 5 or 10 seconds. Pause "
+                            "stops periodic sampling, Refresh Now requests a fresh snapshot, and "
+                            "the charts keep only the configured bounded history.")},
+            dashboard(words),
+            processExplorer(words),
+            menuBarAndWindows(words),
+            {QStringLiteral("Export and Privacy"),
+             QStringLiteral("All monitoring is performed locally. Vantor does not perform "
+                            "analytics, public-IP lookups or automatic data transmission. A JSON "
+                            "snapshot is written only when you explicitly choose Export and "
+                            "select a destination.")}};
+}
+
+}  // namespace vantor

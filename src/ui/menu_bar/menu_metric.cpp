@@ -1,0 +1,81 @@
+#include "ui/menu_bar/menu_metric.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "ui/components/card_chrome.h"
+#include "ui/components/usage_bar.h"
+#include "ui/drawing/view_painter.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr double groundOpacity = 0.06;
+constexpr double horizontalPadding = 12;
+constexpr double verticalPadding = 9;
+constexpr double valueSize = 20;
+constexpr double barHeight = 4;
+constexpr double barGap = 5;
+
+constexpr TextStyle titleStyle{Typography::caption};
+constexpr TextStyle valueStyle{valueSize, QFont::Bold};
+
+}  // namespace
+
+bool MenuMetric::operator==(const MenuMetric& other) const {
+    const bool isSameFraction =
+        fraction == other.fraction || (std::isnan(fraction) && std::isnan(other.fraction));
+    return isSameFraction && title == other.title && value == other.value && color == other.color;
+}
+
+MenuMetricView::MenuMetricView(MenuMetric metric, QWidget* parent)
+    : PaintedView(parent), metric_(std::move(metric)) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void MenuMetricView::show(const MenuMetric& metric) {
+    if (metric == metric_) return;
+    metric_ = metric;
+    update();
+    announceValue();
+}
+
+std::optional<double> MenuMetricView::accessibleFraction() const {
+    if (std::isnan(metric_.fraction)) return std::nullopt;
+    return std::clamp(metric_.fraction, 0.0, 1.0);
+}
+
+QSize MenuMetricView::sizeHint() const {
+    const QFontMetricsF title(Typography::font(titleStyle), this);
+    const QFontMetricsF value(Typography::font(valueStyle), this);
+    // Room for the widest value, so that a tile does not grow with its load.
+    const double text = std::max({title.horizontalAdvance(metric_.title),
+                                  Typography::digitTextWidth(QStringLiteral("100%"), value),
+                                  Typography::digitTextWidth(metric_.value, value)});
+    return {static_cast<int>(std::ceil(2 * horizontalPadding + text)),
+            static_cast<int>(std::ceil(2 * verticalPadding + title.height() + value.height() +
+                                       barGap + barHeight))};
+}
+
+void MenuMetricView::paintEvent(QPaintEvent*) {
+    ViewPainter painter(*this);
+    CardChrome::paintTile(painter, rect(), painter.scheme(), groundOpacity);
+    const double across = width() - 2 * horizontalPadding;
+    const double titleHeight = painter.lineHeight(titleStyle);
+    const double valueHeight = painter.lineHeight(valueStyle);
+    painter.secondary();
+    painter.line(titleStyle, {horizontalPadding, verticalPadding, across, titleHeight},
+                 Qt::AlignLeft, metric_.title);
+    painter.primary();
+    const double valueTop = verticalPadding + titleHeight;
+    painter.figures(valueStyle, {horizontalPadding, valueTop, across, valueHeight}, Qt::AlignLeft,
+                    metric_.value);
+    paintUsageBar(painter, {horizontalPadding, valueTop + valueHeight + barGap, across, barHeight},
+                  UsageBar{metric_.fraction, metric_.color, barHeight});
+}
+
+}  // namespace vantor

@@ -1,0 +1,205 @@
+#include "ui/settings/settings_view.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <utility>
+
+#include "ui/components/make_child.h"
+#include "ui/dashboard/scroll_view.h"
+#include "ui/dashboard/width_limit_layout.h"
+#include "ui/theme.h"
+#include "ui/typography.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr QSize smallest(480, 480);
+constexpr double idealWidth = 520;
+constexpr double idealHeight = 560;
+constexpr double widestForm = 680;
+
+QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+}  // namespace
+
+SettingsView::SettingsView(Environment environment, QWidget* parent)
+    : GroundView(parent),
+      environment_(std::move(environment)),
+      style_(formStyle(environment_.machine->processInfo())),
+      form_(SettingsForm::of(*environment_.settings)) {
+    auto* content = makeChild<QWidget>(this);
+    auto* limit =
+        std::make_unique<WidthLimitLayout>(Typography::scaled(widestForm), content).release();
+    limit->addWidget(makeForm(content));
+    auto* whole = makeLayout<QVBoxLayout>(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    scroll_ = makeScrollView(content);
+    whole->addWidget(scroll_);
+    show(form_);
+    observe();
+}
+
+QWidget* SettingsView::makeForm(QWidget* content) {
+    auto* widget = makeChild<QWidget>(content);
+    auto* form = makeLayout<QFormLayout>(widget);
+    vantorGroupedFormStyle(*form);
+    addAppearance(*form);
+    addMonitoring(*form);
+    addData(*form);
+    addAbout(*form);
+    return widget;
+}
+
+QScrollArea* SettingsView::makeScrollView(QWidget* content) {
+    LegacyVantorScrollView* view = nullptr;
+    if (style_ == FormStyle::grouped) {
+        view = makeChild<VantorScrollView>(this, Qt::Vertical);
+    } else {
+        view = makeChild<LegacyVantorScrollView>(this, Qt::Vertical);
+    }
+    view->setWidget(content);
+    content->setAutoFillBackground(false);  // setWidget turns it on, and the background is ours
+    return view;
+}
+
+CompatibleFormSection& SettingsView::addSection(QFormLayout& form, const char* title) {
+    auto* section =
+        makeChild<CompatibleFormSection>(form.parentWidget(), style_, QString::fromLatin1(title));
+    sections_.push_back(section);
+    form.addRow(section);
+    return *section;
+}
+
+void SettingsView::addAppearance(QFormLayout& form) {
+    CompatibleFormSection& section = addSection(form, "Appearance");
+    const QString label = QStringLiteral("Theme");
+    const auto onChoose = [this](int choice) {
+        const Appearance chosen = allAppearances.at(static_cast<std::size_t>(choice));
+        if (chosen != form_.appearance) environment_.settings->setAppearance(chosen);
+    };
+    theme_ =
+        makeChild<SegmentedPicker>(&section, label, SettingsForm::appearanceLabels(), onChoose);
+    theme_->hideLabel();
+    section.add(makeChild<CompatibleLabeledContent>(&section, style_, label, theme_));
+}
+
+void SettingsView::addMonitoring(QFormLayout& form) {
+    CompatibleFormSection& section = addSection(form, "Monitoring");
+    addIntervalAndHistory(section);
+    addToggles(section);
+}
+
+void SettingsView::addIntervalAndHistory(CompatibleFormSection& section) {
+    const auto& settings = environment_.settings;
+    const QString label = QStringLiteral("Refresh interval");
+    const auto onChoose = [s = settings](std::size_t choice) {
+        s->setRefreshInterval(AppSettings::refreshIntervals.at(choice));
+    };
+    interval_ =
+        makeChild<MenuPickerView>(&section, label, SettingsForm::intervalLabels(), onChoose);
+    section.add(makeChild<CompatibleLabeledContent>(&section, style_, label, interval_));
+    const Stepper stepper{QStringLiteral("Chart history"), QStringLiteral("samples"),
+                          AppSettings::shortestHistory, AppSettings::longestHistory};
+    history_ =
+        makeChild<StepperView>(&section, stepper, form_.historyLength,
+                               [s = settings](std::int64_t value) { s->setHistoryLength(value); });
+    historyRow_ =
+        makeChild<CompatibleLabeledContent>(&section, style_, form_.historyLabel(), history_);
+    section.add(historyRow_);
+}
+
+void SettingsView::addToggles(CompatibleFormSection& section) {
+    const auto place = style_ == FormStyle::grouped ? ToggleRowView::Switch::trailing
+                                                    : ToggleRowView::Switch::leading;
+    const auto& settings = environment_.settings;
+    pointToPoint_ = makeChild<ToggleRowView>(
+        &section, QStringLiteral("Include point-to-point and tunnel interfaces"), place,
+        [s = settings](bool isOn) { s->setIncludePointToPointInterfaces(isOn); });
+    section.add(pointToPoint_, ToggleRowView::outset);
+    menuBar_ = makeChild<ToggleRowView>(&section, QStringLiteral("Show menu bar dashboard"), place,
+                                        [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
+    section.add(menuBar_, ToggleRowView::outset);
+}
+
+void SettingsView::addData(QFormLayout& form) {
+    CompatibleFormSection& section = addSection(form, "Data");
+    const PlatformWords& words = environment_.machine->words();
+    addValue(section, QStringLiteral("Network privacy"), QStringLiteral("No public IP lookup"));
+    addValue(
+        section, QStringLiteral("Process source"),
+        QStringLiteral("Native %1 %2").arg(text(words.systemName), text(words.processInterface)));
+    addValue(section, QStringLiteral("GPU telemetry"), text(words.graphicsTelemetry));
+    auto* row = makeChild<QWidget>(&section);
+    auto* line = makeLayout<QHBoxLayout>(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    export_ = makeChild<CapsuleButtonView>(
+        row, CapsuleButton{QStringLiteral("Export Current Snapshot…"),
+                           QStringLiteral("square.and.arrow.up"), environment_.onExport});
+    export_->setEnabled(environment_.onExport != nullptr);
+    line->addWidget(export_);
+    line->addStretch();
+    section.add(row);
+}
+
+void SettingsView::addAbout(QFormLayout& form) {
+    addValue(addSection(form, "About"), QStringLiteral("Application"),
+             QStringLiteral("Vantor ") + environment_.metadata.version());
+}
+
+void SettingsView::addValue(CompatibleFormSection& section, const QString& label,
+                            const QString& value) {
+    values_.push_back(makeChild<CompatibleLabeledValue>(&section, style_, label, value));
+    section.add(values_.back());
+}
+
+template <class Value>
+void SettingsView::follow(Published<Value>& stream, Value SettingsForm::*field) {
+    observations_.push_back(stream.observe([this, field](const Value& value) {
+        SettingsForm next = form_;
+        next.*field = value;
+        show(next);
+    }));
+}
+
+void SettingsView::observe() {
+    AppSettings& settings = *environment_.settings;
+    follow(settings.appearanceStream(), &SettingsForm::appearance);
+    follow(settings.refreshIntervalStream(), &SettingsForm::refreshInterval);
+    follow(settings.historyLengthStream(), &SettingsForm::historyLength);
+    follow(settings.includePointToPointInterfacesStream(),
+           &SettingsForm::includePointToPointInterfaces);
+    follow(settings.showMenuBarStream(), &SettingsForm::showMenuBar);
+}
+
+void SettingsView::show(const SettingsForm& form) {
+    // Kept first: the theme's picker also tells of changes that are made here, and such a one is
+    // known by then.
+    form_ = form;
+    if (const auto place = placeAmong(allAppearances, form.appearance)) {
+        theme_->choose(static_cast<int>(*place));
+    }
+    interval_->show(SettingsForm::intervalLabel(form.refreshInterval),
+                    placeAmong(AppSettings::refreshIntervals, form.refreshInterval));
+    historyRow_->label().show(form.historyLabel());
+    history_->show(form.historyLength);
+    pointToPoint_->show(form.includePointToPointInterfaces);
+    menuBar_->show(form.showMenuBar);
+}
+
+QSize SettingsView::minimumSizeHint() const {
+    const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+    return smallest.expandedTo({scroll_->widget()->minimumSizeHint().width() + bar, 0});
+}
+
+QSize SettingsView::sizeHint() const {
+    return QSize(Typography::scaled(idealWidth), Typography::scaled(idealHeight))
+        .expandedTo(minimumSizeHint());
+}
+
+}  // namespace vantor
