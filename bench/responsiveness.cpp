@@ -16,6 +16,7 @@
 #include <fstream>
 #include <vector>
 
+#include "app/qt_status_bar.h"
 #include "app/vantor_app.h"
 #include "platform/native_machine.h"
 #include "ui/explorer/process_explorer_view.h"
@@ -131,7 +132,10 @@ int report(std::vector<double> stretches) {
 
 int watch(std::chrono::seconds duration) {
     const QTemporaryDir folder;
-    VantorApp app(makeNativeMachine(), folder.filePath(QStringLiteral("settings.ini")));
+    const auto program =
+        makeVantorApp({makeNativeMachine(), folder.filePath(QStringLiteral("settings.ini")),
+                       std::make_shared<QtStatusBar>(), [] {}});
+    VantorApp& app = *program;
     app.settings().setRefreshInterval(0.5);
     Watchdog watchdog;
     app.openDashboard();

@@ -57,9 +57,12 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
 add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)
 
-vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app SOURCES
+vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURCES
+    app/app_delegate_test.cpp
     app/appearance_test.cpp
     app/damaged_store_test.cpp
+    app/launch_stabilizer_test.cpp
+    app/menu_bar_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
     app/stored_settings_test.cpp

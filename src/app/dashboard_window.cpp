@@ -1,15 +1,21 @@
 #include "app/dashboard_window.h"
 
 #include <QIcon>
+#include <QMenuBar>
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "app/launch_stabilizer_view.h"
 #include "ui/components/make_child.h"
 
 namespace vantor {
 
-DashboardWindow::DashboardWindow(DashboardView::Environment environment)
-    : dashboard_(makeChild<DashboardView>(this, std::move(environment))) {
+DashboardWindow::DashboardWindow(DashboardView::Environment environment, AppCommands& commands,
+                                 std::function<void(bool isActive)> onLiveResize) {
+    const auto mainLoop = environment.mainLoop;
+    dashboard_ = makeChild<DashboardView>(this, std::move(environment));
+    MainWindowLaunchStabilizer(mainLoop, std::move(onLiveResize), this);
+    dashboard_->setMenuBar(commands.makeMenuBar(dashboard_));
     setWindowTitle(QStringLiteral("Vantor"));
     setWindowIcon(QIcon(QStringLiteral(":/vantor.svg")));
     setMinimumSize(smallestSize);

@@ -2,6 +2,9 @@
 
 #include <QWidget>
 
+#include <functional>
+
+#include "app/app_commands.h"
 #include "ui/dashboard/dashboard_view.h"
 
 namespace vantor {
@@ -12,12 +15,14 @@ class DashboardWindow : public QWidget {
     static constexpr QSize defaultSize{1280, 820};
     static constexpr QSize smallestSize{720, 560};
 
-    explicit DashboardWindow(DashboardView::Environment environment);
+    /// `onLiveResize` is told when the user begins and ends to resize the window.
+    DashboardWindow(DashboardView::Environment environment, AppCommands& commands,
+                    std::function<void(bool isActive)> onLiveResize);
 
     DashboardView& dashboard() { return *dashboard_; }
 
   private:
-    DashboardView* dashboard_;  // owned by this widget, as its child
+    DashboardView* dashboard_ = nullptr;  // owned by this widget, as its child
 };
 
 }  // namespace vantor

@@ -1,4 +1,4 @@
-#include "app/vantor_app.h"
+#include "app/run_vantor.h"
 #include "platform/native_machine.h"
 
 int main(int argc, char** argv) {

@@ -1,76 +1,156 @@
 #include "app/vantor_app.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 
-#include <cstdlib>
+#include <algorithm>
 
+#include "app/about_panel.h"
+#include "app/legacy_vantor_app.h"
+#include "app/modern_vantor_app.h"
 #include "app/qt_application_appearance.h"
 #include "app/qt_defaults_store.h"
 #include "app/qt_main_loop.h"
 #include "platform/native_machine.h"
-#include "ui/components/accessible_views.h"
+#include "ui/help/help_view.h"
+#include "ui/settings/settings_view.h"
 
 namespace vantor {
 
 namespace {
 
-// Long enough for any probe that works, and well within what people take for "at once".
-constexpr std::chrono::milliseconds quitPatience{250};
+using namespace std::chrono_literals;
+
+constexpr QSize helpSize{700, 620};
+constexpr QSize settingsSize{520, 560};
+// A desktop's panel that is restarted is back by then.
+constexpr auto trayPatience = 5s;
 
 }  // namespace
 
-VantorApp::VantorApp(std::shared_ptr<Machine> machine, const QString& settingsFile)
-    : machine_(std::move(machine)),
+VantorApp::VantorApp(Environment environment)
+    : machine_(std::move(environment.machine)),
       mainLoop_(std::make_shared<QtMainLoop>()),
       queues_(std::make_shared<ThreadedSerialQueueFactory>(assumeUtilityRole)),
-      settings_(std::make_shared<AppSettings>(std::make_shared<QtDefaultsStore>(settingsFile),
-                                              std::make_shared<QtApplicationAppearance>())),
+      defaults_(std::make_shared<QtDefaultsStore>(environment.settingsFile)),
+      settings_(
+          std::make_shared<AppSettings>(defaults_, std::make_shared<QtApplicationAppearance>())),
       monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_)),
-      metadata_(buildInfo_) {}
-
-VantorApp::~VantorApp() {
-    shutDown(std::chrono::milliseconds::zero());
+      statusBar_(std::move(environment.statusBar)),
+      quit_(std::move(environment.quit)),
+      metadata_(buildInfo_),
+      delegate_(defaults_, machine_->processInfo(), [this] { openDashboard(); }),
+      commands_({[this] { openAbout(); }, [this] { monitor_->forceRefresh(); },
+                 [this] { monitor_->exportSnapshot(); }, [this] { openSettings(); },
+                 [this] { openHelp(); }, quit_}) {
+    // Whether the last window ends the program is asked each time.
+    QApplication::setQuitOnLastWindowClosed(false);
+    connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowClosed(); });
+    statusBar_->listen([this] { statusBarChanged(); });
 }
 
-void VantorApp::openDashboard() {
-    if (!window_) {
-        const auto onFirstLiveFrame = [this] {
-            // The name that a minimised window goes by: from the first live figures on, the plain
-            // one. Whoever waits for them from outside can watch it.
-            window_->setWindowIconText(QStringLiteral("Vantor"));
-        };
-        window_ = std::make_unique<DashboardWindow>(DashboardView::Environment{
-            settings_, monitor_, machine_, mainLoop_, metadata_, AdaptiveColumns{},
-            [] { QApplication::quit(); }, onFirstLiveFrame});
-        window_->setWindowIconText(QStringLiteral("Vantor (collecting live data)"));
+VantorApp::~VantorApp() {
+    VantorApp::shutDown(0ms);
+}
+
+MenuBarController::Actions VantorApp::menuBarActions() {
+    return {[this] { openDashboard(); }, [this] { openSettings(); }, quit_};
+}
+
+MenuBarDashboardView::Environment VantorApp::panelEnvironment() const {
+    return {monitor_, quit_};
+}
+
+void VantorApp::adoptMenuBar(std::unique_ptr<MenuBarController> menuBar) {
+    menuBar_ = std::move(menuBar);
+}
+
+std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& identifier) {
+    const auto onFirstLiveFrame = [this] {
+        // The name that a minimised window goes by: from the first live figures on, the plain
+        // one. Whoever waits for them from outside can watch it.
+        if (DashboardWindow* const window = dashboardWindow())
+            window->setWindowIconText(QStringLiteral("Vantor"));
+    };
+    auto window = std::make_unique<DashboardWindow>(
+        DashboardView::Environment{settings_, monitor_, machine_, mainLoop_, metadata_,
+                                   AdaptiveColumns{}, quit_, onFirstLiveFrame},
+        commands_, [this](bool isActive) { monitor_->setDashboardLiveResizeActive(isActive); });
+    window->setObjectName(identifier);
+    window->setWindowIconText(QStringLiteral("Vantor (collecting live data)"));
+    return window;
+}
+
+void VantorApp::openSettings() {
+    if (!settingsWindow_) {
+        auto view = std::make_unique<SettingsView>(SettingsView::Environment{
+            settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); }});
+        const QSize smallest = view->minimumSizeHint();
+        settingsWindow_ =
+            std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view),
+                                            settingsSize.expandedTo(smallest), smallest);
+        commands_.addTo(settingsWindow_.get());
     }
-    window_->show();
+    settingsWindow_->open();
+}
+
+void VantorApp::openHelp() {
+    if (!helpWindow_) {
+        auto view = std::make_unique<HelpView>(machine_->processInfo(), machine_->words());
+        const QSize smallest = view->minimumSizeHint();
+        helpWindow_ = std::make_unique<ContentWindow>(QStringLiteral("Vantor Help"),
+                                                      std::move(view), helpSize, smallest);
+        commands_.addTo(helpWindow_.get());
+    }
+    helpWindow_->open();
+}
+
+void VantorApp::openAbout() {
+    QWidget* owner = QApplication::activeWindow();
+    if (!owner) owner = dashboardWindow();
+    showVantorAboutPanel(metadata_, owner);
+}
+
+void VantorApp::reopen() {
+    if (delegate_.applicationShouldHandleReopen(hasVisibleWindow())) openDashboard();
+}
+
+bool VantorApp::hasVisibleWindow() const {
+    const auto windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [](const QWidget* window) {
+        return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose);
+    });
+}
+
+/// The user must always have a way back to a program that runs.
+void VantorApp::lastWindowClosed() {
+    const bool hasWayBack = statusBar_->isAvailable() && menuBar_ && menuBar_->hasStatusItem();
+    if (!hasWayBack || delegate_.applicationShouldTerminateAfterLastWindowClosed()) quit_();
+}
+
+void VantorApp::statusBarChanged() {
+    cancelTask(wayBackTask_);
+    if (statusBar_->isAvailable()) return;
+    wayBackTask_ = std::make_shared<MainTask>(mainLoop_);
+    wayBackTask_->sleep(trayPatience, [this] {
+        wayBackTask_ = nullptr;
+        if (!statusBar_->isAvailable() && !hasVisibleWindow()) openDashboard();
+    });
 }
 
 bool VantorApp::shutDown(std::chrono::milliseconds patience) {
-    window_.reset();
+    cancelTask(wayBackTask_);
+    statusBar_->listen({});
+    menuBar_.reset();
+    settingsWindow_.reset();
+    helpWindow_.reset();
     monitor_.reset();
     return queues_->waitForThreads(patience);
 }
 
-int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
-    // One look everywhere: the desktop's own style knows nothing of our two schemes.
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("vantor"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Vantor"));
-    QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("vantor"));
-    installViewAccessibility();
-
-    VantorApp vantor(machine, QtDefaultsStore::userFile());
-    vantor.openDashboard();
-    const int status = QApplication::exec();
-    // A probe that hangs in the kernel cannot be joined, and tearing the process down around it
-    // would pull the ground from under its feet.
-    if (!vantor.shutDown(quitPatience)) std::_Exit(status);
-    return status;
+std::unique_ptr<VantorApp> makeVantorApp(VantorApp::Environment environment) {
+    if (environment.machine->processInfo().isOperatingSystemAtLeast(13, 0, 0))
+        return std::make_unique<ModernVantorApp>(std::move(environment));
+    return std::make_unique<LegacyVantorApp>(std::move(environment));
 }
 
 }  // namespace vantor

@@ -3,52 +3,100 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
+#include "app/app_commands.h"
+#include "app/app_delegate.h"
 #include "app/build_info.h"
+#include "app/content_window.h"
 #include "app/dashboard_window.h"
+#include "app/menu_bar_controller.h"
+#include "app/status_bar.h"
 #include "platform/machine.h"
 #include "platform/main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
 #include "ui/app_metadata.h"
+#include "ui/menu_bar/menu_bar_dashboard_view.h"
 
 namespace vantor {
 
-/// Puts the whole program together and owns it. Needs the toolkit's application object; main
-/// thread.
-class VantorApp {
+/// Puts the whole program together and owns it; its two variants differ in how the dashboard's
+/// window and the menu bar item come to be. Needs the toolkit's application object; main thread.
+class VantorApp : public QObject {
   public:
-    /// Shows `machine`, with the preferences of `settingsFile`.
-    VantorApp(std::shared_ptr<Machine> machine, const QString& settingsFile);
+    struct Environment {
+        std::shared_ptr<Machine> machine;
+        QString settingsFile;  ///< of the user's preferences
+        std::shared_ptr<StatusBar> statusBar;
+        std::function<void()> quit;
+    };
+
     VantorApp(const VantorApp&) = delete;
     VantorApp& operator=(const VantorApp&) = delete;
-    ~VantorApp();
+    ~VantorApp() override;
 
-    void openDashboard();
+    /// Shows the dashboard's window, or brings it forward.
+    virtual void openDashboard() = 0;
+    virtual DashboardWindow* dashboardWindow() = 0;
 
-    DashboardWindow* dashboardWindow() { return window_.get(); }
+    void openSettings();
+    void openHelp();
+    void openAbout();
+
+    /// The user started the program again, or clicked its icon.
+    void reopen();
+
     SystemMonitor& monitor() { return *monitor_; }
     AppSettings& settings() { return *settings_; }
+    MenuBarController& menuBar() { return *menuBar_; }
+    ContentWindow* settingsWindow() { return settingsWindow_.get(); }
+    ContentWindow* helpWindow() { return helpWindow_.get(); }
+    AppCommands& commands() { return commands_; }
 
     /// Ends everything without waiting for any probe. False when a probe is still running after
     /// `patience`: the program must then leave without cleaning up under it.
-    bool shutDown(std::chrono::milliseconds patience);
+    virtual bool shutDown(std::chrono::milliseconds patience);
+
+  protected:
+    explicit VantorApp(Environment environment);
+
+    /// Called by each variant once it is made.
+    void adoptMenuBar(std::unique_ptr<MenuBarController> menuBar);
+    MenuBarController::Actions menuBarActions();
+    const std::shared_ptr<StatusBar>& statusBar() const { return statusBar_; }
+    const std::shared_ptr<AppSettings>& sharedSettings() const { return settings_; }
+    const std::shared_ptr<SystemMonitor>& sharedMonitor() const { return monitor_; }
+    const ProcessInfo& versions() const { return machine_->processInfo(); }
+    std::unique_ptr<DashboardWindow> makeDashboardWindow(const QString& identifier);
+    MenuBarDashboardView::Environment panelEnvironment() const;
 
   private:
+    bool hasVisibleWindow() const;
+    void lastWindowClosed();
+    void statusBarChanged();
+
     std::shared_ptr<Machine> machine_;
     std::shared_ptr<MainLoop> mainLoop_;
     std::shared_ptr<ThreadedSerialQueueFactory> queues_;
+    std::shared_ptr<DefaultsStore> defaults_;
     std::shared_ptr<AppSettings> settings_;
     std::shared_ptr<SystemMonitor> monitor_;
+    std::shared_ptr<StatusBar> statusBar_;
+    std::function<void()> quit_;
     BuildInfo buildInfo_;
     AppMetadata metadata_;
-    std::unique_ptr<DashboardWindow> window_;
+    AppDelegate delegate_;
+    AppCommands commands_;
+    std::unique_ptr<MenuBarController> menuBar_;
+    std::unique_ptr<ContentWindow> settingsWindow_;
+    std::unique_ptr<ContentWindow> helpWindow_;
+    std::shared_ptr<MainTask> wayBackTask_;
 };
 
-/// Runs the program until the user ends it; gives its exit status. May end the process itself when
-/// a probe hangs.
-int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine);
+/// The variant that suits the machine's system.
+std::unique_ptr<VantorApp> makeVantorApp(VantorApp::Environment environment);
 
 }  // namespace vantor

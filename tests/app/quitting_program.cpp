@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "app/vantor_app.h"
+#include "app/run_vantor.h"
 #include "platform/simulated/simulated_machine.h"
 
 namespace {

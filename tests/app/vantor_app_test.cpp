@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "app/build_info.h"
+#include "app/played_status_bar.h"
 #include "platform/simulated/simulated_machine.h"
 #include "ui/cards/cpu_card.h"
 #include "ui/dashboard/dashboard_header.h"
@@ -35,6 +36,9 @@ class VantorAppTest : public testing::Test {
     QString file = folder.filePath(QStringLiteral("settings.ini"));
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
 
+    std::unique_ptr<VantorApp> start() {
+        return makeVantorApp({machine, file, std::make_shared<PlayedStatusBar>(), [] {}});
+    }
     void TearDown() override { QApplication::setPalette(paletteOf(ColorScheme::dark)); }
 
     template <class Condition>
@@ -50,7 +54,8 @@ class VantorAppTest : public testing::Test {
 };
 
 TEST_F(VantorAppTest, MakesTheWindowWhenItIsOpenedAndKeepsIt) {
-    VantorApp app(machine, file);
+    const auto program = start();
+    VantorApp& app = *program;
     EXPECT_EQ(app.dashboardWindow(), nullptr);
     app.openDashboard();
     DashboardWindow* const window = app.dashboardWindow();
@@ -65,7 +70,8 @@ TEST_F(VantorAppTest, MakesTheWindowWhenItIsOpenedAndKeepsIt) {
 
 TEST_F(VantorAppTest, ShowsLiveFiguresAndSaysSoByTheNameOfItsIcon) {
     machine->hostProcessors().growth = {30, 10, 60, 0};
-    VantorApp app(machine, file);
+    const auto program = start();
+    VantorApp& app = *program;
     app.settings().setRefreshInterval(0.5);
     app.openDashboard();
     DashboardWindow& window = *app.dashboardWindow();
@@ -79,12 +85,13 @@ TEST_F(VantorAppTest, ShowsLiveFiguresAndSaysSoByTheNameOfItsIcon) {
 }
 
 TEST_F(VantorAppTest, KeepsPreferencesInTheFileItIsGiven) {
-    { VantorApp(machine, file).settings().setRefreshInterval(10); }
-    EXPECT_DOUBLE_EQ(VantorApp(machine, file).settings().refreshInterval(), 10);
+    start()->settings().setRefreshInterval(10);
+    EXPECT_DOUBLE_EQ(start()->settings().refreshInterval(), 10);
 }
 
 TEST_F(VantorAppTest, EndsBeforeItsWindowWasOpened) {
-    VantorApp app(machine, file);
+    const auto program = start();
+    VantorApp& app = *program;
     EXPECT_TRUE(app.shutDown(1s));
 }
 
@@ -96,7 +103,8 @@ TEST_F(VantorAppTest, AProbeThatHangsDelaysTheEndByNoMoreThanThePatience) {
         if (std::exchange(*once, false)) hung.set_value();
         waiting.wait();
     };
-    VantorApp app(machine, file);
+    const auto program = start();
+    VantorApp& app = *program;
     app.openDashboard();
     auto isHung = hung.get_future();
     ASSERT_TRUE(runUntil([&] { return isHung.wait_for(0s) == std::future_status::ready; }));

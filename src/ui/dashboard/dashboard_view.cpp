@@ -1,8 +1,10 @@
 #include "ui/dashboard/dashboard_view.h"
 
 #include <QDateTime>
+#include <QMenuBar>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -26,6 +28,7 @@ namespace vantor {
 namespace {
 
 constexpr int outerPadding = 20;
+constexpr int paddingUnderMenuBar = 6;
 constexpr int partSpacing = 18;
 constexpr int footerGap = 16;
 constexpr int footerSpacing = 4;
@@ -88,6 +91,14 @@ void DashboardView::build() {
     auto* whole = makeLayout<QVBoxLayout>(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(makeScrollView(content));
+}
+
+void DashboardView::setMenuBar(QMenuBar* bar) {
+    layout()->setMenuBar(bar);
+    if (bar->isNativeMenuBar()) return;
+    // The bar brings the room above the content.
+    QLayout& content = *findChild<QScrollArea*>()->widget()->layout();
+    content.setContentsMargins(outerPadding, paddingUnderMenuBar, outerPadding, outerPadding);
 }
 
 void DashboardView::addHeader(QWidget* content) {

@@ -15,6 +15,8 @@
 #include "ui/dashboard/adaptive_grid.h"
 #include "ui/drawing/ground_view.h"
 
+class QMenuBar;
+
 namespace vantor {
 
 class CPUCardView;
@@ -50,6 +52,9 @@ class DashboardView : public GroundView {
 
     explicit DashboardView(Environment environment, QWidget* parent = nullptr);
     ~DashboardView() override;
+
+    /// Puts a menu bar above the content; the desktop may show it elsewhere.
+    void setMenuBar(QMenuBar* bar);
 
     DashboardHeaderView& header() { return *header_; }
     CPUCardView& cpuCard() { return *cpuCard_; }

@@ -1,0 +1,28 @@
+#include "app/about_panel.h"
+
+#include <QIcon>
+#include <QMessageBox>
+
+#include "app/content_window.h"
+#include "ui/components/make_child.h"
+
+namespace vantor {
+
+QMessageBox* showVantorAboutPanel(const AppMetadata& metadata, QWidget* owner) {
+    constexpr int iconSide = 64;
+    auto* panel = makeChild<QMessageBox>(owner);
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setWindowTitle(QStringLiteral("About Vantor"));
+    panel->setWindowModality(Qt::NonModal);
+    panel->setIconPixmap(QIcon(QStringLiteral(":/vantor.svg")).pixmap(iconSide, iconSide));
+    panel->setText(QStringLiteral("<b>Vantor</b>"));
+    panel->setInformativeText(
+        QStringLiteral("Version %1 (%2)\n\nBuilt by the Vantor founders. Everything it shows, it "
+                       "reads on this machine, and it stays here.")
+            .arg(metadata.version(), metadata.build()));
+    panel->setStandardButtons(QMessageBox::Close);
+    bringForward(*panel);
+    return panel;
+}
+
+}  // namespace vantor

@@ -1,0 +1,82 @@
+#include "app/app_commands.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <QWidget>
+
+#include "ui/components/make_child.h"
+#include "ui/theme.h"
+
+namespace vantor {
+
+namespace {
+
+/// Flat on the window's ground, as tall as its text needs.
+QString flatStyle() {
+    return QStringLiteral(
+        "QMenuBar { background: transparent; border: none; padding: 4px 14px 0 14px; }"
+        "QMenuBar::item { background: transparent; padding: 4px 8px; border-radius: 6px; }"
+        "QMenuBar::item:selected { background: rgba(128, 128, 128, 60); }");
+}
+
+}  // namespace
+
+AppCommands::AppCommands(Actions actions)
+    : about_(add(QStringLiteral("About Vantor"), {}, actions.about)),
+      refresh_(add(QStringLiteral("Refresh Now"), {QStringLiteral("Ctrl+R"), QStringLiteral("F5")},
+                   actions.refresh)),
+      export_(add(QStringLiteral("Export Snapshot…"), {QStringLiteral("Ctrl+E")},
+                  actions.exportSnapshot)),
+      settings_(add(QStringLiteral("Settings…"), {QStringLiteral("Ctrl+,")}, actions.settings)),
+      help_(add(QStringLiteral("Vantor Help"), {QStringLiteral("F1")}, actions.help)),
+      quit_(add(QStringLiteral("Quit"), {QStringLiteral("Ctrl+Q")}, actions.quit)) {
+    about_->setMenuRole(QAction::AboutRole);
+    settings_->setMenuRole(QAction::PreferencesRole);
+    quit_->setMenuRole(QAction::QuitRole);
+}
+
+QAction* AppCommands::add(const QString& title, const std::vector<QString>& keys,
+                          const std::function<void()>& run) {
+    auto* action = makeChild<QAction>(this, title);
+    QList<QKeySequence> shortcuts;
+    for (const QString& key : keys)
+        shortcuts << QKeySequence(key);
+    action->setShortcuts(shortcuts);
+    connect(action, &QAction::triggered, this, [run] { run(); });
+    all_.push_back(action);
+    return action;
+}
+
+QAction* AppCommands::closing(QWidget* window) {
+    auto* action = makeChild<QAction>(window, QStringLiteral("Close Window"));
+    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+W")));
+    connect(action, &QAction::triggered, window, [window] { window->window()->close(); });
+    return action;
+}
+
+QMenuBar* AppCommands::makeMenuBar(QWidget* window) {
+    auto* bar = makeChild<QMenuBar>(window);
+    bar->setStyleSheet(flatStyle());
+    QMenu* const file = bar->addMenu(QStringLiteral("&File"));
+    file->addAction(refresh_);
+    file->addAction(export_);
+    file->addSeparator();
+    file->addAction(settings_);
+    file->addSeparator();
+    file->addAction(closing(window));
+    file->addAction(quit_);
+    QMenu* const help = bar->addMenu(QStringLiteral("&Help"));
+    help->addAction(help_);
+    help->addAction(about_);
+    return bar;
+}
+
+void AppCommands::addTo(QWidget* window) {
+    for (QAction* const action : all_)
+        window->addAction(action);
+    window->addAction(closing(window));
+}
+
+}  // namespace vantor

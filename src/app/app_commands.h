@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+class QAction;
+class QMenuBar;
+class QWidget;
+
+namespace vantor {
+
+/// The program's menu commands with their keys, the same in each window. On desktops that have one
+/// menu bar for all programs the toolkit moves them there.
+class AppCommands : public QObject {
+  public:
+    struct Actions {
+        std::function<void()> about;
+        std::function<void()> refresh;
+        std::function<void()> exportSnapshot;
+        std::function<void()> settings;
+        std::function<void()> help;
+        std::function<void()> quit;
+    };
+
+    explicit AppCommands(Actions actions);
+
+    /// The menu bar of the main window, to be put into it by the caller.
+    QMenuBar* makeMenuBar(QWidget* window);
+
+    /// Lets a window without a menu bar be operated by the same keys.
+    void addTo(QWidget* window);
+
+    const std::vector<QAction*>& all() const { return all_; }
+
+  private:
+    QAction* add(const QString& title, const std::vector<QString>& keys,
+                 const std::function<void()>& run);
+    QAction* closing(QWidget* window);
+
+    std::vector<QAction*> all_;  // owned by this object, as its children
+    QAction* about_;
+    QAction* refresh_;
+    QAction* export_;
+    QAction* settings_;
+    QAction* help_;
+    QAction* quit_;
+};
+
+}  // namespace vantor

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/process_info.h"
+#include "settings/defaults_store.h"
+
+namespace vantor {
+
+/// What the platform asks the program when windows close and when the user starts it again. It has
+/// no state of its own. Main thread.
+class AppDelegate {
+  public:
+    AppDelegate(std::shared_ptr<DefaultsStore> defaults, const ProcessInfo& versions,
+                std::function<void()> openLegacyDashboard)
+        : defaults_(std::move(defaults)),
+          versions_(versions),
+          openLegacyDashboard_(std::move(openLegacyDashboard)) {}
+
+    /// Whether nothing is left to be there for. Asks the store itself, so that what was stored
+    /// counts and not a default: a user who never chose keeps the program in the tray.
+    bool applicationShouldTerminateAfterLastWindowClosed() const;
+
+    /// Whether the platform is to reopen the window; older systems have it opened here.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows) const;
+
+  private:
+    std::shared_ptr<DefaultsStore> defaults_;
+    const ProcessInfo& versions_;
+    std::function<void()> openLegacyDashboard_;
+};
+
+}  // namespace vantor

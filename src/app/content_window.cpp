@@ -1,0 +1,51 @@
+#include "app/content_window.h"
+
+#include <QIcon>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "ui/components/make_child.h"
+
+namespace vantor {
+
+ContentWindow::ContentWindow(const QString& title, std::unique_ptr<QWidget> content, QSize size,
+                             QSize smallest)
+    : QWidget(nullptr, Qt::Window), content_(content.get()) {
+    setWindowTitle(title);
+    setWindowIcon(QIcon(QStringLiteral(":/vantor.svg")));
+    setMinimumSize(smallest);
+    setAttribute(Qt::WA_NoSystemBackground);  // the content paints every pixel
+    auto* layout = makeLayout<QVBoxLayout>(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content.release());
+    const QSize room = screen()->availableSize() - QSize(16, 48);  // less a frame
+    resize(size.boundedTo(room).expandedTo(smallest));
+}
+
+void ContentWindow::open() {
+    if (!wasShown_) {
+        wasShown_ = true;
+        const QRect room = screen()->availableGeometry();
+        move(room.center() - rect().center());
+    }
+    bringForward(*this);
+    content_->setFocus();
+}
+
+void ContentWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void bringForward(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+}  // namespace vantor

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+namespace vantor {
+
+/// A window around one view: opens in the middle of its screen at the content's own size, and is
+/// kept when it is closed.
+class ContentWindow : public QWidget {
+  public:
+    ContentWindow(const QString& title, std::unique_ptr<QWidget> content, QSize size,
+                  QSize smallest);
+
+    QWidget& content() { return *content_; }
+
+    /// Shows it, or brings it to the front.
+    void open();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QWidget* content_;  // owned by this widget, as its child
+    bool wasShown_ = false;
+};
+
+/// Shows `window` on top of the others and gives it the keyboard, minimised or not.
+void bringForward(QWidget& window);
+
+}  // namespace vantor

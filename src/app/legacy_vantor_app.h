@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+#include "app/legacy_dashboard_window_controller.h"
+#include "app/legacy_menu_bar_controller.h"
+#include "app/vantor_app.h"
+
+namespace vantor {
+
+/// The program on systems before 13.0: it makes its window, status item and popover by hand.
+class LegacyVantorApp : public VantorApp {
+  public:
+    explicit LegacyVantorApp(Environment environment);
+    ~LegacyVantorApp() override;
+
+    void openDashboard() override { dashboard_.open(); }
+    DashboardWindow* dashboardWindow() override { return dashboard_.window(); }
+    bool shutDown(std::chrono::milliseconds patience) override;
+
+  private:
+    LegacyDashboardWindowController dashboard_;
+};
+
+}  // namespace vantor

@@ -1,0 +1,133 @@
+#include "app/qt_status_bar.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusServiceWatcher>
+#include <QDateTime>
+#include <QIcon>
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+#include <algorithm>
+#include <chrono>
+
+namespace vantor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Old trays say nothing when they come and go.
+constexpr auto lookInterval = 2s;
+// The toolkit asks once and for all whether the session bus has a tray. When the program is
+// started together with the desktop, the desktop's panel may be a little later than we are.
+constexpr qint64 patienceWithBus = 3000;
+
+QString watcherService() {
+    return QStringLiteral("org.kde.StatusNotifierWatcher");
+}
+
+}  // namespace
+
+/// One icon; made when there is a tray to show it.
+class QtStatusBar::Item : public StatusItem {
+  public:
+    Item(QtStatusBar& bar, StatusItemContent content) : bar_(bar), content_(std::move(content)) {
+        bar_.items_.push_back(this);
+    }
+    ~Item() override { std::erase(bar_.items_, this); }
+
+    void show() {
+        if (icon_) return;
+        // The product's own tile: its light wave on a coloured ground can be seen on light panels
+        // and on dark ones, and nothing tells which the panel is.
+        icon_ = std::make_unique<QSystemTrayIcon>(QIcon(QStringLiteral(":/vantor.svg")));
+        icon_->setToolTip(content_.title);
+        QObject::connect(&menu_, &QMenu::aboutToShow, icon_.get(), [this] { fill(); });
+        fill();
+        icon_->setContextMenu(&menu_);
+        QObject::connect(icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
+                         [this](QSystemTrayIcon::ActivationReason reason) {
+                             if (reason == QSystemTrayIcon::Trigger)
+                                 content_.onPress(icon_->geometry());
+                         });
+        icon_->show();
+    }
+
+  private:
+    void fill() {
+        menu_.clear();
+        for (const StatusMenuEntry& entry : content_.menu()) {
+            if (entry.title.isEmpty()) {
+                menu_.addSeparator();
+                continue;
+            }
+            QAction* const action = menu_.addAction(entry.title);
+            action->setEnabled(entry.action != nullptr);
+            QObject::connect(
+                action, &QAction::triggered, &menu_, [run = entry.action] { run(); },
+                Qt::QueuedConnection);
+        }
+    }
+
+    QtStatusBar& bar_;
+    StatusItemContent content_;
+    QMenu menu_;
+    std::unique_ptr<QSystemTrayIcon> icon_;
+};
+
+QtStatusBar::QtStatusBar() : started_(QDateTime::currentMSecsSinceEpoch()) {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (bus.isConnected()) {
+        isOnBus_ = bus.interface()->isServiceRegistered(watcherService());
+        watcher_ = std::make_unique<QDBusServiceWatcher>(watcherService(), bus,
+                                                         QDBusServiceWatcher::WatchForOwnerChange);
+        QObject::connect(watcher_.get(), &QDBusServiceWatcher::serviceOwnerChanged, &look_,
+                         [this](const QString&, const QString&, const QString& owner) {
+                             isOnBus_ = !owner.isEmpty();
+                             look();
+                         });
+    }
+    QObject::connect(&look_, &QTimer::timeout, &look_, [this] { look(); });
+    look_.setTimerType(Qt::CoarseTimer);
+    look_.start(lookInterval);
+    isAvailable_ = isThere();
+}
+
+QtStatusBar::~QtStatusBar() = default;
+
+bool QtStatusBar::isThere() {
+    if (isOnBus_) return true;
+    const bool isX11 = QGuiApplication::platformName() == QLatin1StringView("xcb");
+    if (!isX11) return false;
+    const bool mayBeLate =
+        watcher_ && QDateTime::currentMSecsSinceEpoch() - started_ < patienceWithBus;
+    return !mayBeLate && QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void QtStatusBar::look() {
+    const bool isThereNow = isThere();
+    if (isThereNow) showItems();
+    if (isThereNow == isAvailable_) return;
+    isAvailable_ = isThereNow;
+    if (onChange_) onChange_();
+}
+
+void QtStatusBar::showItems() {
+    for (Item* const item : items_)
+        item->show();
+}
+
+void QtStatusBar::listen(std::function<void()> onChange) {
+    onChange_ = std::move(onChange);
+}
+
+std::unique_ptr<StatusItem> QtStatusBar::makeItem(StatusItemContent content) {
+    auto item = std::make_unique<Item>(*this, std::move(content));
+    if (isAvailable_) item->show();
+    return item;
+}
+
+}  // namespace vantor

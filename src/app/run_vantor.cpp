@@ -1,0 +1,42 @@
+#include "app/run_vantor.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <cstdlib>
+
+#include "app/qt_defaults_store.h"
+#include "app/qt_status_bar.h"
+#include "app/vantor_app.h"
+#include "ui/components/accessible_views.h"
+
+namespace vantor {
+
+namespace {
+
+// Long enough for any probe that works, and well within what people take for "at once".
+constexpr std::chrono::milliseconds quitPatience{250};
+
+}  // namespace
+
+int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
+    // One look everywhere: the desktop's own style knows nothing of our two schemes.
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("vantor"));
+    QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("vantor"));
+    installViewAccessibility();
+
+    const auto vantor =
+        makeVantorApp({machine, QtDefaultsStore::userFile(), std::make_shared<QtStatusBar>(),
+                       [] { QApplication::quit(); }});
+    vantor->openDashboard();
+    const int status = QApplication::exec();
+    // A probe that hangs in the kernel cannot be joined, and tearing the process down around it
+    // would pull the ground from under its feet.
+    if (!vantor->shutDown(quitPatience)) std::_Exit(status);
+    return status;
+}
+
+}  // namespace vantor
