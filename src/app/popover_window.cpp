@@ -70,7 +70,7 @@ void PopoverWindow::open(const QRect& anchor) {
     show();
     raise();
     activateWindow();
-    content_->setFocus();
+    focusFirst();
 }
 
 /// A line around the content, which paints the rest: the popover may lie on its own colour.
@@ -81,6 +81,14 @@ void PopoverWindow::paintEvent(QPaintEvent* event) {
     QPainter(this).fillRect(event->rect(), VantorTheme::over(line, ground));
 }
 
+/// What the Return key does at once is the first action.
+void PopoverWindow::focusFirst() {
+    QWidget* widget = content_->nextInFocusChain();
+    while (widget != content_ && !(widget->focusPolicy() & Qt::TabFocus))
+        widget = widget->nextInFocusChain();
+    widget->setFocus(Qt::PopupFocusReason);
+}
+
 bool PopoverWindow::hasJustClosed() const {
     return QDateTime::currentMSecsSinceEpoch() - closedAt_ < justNow;
 }
@@ -88,6 +96,7 @@ bool PopoverWindow::hasJustClosed() const {
 void PopoverWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         close();
+        closedAt_ = 0;  // no press on the item did this
         return;
     }
     QWidget::keyPressEvent(event);

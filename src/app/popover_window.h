@@ -30,6 +30,8 @@ class PopoverWindow : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void focusFirst();
+
     QWidget* content_;  // owned by this widget, as its child
     qint64 closedAt_ = 0;
 };

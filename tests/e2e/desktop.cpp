@@ -101,8 +101,23 @@ QString Desktop::startSessionBus() {
     return address;
 }
 
+bool Desktop::startTray() {
+    tray_.setProcessEnvironment(environment_);
+    tray_.setStandardErrorFile(QProcess::nullDevice());
+    tray_.start(QStringLiteral("trayer"),
+                {QStringLiteral("--edge"), QStringLiteral("top"), QStringLiteral("--align"),
+                 QStringLiteral("right"), QStringLiteral("--widthtype"), QStringLiteral("request"),
+                 QStringLiteral("--height"), QStringLiteral("28")});
+    return tray_.waitForStarted(toolPatience);
+}
+
+void Desktop::stopTray() {
+    tray_.kill();
+    tray_.waitForFinished(toolPatience);
+}
+
 Desktop::~Desktop() {
-    for (QProcess* process : {&sessionBus_, &windowManager_, &server_}) {
+    for (QProcess* process : {&tray_, &sessionBus_, &windowManager_, &server_}) {
         if (process->state() == QProcess::NotRunning) continue;
         process->terminate();
         if (!process->waitForFinished(3000)) process->kill();
@@ -142,6 +157,7 @@ RunningProgram::RunningProgram(const Desktop& desktop) : desktop_(desktop) {
     process_.setProcessEnvironment(desktop.environment());
     process_.setProcessChannelMode(QProcess::ForwardedChannels);
     process_.start(QStringLiteral(VANTOR_PROGRAM), QStringList());
+    process_.waitForStarted(toolPatience);
 }
 
 RunningProgram::~RunningProgram() {
@@ -157,8 +173,14 @@ bool RunningProgram::waitForEnd(int milliseconds) {
 QString RunningProgram::window() const {
     const QString list = desktop_.run(
         QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST")});
-    const auto id = QRegularExpression(QStringLiteral("0x[0-9a-f]+")).match(list);
-    return id.captured();
+    auto ids = QRegularExpression(QStringLiteral("0x[0-9a-f]+")).globalMatch(list);
+    while (ids.hasNext()) {
+        const QString id = ids.next().captured();
+        const QString name = desktop_.run(QStringLiteral("xprop"),
+                                          {QStringLiteral("-id"), id, QStringLiteral("WM_CLASS")});
+        if (name.contains(QStringLiteral("\"vantor\""))) return id;
+    }
+    return {};
 }
 
 QRect RunningProgram::windowArea() const {

@@ -27,6 +27,12 @@ class Desktop {
     /// program that is started from then on; its address, empty when it did not start.
     QString startSessionBus();
 
+    /// A tray of the old kind, whose icons are windows, in the top right corner. False when it did
+    /// not start.
+    bool startTray();
+    void stopTray();
+    static QRect trayArea(QSize screen) { return {screen.width() - 40, 0, 40, 28}; }
+
     /// The user's settings file on this desktop.
     QString settingsFile() const;
 
@@ -47,6 +53,7 @@ class Desktop {
     QProcess server_;
     QProcess windowManager_;
     QProcess sessionBus_;
+    QProcess tray_;
     bool isUp_ = false;
 };
 
@@ -63,7 +70,7 @@ class RunningProgram {
     int exitStatus() const { return process_.exitCode(); }
     bool endedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }
 
-    /// The id of its window, empty while it has none.
+    /// The id of its first window that is on the screen, empty while it has none.
     QString window() const;
     QRect windowArea() const;
 
