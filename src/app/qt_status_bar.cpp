@@ -48,11 +48,13 @@ class QtStatusBar::Item : public StatusItem {
         QObject::connect(&menu_, &QMenu::aboutToShow, icon_.get(), [this] { fill(); });
         fill();
         icon_->setContextMenu(&menu_);
-        QObject::connect(icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
-                         [this](QSystemTrayIcon::ActivationReason reason) {
-                             if (reason == QSystemTrayIcon::Trigger)
-                                 content_.onPress(icon_->geometry());
-                         });
+        QObject::connect(
+            icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                // The second of two quick presses is a press, too.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                    content_.onPress(icon_->geometry());
+            });
         icon_->show();
     }
 
