@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "model/utf8.h"
 
@@ -60,8 +61,10 @@ std::string reason(int error) {
 DescribedError describeFileError(int error, const std::filesystem::path& destination) {
     const std::string& path = destination.native();
     const std::string name = destination.filename().native();
-    return {"\"" + repairedUTF8(name.empty() ? path : name) + "\" could not be saved. " +
-            reason(error)};
+    std::string description(1, '"');
+    description.append(repairedUTF8(name.empty() ? path : name));
+    description.append("\" could not be saved. ").append(reason(error));
+    return {std::move(description)};
 }
 
 }  // namespace vantor
