@@ -8,7 +8,9 @@ add_executable(vantor_e2e_tests
     e2e/main.cpp
     e2e/program_test.cpp
     e2e/small_screen_test.cpp
-    e2e/tray_test.cpp)
+    e2e/tray_test.cpp
+    e2e/wayland_test.cpp
+    e2e/windows_test.cpp)
 target_include_directories(vantor_e2e_tests PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(vantor_e2e_tests PRIVATE
     VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_PROGRAM="$<TARGET_FILE:vantor>")

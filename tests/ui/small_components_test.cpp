@@ -115,6 +115,19 @@ TEST(EmptyState, ALongMessageBreaksIntoLinesAndMakesRoom) {
     EXPECT_GT(view.heightForWidth(300), view.heightForWidth(500));
 }
 
+TEST(SegmentedPicker, TheTabKeyArrivesAtWhatIsChosen) {
+    SegmentedPicker picker(QStringLiteral("Theme"),
+                           {QStringLiteral("System"), QStringLiteral("Dark")}, [](int) {});
+    const auto isTabStop = [&](int index) {
+        return (picker.button(index).focusPolicy() & Qt::TabFocus) != 0;
+    };
+    EXPECT_TRUE(isTabStop(0));
+    EXPECT_FALSE(isTabStop(1));
+    picker.choose(1);
+    EXPECT_FALSE(isTabStop(0));
+    EXPECT_TRUE(isTabStop(1));
+}
+
 TEST(SegmentedPicker, ChangesByClickAndByArrowKeys) {
     std::vector<int> heard;
     SegmentedPicker picker(QStringLiteral("Sort"),

@@ -102,9 +102,17 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
     row->addSpacing(trackInset);  // and no margin: that would not change sides
     if (!buttons_.empty()) buttons_.front()->setChecked(true);
     connect(group, &QButtonGroup::idToggled, this,
-            [onChange = std::move(onChange)](int id, bool isChosen) {
+            [this, onChange = std::move(onChange)](int id, bool isChosen) {
+                adoptTabStop();
                 if (isChosen && onChange) onChange(id);
             });
+    adoptTabStop();
+}
+
+/// The Tab key arrives at what is chosen; the arrow keys lead to the others.
+void SegmentedPicker::adoptTabStop() {
+    for (SegmentButton* const button : buttons_)
+        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void SegmentedPicker::hideLabel() {

@@ -49,6 +49,8 @@ class SegmentedPicker : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void adoptTabStop();
+
     QWidget* label_ = nullptr;  // all owned by this widget, as its children
     std::vector<SegmentButton*> buttons_;
 };
