@@ -9,11 +9,17 @@
 #include <chrono>
 
 #include "ui/cards/cpu_card.h"
+#include "ui/cards/gpu_card.h"
+#include "ui/cards/memory_card.h"
+#include "ui/cards/network_card.h"
+#include "ui/cards/storage_card.h"
+#include "ui/cards/system_card.h"
 #include "ui/components/text_line.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/dashboard/horizontal_fit.h"
 #include "ui/dashboard/scroll_view.h"
 #include "ui/dashboard_world.h"
+#include "ui/explorer/process_explorer_view.h"
 #include "ui/gestures.h"
 
 namespace vantor {
@@ -68,6 +74,22 @@ TEST_F(DashboardViewTest, EverythingWaitsBeforeTheFirstCommit) {
     EXPECT_EQ(utf8(card().gauge().gauge().title), "\u2014");
     EXPECT_EQ(utf8(card().header().accessibleValueText()), "Detecting processor\u2026");
     EXPECT_EQ(utf8(card().processes().accessibleValueText()), "Waiting for process data\u2026");
+}
+
+TEST_F(DashboardViewTest, EveryCardShowsItsOwnWaitingState) {
+    world.open();
+    DashboardView& view = *world.view;
+    const auto subtitle = [](DashboardCardView& waiting) {
+        return utf8(waiting.header().accessibleValueText());
+    };
+    EXPECT_EQ(subtitle(view.cpuCard()), "Detecting processor\u2026");
+    EXPECT_EQ(subtitle(view.memoryCard()), "Waiting for memory data");
+    EXPECT_EQ(subtitle(view.networkCard()), "Waiting for network data");
+    EXPECT_EQ(subtitle(view.gpuCard()), "Waiting for graphics data");
+    EXPECT_EQ(subtitle(view.storageCard()), "Waiting for storage data");
+    EXPECT_EQ(subtitle(view.systemCard()), "Waiting for system data");
+    EXPECT_EQ(utf8(view.explorer().emptyState().accessibleValueText()),
+              "No process data is available yet.");
 }
 
 TEST_F(DashboardViewTest, ShowsTheFiguresAfterTheSecondReading) {

@@ -43,7 +43,7 @@ TEST(Formatters, BytesAreBinaryAndHeldWithinASignedCount) {
     EXPECT_EQ(utf8(Formatters::bytes(numeric_limits<std::uint64_t>::max())), "8 EB");
 }
 
-TEST(Formatters, RateOfNothingIsZero) {
+TEST(Formatters, RateOfZeroLessNoNumberOrInfinityIsZero) {
     for (const double nothing : {0.0, -0.0, -5.0, nan, infinity, -infinity}) {
         EXPECT_EQ(rate(nothing), "0 B/s") << nothing;
     }

@@ -54,6 +54,19 @@ TEST_P(GroundInScheme, IsTheThemesGradientInWindowsOfAnyShape) {
     }
 }
 
+TEST_P(GroundInScheme, BeginsWhereReadingBegins) {
+    const QSize size(500, 333);
+    Ground ground;
+    ground.fit(size, GetParam(), Qt::RightToLeft);
+    QImage image(size, QImage::Format_RGB32);
+    QPainter painter(&image);
+    ground.paint(painter, Layer::window, image.rect(), {});
+    painter.end();
+    const QImage mirrored = gradient(size, GetParam()).mirrored(true, false);
+    EXPECT_LE(largestDifference(image, mirrored), 1);
+    EXPECT_TRUE(isNear(ground.color(Layer::window, {499, 0}), mirrored.pixelColor(499, 0), 1));
+}
+
 TEST_P(GroundInScheme, UnderACardItIsTheCardsColourOverTheGradient) {
     const QSize size(400, 300);
     Ground ground;

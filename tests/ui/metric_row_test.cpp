@@ -76,5 +76,21 @@ TEST(MetricRow, SaysItsLabelAndItsValue) {
     EXPECT_EQ(utf8(view.accessibleValueText()), "12.5%");
 }
 
+TEST(MetricRow, ALongValueIsCutBesideItsLabelAndWholeInItsHelp) {
+    const QString host = QStringLiteral("a-host-with-a-very-long-name.").repeated(4);
+    MetricRowView row({QStringLiteral("Hostname"), {}, std::nullopt});
+    row.show({QStringLiteral("Hostname"), host, std::nullopt});
+    const QSize narrow(260, row.sizeHint().height());
+    const QImage cut = rendered(row, narrow);
+    row.show({QStringLiteral("Hostname"), {}, std::nullopt});
+    const QImage bare = rendered(row, narrow);
+    const QRect label(0, 0, 60, narrow.height());
+    EXPECT_EQ(cut.copy(label), bare.copy(label)) << "the label can still be read";
+    row.show({QStringLiteral("Hostname"), host, std::nullopt});
+    EXPECT_TRUE(row.toolTip().contains(QStringLiteral("a-host-with")));
+    row.show({QStringLiteral("Hostname"), QStringLiteral("short"), std::nullopt});
+    EXPECT_TRUE(row.toolTip().isEmpty());
+}
+
 }  // namespace
 }  // namespace vantor

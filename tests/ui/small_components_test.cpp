@@ -100,10 +100,10 @@ TEST(EmptyState, StandsInTheMiddleAndIsAtLeastSoHigh) {
     EmptyStateView view({QStringLiteral("No Volumes"),
                          QStringLiteral("externaldrive.badge.questionmark"),
                          QStringLiteral("None was returned.")});
-    EXPECT_EQ(view.heightForWidth(400), 180);
-    const QImage image = rendered(view, QSize(400, 180));
-    EXPECT_GT(paintedPixels(image, QRectF(180, 30, 40, 60)), 50) << "the symbol";
-    EXPECT_EQ(paintedPixels(image, QRectF(0, 0, 60, 180)), 0);
+    EXPECT_EQ(view.heightForWidth(400), 200) << "180 and its padding";
+    const QImage image = rendered(view, QSize(400, 200));
+    EXPECT_GT(paintedPixels(image, QRectF(180, 40, 40, 60)), 50) << "the symbol";
+    EXPECT_EQ(paintedPixels(image, QRectF(0, 0, 60, 200)), 0);
     EXPECT_EQ(utf8(view.accessibleLabel()), "No Volumes");
     EXPECT_EQ(utf8(view.accessibleValueText()), "None was returned.");
 }

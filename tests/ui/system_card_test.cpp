@@ -103,6 +103,19 @@ TEST_F(SystemCardTest, ChargeIsOrangeAt39RedAt19AndGreenWithoutABattery) {
     EXPECT_EQ(PowerBlock::chargeColor(std::nullopt), VantorTheme::green());
 }
 
+TEST_F(SystemCardTest, ABatteryIsDrawnInTheColourOfItsCharge) {
+    const auto drawn = [this](double charge) {
+        state.snapshot.power->chargeFraction = charge;
+        PowerView view;
+        view.show(PowerBlock::of(*state.snapshot.power, machine->processInfo()));
+        return rendered(view, {240, view.sizeHint().height()});
+    };
+    const QRectF symbol(8, 0, 30, 60);
+    EXPECT_GT(pixelsLike(drawn(0.39), symbol, VantorTheme::orange()), 5);
+    EXPECT_GT(pixelsLike(drawn(0.19), symbol, VantorTheme::red()), 5);
+    EXPECT_GT(pixelsLike(drawn(0.8), symbol, VantorTheme::green()), 5);
+}
+
 TEST_F(SystemCardTest, ChargeIsRoundedToWholePercent) {
     state.snapshot.power->chargeFraction = 0.29;  // times a hundred it is a little less than 29
     EXPECT_EQ(utf8(power().charge), "29%");

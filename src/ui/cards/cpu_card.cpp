@@ -37,8 +37,8 @@ DashboardCard CPUCard::frame() const {
 RingGauge CPUCard::gauge() const {
     const QString title =
         isWaiting() ? CardTexts::unknownYet() : Formatters::percent(stats.totalUsage, 0);
-    return {stats.totalUsage, title, QStringLiteral("CPU Load"), VantorTheme::cyan(),
-            GaugeAndRowsView::gaugeLineWidth};
+    return {isWaiting() ? RingGauge::noValue : stats.totalUsage, title, QStringLiteral("CPU Load"),
+            VantorTheme::cyan(), GaugeAndRowsView::gaugeLineWidth};
 }
 
 std::array<MetricRow, 4> CPUCard::rows() const {

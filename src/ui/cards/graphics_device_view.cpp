@@ -56,6 +56,7 @@ GraphicsDeviceView::GraphicsDeviceView(QWidget* parent) : PaintedView(parent) {
 void GraphicsDeviceView::show(const GraphicsDeviceBlock& block) {
     if (block == block_) return;
     const int lines = lineCount();
+    if (block.name != block_.name) announceName();
     block_ = block;
     if (lineCount() != lines) updateGeometry();
     setToolTip(toolTipText(block_.name));
@@ -94,9 +95,8 @@ void GraphicsDeviceView::paintEvent(QPaintEvent*) {
         line.translate(0, step);
     };
     drawPair(nameStyle, block_.name, block_.utilization);
-    const QString kind =
-        block_.note.isEmpty() ? block_.kind : block_.kind + QStringLiteral(" • ") + block_.note;
-    drawPair(detailStyle, kind, {});
+    drawPair(detailStyle, block_.kind, {});
+    if (!block_.note.isEmpty()) drawPair(detailStyle, block_.note, {});
     if (block_.workingSet) drawPair(detailStyle, workingSetLabel(), *block_.workingSet);
 }
 

@@ -40,7 +40,9 @@ class GraphicsDeviceView : public PaintedView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    int lineCount() const { return block_.workingSet ? 3 : 2; }
+    int lineCount() const {
+        return 2 + (block_.note.isEmpty() ? 0 : 1) + (block_.workingSet ? 1 : 0);
+    }
 
     GraphicsDeviceBlock block_;
 };

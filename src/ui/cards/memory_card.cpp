@@ -35,7 +35,8 @@ DashboardCard MemoryCard::frame() const {
 
 RingGauge MemoryCard::gauge() const {
     const double used = usedFraction(stats);
-    return {used, isWaiting() ? CardTexts::unknownYet() : Formatters::percent(used, 0),
+    return {isWaiting() ? RingGauge::noValue : used,
+            isWaiting() ? CardTexts::unknownYet() : Formatters::percent(used, 0),
             QStringLiteral("In Use"), VantorTheme::pink(), GaugeAndRowsView::gaugeLineWidth};
 }
 

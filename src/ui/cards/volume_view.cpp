@@ -55,6 +55,7 @@ VolumeView::VolumeView(VolumeBlock block, QWidget* parent)
 void VolumeView::show(const VolumeStats& volume) {
     VolumeBlock block = VolumeBlock::of(volume);
     if (block == block_) return;
+    if (block.name != block_.name) announceName();
     block_ = std::move(block);
     setToolTip(toolTipText(block_.help));
     update();

@@ -34,7 +34,9 @@ CardHeaderView::CardHeaderView(DashboardCard card, QWidget* parent)
 
 void CardHeaderView::show(const DashboardCard& card) {
     if (card == card_) return;
+    const bool hadSubtitle = card_.subtitle.has_value();
     card_ = card;
+    if (hadSubtitle != card_.subtitle.has_value()) updateGeometry();
     update();
     announceValue();
 }

@@ -18,7 +18,8 @@ constexpr double leastHeight = 180;
 constexpr double symbolSide = 34;  // what a symbol of font size 28 measures
 // Lines longer than this are tiring to read.
 constexpr double widestMessage = 420;
-constexpr int messageFlags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+constexpr int messageFlags =
+    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap | Qt::TextWrapAnywhere;
 
 constexpr TextStyle titleStyle{Typography::headline, QFont::DemiBold};
 constexpr TextStyle messageStyle{Typography::caption};
@@ -58,8 +59,8 @@ double EmptyStateView::contentHeight(double width) const {
 }
 
 int EmptyStateView::heightForWidth(int width) const {
-    return std::max(static_cast<int>(leastHeight),
-                    static_cast<int>(std::ceil(contentHeight(width) + 2 * padding)));
+    const double least = leastHeight * Typography::lengthScale();
+    return static_cast<int>(std::ceil(std::max(least, contentHeight(width)) + 2 * padding));
 }
 
 QSize EmptyStateView::sizeHint() const {
@@ -68,7 +69,7 @@ QSize EmptyStateView::sizeHint() const {
 }
 
 QSize EmptyStateView::minimumSizeHint() const {
-    return {Typography::scaled(120), static_cast<int>(leastHeight)};
+    return {Typography::scaled(120), heightForWidth(Typography::scaled(120))};
 }
 
 void EmptyStateView::paintEvent(QPaintEvent*) {

@@ -1,7 +1,9 @@
 #include "ui/components/metric_row.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "ui/components/tool_tip_text.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -31,6 +33,8 @@ MetricRowView::MetricRowView(MetricRow row, QWidget* parent)
 void MetricRowView::show(const MetricRow& row) {
     if (row == row_) return;
     row_ = row;
+    constexpr qsizetype alwaysFits = 24;
+    setToolTip(row.value.size() > alwaysFits ? toolTipText(row.value) : QString());
     update();
     announceValue();
 }
@@ -59,9 +63,19 @@ void MetricRowView::paintEvent(QPaintEvent*) {
     }
     const double valueWidth = painter.figuresWidth(valueStyle, row_.value);
     painter.primary();
-    painter.figures(valueStyle, rect(), Qt::AlignRight | Qt::AlignVCenter, row_.value);
+    // Neither a long label nor a long value takes all of the row.
+    const double beside =
+        width() - geometry.labelLeft - spacing - painter.lineWidth(labelStyle, row_.label);
+    const double room = std::max(beside, width() / 2.0);
+    if (valueWidth > room) {
+        const QRectF area(width() - room, 0, room, height());
+        painter.line(valueStyle, area, Qt::AlignRight | Qt::AlignVCenter, row_.value);
+    } else {
+        painter.figures(valueStyle, rect(), Qt::AlignRight | Qt::AlignVCenter, row_.value);
+    }
     painter.secondary();
-    const QRectF label(geometry.labelLeft, 0, width() - geometry.labelLeft - spacing - valueWidth,
+    const double taken = std::min(valueWidth, room);
+    const QRectF label(geometry.labelLeft, 0, width() - geometry.labelLeft - spacing - taken,
                        height());
     painter.line(labelStyle, label, Qt::AlignLeft | Qt::AlignVCenter, row_.label);
 }

@@ -28,6 +28,15 @@ void PaintedView::announceValue() {
     if (!QAccessible::isActive()) return;
     QAccessibleValueChangeEvent event(this, accessibleValueText());
     QAccessible::updateAccessibility(&event);
+    // Who knows no values of texts reads them from the description.
+    QAccessibleEvent description(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&description);
+}
+
+void PaintedView::announceName() {
+    if (!QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 void PaintedView::announceRow(int row) {

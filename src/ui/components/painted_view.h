@@ -45,6 +45,7 @@ class PaintedView : public QWidget {
     /// Tell whoever reads the screen that something is another one. They cost nothing when nobody
     /// does.
     void announceValue();
+    void announceName();
     void announceRow(int row);
     void announceRowCount();
     void announceFocus(int row);

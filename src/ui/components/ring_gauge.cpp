@@ -1,6 +1,7 @@
 #include "ui/components/ring_gauge.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "ui/drawing/device_pixels.h"
 #include "ui/drawing/view_painter.h"
@@ -39,8 +40,8 @@ void RingGaugeView::show(const RingGauge& gauge) {
 }
 
 std::optional<double> RingGaugeView::accessibleFraction() const {
-    if (!(gauge_.value >= 0)) return std::nullopt;
-    return std::min(gauge_.value, 1.0);
+    if (std::isnan(gauge_.value)) return std::nullopt;
+    return std::clamp(gauge_.value, 0.0, 1.0);
 }
 
 QSize RingGaugeView::sizeHint() const {

@@ -4,6 +4,8 @@
 #include <QRectF>
 #include <QString>
 
+#include <limits>
+
 #include "ui/components/painted_view.h"
 #include "ui/drawing/view_painter.h"
 
@@ -11,6 +13,9 @@ namespace vantor {
 
 /// A share of a whole as a ring, with a large text and a caption in the middle.
 struct RingGauge {
+    /// Of a gauge that shows no share yet; drawn as an empty ring.
+    static constexpr double noValue = std::numeric_limits<double>::quiet_NaN();
+
     double value = 0;  ///< 0 to 1; drawn held within that, the texts are drawn as they are
     QString title;
     QString detail;

@@ -19,6 +19,7 @@ void TextLineView::show(const QString& text) {
     text_ = text;
     if (sizeHint().width() != before) updateGeometry();
     update();
+    announceName();
 }
 
 void TextLineView::setAlignment(Qt::Alignment alignment) {

@@ -42,6 +42,7 @@ class UsageBarView : public PaintedView {
     QString accessibleLabel() const override { return label_; }
     QString accessibleValueText() const override;
     std::optional<double> accessibleFraction() const override {
+        if (bar_.value != bar_.value) return std::nullopt;  // not a number
         return UsageBarGeometry::make({0, 0, 1, 1}, bar_.value).fill.width();
     }
     QSize sizeHint() const override;

@@ -44,9 +44,11 @@ class Stops {
 
 }  // namespace
 
-void Ground::fit(QSize window, ColorScheme scheme) {
+void Ground::fit(QSize window, ColorScheme scheme, Qt::LayoutDirection way) {
     window = window.expandedTo(QSize(1, 1));
-    if (window == windowSize_ && scheme == scheme_) return;
+    const bool isMirrored = way == Qt::RightToLeft;
+    if (window == windowSize_ && scheme == scheme_ && isMirrored == isMirrored_) return;
+    isMirrored_ = isMirrored;
     windowSize_ = window;
     scheme_ = scheme;
     slope_ = static_cast<double>(window.height()) / window.width();
@@ -56,6 +58,12 @@ void Ground::fit(QSize window, ColorScheme scheme) {
 
 int Ground::shiftOf(int band) const {
     return static_cast<int>(std::lround(band * bandHeight * slope_));
+}
+
+/// Where in the band the row of pixels begins that lies at the window's left edge.
+int Ground::sourceOf(int band) const {
+    const int lastBand = (windowSize_.height() - 1) / bandHeight;
+    return isMirrored_ ? shiftOf(lastBand) - shiftOf(band) : shiftOf(band);
 }
 
 QImage Ground::makeBand(double cardOpacity) const {
@@ -70,7 +78,8 @@ QImage Ground::makeBand(double cardOpacity) const {
         auto* const line = reinterpret_cast<QRgb*>(band.scanLine(y));
         const double down = (y + 0.5) * height;
         for (int x = 0; x < band.width(); ++x) {
-            const double place = ((x + 0.5) * width + down) / length;
+            const double across = isMirrored_ ? band.width() - x - 0.5 : x + 0.5;
+            const double place = (across * width + down) / length;
             line[x] = stops.at(place).towards(card, cardOpacity).pixel();
         }
     }
@@ -84,7 +93,7 @@ void Ground::paint(QPainter& painter, Layer layer, const QRect& area, QPoint ori
     for (int top = part.top(); top <= part.bottom();) {
         const int number = top / bandHeight;
         const int bottom = std::min((number + 1) * bandHeight - 1, part.bottom());
-        const QRect source(part.left() + shiftOf(number), top - number * bandHeight, part.width(),
+        const QRect source(part.left() + sourceOf(number), top - number * bandHeight, part.width(),
                            bottom - top + 1);
         painter.drawImage(QPoint(part.left(), top) + origin, image, source);
         top = bottom + 1;
@@ -95,7 +104,7 @@ QColor Ground::color(Layer layer, QPoint place) const {
     const int x = std::clamp(place.x(), 0, windowSize_.width() - 1);
     const int y = std::clamp(place.y(), 0, windowSize_.height() - 1);
     const int number = y / bandHeight;
-    return band(layer).pixelColor(x + shiftOf(number), y - number * bandHeight);
+    return band(layer).pixelColor(x + sourceOf(number), y - number * bandHeight);
 }
 
 }  // namespace vantor

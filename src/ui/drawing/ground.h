@@ -23,8 +23,9 @@ class Ground {
         card     ///< a card's colour over it
     };
 
-    /// Makes the bands for a window of that size, unless they are those already.
-    void fit(QSize window, ColorScheme scheme);
+    /// Makes the bands for a window of that size, unless they are those already. The gradient runs
+    /// from the corner where reading begins.
+    void fit(QSize window, ColorScheme scheme, Qt::LayoutDirection way = Qt::LeftToRight);
 
     /// Copies a part of a layer to where it belongs. The painter must count in device pixels,
     /// `origin` is where the window's corner lies in them.
@@ -36,10 +37,12 @@ class Ground {
   private:
     const QImage& band(Layer layer) const { return layer == Layer::card ? card_ : window_; }
     int shiftOf(int band) const;
+    int sourceOf(int band) const;
     QImage makeBand(double cardOpacity) const;
 
     QSize windowSize_;
     ColorScheme scheme_ = ColorScheme::dark;
+    bool isMirrored_ = false;
     double slope_ = 0;  // how far a row is shifted against the one above it
     QImage window_;
     QImage card_;

@@ -14,7 +14,7 @@ GroundView* GroundView::behind(const QWidget& view) {
 }
 
 const Ground& GroundView::ground(double scale) {
-    ground_.fit((QSizeF(size()) * scale).toSize(), colorScheme(*this));
+    ground_.fit((QSizeF(size()) * scale).toSize(), colorScheme(*this), layoutDirection());
     return ground_;
 }
 

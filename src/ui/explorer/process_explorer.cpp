@@ -57,8 +57,11 @@ EmptyState ProcessExplorer::noProcesses() {
 }
 
 EmptyState ProcessExplorer::noMatch(const QString& query) {
+    // Nobody typed more; whoever pasted it need not be shown all of it.
+    constexpr qsizetype longest = 400;
+    const QString shown = query.size() > longest ? query.left(longest) + u'…' : query;
     return {QStringLiteral("No Matching Processes"), QStringLiteral("magnifyingglass"),
-            QStringLiteral("No process matches “") + query + QStringLiteral("”.")};
+            QStringLiteral("No process matches “") + shown + QStringLiteral("”.")};
 }
 
 QString ProcessRow::cpuText() const {
