@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "app/qt_defaults_store.h"
+#include "app/qt_export_platform.h"
 #include "app/qt_status_bar.h"
 #include "app/vantor_app.h"
 #include "ui/components/accessible_views.h"
@@ -30,7 +31,7 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
 
     const auto vantor =
         makeVantorApp({machine, QtDefaultsStore::userFile(), std::make_shared<QtStatusBar>(),
-                       [] { QApplication::quit(); }});
+                       [] { QApplication::quit(); }, makeQtExportPlatform()});
     vantor->openDashboard();
     const int status = QApplication::exec();
     // A probe that hangs in the kernel cannot be joined, and tearing the process down around it

@@ -54,10 +54,10 @@ class Program : public testing::Test {
     std::optional<RunningProgram> program_;
 };
 
-// Where the Tab key arrives in turn; Export is disabled and skipped.
+// Where the Tab key arrives in turn.
 constexpr int intervalStop = 1;
 constexpr int pauseStop = 2;
-constexpr int quitStop = 4;
+constexpr int quitStop = 5;
 
 TEST_F(Program, OpensAtItsDefaultSizeAndDrawsLiveFigures) {
     start();
