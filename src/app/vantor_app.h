@@ -59,8 +59,9 @@ class VantorApp : public QObject {
     AppCommands& commands() { return commands_; }
 
     /// Ends everything without waiting for any probe. A snapshot that is being written gets up to
-    /// three seconds to be there as a whole; after that, the file of before stays. False when a probe is still running after
-    /// `patience`: the program must then leave without cleaning up under it.
+    /// three seconds to be there as a whole; after that, the file of before stays. False when a
+    /// probe is still running after `patience`: the program must then leave without cleaning up
+    /// under it.
     virtual bool shutDown(std::chrono::milliseconds patience);
 
   protected:

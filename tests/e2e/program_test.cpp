@@ -105,7 +105,8 @@ TEST_F(Program, AnIntervalChosenFromTheMenuIsStored) {
     tabTo(intervalStop);
     desktop_.key(QStringLiteral("space"));
     ASSERT_TRUE(eventually([this] { return program_->hasOpenMenu(); }));
-    for (int i = 0; i < 5; ++i)
+    // From the current choice, which is the first, to the last.
+    for (int i = 0; i < 4; ++i)
         desktop_.key(QStringLiteral("Down"));
     desktop_.key(QStringLiteral("Return"));
     EXPECT_TRUE(eventually([this] {
