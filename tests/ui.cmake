@@ -63,8 +63,10 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/damaged_store_test.cpp
     app/launch_stabilizer_test.cpp
     app/menu_bar_test.cpp
+    app/qt_alerts_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
+    app/qt_save_dialogs_test.cpp
     app/stored_settings_test.cpp
     app/vantor_app_test.cpp)
 target_compile_definitions(app_tests PRIVATE
