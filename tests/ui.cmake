@@ -52,7 +52,8 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/text_shapes_test.cpp
     ui/theme_test.cpp
     ui/typography_test.cpp
-    ui/usage_bar_test.cpp)
+    ui/usage_bar_test.cpp
+    ui/vantor_style_test.cpp)
 
 add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)

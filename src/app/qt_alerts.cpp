@@ -14,7 +14,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int longestWord = 24;  // characters, as people count them
+constexpr int longestWord = 40;  // characters, as people count them
 
 /// A file's name may look like markup: it is shown as it is. The box itself would only see to that
 /// for its first text.
@@ -40,6 +40,9 @@ QMessageBox* makeBox(const AlertText& text, QWidget* window) {
     box->setInformativeText(QtAlerts::breakable(information));
     showPlain(*box, QStringLiteral("qt_msgbox_label"), message, QFont::Bold);
     showPlain(*box, QStringLiteral("qt_msgbox_informativelabel"), information, QFont::Normal);
+    // Wide enough for its title, and for sentences that are read at a glance.
+    auto* const lines = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+    if (lines) lines->setMinimumWidth(lines->fontMetrics().averageCharWidth() * 56);
     box->setStandardButtons(QMessageBox::Ok);
     box->setDefaultButton(QMessageBox::Ok);
     box->setEscapeButton(QMessageBox::Ok);

@@ -4,9 +4,13 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScreen>
+#include <QSplitter>
 #include <QStandardPaths>
+#include <QTreeView>
 
 #include <optional>
 #include <utility>
@@ -37,6 +41,22 @@ QString folderToOpen(const QString& lastFolder) {
     return QDir::homePath();
 }
 
+/// The toolkit's own dialog is a little small for paths, and its columns for their texts.
+void makeRoom(QFileDialog& dialog) {
+    const auto* const table = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    auto* const splitter = dialog.findChild<QSplitter*>();
+    if (!table || !splitter) return;  // it is the desktop's own
+    const QFontMetrics text = dialog.fontMetrics();
+    const int side = text.averageCharWidth() * 22;
+    const QSize size(text.averageCharWidth() * 104, text.height() * 28);
+    dialog.resize(size.boundedTo(dialog.screen()->availableSize() - QSize(16, 48)));
+    splitter->setSizes({side, dialog.width() - side});
+    table->header()->setStretchLastSection(false);
+    table->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    for (int column = 1; column < table->header()->count(); ++column)
+        table->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+}
+
 QFileDialog* makeDialog(const SaveRequest& request, const QString& folder) {
     const FileKind kind = kindOf(request.contentType);
     auto* const dialog = makeChild<QFileDialog>(frontWindow());
@@ -50,8 +70,10 @@ QFileDialog* makeDialog(const SaveRequest& request, const QString& folder) {
     dialog->setOption(QFileDialog::ReadOnly, !request.mayCreateFolders);
     dialog->setDirectory(folder);
     dialog->selectFile(QString::fromStdString(request.proposedName));
+    dialog->setLabelText(QFileDialog::LookIn, QStringLiteral("Save in:"));
     dialog->setModal(false);
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
+    makeRoom(*dialog);
     return dialog;
 }
 
