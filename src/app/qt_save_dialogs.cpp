@@ -100,12 +100,15 @@ class QtSaveDialog : public SaveDialog {
 
   private:
     std::optional<std::filesystem::path> chosen() {
-        // A desktop's own dialog has asked about replacing the file of the name as it was typed; to
-        // complete the name after that could replace another one, unasked. The toolkit's dialog,
-        // which has a field of its own, asks about the completed name.
+        QString name = dialog_->selectedFiles().value(0);
+        // A desktop's own dialog has asked about replacing the file of the name as it was typed;
+        // the completed one could be another file's, and nobody was asked about that. The toolkit's
+        // dialog, which has a field of its own, asks about the completed name.
         const bool isOfTheDesktop = !dialog_->findChild<QLineEdit*>();
-        if (isOfTheDesktop) dialog_->setDefaultSuffix(QString());
-        const QString name = dialog_->selectedFiles().value(0);
+        if (isOfTheDesktop && QFileInfo::exists(name)) {
+            dialog_->setDefaultSuffix(QString());
+            name = dialog_->selectedFiles().value(0);
+        }
         if (name.isEmpty()) return std::nullopt;
         *lastFolder_ = QFileInfo(name).absolutePath();
         return pathOf(name);

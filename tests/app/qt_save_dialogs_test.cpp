@@ -177,6 +177,16 @@ TEST_F(SaveDialogTest, BelongsToTheFrontWindowAndIsOverWithIt) {
     EXPECT_EQ(answers, std::vector<std::optional<Path>>{std::nullopt});
 }
 
+TEST_F(SaveDialogTest, ConfirmedItGivesTheFileOnceThoughItsWindowGoes) {
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    begin();
+    save(desk.path("a.json"));
+    window.reset();
+    QApplication::processEvents();
+    EXPECT_EQ(answers, std::vector<std::optional<Path>>{pathOf(desk.path("a.json"))});
+}
+
 TEST_F(SaveDialogTest, BegunAfterItsWindowHasGoneItIsOverAtOnce) {
     auto window = std::make_unique<QWidget>();
     window->show();

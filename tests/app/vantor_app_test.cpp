@@ -149,9 +149,10 @@ TEST_F(VantorAppExportTest, TheEndLetsASnapshotBeWrittenToItsEnd) {
         std::this_thread::sleep_for(100ms);
         release.set_value();
     });
-    EXPECT_TRUE(app->shutDown(5s));
-    disk.join();
+    app->shutDown(0ms);  // patience that is for probes
     EXPECT_EQ(user.writes.size(), 1u);
+    disk.join();
+    EXPECT_TRUE(app->shutDown(5s));
     EXPECT_TRUE(user.alerts.empty());
 }
 

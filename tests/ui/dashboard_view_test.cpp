@@ -165,6 +165,7 @@ TEST_F(DashboardViewTest, ExportWritesWhatIsShown) {
     world.open();
     world.goLive();
     click(world.view->header().exportButton());
+    ASSERT_EQ(world.user.requests.size(), 1u);
     world.user.confirm("/somewhere/a.json");
     world.settle();
     ASSERT_EQ(world.user.writes.size(), 1u);
