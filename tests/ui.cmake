@@ -52,7 +52,8 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/text_shapes_test.cpp
     ui/theme_test.cpp
     ui/typography_test.cpp
-    ui/usage_bar_test.cpp)
+    ui/usage_bar_test.cpp
+    ui/vantor_style_test.cpp)
 
 add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)
@@ -63,8 +64,10 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/damaged_store_test.cpp
     app/launch_stabilizer_test.cpp
     app/menu_bar_test.cpp
+    app/qt_alerts_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
+    app/qt_save_dialogs_test.cpp
     app/stored_settings_test.cpp
     app/vantor_app_test.cpp)
 target_compile_definitions(app_tests PRIVATE

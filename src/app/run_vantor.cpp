@@ -1,14 +1,16 @@
 #include "app/run_vantor.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 
 #include <cstdlib>
+#include <memory>
 
 #include "app/qt_defaults_store.h"
+#include "app/qt_export_platform.h"
 #include "app/qt_status_bar.h"
 #include "app/vantor_app.h"
 #include "ui/components/accessible_views.h"
+#include "ui/vantor_style.h"
 
 namespace vantor {
 
@@ -21,7 +23,7 @@ constexpr std::chrono::milliseconds quitPatience{250};
 
 int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     // One look everywhere: the desktop's own style knows nothing of our two schemes.
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(std::make_unique<VantorStyle>().release());  // takes ownership
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
@@ -30,7 +32,7 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
 
     const auto vantor =
         makeVantorApp({machine, QtDefaultsStore::userFile(), std::make_shared<QtStatusBar>(),
-                       [] { QApplication::quit(); }});
+                       [] { QApplication::quit(); }, makeQtExportPlatform()});
     vantor->openDashboard();
     const int status = QApplication::exec();
     // A probe that hangs in the kernel cannot be joined, and tearing the process down around it

@@ -24,6 +24,10 @@ constexpr QSize helpSize{700, 620};
 constexpr QSize settingsSize{520, 560};
 // A desktop's panel that is restarted is back by then.
 constexpr auto trayPatience = 5s;
+// A document is written in milliseconds; a slow stick takes a second or two to have it for good. A
+// disk that takes longer may hang, and a session that ends waits no longer for a program either.
+// The windows are gone by then, so nobody looks at one that does not answer.
+constexpr auto writePatience = 3s;
 
 }  // namespace
 
@@ -34,7 +38,8 @@ VantorApp::VantorApp(Environment environment)
       defaults_(std::make_shared<QtDefaultsStore>(environment.settingsFile)),
       settings_(
           std::make_shared<AppSettings>(defaults_, std::make_shared<QtApplicationAppearance>())),
-      monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_)),
+      monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_,
+                                   std::move(environment.exportPlatform))),
       statusBar_(std::move(environment.statusBar)),
       quit_(std::move(environment.quit)),
       metadata_(buildInfo_),
@@ -143,6 +148,7 @@ bool VantorApp::shutDown(std::chrono::milliseconds patience) {
     menuBar_.reset();
     settingsWindow_.reset();
     helpWindow_.reset();
+    if (monitor_) monitor_->waitForExport(writePatience);
     monitor_.reset();
     return queues_->waitForThreads(patience);
 }

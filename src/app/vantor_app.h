@@ -13,6 +13,7 @@
 #include "app/dashboard_window.h"
 #include "app/menu_bar_controller.h"
 #include "app/status_bar.h"
+#include "platform/export_platform.h"
 #include "platform/machine.h"
 #include "platform/main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
@@ -32,6 +33,7 @@ class VantorApp : public QObject {
         QString settingsFile;  ///< of the user's preferences
         std::shared_ptr<StatusBar> statusBar;
         std::function<void()> quit;
+        ExportPlatform exportPlatform{};  ///< without one, Export does nothing
     };
 
     VantorApp(const VantorApp&) = delete;
@@ -56,8 +58,10 @@ class VantorApp : public QObject {
     ContentWindow* helpWindow() { return helpWindow_.get(); }
     AppCommands& commands() { return commands_; }
 
-    /// Ends everything without waiting for any probe. False when a probe is still running after
-    /// `patience`: the program must then leave without cleaning up under it.
+    /// Ends everything without waiting for any probe. A snapshot that is being written gets up to
+    /// three seconds to be there as a whole; after that, the file of before stays. False when a
+    /// probe is still running after `patience`: the program must then leave without cleaning up
+    /// under it.
     virtual bool shutDown(std::chrono::milliseconds patience);
 
   protected:

@@ -10,12 +10,15 @@
 #include <chrono>
 #include <future>
 #include <memory>
+#include <thread>
 
 #include "app/build_info.h"
 #include "app/played_status_bar.h"
 #include "platform/simulated/simulated_machine.h"
+#include "sampling/played_export_platform.h"
 #include "ui/cards/cpu_card.h"
 #include "ui/dashboard/dashboard_header.h"
+#include "ui/gestures.h"
 #include "ui/rendering.h"
 
 namespace vantor {
@@ -115,6 +118,64 @@ TEST_F(VantorAppTest, AProbeThatHangsDelaysTheEndByNoMoreThanThePatience) {
     EXPECT_EQ(app.dashboardWindow(), nullptr);
     release.set_value();
     EXPECT_TRUE(app.shutDown(5s)) << "once the probe answers, nothing is left running";
+}
+
+class VantorAppExportTest : public VantorAppTest {
+  protected:
+    /// A program that is writing a snapshot to a disk that takes its time.
+    void startWriting() {
+        user.onWrite = [this, mayEnd = release.get_future().share()] {
+            begun.set_value();
+            mayEnd.wait();
+        };
+        app = makeVantorApp(
+            {machine, file, std::make_shared<PlayedStatusBar>(), [] {}, user.platform()});
+        app->openDashboard();
+        click(app->dashboardWindow()->dashboard().header().exportButton());
+        ASSERT_EQ(user.requests.size(), 1u);
+        user.confirm("/somewhere/a.json");
+        ASSERT_EQ(begun.get_future().wait_for(10s), std::future_status::ready);
+    }
+
+    PlayedExportPlatform user;
+    std::promise<void> begun;
+    std::promise<void> release;
+    std::unique_ptr<VantorApp> app;
+};
+
+TEST_F(VantorAppExportTest, TheEndLetsASnapshotBeWrittenToItsEnd) {
+    startWriting();
+    std::thread disk([this] {
+        std::this_thread::sleep_for(100ms);
+        release.set_value();
+    });
+    app->shutDown(0ms);  // patience that is for probes
+    EXPECT_EQ(user.writes.size(), 1u);
+    disk.join();
+    EXPECT_TRUE(app->shutDown(5s));
+    EXPECT_TRUE(user.alerts.empty());
+}
+
+TEST_F(VantorAppExportTest, ADiskThatHangsDelaysTheEndByThreeSecondsAtMost) {
+    startWriting();
+    QElapsedTimer watch;
+    watch.start();
+    EXPECT_FALSE(app->shutDown(10ms));
+    EXPECT_LT(watch.elapsed(), 4000);
+    EXPECT_EQ(app->dashboardWindow(), nullptr);
+    release.set_value();
+    EXPECT_TRUE(app->shutDown(5s));
+}
+
+TEST_F(VantorAppExportTest, TheEndClosesADialogAndWritesNothing) {
+    app =
+        makeVantorApp({machine, file, std::make_shared<PlayedStatusBar>(), [] {}, user.platform()});
+    app->openDashboard();
+    click(app->dashboardWindow()->dashboard().header().exportButton());
+    EXPECT_EQ(user.openDialogs, 1);
+    EXPECT_TRUE(app->shutDown(5s));
+    EXPECT_EQ(user.openDialogs, 0);
+    EXPECT_TRUE(user.writes.empty());
 }
 
 /// Runs the whole program in a process of its own.

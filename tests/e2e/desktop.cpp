@@ -147,16 +147,43 @@ void Desktop::key(const QString& name) const {
     run(QStringLiteral("xdotool"), {QStringLiteral("key"), name});
 }
 
-void Desktop::clickAt(QPoint place) const {
+void Desktop::type(const QString& text) const {
     run(QStringLiteral("xdotool"),
-        {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
-         QStringLiteral("click"), QStringLiteral("1")});
+        {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
 }
 
-RunningProgram::RunningProgram(const Desktop& desktop) : desktop_(desktop) {
+void Desktop::clickAt(QPoint place, int times) const {
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+         QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(times),
+         QStringLiteral("--delay"), QStringLiteral("30"), QStringLiteral("1")});
+}
+
+int Desktop::windowsTitled(const QString& title) const {
+    const QString list =
+        run(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                        QStringLiteral("--name"), u'^' + title + u'$'});
+    return static_cast<int>(list.count(u'\n'));
+}
+
+void Desktop::activate(const QString& title) const {
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+         u'^' + title + u'$', QStringLiteral("windowactivate"), QStringLiteral("--sync")});
+}
+
+QString Desktop::activeTitle() const {
+    return run(QStringLiteral("xdotool"),
+               {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")})
+        .trimmed();
+}
+
+RunningProgram::RunningProgram(const Desktop& desktop, QStringList through) : desktop_(desktop) {
     process_.setProcessEnvironment(desktop.environment());
     process_.setProcessChannelMode(QProcess::ForwardedChannels);
-    process_.start(QStringLiteral(VANTOR_PROGRAM), QStringList());
+    through.append(QStringLiteral(VANTOR_PROGRAM));
+    const QString first = through.takeFirst();
+    process_.start(first, through);
     process_.waitForStarted(toolPatience);
 }
 

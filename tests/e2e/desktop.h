@@ -43,7 +43,20 @@ class Desktop {
     QImage picture() const;
 
     void key(const QString& name) const;
-    void clickAt(QPoint place) const;
+    void type(const QString& text) const;
+    void clickAt(QPoint place, int times = 1) const;
+
+    /// How many windows of exactly that title are on the screen.
+    int windowsTitled(const QString& title) const;
+
+    /// Gives the keyboard to the window of that title.
+    void activate(const QString& title) const;
+
+    /// The title of the window that has the keyboard.
+    QString activeTitle() const;
+
+    /// A file in the home folder.
+    QString path(const QString& name) const { return home_.filePath(name); }
 
   private:
     bool startWindowManager();
@@ -60,13 +73,16 @@ class Desktop {
 /// The program under test, on a desktop.
 class RunningProgram {
   public:
-    explicit RunningProgram(const Desktop& desktop);
+    /// Starts it, through another program if one is named: with its arguments, the last of which
+    /// is then the file of the program under test. That other one has to become it (exec).
+    explicit RunningProgram(const Desktop& desktop, QStringList through = {});
     ~RunningProgram();
 
     /// Until it has a window and has drawn live figures.
     bool waitForLiveData();
     bool isRunning() const { return process_.state() == QProcess::Running; }
     bool waitForEnd(int milliseconds);
+    qint64 processId() const { return process_.processId(); }
     int exitStatus() const { return process_.exitCode(); }
     bool endedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }
 

@@ -7,7 +7,10 @@
 #include <QScrollArea>
 
 #include <chrono>
+#include <string>
+#include <variant>
 
+#include "model/snapshot_document.h"
 #include "ui/cards/cpu_card.h"
 #include "ui/cards/gpu_card.h"
 #include "ui/cards/memory_card.h"
@@ -166,9 +169,32 @@ TEST_F(DashboardViewTest, QuitCallsWhoeverOwnsTheProgram) {
     EXPECT_EQ(world.quits, 1);
 }
 
-TEST_F(DashboardViewTest, ExportIsDisabledWhileThereIsNothingToExportTo) {
+TEST_F(DashboardViewTest, ExportAsksOnceWhereToSave) {
     world.open();
-    EXPECT_FALSE(world.view->header().exportButton().isEnabled());
+    world.goLive();
+    CapsuleButtonView& button = world.view->header().exportButton();
+    ASSERT_TRUE(button.isEnabled());
+    click(button);
+    pressKey(button, Qt::Key_Space);
+    EXPECT_EQ(world.user.requests.size(), 1u) << "one dialog for two activations";
+    world.user.cancel();
+    world.settle();
+    pressKey(button, Qt::Key_Return);
+    EXPECT_EQ(world.user.requests.size(), 2u);
+}
+
+TEST_F(DashboardViewTest, ExportWritesWhatIsShown) {
+    world.open();
+    world.goLive();
+    click(world.view->header().exportButton());
+    ASSERT_EQ(world.user.requests.size(), 1u);
+    world.user.confirm("/somewhere/a.json");
+    world.settle();
+    ASSERT_EQ(world.user.writes.size(), 1u);
+    EXPECT_EQ(world.user.writes[0].destination, "/somewhere/a.json");
+    const auto document = encodedSnapshot(world.monitor->dashboardState().snapshot);
+    EXPECT_EQ(world.user.writes[0].bytes, std::get<std::string>(document));
+    EXPECT_NE(world.user.writes[0].bytes.find("\"totalUsage\" : 0.4,"), std::string::npos);
 }
 
 TEST_F(DashboardViewTest, ChoosingAnIntervalWritesTheSettingAndShowsIt) {

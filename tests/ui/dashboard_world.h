@@ -11,6 +11,7 @@
 #include "platform/simulated/manual_main_loop.h"
 #include "platform/simulated/manual_serial_queue.h"
 #include "platform/simulated/simulated_machine.h"
+#include "sampling/played_export_platform.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
 #include "support/kept_defaults.h"
@@ -50,8 +51,9 @@ struct DashboardWorld {
     const std::shared_ptr<KeptDefaults> defaults = std::make_shared<KeptDefaults>();
     const std::shared_ptr<AppSettings> settings =
         std::make_shared<AppSettings>(defaults, std::make_shared<TestAppearance>());
+    PlayedExportPlatform user;  ///< is asked where to save
     const std::shared_ptr<SystemMonitor> monitor =
-        SystemMonitor::make(settings, machine, loop, queues);
+        SystemMonitor::make(settings, machine, loop, queues, user.platform());
     const AppMetadata metadata{TestBundle{}};
     int quits = 0;
     int firstFrames = 0;

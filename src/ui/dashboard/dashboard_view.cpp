@@ -110,6 +110,7 @@ void DashboardView::addHeader(QWidget* content) {
     header.onRefreshIntervalChange = [s = settings](double v) { s->setRefreshInterval(v); };
     header.onTogglePause = [m = monitor] { m->togglePause(); };
     header.onRefresh = [m = monitor] { m->forceRefresh(); };
+    header.onExport = [m = monitor] { m->exportSnapshot(); };
     header.onQuit = environment_.onQuit;
     header_ = makeChild<DashboardHeaderView>(content, std::move(header),
                                              environment_.machine->words().subtitle,
