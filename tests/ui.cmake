@@ -66,7 +66,9 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app SOURCES
     app/qt_main_loop_test.cpp
     app/stored_settings_test.cpp
     app/termination_signals_test.cpp
-    app/vantor_app_test.cpp)
+    app/vantor_app_test.cpp
+    app/window_geometry_test.cpp
+    app/window_placement_test.cpp)
 target_compile_definitions(app_tests PRIVATE
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
     VANTOR_QUITTING_PROGRAM="$<TARGET_FILE:quitting_program>")

@@ -187,6 +187,7 @@ TEST(EndingProgramTest, StartedToSurviveItsTerminalItDoes) {
     EndingProgram program(QStringLiteral("immune"));
     ASSERT_TRUE(program.says("ready"));
     program.send(SIGHUP);
+    EXPECT_FALSE(program.endsWithin(200));
     program.send(SIGTERM);
     EXPECT_TRUE(program.says("ending"));
     ASSERT_TRUE(program.endsWithin(20'000));
