@@ -58,12 +58,16 @@ add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)
 add_executable(ending_program app/ending_program.cpp)
 target_link_libraries(ending_program PRIVATE vantor_app vantor_warnings)
+add_executable(instance_program app/instance_program.cpp)
+target_link_libraries(instance_program PRIVATE vantor_app vantor_warnings)
 
 vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app SOURCES
     app/appearance_test.cpp
     app/damaged_store_test.cpp
+    app/local_claim_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
+    app/single_instance_test.cpp
     app/stored_settings_test.cpp
     app/termination_signals_test.cpp
     app/vantor_app_test.cpp
@@ -71,8 +75,9 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app SOURCES
     app/window_placement_test.cpp)
 target_compile_definitions(app_tests PRIVATE
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
+    VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_QUITTING_PROGRAM="$<TARGET_FILE:quitting_program>")
-add_dependencies(app_tests ending_program quitting_program)
+add_dependencies(app_tests ending_program instance_program quitting_program)
 
 # Takes what the components look like now for what they are meant to look like. To be reviewed
 # picture by picture before it is committed.
