@@ -57,22 +57,33 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
 
 add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)
+add_executable(ending_program app/ending_program.cpp)
+target_link_libraries(ending_program PRIVATE vantor_app vantor_warnings)
+add_executable(instance_program app/instance_program.cpp)
+target_link_libraries(instance_program PRIVATE vantor_app vantor_warnings)
 
 vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURCES
     app/app_delegate_test.cpp
     app/appearance_test.cpp
     app/damaged_store_test.cpp
     app/launch_stabilizer_test.cpp
+    app/local_claim_test.cpp
     app/menu_bar_test.cpp
     app/qt_alerts_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
     app/qt_save_dialogs_test.cpp
+    app/single_instance_test.cpp
     app/stored_settings_test.cpp
-    app/vantor_app_test.cpp)
+    app/termination_signals_test.cpp
+    app/vantor_app_test.cpp
+    app/window_geometry_test.cpp
+    app/window_placement_test.cpp)
 target_compile_definitions(app_tests PRIVATE
+    VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
+    VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_QUITTING_PROGRAM="$<TARGET_FILE:quitting_program>")
-add_dependencies(app_tests quitting_program)
+add_dependencies(app_tests ending_program instance_program quitting_program)
 
 # Takes what the components look like now for what they are meant to look like. To be reviewed
 # picture by picture before it is committed.

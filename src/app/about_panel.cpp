@@ -3,7 +3,7 @@
 #include <QIcon>
 #include <QMessageBox>
 
-#include "app/content_window.h"
+#include "app/window_activation.h"
 #include "ui/components/make_child.h"
 
 namespace vantor {
@@ -21,7 +21,7 @@ QMessageBox* showVantorAboutPanel(const AppMetadata& metadata, QWidget* owner) {
                        "reads on this machine, and it stays here.")
             .arg(metadata.version(), metadata.build()));
     panel->setStandardButtons(QMessageBox::Close);
-    bringForward(*panel);
+    bringToFront(*panel, {});
     return panel;
 }
 

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "app/window_activation.h"
 #include "ui/components/make_child.h"
 
 namespace vantor {
@@ -29,7 +30,7 @@ void ContentWindow::open() {
         const QRect room = screen()->availableGeometry();
         move(room.center() - rect().center());
     }
-    bringForward(*this);
+    bringToFront(*this, {});
     content_->setFocus();
 }
 
@@ -39,13 +40,6 @@ void ContentWindow::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QWidget::keyPressEvent(event);
-}
-
-void bringForward(QWidget& window) {
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
 }
 
 }  // namespace vantor

@@ -28,7 +28,4 @@ class ContentWindow : public QWidget {
     bool wasShown_ = false;
 };
 
-/// Shows `window` on top of the others and gives it the keyboard, minimised or not.
-void bringForward(QWidget& window);
-
 }  // namespace vantor

@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
-#include "app/content_window.h"
 #include "app/dashboard_window.h"
+#include "app/window_activation.h"
 
 namespace vantor {
 
@@ -21,7 +21,7 @@ class LegacyDashboardWindowController {
 
     void open() {
         if (!window_) window_ = makeWindow_();
-        bringForward(*window_);
+        bringToFront(*window_, {});
     }
     DashboardWindow* window() { return window_.get(); }
     void release() { window_.reset(); }

@@ -22,6 +22,7 @@ LegacyVantorApp::~LegacyVantorApp() {
 }
 
 bool LegacyVantorApp::shutDown(std::chrono::milliseconds patience) {
+    keepWindowGeometry();
     dashboard_.release();
     return VantorApp::shutDown(patience);
 }

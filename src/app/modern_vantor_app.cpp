@@ -1,5 +1,6 @@
 #include "app/modern_vantor_app.h"
 
+#include "app/window_activation.h"
 #include "ui/menu_bar/modern_menu_bar_dashboard_host.h"
 
 namespace vantor {
@@ -24,10 +25,11 @@ void ModernVantorApp::openDashboard() {
 void ModernVantorApp::openWindow(const QString& identifier) {
     if (identifier != QStringLiteral("dashboard")) return;
     if (!window_) window_ = makeDashboardWindow(identifier);
-    bringForward(*window_);
+    bringToFront(*window_, {});
 }
 
 bool ModernVantorApp::shutDown(std::chrono::milliseconds patience) {
+    keepWindowGeometry();
     window_.reset();
     return VantorApp::shutDown(patience);
 }

@@ -8,7 +8,11 @@
 #include "app/qt_defaults_store.h"
 #include "app/qt_export_platform.h"
 #include "app/qt_status_bar.h"
+#include "app/session_end.h"
+#include "app/single_instance.h"
+#include "app/termination_signals.h"
 #include "app/vantor_app.h"
+#include "app/window_activation.h"
 #include "ui/components/accessible_views.h"
 #include "ui/vantor_style.h"
 
@@ -24,17 +28,24 @@ constexpr std::chrono::milliseconds quitPatience{250};
 int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     // One look everywhere: the desktop's own style knows nothing of our two schemes.
     QApplication::setStyle(std::make_unique<VantorStyle>().release());  // takes ownership
-    const QApplication application(argc, argv);
+    const QString activationToken = activationTokenOfEnvironment();
+    QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("vantor"));
+    SingleInstance instance(activationToken);
+    if (instance.role() == SingleInstance::Role::second) return EXIT_SUCCESS;
     installViewAccessibility();
 
     const auto vantor =
         makeVantorApp({machine, QtDefaultsStore::userFile(), std::make_shared<QtStatusBar>(),
                        [] { QApplication::quit(); }, makeQtExportPlatform()});
+    instance.setOnActivate([&](const QString& token) { vantor->reopen(token); });
+    const TerminationSignals terminationSignals([] { QApplication::quit(); });
+    const SessionEnd sessionEnd(application, [&] { vantor->saveState(); });
     vantor->openDashboard();
     const int status = QApplication::exec();
+    instance.setOnActivate({});
     // A probe that hangs in the kernel cannot be joined, and tearing the process down around it
     // would pull the ground from under its feet.
     if (!vantor->shutDown(quitPatience)) std::_Exit(status);

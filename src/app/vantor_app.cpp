@@ -10,6 +10,8 @@
 #include "app/qt_application_appearance.h"
 #include "app/qt_defaults_store.h"
 #include "app/qt_main_loop.h"
+#include "app/termination_signals.h"
+#include "app/window_activation.h"
 #include "platform/native_machine.h"
 #include "ui/help/help_view.h"
 #include "ui/settings/settings_view.h"
@@ -34,7 +36,10 @@ constexpr auto writePatience = 3s;
 VantorApp::VantorApp(Environment environment)
     : machine_(std::move(environment.machine)),
       mainLoop_(std::make_shared<QtMainLoop>()),
-      queues_(std::make_shared<ThreadedSerialQueueFactory>(assumeUtilityRole)),
+      queues_(std::make_shared<ThreadedSerialQueueFactory>([](const std::string& label) {
+          TerminationSignals::keepFromThisThread();
+          assumeUtilityRole(label);
+      })),
       defaults_(std::make_shared<QtDefaultsStore>(environment.settingsFile)),
       settings_(
           std::make_shared<AppSettings>(defaults_, std::make_shared<QtApplicationAppearance>())),
@@ -47,6 +52,8 @@ VantorApp::VantorApp(Environment environment)
       commands_({[this] { openAbout(); }, [this] { monitor_->forceRefresh(); },
                  [this] { monitor_->exportSnapshot(); }, [this] { openSettings(); },
                  [this] { openHelp(); }, quit_}) {
+    frames_ =
+        std::make_shared<QtDefaultsStore>(WindowGeometry::fileBeside(environment.settingsFile));
     // Whether the last window ends the program is asked each time.
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowClosed(); });
@@ -81,6 +88,8 @@ std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& i
                                    AdaptiveColumns{}, quit_, onFirstLiveFrame},
         commands_, [this](bool isActive) { monitor_->setDashboardLiveResizeActive(isActive); });
     window->setObjectName(identifier);
+    geometry_ =
+        std::make_unique<WindowGeometry>(*window, identifier.toStdString(), frames_, mainLoop_);
     window->setWindowIconText(QStringLiteral("Vantor (collecting live data)"));
     return window;
 }
@@ -115,8 +124,13 @@ void VantorApp::openAbout() {
     showVantorAboutPanel(metadata_, owner);
 }
 
-void VantorApp::reopen() {
+void VantorApp::reopen(const QString& activationToken) {
     if (delegate_.applicationShouldHandleReopen(hasVisibleWindow())) openDashboard();
+    if (DashboardWindow* const window = dashboardWindow()) bringToFront(*window, activationToken);
+}
+
+void VantorApp::saveState() {
+    if (geometry_) geometry_->save();
 }
 
 bool VantorApp::hasVisibleWindow() const {

@@ -13,6 +13,7 @@
 #include "app/dashboard_window.h"
 #include "app/menu_bar_controller.h"
 #include "app/status_bar.h"
+#include "app/window_geometry.h"
 #include "platform/export_platform.h"
 #include "platform/machine.h"
 #include "platform/main_loop.h"
@@ -48,8 +49,11 @@ class VantorApp : public QObject {
     void openHelp();
     void openAbout();
 
-    /// The user started the program again, or clicked its icon.
-    void reopen();
+    /// The user started the program again, or clicked its icon; the token lets it come forward.
+    void reopen(const QString& activationToken);
+
+    /// Writes what is worth keeping, for a session that is about to end.
+    void saveState();
 
     SystemMonitor& monitor() { return *monitor_; }
     AppSettings& settings() { return *settings_; }
@@ -75,6 +79,8 @@ class VantorApp : public QObject {
     const std::shared_ptr<SystemMonitor>& sharedMonitor() const { return monitor_; }
     const ProcessInfo& versions() const { return machine_->processInfo(); }
     std::unique_ptr<DashboardWindow> makeDashboardWindow(const QString& identifier);
+    /// To be called before the dashboard's window is destroyed.
+    void keepWindowGeometry() { geometry_.reset(); }
     MenuBarDashboardView::Environment panelEnvironment() const;
 
   private:
@@ -95,6 +101,8 @@ class VantorApp : public QObject {
     AppDelegate delegate_;
     AppCommands commands_;
     std::unique_ptr<MenuBarController> menuBar_;
+    std::shared_ptr<DefaultsStore> frames_;     // of windows
+    std::unique_ptr<WindowGeometry> geometry_;  // of the dashboard's window
     std::unique_ptr<ContentWindow> settingsWindow_;
     std::unique_ptr<ContentWindow> helpWindow_;
     std::shared_ptr<MainTask> wayBackTask_;

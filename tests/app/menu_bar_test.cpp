@@ -204,12 +204,12 @@ TEST_P(MenuBarOf, ThePlainMenuHasTheFiguresAndTheSameActions) {
 
 TEST_P(MenuBarOf, ReopeningCreatesTheWindowAndThenBringsItForward) {
     start();
-    app->reopen();
+    app->reopen({});
     ASSERT_NE(app->dashboardWindow(), nullptr);
     EXPECT_TRUE(app->dashboardWindow()->isVisible());
     DashboardWindow* const window = app->dashboardWindow();
     window->showMinimized();
-    app->reopen();
+    app->reopen({});
     EXPECT_EQ(app->dashboardWindow(), window);
     EXPECT_FALSE(window->isMinimized());
 }

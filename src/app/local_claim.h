@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QString>
+
+#include <memory>
+
+#include "app/activation_server.h"
+#include "app/instance_claim.h"
+#include "platform/file_descriptor.h"
+
+namespace vantor {
+
+/// One program a display, by a lock and a socket in a folder that is the user's alone.
+///
+/// The lock goes with its process, however that ends; so what a crashed program leaves behind
+/// stands in nobody's way, and of two that start at the same moment one has it. SIGPIPE is ignored
+/// from the first of these objects on, as the toolkit's own sockets do it. Main thread.
+class LocalClaim {
+  public:
+    LocalClaim(const QString& folder, const QString& display, OnActivate onActivate);
+
+    /// To be called once. Takes no longer than until `deadline`.
+    ClaimOutcome claim(const QString& token, const QDeadlineTimer& deadline);
+
+  private:
+    enum class Answer { yes, none, gone };
+    Answer ask(const QString& token, const QDeadlineTimer& deadline) const;
+
+    QByteArray base_;  // of both paths
+    OnActivate onActivate_;
+    FileDescriptor lock_;
+    std::unique_ptr<ActivationServer> server_;
+};
+
+}  // namespace vantor

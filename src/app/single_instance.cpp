@@ -1,0 +1,53 @@
+#include "app/single_instance.h"
+
+#include <QDeadlineTimer>
+
+#include <utility>
+
+#include "app/local_claim.h"
+#include "app/session_bus_claim.h"
+#include "app/session_places.h"
+
+namespace vantor {
+
+SingleInstance::Surroundings SingleInstance::Surroundings::ofProcess() {
+    return {sessionBusAddress(), privateRuntimeFolder(), displayName()};
+}
+
+SingleInstance::SingleInstance(const QString& activationToken, const Surroundings& surroundings)
+    : role_(claim(checkedToken(activationToken), surroundings)) {}
+
+SingleInstance::~SingleInstance() = default;
+
+SingleInstance::Role SingleInstance::claim(const QString& token, const Surroundings& surroundings) {
+    const QDeadlineTimer deadline(surroundings.patience);
+    const auto onActivate = [this](const QString& received) { activate(received); };
+    auto outcome = ClaimOutcome::unavailable;
+    if (!surroundings.busAddress.isEmpty()) {
+        bus_ = std::make_unique<SessionBusClaim>(surroundings.busAddress, onActivate);
+        outcome = bus_->claim(token, deadline);
+        if (outcome != ClaimOutcome::owned) bus_.reset();
+    }
+    if (outcome == ClaimOutcome::unavailable && !surroundings.runtimeFolder.isEmpty()) {
+        local_ = std::make_unique<LocalClaim>(surroundings.runtimeFolder, surroundings.display,
+                                              onActivate);
+        outcome = local_->claim(token, deadline);
+        if (outcome != ClaimOutcome::owned) local_.reset();
+    }
+    return outcome == ClaimOutcome::handedOver ? Role::second : Role::first;
+}
+
+void SingleInstance::setOnActivate(OnActivate onActivate) {
+    onActivate_ = std::move(onActivate);
+    if (onActivate_ && waiting_) onActivate_(*std::exchange(waiting_, nullptr));
+}
+
+void SingleInstance::activate(const QString& token) {
+    if (onActivate_) {
+        onActivate_(token);
+    } else {
+        waiting_ = std::make_unique<QString>(token);
+    }
+}
+
+}  // namespace vantor

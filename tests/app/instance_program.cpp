@@ -1,0 +1,42 @@
+#include <QApplication>
+
+#include <cstdio>
+#include <string_view>
+
+#include "app/single_instance.h"
+#include "app/termination_signals.h"
+#include "app/window_activation.h"
+
+/// A program of which there is one: says "first" and then, for each later start, "activated" and
+/// its token; or says "second" and ends. With a window if "window" is said; with "hanging" it
+/// listens to nobody.
+int main(int argc, char** argv) {
+    const std::string_view manner = argc > 1 ? argv[1] : "";
+    const QString token = vantor::activationTokenOfEnvironment();
+    if (manner != "window") qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const auto say = [](const QString& text) {
+        std::puts(text.toUtf8().constData());
+        std::fflush(stdout);
+    };
+    vantor::SingleInstance instance(token);
+    if (instance.role() == vantor::SingleInstance::Role::second) {
+        say(QStringLiteral("second"));
+        return 0;
+    }
+    QWidget window;
+    window.setWindowTitle(QStringLiteral("The one"));
+    window.resize(300, 200);
+    instance.setOnActivate([&](const QString& received) {
+        if (manner == "window") vantor::bringToFront(window, received);
+        say(QStringLiteral("activated ") + received);
+    });
+    const vantor::TerminationSignals handling([] { QCoreApplication::exit(0); });
+    if (manner == "window") window.show();
+    say(QStringLiteral("first"));
+    if (manner == "hanging") {
+        char byte = 0;
+        return std::fread(&byte, 1, 1, stdin) == 1 ? 1 : 0;
+    }
+    return QApplication::exec();
+}
