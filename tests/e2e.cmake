@@ -8,6 +8,7 @@ add_executable(vantor_e2e_tests
     e2e/export_failures_test.cpp
     e2e/export_scene.cpp
     e2e/export_test.cpp
+    e2e/lifecycle_test.cpp
     e2e/main.cpp
     e2e/program_test.cpp
     e2e/small_screen_test.cpp

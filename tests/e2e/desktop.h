@@ -82,6 +82,7 @@ class RunningProgram {
     bool waitForLiveData();
     bool isRunning() const { return process_.state() == QProcess::Running; }
     bool waitForEnd(int milliseconds);
+    void terminate() { process_.terminate(); }
     qint64 processId() const { return process_.processId(); }
     int exitStatus() const { return process_.exitCode(); }
     bool endedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }

@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "e2e/desktop.h"
+
+/// Starting twice, ending by signal, and what lasts from run to run.
+namespace vantor {
+namespace {
+
+constexpr QSize screen{1366, 900};
+
+class Lifecycle : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_TRUE(desktop_.isUp()) << "the virtual desktop did not start"; }
+
+    void start() {
+        program_.emplace(desktop_);
+        ASSERT_TRUE(program_->waitForLiveData());
+        ASSERT_TRUE(eventually([this] { return program_->isActive(); }));
+    }
+    QString tool(const QStringList& arguments) const {
+        return desktop_.run(QStringLiteral("xdotool"), arguments);
+    }
+    bool isIconified() {
+        return desktop_
+            .run(QStringLiteral("xprop"),
+                 {QStringLiteral("-id"), program_->window(), QStringLiteral("WM_STATE")})
+            .contains(QStringLiteral("Iconic"));
+    }
+    void expectASecondStartBringsItForward() {
+        start();
+        tool({QStringLiteral("windowminimize"), program_->window()});
+        ASSERT_TRUE(eventually([this] { return isIconified(); }));
+        RunningProgram second(desktop_);
+        EXPECT_TRUE(second.waitForEnd(5000)) << "the second one goes on";
+        EXPECT_EQ(second.exitStatus(), 0);
+        EXPECT_TRUE(eventually([this] { return !isIconified(); }));
+        EXPECT_TRUE(eventually([this] { return program_->isActive(); }));
+        EXPECT_TRUE(program_->isRunning());
+    }
+
+    Desktop desktop_{screen};
+    std::optional<RunningProgram> program_;
+};
+
+TEST_F(Lifecycle, ASecondStartBringsTheFirstForwardOverTheSessionBus) {
+    ASSERT_FALSE(desktop_.startSessionBus().isEmpty());
+    expectASecondStartBringsItForward();
+}
+
+TEST_F(Lifecycle, ASecondStartBringsTheFirstForwardWithoutAnyBus) {
+    expectASecondStartBringsItForward();
+}
+
+TEST_F(Lifecycle, AfterTheEndOfTheFirstAnotherOneStarts) {
+    start();
+    desktop_.key(QStringLiteral("ctrl+q"));
+    ASSERT_TRUE(program_->waitForEnd(3000));
+    start();
+    EXPECT_TRUE(program_->isRunning());
+}
+
+TEST_F(Lifecycle, ASignalToEndIsAnOrderlyEnd) {
+    start();
+    program_->terminate();
+    ASSERT_TRUE(program_->waitForEnd(3000));
+    EXPECT_TRUE(program_->endedNormally());
+    EXPECT_EQ(program_->exitStatus(), 0);
+}
+
+TEST_F(Lifecycle, TheWindowOpensWhereAndAsLargeAsItWas) {
+    start();
+    const auto size = [&](const char* command, int x, int y) {
+        tool({QString::fromLatin1(command), program_->window(), QString::number(x),
+              QString::number(y)});
+    };
+    size("windowsize", 900, 640);
+    size("windowmove", 210, 130);
+    const QSize wanted(900, 640);
+    ASSERT_TRUE(eventually([&] { return program_->windowArea().size() == wanted; }));
+    const QRect before = program_->windowArea();
+    desktop_.key(QStringLiteral("ctrl+q"));
+    ASSERT_TRUE(program_->waitForEnd(3000));
+    start();
+    EXPECT_TRUE(eventually([&] { return program_->windowArea() == before; }))
+        << program_->windowArea().x() << ',' << program_->windowArea().y() << ' '
+        << program_->windowArea().width() << 'x' << program_->windowArea().height();
+}
+
+}  // namespace
+}  // namespace vantor
