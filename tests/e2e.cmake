@@ -7,10 +7,12 @@ add_executable(vantor_e2e_tests
     e2e/desktop.cpp
     e2e/main.cpp
     e2e/program_test.cpp
-    e2e/small_screen_test.cpp)
+    e2e/small_screen_test.cpp
+    e2e/window_test.cpp)
 target_include_directories(vantor_e2e_tests PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(vantor_e2e_tests PRIVATE
-    VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_PROGRAM="$<TARGET_FILE:vantor>")
+    VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_PROGRAM="$<TARGET_FILE:vantor>"
+    VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>")
 target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui vantor_warnings Qt6::DBus GTest::gmock GTest::gtest)
-add_dependencies(vantor_e2e_tests vantor)
+add_dependencies(vantor_e2e_tests instance_program vantor)
 gtest_discover_tests(vantor_e2e_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS e2e)

@@ -39,10 +39,11 @@ class SessionBus {
 /// A start of the program in a session of the test's own; ends with this object.
 class Start {
   public:
-    explicit Start(const QProcessEnvironment& session, const QString& manner = {}) {
+    explicit Start(const QProcessEnvironment& session, const QString& manner = {},
+                   const QString& title = {}) {
         process_.setProcessEnvironment(session);
         process_.setStandardErrorFile(QProcess::nullDevice());
-        process_.start(QStringLiteral(VANTOR_INSTANCE_PROGRAM), {manner});
+        process_.start(QStringLiteral(VANTOR_INSTANCE_PROGRAM), {manner, title});
     }
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;

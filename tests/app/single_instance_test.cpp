@@ -169,7 +169,7 @@ class ApplicationOnTheBus : public testing::Test {
     SessionBus bus;
     std::optional<Start> first;
     QDBusConnection client = QDBusConnection::connectToBus(bus.address(), QStringLiteral("client"));
-    const QVariantMap none;
+    const QVariantMap none{};
 };
 
 TEST_F(ApplicationOnTheBus, AnswersAsAnApplicationDoes) {
