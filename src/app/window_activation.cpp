@@ -64,7 +64,7 @@ class X11Activation : public QObject, public QAbstractNativeEventFilter {
 }  // namespace
 
 QString activationTokenOfEnvironment() {
-    const QString wayland = checkedToken(qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
+    QString wayland = checkedToken(qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
     return wayland.isEmpty() ? checkedToken(qEnvironmentVariable("DESKTOP_STARTUP_ID")) : wayland;
 }
 

@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <string_view>
@@ -14,6 +15,7 @@
 /// A program of which there is one: says "first" and then, for each later start, "activated" and
 /// its token; or says "second" and ends. With a window, which keeps its place and has the title of
 /// the second argument, if "window" is said; with "hanging" it listens to nobody.
+/// PATIENCE_OF_INSTANCE, in the environment, are milliseconds.
 int main(int argc, char** argv) {
     const std::string_view manner = argc > 1 ? argv[1] : "";
     const QString token = vantor::activationTokenOfEnvironment();
@@ -23,7 +25,10 @@ int main(int argc, char** argv) {
         std::puts(text.toUtf8().constData());
         std::fflush(stdout);
     };
-    vantor::SingleInstance instance(token);
+    auto surroundings = vantor::SingleInstance::Surroundings::ofProcess();
+    if (const int patience = qEnvironmentVariableIntValue("PATIENCE_OF_INSTANCE"))
+        surroundings.patience = std::chrono::milliseconds(patience);
+    vantor::SingleInstance instance(token, surroundings);
     if (instance.role() == vantor::SingleInstance::Role::second) {
         say(QStringLiteral("second"));
         return 0;

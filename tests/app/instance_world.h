@@ -82,6 +82,8 @@ class Session {
             environment_.remove(QLatin1String(name));
         }
         set("XDG_RUNTIME_DIR", folder());
+        // However slow the machine, a program that works is waited for.
+        set("PATIENCE_OF_INSTANCE", QStringLiteral("20000"));
     }
 
     void set(const char* name, const QString& value) {
@@ -95,6 +97,11 @@ class Session {
         QProcessEnvironment changed = environment_;
         changed.insert(QLatin1String(name), value);
         return changed;
+    }
+
+    /// The same session, for a program with the patience that it usually has.
+    QProcessEnvironment withUsualPatience() const {
+        return with("PATIENCE_OF_INSTANCE", QString());
     }
 
   private:

@@ -18,6 +18,7 @@ class WindowOnADesktop : public testing::Test {
         ASSERT_TRUE(desktop_.isUp()) << "the virtual desktop did not start";
         session_ = desktop_.environment();
         session_.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+        session_.insert(QStringLiteral("PATIENCE_OF_INSTANCE"), QStringLiteral("20000"));
         otherSession_ = session_;
         otherSession_.insert(QStringLiteral("XDG_RUNTIME_DIR"), otherFolder_.path());
         otherSession_.insert(QStringLiteral("XDG_CONFIG_HOME"), otherFolder_.path());
