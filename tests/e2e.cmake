@@ -14,6 +14,7 @@ add_executable(vantor_e2e_tests
     e2e/small_screen_test.cpp
     e2e/tray_test.cpp
     e2e/wayland_test.cpp
+    e2e/window_test.cpp
     e2e/windows_test.cpp)
 target_include_directories(vantor_e2e_tests PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
 # The system's own Python first: that is the one whose packages the scripts install.
@@ -21,7 +22,8 @@ find_program(VANTOR_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
 find_program(VANTOR_PYTHON python3)
 target_compile_definitions(vantor_e2e_tests PRIVATE
     VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_PROGRAM="$<TARGET_FILE:vantor>"
+    VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_PYTHON="${VANTOR_PYTHON}")
 target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui vantor_warnings Qt6::DBus GTest::gmock GTest::gtest)
-add_dependencies(vantor_e2e_tests vantor)
+add_dependencies(vantor_e2e_tests instance_program vantor)
 gtest_discover_tests(vantor_e2e_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS e2e)

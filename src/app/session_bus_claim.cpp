@@ -48,7 +48,7 @@ QString tokenIn(const QVariant& platformData) {
     for (const QString& key : {waylandKey, x11Key}) {
         const QVariant value = data.value(key);
         if (value.typeId() != QMetaType::QString) continue;
-        if (const QString token = checkedToken(value.toString()); !token.isEmpty()) return token;
+        if (QString token = checkedToken(value.toString()); !token.isEmpty()) return token;
     }
     return {};
 }

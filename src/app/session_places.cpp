@@ -47,7 +47,7 @@ QString sessionBusAddress() {
 }
 
 QString privateRuntimeFolder() {
-    const QString ofSession = runtimeFolderOfSession();
+    QString ofSession = runtimeFolderOfSession();
     if (isPrivateFolder(ofSession)) return ofSession;
     const QString own = QDir::tempPath() + QStringLiteral("/vantor-%1").arg(::geteuid());
     ::mkdir(QFile::encodeName(own).constData(), 0700);
@@ -56,7 +56,7 @@ QString privateRuntimeFolder() {
 }
 
 QString displayName() {
-    const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
+    QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
     if (!wayland.isEmpty()) return wayland;
     const QString x11 = qEnvironmentVariable("DISPLAY");
     const auto screen = x11.indexOf(u'.', x11.lastIndexOf(u':'));

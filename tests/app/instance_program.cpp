@@ -1,15 +1,21 @@
 #include <QApplication>
 
+#include <chrono>
 #include <cstdio>
+#include <memory>
 #include <string_view>
 
+#include "app/qt_defaults_store.h"
+#include "app/qt_main_loop.h"
 #include "app/single_instance.h"
 #include "app/termination_signals.h"
 #include "app/window_activation.h"
+#include "app/window_geometry.h"
 
 /// A program of which there is one: says "first" and then, for each later start, "activated" and
-/// its token; or says "second" and ends. With a window if "window" is said; with "hanging" it
-/// listens to nobody.
+/// its token; or says "second" and ends. With a window, which keeps its place and has the title of
+/// the second argument, if "window" is said; with "hanging" it listens to nobody.
+/// PATIENCE_OF_INSTANCE, in the environment, are milliseconds.
 int main(int argc, char** argv) {
     const std::string_view manner = argc > 1 ? argv[1] : "";
     const QString token = vantor::activationTokenOfEnvironment();
@@ -19,14 +25,23 @@ int main(int argc, char** argv) {
         std::puts(text.toUtf8().constData());
         std::fflush(stdout);
     };
-    vantor::SingleInstance instance(token);
+    auto surroundings = vantor::SingleInstance::Surroundings::ofProcess();
+    if (const int patience = qEnvironmentVariableIntValue("PATIENCE_OF_INSTANCE"))
+        surroundings.patience = std::chrono::milliseconds(patience);
+    vantor::SingleInstance instance(token, surroundings);
     if (instance.role() == vantor::SingleInstance::Role::second) {
         say(QStringLiteral("second"));
         return 0;
     }
     QWidget window;
-    window.setWindowTitle(QStringLiteral("The one"));
+    window.setWindowTitle(QString::fromLocal8Bit(argc > 2 ? argv[2] : "The one"));
+    window.setMinimumSize(200, 100);
     window.resize(300, 200);
+    const vantor::WindowGeometry geometry(
+        window, "Vantor.LegacyDashboard",
+        std::make_shared<vantor::QtDefaultsStore>(
+            vantor::WindowGeometry::fileBeside(vantor::QtDefaultsStore::userFile())),
+        std::make_shared<vantor::QtMainLoop>());
     instance.setOnActivate([&](const QString& received) {
         if (manner == "window") vantor::bringToFront(window, received);
         say(QStringLiteral("activated ") + received);

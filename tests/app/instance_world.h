@@ -39,10 +39,11 @@ class SessionBus {
 /// A start of the program in a session of the test's own; ends with this object.
 class Start {
   public:
-    explicit Start(const QProcessEnvironment& session, const QString& manner = {}) {
+    explicit Start(const QProcessEnvironment& session, const QString& manner = {},
+                   const QString& title = {}) {
         process_.setProcessEnvironment(session);
         process_.setStandardErrorFile(QProcess::nullDevice());
-        process_.start(QStringLiteral(VANTOR_INSTANCE_PROGRAM), {manner});
+        process_.start(QStringLiteral(VANTOR_INSTANCE_PROGRAM), {manner, title});
     }
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;
@@ -81,6 +82,8 @@ class Session {
             environment_.remove(QLatin1String(name));
         }
         set("XDG_RUNTIME_DIR", folder());
+        // However slow the machine, a program that works is waited for.
+        set("PATIENCE_OF_INSTANCE", QStringLiteral("20000"));
     }
 
     void set(const char* name, const QString& value) {
@@ -94,6 +97,11 @@ class Session {
         QProcessEnvironment changed = environment_;
         changed.insert(QLatin1String(name), value);
         return changed;
+    }
+
+    /// The same session, for a program with the patience that it usually has.
+    QProcessEnvironment withUsualPatience() const {
+        return with("PATIENCE_OF_INSTANCE", QString());
     }
 
   private:

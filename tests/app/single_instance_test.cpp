@@ -102,17 +102,17 @@ TEST_P(SingleInstanceTest, OneThatHangsKeepsNobodyFromStarting) {
     ASSERT_EQ(hanging.says(), "first");
     QElapsedTimer watch;
     watch.start();
-    Start next(session.environment());
+    Start next(session.withUsualPatience());
     EXPECT_EQ(next.says(), "first");
     EXPECT_GE(watch.elapsed(), 1000);
-    EXPECT_LT(watch.elapsed(), 5000);
+    EXPECT_LT(watch.elapsed(), 15'000);
 }
 
 TEST_P(SingleInstanceTest, OneThatIsStoppedKeepsNobodyFromStarting) {
     Start stopped(session.environment());
     ASSERT_EQ(stopped.says(), "first");
     stopped.send(SIGSTOP);
-    Start next(session.environment());
+    Start next(session.withUsualPatience());
     EXPECT_EQ(next.says(), "first");
 }
 
@@ -169,7 +169,7 @@ class ApplicationOnTheBus : public testing::Test {
     SessionBus bus;
     std::optional<Start> first;
     QDBusConnection client = QDBusConnection::connectToBus(bus.address(), QStringLiteral("client"));
-    const QVariantMap none;
+    const QVariantMap none{};
 };
 
 TEST_F(ApplicationOnTheBus, AnswersAsAnApplicationDoes) {
