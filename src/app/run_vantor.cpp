@@ -33,19 +33,19 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("vantor"));
-    SingleInstance instance(activationToken);
-    if (instance.role() == SingleInstance::Role::second) return EXIT_SUCCESS;
+    auto instance = std::make_unique<SingleInstance>(activationToken);
+    if (instance->role() == SingleInstance::Role::second) return EXIT_SUCCESS;
     installViewAccessibility();
 
     const auto vantor =
         makeVantorApp({machine, QtDefaultsStore::userFile(), std::make_shared<QtStatusBar>(),
                        [] { QApplication::quit(); }, makeQtExportPlatform()});
-    instance.setOnActivate([&](const QString& token) { vantor->reopen(token); });
+    instance->setOnActivate([&](const QString& token) { vantor->reopen(token); });
     const TerminationSignals terminationSignals([] { QApplication::quit(); });
     const SessionEnd sessionEnd(application, [&] { vantor->saveState(); });
     vantor->openDashboard();
     const int status = QApplication::exec();
-    instance.setOnActivate({});
+    instance.reset();  // who starts from now on is the first
     // A probe that hangs in the kernel cannot be joined, and tearing the process down around it
     // would pull the ground from under its feet.
     if (!vantor->shutDown(quitPatience)) std::_Exit(status);
