@@ -14,7 +14,10 @@ class LegacyVantorApp : public VantorApp {
     explicit LegacyVantorApp(Environment environment);
     ~LegacyVantorApp() override;
 
-    void openDashboard() override { dashboard_.open(); }
+    void openDashboard() override {
+        closePopover();  // it would stay above what it opens
+        dashboard_.open();
+    }
     DashboardWindow* dashboardWindow() override { return dashboard_.window(); }
     bool shutDown(std::chrono::milliseconds patience) override;
 

@@ -49,6 +49,10 @@ void MenuBarController::togglePopover(const QRect& anchor) {
     popover_->open(anchor);
 }
 
+void MenuBarController::closePopover() {
+    if (popover_) popover_->close();
+}
+
 std::vector<StatusMenuEntry> MenuBarController::menu() const {
     const bool isPaused = monitor_->isPaused();
     const auto now = MenuBarDashboard::of(monitor_->dashboardState(), isPaused);

@@ -38,6 +38,7 @@ class MenuBarController {
     /// Closes the popover, drops its content, and takes the item away.
     void removeStatusItem();
     void togglePopover(const QRect& anchor);
+    void closePopover();
 
     bool hasStatusItem() const { return item_ != nullptr; }
     PopoverWindow* popover() { return popover_.get(); }

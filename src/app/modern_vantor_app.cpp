@@ -24,6 +24,7 @@ void ModernVantorApp::openDashboard() {
 
 void ModernVantorApp::openWindow(const QString& identifier) {
     if (identifier != QStringLiteral("dashboard")) return;
+    closePopover();  // it would stay above what it opens
     if (!window_) window_ = makeDashboardWindow(identifier);
     bringToFront(*window_, {});
 }

@@ -1,7 +1,6 @@
 #include "app/popover_window.h"
 
 #include <QCursor>
-#include <QDateTime>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
@@ -90,13 +89,13 @@ void PopoverWindow::focusFirst() {
 }
 
 bool PopoverWindow::hasJustClosed() const {
-    return QDateTime::currentMSecsSinceEpoch() - closedAt_ < justNow;
+    return sinceClosed_.isValid() && !sinceClosed_.hasExpired(justNow);
 }
 
 void PopoverWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         close();
-        closedAt_ = 0;  // no press on the item did this
+        sinceClosed_.invalidate();  // no press on the item did this
         return;
     }
     QWidget::keyPressEvent(event);
@@ -108,7 +107,7 @@ void PopoverWindow::changeEvent(QEvent* event) {
 }
 
 void PopoverWindow::hideEvent(QHideEvent* event) {
-    closedAt_ = QDateTime::currentMSecsSinceEpoch();
+    sinceClosed_.start();
     QWidget::hideEvent(event);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QRect>
 #include <QWidget>
 
@@ -32,8 +33,8 @@ class PopoverWindow : public QWidget {
   private:
     void focusFirst();
 
-    QWidget* content_;  // owned by this widget, as its child
-    qint64 closedAt_ = 0;
+    QWidget* content_;           // owned by this widget, as its child
+    QElapsedTimer sinceClosed_;  // not started while it was not, or does not matter
 };
 
 }  // namespace vantor

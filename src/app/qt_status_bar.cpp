@@ -3,15 +3,19 @@
 #include <QAction>
 #include <QApplication>
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
-#include <QDateTime>
+#include <QDBusVariant>
 #include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
 #include <algorithm>
 #include <chrono>
+
+#include "ui/components/make_child.h"
 
 namespace vantor {
 
@@ -23,7 +27,7 @@ using namespace std::chrono_literals;
 constexpr auto lookInterval = 2s;
 // The toolkit asks once and for all whether the session bus has a tray. When the program is
 // started together with the desktop, the desktop's panel may be a little later than we are.
-constexpr qint64 patienceWithBus = 3000;
+constexpr int patienceWithBus = 3000;
 
 QString watcherService() {
     return QStringLiteral("org.kde.StatusNotifierWatcher");
@@ -80,38 +84,70 @@ class QtStatusBar::Item : public StatusItem {
     std::unique_ptr<QSystemTrayIcon> icon_;
 };
 
-QtStatusBar::QtStatusBar() : started_(QDateTime::currentMSecsSinceEpoch()) {
+QtStatusBar::QtStatusBar() {
+    sinceStart_.start();
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected()) {
-        isOnBus_ = bus.interface()->isServiceRegistered(watcherService());
         watcher_ = std::make_unique<QDBusServiceWatcher>(watcherService(), bus,
                                                          QDBusServiceWatcher::WatchForOwnerChange);
         QObject::connect(watcher_.get(), &QDBusServiceWatcher::serviceOwnerChanged, &look_,
                          [this](const QString&, const QString&, const QString& owner) {
-                             isOnBus_ = !owner.isEmpty();
+                             hasWatcher_ = !owner.isEmpty();
                              look();
                          });
+        hasWatcher_ = true;  // unless it does not answer
     }
     QObject::connect(&look_, &QTimer::timeout, &look_, [this] { look(); });
     look_.setTimerType(Qt::CoarseTimer);
     look_.start(lookInterval);
-    isAvailable_ = isThere();
+    look();
 }
 
 QtStatusBar::~QtStatusBar() = default;
 
-bool QtStatusBar::isThere() {
-    if (isOnBus_) return true;
-    const bool isX11 = QGuiApplication::platformName() == QLatin1StringView("xcb");
-    if (!isX11) return false;
-    const bool mayBeLate =
-        watcher_ && QDateTime::currentMSecsSinceEpoch() - started_ < patienceWithBus;
-    return !mayBeLate && QSystemTrayIcon::isSystemTrayAvailable();
+void QtStatusBar::look() {
+    if (hasWatcher_) {
+        askBus();
+    } else {
+        isOnBus_ = false;
+        settle();
+    }
 }
 
-void QtStatusBar::look() {
+/// The service alone shows nothing: it may be there without any panel.
+void QtStatusBar::askBus() {
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        watcherService(), QStringLiteral("/StatusNotifierWatcher"),
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << watcherService() << QStringLiteral("IsStatusNotifierHostRegistered");
+    question.setAutoStartService(false);
+    const auto call = QDBusConnection::sessionBus().asyncCall(question);
+    auto* answer = makeChild<QDBusPendingCallWatcher>(static_cast<QObject*>(&look_), call);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &look_, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        answer->deleteLater();
+        hasWatcher_ = !reply.isError();
+        isOnBus_ = hasWatcher_ && reply.value().variant().toBool();
+        settle();
+    });
+}
+
+bool QtStatusBar::isThere() {
+    if (isOnBus_ && way_ != Way::embedded) return true;
+    if (way_ == Way::bus) return false;
+    const bool isX11 = QGuiApplication::platformName() == QLatin1StringView("xcb");
+    const bool mayBeLate = watcher_ && !sinceStart_.hasExpired(patienceWithBus);
+    if (!isX11 || (mayBeLate && way_ == Way::undecided)) return false;
+    way_ = Way::embedded;
+    return QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void QtStatusBar::settle() {
     const bool isThereNow = isThere();
-    if (isThereNow) showItems();
+    if (isThereNow) {
+        if (way_ == Way::undecided) way_ = Way::bus;
+        showItems();
+    }
     if (isThereNow == isAvailable_) return;
     isAvailable_ = isThereNow;
     if (onChange_) onChange_();

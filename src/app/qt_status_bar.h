@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <memory>
@@ -24,16 +25,23 @@ class QtStatusBar : public StatusBar {
   private:
     class Item;
 
+    /// What the toolkit shows icons by; it decides once and for all.
+    enum class Way { undecided, bus, embedded };
+
     void look();
+    void askBus();
+    void settle();
     bool isThere();
     void showItems();
 
     std::function<void()> onChange_;
     std::unique_ptr<QDBusServiceWatcher> watcher_;
     QTimer look_;
-    bool isOnBus_ = false;
+    bool hasWatcher_ = false;  // the session bus knows a tray's service
+    bool isOnBus_ = false;     // and something shows its items
+    Way way_ = Way::undecided;
     bool isAvailable_ = false;
-    qint64 started_ = 0;
+    QElapsedTimer sinceStart_;
     std::vector<Item*> items_;  // those that live now
 };
 

@@ -13,7 +13,6 @@
 #include "app/termination_signals.h"
 #include "app/window_activation.h"
 #include "platform/native_machine.h"
-#include "ui/help/help_view.h"
 #include "ui/settings/settings_view.h"
 
 namespace vantor {
@@ -22,7 +21,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QSize helpSize{700, 620};
 constexpr QSize settingsSize{520, 560};
 // A desktop's panel that is restarted is back by then.
 constexpr auto trayPatience = 5s;
@@ -49,7 +47,11 @@ VantorApp::VantorApp(Environment environment)
       quit_(std::move(environment.quit)),
       metadata_(buildInfo_),
       delegate_(defaults_, machine_->processInfo(), [this] { openDashboard(); }),
-      commands_({[this] { openAbout(); }, [this] { monitor_->forceRefresh(); },
+      help_(machine_, [this](QWidget& window) { commands_.addTo(&window); }),
+      commands_({[this] { openAbout(); },
+                 [this] {
+                     if (monitor_) monitor_->forceRefresh();
+                 },
                  [this] { monitor_->exportSnapshot(); }, [this] { openSettings(); },
                  [this] { openHelp(); }, quit_}) {
     frames_ =
@@ -95,6 +97,7 @@ std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& i
 }
 
 void VantorApp::openSettings() {
+    if (!monitor_) return;
     if (!settingsWindow_) {
         auto view = std::make_unique<SettingsView>(SettingsView::Environment{
             settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); }});
@@ -108,20 +111,17 @@ void VantorApp::openSettings() {
 }
 
 void VantorApp::openHelp() {
-    if (!helpWindow_) {
-        auto view = std::make_unique<HelpView>(machine_->processInfo(), machine_->words());
-        const QSize smallest = view->minimumSizeHint();
-        helpWindow_ = std::make_unique<ContentWindow>(QStringLiteral("Vantor Help"),
-                                                      std::move(view), helpSize, smallest);
-        commands_.addTo(helpWindow_.get());
-    }
-    helpWindow_->open();
+    if (monitor_) help_.show();
 }
 
 void VantorApp::openAbout() {
+    if (about_) {
+        bringToFront(*about_, {});
+        return;
+    }
     QWidget* owner = QApplication::activeWindow();
     if (!owner) owner = dashboardWindow();
-    showVantorAboutPanel(metadata_, owner);
+    about_ = showVantorAboutPanel(metadata_, owner);
 }
 
 void VantorApp::reopen(const QString& activationToken) {
@@ -136,32 +136,46 @@ void VantorApp::saveState() {
 bool VantorApp::hasVisibleWindow() const {
     const auto windows = QApplication::topLevelWidgets();
     return std::ranges::any_of(windows, [](const QWidget* window) {
-        return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose);
+        return window->isVisible() && window->windowType() == Qt::Window;
     });
 }
 
 /// The user must always have a way back to a program that runs.
 void VantorApp::lastWindowClosed() {
-    const bool hasWayBack = statusBar_->isAvailable() && menuBar_ && menuBar_->hasStatusItem();
-    if (!hasWayBack || delegate_.applicationShouldTerminateAfterLastWindowClosed()) quit_();
+    const bool isItemThere = menuBar_ && menuBar_->hasStatusItem();
+    if (!isItemThere || delegate_.applicationShouldTerminateAfterLastWindowClosed()) {
+        quit_();
+    } else if (!statusBar_->isAvailable()) {
+        // While a tray that was there is being restarted, nothing is decided yet.
+        hasClosedWithoutTray_ = true;
+        if (!wayBackTask_) quit_();
+    }
 }
 
+/// A tray has vanished, or come back: whoever has no window open is left alone only if it returns.
 void VantorApp::statusBarChanged() {
     cancelTask(wayBackTask_);
+    hasClosedWithoutTray_ = false;
     if (statusBar_->isAvailable()) return;
     wayBackTask_ = std::make_shared<MainTask>(mainLoop_);
     wayBackTask_->sleep(trayPatience, [this] {
         wayBackTask_ = nullptr;
-        if (!statusBar_->isAvailable() && !hasVisibleWindow()) openDashboard();
+        if (statusBar_->isAvailable() || hasVisibleWindow()) return;
+        if (hasClosedWithoutTray_) {
+            quit_();
+        } else {
+            openDashboard();
+        }
     });
 }
 
 bool VantorApp::shutDown(std::chrono::milliseconds patience) {
     cancelTask(wayBackTask_);
     statusBar_->listen({});
+    disconnect(qApp, nullptr, this, nullptr);
     menuBar_.reset();
     settingsWindow_.reset();
-    helpWindow_.reset();
+    help_.release();
     if (monitor_) monitor_->waitForExport(writePatience);
     monitor_.reset();
     return queues_->waitForThreads(patience);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QMessageBox>
+#include <QPointer>
 #include <QString>
 
 #include <chrono>
@@ -13,6 +15,7 @@
 #include "app/dashboard_window.h"
 #include "app/menu_bar_controller.h"
 #include "app/status_bar.h"
+#include "app/vantor_help_window.h"
 #include "app/window_geometry.h"
 #include "platform/export_platform.h"
 #include "platform/machine.h"
@@ -59,7 +62,7 @@ class VantorApp : public QObject {
     AppSettings& settings() { return *settings_; }
     MenuBarController& menuBar() { return *menuBar_; }
     ContentWindow* settingsWindow() { return settingsWindow_.get(); }
-    ContentWindow* helpWindow() { return helpWindow_.get(); }
+    ContentWindow* helpWindow() { return help_.window(); }
     AppCommands& commands() { return commands_; }
 
     /// Ends everything without waiting for any probe. A snapshot that is being written gets up to
@@ -79,6 +82,9 @@ class VantorApp : public QObject {
     const std::shared_ptr<SystemMonitor>& sharedMonitor() const { return monitor_; }
     const ProcessInfo& versions() const { return machine_->processInfo(); }
     std::unique_ptr<DashboardWindow> makeDashboardWindow(const QString& identifier);
+    void closePopover() {
+        if (menuBar_) menuBar_->closePopover();
+    }
     /// To be called before the dashboard's window is destroyed.
     void keepWindowGeometry() { geometry_.reset(); }
     MenuBarDashboardView::Environment panelEnvironment() const;
@@ -99,13 +105,15 @@ class VantorApp : public QObject {
     BuildInfo buildInfo_;
     AppMetadata metadata_;
     AppDelegate delegate_;
+    VantorHelpWindow help_;
     AppCommands commands_;
     std::unique_ptr<MenuBarController> menuBar_;
     std::shared_ptr<DefaultsStore> frames_;     // of windows
     std::unique_ptr<WindowGeometry> geometry_;  // of the dashboard's window
     std::unique_ptr<ContentWindow> settingsWindow_;
-    std::unique_ptr<ContentWindow> helpWindow_;
-    std::shared_ptr<MainTask> wayBackTask_;
+    QPointer<QMessageBox> about_;            // while it is open
+    std::shared_ptr<MainTask> wayBackTask_;  // while a tray that was there is waited for
+    bool hasClosedWithoutTray_ = false;
 };
 
 /// The variant that suits the machine's system.

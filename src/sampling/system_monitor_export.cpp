@@ -9,12 +9,12 @@ namespace vantor {
 void SystemMonitor::exportSnapshot() {
     if (isExportFlowActive_ || !exportPlatform_.isWhole()) return;
     const Timestamp moment = fileMoment(dashboardState().snapshot, machine_->wallClock().now());
+    isExportFlowActive_ = true;
     saveDialog_ = exportPlatform_.saveDialogs->makeSaveDialog(
         {.title = "Export System Snapshot",
          .proposedName = snapshotFileName(exportPlatform_.calendar->at(moment)),
          .contentType = "application/json",
          .mayCreateFolders = true});
-    isExportFlowActive_ = true;
     saveDialog_->begin([weak = weak_from_this()](std::optional<std::filesystem::path> destination) {
         if (const auto self = weak.lock()) self->saveDialogEnded(std::move(destination));
     });

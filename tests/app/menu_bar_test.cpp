@@ -12,6 +12,7 @@
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/menu_bar/modern_menu_bar_dashboard_host.h"
 #include "ui/rendering.h"
+#include "ui/settings/settings_view.h"
 
 namespace vantor {
 namespace {
@@ -165,6 +166,43 @@ TEST_P(MenuBarOf, WithoutATrayClosingTheLastWindowQuitsWhateverTheSetting) {
     app->openDashboard();
     closeDashboard();
     EXPECT_EQ(quits, 1);
+}
+
+TEST_P(MenuBarOf, OpenDashboardClosesThePanel) {
+    start();
+    press();
+    panel().openButton().click();
+    EXPECT_FALSE(menuBar().popover()->isVisible());
+}
+
+TEST_P(MenuBarOf, TheToggleInTheSettingsWindowRemovesTheItemAndThenTheLastWindowQuits) {
+    start();
+    app->openSettings();
+    auto& view = dynamic_cast<SettingsView&>(app->settingsWindow()->content());
+    view.menuBar().click();
+    EXPECT_EQ(tray->items(), 0);
+    closeAsUser(*app->settingsWindow());
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_P(MenuBarOf, ClosedWhileTheTrayIsBeingRestartedItStaysUntilThatIsOver) {
+    start();
+    app->openDashboard();
+    tray->setThere(false);
+    closeDashboard();
+    EXPECT_EQ(quits, 0) << "it may be back in a moment";
+    tray->setThere(true);
+    EXPECT_EQ(quits, 0);
+    EXPECT_FALSE(app->dashboardWindow()->isVisible());
+}
+
+TEST_P(MenuBarOf, AboutIsOnePanelThatComesForward) {
+    start();
+    app->openDashboard();
+    app->openAbout();
+    app->openAbout();
+    const auto panels = app->dashboardWindow()->findChildren<QMessageBox*>();
+    EXPECT_EQ(panels.size(), 1);
 }
 
 TEST_P(MenuBarOf, QuitInThePanelAndInTheMenuQuits) {
