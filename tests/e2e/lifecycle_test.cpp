@@ -1,24 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <optional>
-
-#include "e2e/desktop.h"
+#include "e2e/program_fixture.h"
 
 /// Starting twice, ending by signal, and what lasts from run to run.
 namespace vantor {
 namespace {
 
-constexpr QSize screen{1366, 900};
-
-class Lifecycle : public testing::Test {
+class Lifecycle : public ProgramOnADesktop {
   protected:
-    void SetUp() override { ASSERT_TRUE(desktop_.isUp()) << "the virtual desktop did not start"; }
-
-    void start() {
-        program_.emplace(desktop_);
-        ASSERT_TRUE(program_->waitForLiveData());
-        ASSERT_TRUE(eventually([this] { return program_->isActive(); }));
-    }
     QString tool(const QStringList& arguments) const {
         return desktop_.run(QStringLiteral("xdotool"), arguments);
     }
@@ -39,9 +28,6 @@ class Lifecycle : public testing::Test {
         EXPECT_TRUE(eventually([this] { return program_->isActive(); }));
         EXPECT_TRUE(program_->isRunning());
     }
-
-    Desktop desktop_{screen};
-    std::optional<RunningProgram> program_;
 };
 
 TEST_F(Lifecycle, ASecondStartBringsTheFirstForwardOverTheSessionBus) {

@@ -3,25 +3,15 @@
 #include <QFile>
 
 #include <algorithm>
-#include <optional>
 
-#include "e2e/desktop.h"
+#include "e2e/program_fixture.h"
 
 /// The program and a real tray.
 namespace vantor {
 namespace {
 
-constexpr QSize screen{1366, 900};
-
-class Tray : public testing::Test {
+class Tray : public ProgramOnADesktop {
   protected:
-    void SetUp() override { ASSERT_TRUE(desktop_.isUp()) << "the virtual desktop did not start"; }
-
-    void start() {
-        program_.emplace(desktop_);
-        ASSERT_TRUE(program_->waitForLiveData());
-        ASSERT_TRUE(eventually([this] { return program_->isActive(); }));
-    }
     void startWithIcon() {
         ASSERT_TRUE(desktop_.startTray());
         start();
@@ -53,9 +43,6 @@ class Tray : public testing::Test {
                 .contains(QStringLiteral("Width: 332\n"));
         });
     }
-
-    Desktop desktop_{screen};
-    std::optional<RunningProgram> program_;
 };
 
 TEST_F(Tray, ClosedIntoTheTrayItIsOpenedAgainFromItsPanel) {

@@ -2,23 +2,17 @@
 
 #include <QFile>
 
-#include <optional>
-
-#include "e2e/desktop.h"
+#include "e2e/program_fixture.h"
 
 /// The windows beside the main one, and what is changed in them.
 namespace vantor {
 namespace {
 
-constexpr QSize screen{1366, 900};
-
-class Windows : public testing::Test {
+class Windows : public ProgramOnADesktop {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(desktop_.isUp()) << "the virtual desktop did not start";
-        program_.emplace(desktop_);
-        ASSERT_TRUE(program_->waitForLiveData());
-        ASSERT_TRUE(eventually([this] { return program_->isActive(); }));
+        ProgramOnADesktop::SetUp();
+        start();
     }
     QByteArray settings() {
         QFile file(desktop_.settingsFile());
@@ -43,9 +37,6 @@ class Windows : public testing::Test {
         const QRect area = program_->windowArea();
         return desktop_.picture().pixelColor(area.bottomLeft() + QPoint(4, -4)).lightness();
     }
-
-    Desktop desktop_{screen};
-    std::optional<RunningProgram> program_;
 };
 
 TEST_F(Windows, TheThemeChosenByKeyboardChangesAllWindowsAtOnceAndIsKept) {
