@@ -1,10 +1,10 @@
 #include "app/about_panel.h"
 
-#include <QIcon>
 #include <QMessageBox>
 
 #include "app/window_activation.h"
 #include "ui/components/make_child.h"
+#include "ui/product_icon.h"
 
 namespace vantor {
 
@@ -14,7 +14,7 @@ QMessageBox* showVantorAboutPanel(const AppMetadata& metadata, QWidget* owner) {
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setWindowTitle(QStringLiteral("About Vantor"));
     panel->setWindowModality(Qt::NonModal);
-    panel->setIconPixmap(QIcon(QStringLiteral(":/vantor.svg")).pixmap(iconSide, iconSide));
+    panel->setIconPixmap(productIcon().pixmap(iconSide, iconSide));
     panel->setText(QStringLiteral("<b>Vantor</b>"));
     panel->setInformativeText(
         QStringLiteral("Version %1 (%2)\n\nBuilt by the Vantor founders. Everything it shows, it "

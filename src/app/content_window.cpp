@@ -1,12 +1,12 @@
 #include "app/content_window.h"
 
-#include <QIcon>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "app/window_activation.h"
 #include "ui/components/make_child.h"
+#include "ui/product_icon.h"
 
 namespace vantor {
 
@@ -14,7 +14,7 @@ ContentWindow::ContentWindow(const QString& title, std::unique_ptr<QWidget> cont
                              QSize smallest)
     : QWidget(nullptr, Qt::Window), content_(content.get()) {
     setWindowTitle(title);
-    setWindowIcon(QIcon(QStringLiteral(":/vantor.svg")));
+    setWindowIcon(productIcon());
     setMinimumSize(smallest);
     setAttribute(Qt::WA_NoSystemBackground);  // the content paints every pixel
     auto* layout = makeLayout<QVBoxLayout>(this);

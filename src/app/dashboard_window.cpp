@@ -1,12 +1,12 @@
 #include "app/dashboard_window.h"
 
-#include <QIcon>
 #include <QMenuBar>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "app/launch_stabilizer_view.h"
 #include "ui/components/make_child.h"
+#include "ui/product_icon.h"
 
 namespace vantor {
 
@@ -17,7 +17,7 @@ DashboardWindow::DashboardWindow(DashboardView::Environment environment, AppComm
     MainWindowLaunchStabilizer(mainLoop, std::move(onLiveResize), this);
     dashboard_->setMenuBar(commands.makeMenuBar(dashboard_));
     setWindowTitle(QStringLiteral("Vantor"));
-    setWindowIcon(QIcon(QStringLiteral(":/vantor.svg")));
+    setWindowIcon(productIcon());
     setMinimumSize(smallestSize);
     // On a screen that is smaller than the default, as much of it as a window manager's frame
     // leaves.

@@ -8,7 +8,6 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
-#include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
@@ -16,6 +15,7 @@
 #include <chrono>
 
 #include "ui/components/make_child.h"
+#include "ui/product_icon.h"
 
 namespace vantor {
 
@@ -47,7 +47,7 @@ class QtStatusBar::Item : public StatusItem {
         if (icon_) return;
         // The product's own tile: its light wave on a coloured ground can be seen on light panels
         // and on dark ones, and nothing tells which the panel is.
-        icon_ = std::make_unique<QSystemTrayIcon>(QIcon(QStringLiteral(":/vantor.svg")));
+        icon_ = std::make_unique<QSystemTrayIcon>(productIcon());
         icon_->setToolTip(content_.title);
         QObject::connect(&menu_, &QMenu::aboutToShow, icon_.get(), [this] { fill(); });
         fill();

@@ -24,6 +24,8 @@ using namespace std::chrono_literals;
 constexpr QSize settingsSize{520, 560};
 // A desktop's panel that is restarted is back by then.
 constexpr auto trayPatience = 5s;
+// All providers have answered once by then, and what the start needed is free.
+constexpr auto settlingTime = 4s;
 // A document is written in milliseconds; a slow stick takes a second or two to have it for good. A
 // disk that takes longer may hang, and a session that ends waits no longer for a program either.
 // The windows are gone by then, so nobody looks at one that does not answer.
@@ -84,6 +86,7 @@ std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& i
         // one. Whoever waits for them from outside can watch it.
         if (DashboardWindow* const window = dashboardWindow())
             window->setWindowIconText(QStringLiteral("Vantor"));
+        mainLoop_->runAfter(settlingTime, [] { giveBackUnusedMemory(); });
     };
     auto window = std::make_unique<DashboardWindow>(
         DashboardView::Environment{settings_, monitor_, machine_, mainLoop_, metadata_,

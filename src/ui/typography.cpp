@@ -81,6 +81,11 @@ int scaled(double length) {
     return static_cast<int>(std::lround(length * lengthScale()));
 }
 
+bool differInDigitsOnly(const QString& one, const QString& other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](QChar a, QChar b) { return a == b || (isDigit(a) && isDigit(b)); });
+}
+
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics) {
     const double digitWidth = widestDigit(metrics);
     double width = 0;

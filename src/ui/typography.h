@@ -48,4 +48,8 @@ QString onOneLine(const QString& text);
 /// The width of `text` with all digits as wide as the widest one.
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics);
 
+/// Whether both texts are that wide in any font, having digits in the same places and all else
+/// alike.
+bool differInDigitsOnly(const QString& one, const QString& other);
+
 }  // namespace vantor::Typography

@@ -60,6 +60,9 @@ Symbol symbolOf(QStyle::StandardPixmap icon) {
             return {QStringLiteral("desktopcomputer"), {}};
         case QStyle::SP_DriveHDIcon:
             return {QStringLiteral("internaldrive"), {}};
+        // The toolkit's own is looked for in all icon themes of the disk first.
+        case QStyle::SP_LineEditClearButton:
+            return {QStringLiteral("xmark.circle"), {}};
         default:
             return {};
     }

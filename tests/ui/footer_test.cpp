@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
-#include <QTime>
 
 #include <chrono>
 
 #include "sampling/dashboard_state.h"
 #include "ui/components/text_line.h"
 #include "ui/dashboard/horizontal_fit.h"
+#include "ui/dashboard/last_update_text.h"
 #include "ui/dashboard_world.h"
 
 /// The line at the bottom: what program this is, and how old its figures are.
@@ -20,7 +20,7 @@ constexpr Timestamp morning =
     std::chrono::sys_days{std::chrono::year{2026} / 2 / 3} + 9h + 5min + 7s;
 
 std::string updated(Timestamp timestamp, const QLocale& locale) {
-    return utf8(lastUpdateText(timestamp, locale));
+    return utf8(LastUpdateText().of(timestamp, locale));
 }
 
 TEST(LastUpdateText, BeforeTheFirstCommitDataIsBeingCollected) {
@@ -41,12 +41,47 @@ TEST(LastUpdateText, HasNoFractionOfASecond) {
     EXPECT_EQ(updated(morning + 999ms, QLocale::c()), "Updated 09:05:07");
 }
 
+class TimeZone {
+  public:
+    explicit TimeZone(const char* name) { qputenv("TZ", name); }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+    ~TimeZone() { qputenv("TZ", before_); }
+
+  private:
+    QByteArray before_ = qgetenv("TZ");
+};
+
+TEST(LastUpdateText, FollowsTheClocksWhenTheyArePutForwardAndBack) {
+    const TimeZone zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    LastUpdateText texts;
+    const auto at = [&](Timestamp moment) { return utf8(texts.of(moment, QLocale::c())); };
+    const Timestamp spring = std::chrono::sys_days{std::chrono::year{2026} / 3 / 29} + 1h;
+    EXPECT_EQ(at(spring - 1s), "Updated 01:59:59");
+    EXPECT_EQ(at(spring), "Updated 03:00:00");
+    const Timestamp autumn = std::chrono::sys_days{std::chrono::year{2026} / 10 / 25} + 1h;
+    EXPECT_EQ(at(autumn - 1s), "Updated 02:59:59");
+    EXPECT_EQ(at(autumn), "Updated 02:00:00");
+}
+
+TEST(LastUpdateText, FollowsAUserWhoTravelsWithinAMinute) {
+    LastUpdateText texts;
+    EXPECT_EQ(utf8(texts.of(morning, QLocale::c())), "Updated 09:05:07");
+    const TimeZone zone("XYZ-3");
+    EXPECT_EQ(utf8(texts.of(morning + 1min, QLocale::c())), "Updated 12:06:07");
+}
+
+TEST(LastUpdateText, IsRightBeforeTheEpochToo) {
+    EXPECT_EQ(updated(Timestamp(-1s), QLocale::c()), "Updated 23:59:59");
+}
+
 TEST(LastUpdateText, ReadsWellInEveryLocale) {
     const auto all =
         QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
     ASSERT_GT(all.size(), 100);
+    LastUpdateText texts;
     for (const QLocale& locale : all) {
-        const QString text = lastUpdateText(morning, locale);
+        const QString text = texts.of(morning, locale);
         EXPECT_EQ(text, text.trimmed()) << utf8(locale.name());
         for (const QChar odd : QStringLiteral("()[]{}',")) {
             EXPECT_FALSE(text.contains(odd)) << utf8(locale.name() + text);

@@ -15,9 +15,11 @@ TextLineView::TextLineView(QString text, double size, QFont::Weight weight, Tone
 
 void TextLineView::show(const QString& text) {
     if (text == text_) return;
-    const int before = sizeHint().width();
+    // All digits are drawn equally wide: a clock's next second needs no other room.
+    const bool isAsWide = Typography::differInDigitsOnly(text, text_);
+    const int before = isAsWide ? 0 : sizeHint().width();
     text_ = text;
-    if (sizeHint().width() != before) updateGeometry();
+    if (!isAsWide && sizeHint().width() != before) updateGeometry();
     update();
     announceName();
 }

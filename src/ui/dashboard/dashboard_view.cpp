@@ -1,9 +1,7 @@
 #include "ui/dashboard/dashboard_view.h"
 
-#include <QDateTime>
 #include <QMenuBar>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -35,35 +33,7 @@ constexpr int footerSpacing = 4;
 constexpr double headerBreakpoint = 900;
 constexpr double footerBreakpoint = 720;
 
-/// Morning and afternoon for the parts of the day in words that some locales ask for: the toolkit
-/// knows no such letter and would spell a "B".
-QString withPlainDayParts(const QString& format) {
-    QString plain;
-    bool isQuoted = false;
-    for (const QChar c : format) {
-        if (c == u'\'') isQuoted = !isQuoted;
-        plain += c == u'B' && !isQuoted ? QStringLiteral("AP") : QString(c);
-    }
-    return plain;
-}
-
 }  // namespace
-
-QString lastUpdateText(Timestamp timestamp, const QLocale& locale) {
-    if (timestamp == SystemSnapshot::empty().timestamp) {
-        return QStringLiteral("Collecting live data…");
-    }
-    // The locale's long form is the one with seconds. Its time zone is of no interest here, nor
-    // what sets it apart ("HH:mm:ss (t)", "HH:mm:ss, t"); quoted words stay.
-    static const QRegularExpression zone(QStringLiteral("('[^']*')|,?\\s*[(\\[]?t[)\\]]?"));
-    QString format = locale.timeFormat(QLocale::LongFormat);
-    format.replace(zone, QStringLiteral("\\1"));
-    format = withPlainDayParts(format);
-    const auto milliseconds =
-        std::chrono::duration_cast<std::chrono::milliseconds>(timestamp.time_since_epoch());
-    const QTime time = QDateTime::fromMSecsSinceEpoch(milliseconds.count()).time();
-    return QStringLiteral("Updated ") + locale.toString(time, format.simplified());
-}
 
 DashboardView::DashboardView(Environment environment, QWidget* parent)
     : GroundView(parent), environment_(std::move(environment)) {
@@ -143,7 +113,7 @@ void DashboardView::addFooter(QWidget* content) {
         return makeChild<TextLineView>(content, text, Typography::caption, QFont::Normal,
                                        TextLineView::Tone::secondary);
     };
-    lastUpdate_ = line(lastUpdateText(SystemSnapshot::empty().timestamp, locale()));
+    lastUpdate_ = line(lastUpdateText_.of(SystemSnapshot::empty().timestamp, locale()));
     footer_ = makeChild<VantorHorizontalFit>(
         content, line(QStringLiteral("Vantor ") + environment_.metadata.version()), lastUpdate_,
         footerGap, footerSpacing, breakpoint(footerBreakpoint));
@@ -166,7 +136,7 @@ QWidget* DashboardView::makeScrollView(QWidget* content) {
 
 void DashboardView::observe() {
     stateObservation_ = environment_.monitor->dashboardStateStream().observe(
-        [this](const DashboardState& state) { show(state); });
+        [this](const DashboardState& state) { showIfSeen(state); });
     pauseObservation_ = environment_.monitor->isPausedStream().observe([this](const bool& paused) {
         header_->show(environment_.settings->refreshInterval(), paused);
     });
@@ -185,12 +155,27 @@ void DashboardView::show(const DashboardState& state) {
     storageCard_->show(StorageCard::of(state));
     systemCard_->show(SystemCard::of(state));
     explorer_->show(ProcessExplorer::of(state));
-    lastUpdate_->show(lastUpdateText(state.snapshot.timestamp, locale()));
-    const bool isOnScreen = isVisible() && !window()->isMinimized();
-    if (!hasShownLiveData_ && isOnScreen && state.revisions.cpu > 0) {
+    lastUpdate_->show(lastUpdateText_.of(state.snapshot.timestamp, locale()));
+    if (!hasShownLiveData_ && isSeen() && state.revisions.cpu > 0) {
         hasShownLiveData_ = true;
         reportFirstLiveFrame();
     }
+}
+
+bool DashboardView::isSeen() const {
+    return isVisible() && !window()->isMinimized();
+}
+
+/// What nobody sees is not worked out either: it is shown when there is somebody to see it.
+void DashboardView::showIfSeen(const DashboardState& state) {
+    isBehind_ = !isSeen();
+    if (!isBehind_) show(state);
+}
+
+void DashboardView::catchUp() {
+    if (!isBehind_ || !isSeen()) return;
+    isBehind_ = false;
+    show(environment_.monitor->dashboardState());
 }
 
 void DashboardView::reportFirstLiveFrame() {
@@ -204,7 +189,14 @@ void DashboardView::reportFirstLiveFrame() {
 
 void DashboardView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    window()->installEventFilter(this);  // it alone is told that it is minimised no more
+    catchUp();
     environment_.monitor->start();
+}
+
+bool DashboardView::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) catchUp();
+    return QWidget::eventFilter(object, event);
 }
 
 }  // namespace vantor

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLocale>
 #include <QWidget>
 
 #include <functional>
@@ -13,6 +12,7 @@
 #include "settings/app_settings.h"
 #include "ui/app_metadata.h"
 #include "ui/dashboard/adaptive_grid.h"
+#include "ui/dashboard/last_update_text.h"
 #include "ui/drawing/ground_view.h"
 
 class QMenuBar;
@@ -30,12 +30,9 @@ class SystemCardView;
 class TextLineView;
 class VantorHorizontalFit;
 
-/// What the footer says of the last commit: its time of day, or that there has been none.
-QString lastUpdateText(Timestamp timestamp, const QLocale& locale);
-
 /// The content of the main window: header, cards, process explorer and footer in one scroll view
 /// over the theme's background. Starts the sampling when it first appears; shows whatever the
-/// monitor publishes.
+/// monitor publishes, while it can be seen.
 class DashboardView : public GroundView {
   public:
     struct Environment {
@@ -69,6 +66,7 @@ class DashboardView : public GroundView {
 
   protected:
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
     void build();
@@ -79,6 +77,9 @@ class DashboardView : public GroundView {
     QWidget* makeScrollView(QWidget* content);
     void observe();
     void show(const DashboardState& state);
+    bool isSeen() const;
+    void showIfSeen(const DashboardState& state);
+    void catchUp();
     void reportFirstLiveFrame();
 
     Environment environment_;
@@ -95,7 +96,9 @@ class DashboardView : public GroundView {
     Subscription stateObservation_;
     Subscription pauseObservation_;
     Subscription intervalObservation_;
+    LastUpdateText lastUpdateText_;
     bool hasShownLiveData_ = false;
+    bool isBehind_ = false;  ///< what it shows is not the latest
 };
 
 }  // namespace vantor

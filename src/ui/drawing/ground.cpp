@@ -1,45 +1,59 @@
 #include "ui/drawing/ground.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace vantor {
 
 namespace {
 
-constexpr int bandHeight = 32;
+constexpr int bandHeight = 16;
 
+/// One colour, or a step from one to another; levels from 0 to 255.
 struct Rgb {
-    double red, green, blue;
+    float red, green, blue;
 
-    static Rgb of(const QColor& color) { return {color.redF(), color.greenF(), color.blueF()}; }
-    Rgb towards(const Rgb& other, double share) const {
+    static Rgb of(const QColor& color) {
+        return {color.redF() * 255, color.greenF() * 255, color.blueF() * 255};
+    }
+    Rgb towards(const Rgb& other, float share) const {
         return {std::lerp(red, other.red, share), std::lerp(green, other.green, share),
                 std::lerp(blue, other.blue, share)};
     }
-    QRgb pixel() const {
-        const auto level = [](double x) { return static_cast<int>(std::lround(x * 255)); };
-        return qRgb(level(red), level(green), level(blue));
+    Rgb stepTo(const Rgb& other) const {
+        return {other.red - red, other.green - green, other.blue - blue};
     }
 };
 
-/// The gradient's colours, `place` of the way from its first corner to its last.
+/// The gradient's colours, `place` of the way from its first corner to its last. Every pixel of a
+/// window's ground asks: it is plain sums that the compiler does several at a time.
 class Stops {
   public:
-    explicit Stops(ColorScheme scheme) {
+    Stops(ColorScheme scheme, float cardOpacity) {
         const auto stops = VantorTheme::background(scheme, QRectF(0, 0, 1, 1)).stops();
-        for (std::size_t i = 0; i < colors_.size(); ++i)
-            colors_[i] = Rgb::of(stops.at(static_cast<qsizetype>(i)).second);
+        const Rgb card = Rgb::of(VantorTheme::card(scheme));
+        const auto color = [&](qsizetype i) {
+            return Rgb::of(stops.at(i).second).towards(card, cardOpacity);
+        };
+        first_ = color(0);
+        toMiddle_ = first_.stepTo(color(1));
+        toLast_ = color(1).stepTo(color(2));
     }
-    Rgb at(double place) const {
-        const double twice = std::clamp(place, 0.0, 1.0) * 2;
-        return twice < 1 ? colors_[0].towards(colors_[1], twice)
-                         : colors_[1].towards(colors_[2], twice - 1);
+    QRgb at(float place) const {
+        const float half = std::min(std::max(place * 2, 0.0F), 1.0F);
+        const float other = std::min(std::max(place * 2 - 1, 0.0F), 1.0F);
+        const auto level = [&](float from, float toMiddle, float toLast) {
+            return static_cast<QRgb>(from + half * toMiddle + other * toLast + 0.5F);
+        };
+        return 0xff000000U | level(first_.red, toMiddle_.red, toLast_.red) << 16 |
+               level(first_.green, toMiddle_.green, toLast_.green) << 8 |
+               level(first_.blue, toMiddle_.blue, toLast_.blue);
     }
 
   private:
-    std::array<Rgb, 3> colors_{};
+    Rgb first_{};
+    Rgb toMiddle_{};
+    Rgb toLast_{};
 };
 
 }  // namespace
@@ -71,17 +85,17 @@ QImage Ground::makeBand(double cardOpacity) const {
     const double height = windowSize_.height();
     const int lastBand = (windowSize_.height() - 1) / bandHeight;
     QImage band(windowSize_.width() + shiftOf(lastBand), bandHeight, QImage::Format_RGB32);
-    const Stops stops(scheme_);
-    const Rgb card = Rgb::of(VantorTheme::card(scheme_));
+    const Stops stops(scheme_, static_cast<float>(cardOpacity));
     const double length = width * width + height * height;
+    const auto step = static_cast<float>(width / length);
     for (int y = 0; y < band.height(); ++y) {
         auto* const line = reinterpret_cast<QRgb*>(band.scanLine(y));
-        const double down = (y + 0.5) * height;
-        for (int x = 0; x < band.width(); ++x) {
-            const double across = isMirrored_ ? band.width() - x - 0.5 : x + 0.5;
-            const double place = (across * width + down) / length;
-            line[x] = stops.at(place).towards(card, cardOpacity).pixel();
-        }
+        const auto down = static_cast<float>((y + 0.5) * height / length);
+        const int count = band.width();
+        const float first = isMirrored_ ? static_cast<float>(count) - 0.5F : 0.5F;
+        const float way = isMirrored_ ? -1 : 1;
+        for (int x = 0; x < count; ++x)
+            line[x] = stops.at((first + way * static_cast<float>(x)) * step + down);
     }
     return band;
 }

@@ -1,7 +1,7 @@
 #include "ui/explorer/process_table_view.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -75,9 +75,15 @@ void ProcessTableView::show(std::span<const ProcessRow> rows) {
     if (before != rows_.size()) announceRowCount();
 }
 
+/// Asked for each row at each tick, it is worked out once for each font.
 double ProcessTableView::rowHeight() const {
+    const QFont systemFont = QApplication::font();
+    if (rowHeight_ && systemFont == rowHeightFont_) return *rowHeight_;
+    rowHeightFont_ = systemFont;
     const double text = QFontMetricsF(Typography::font(nameStyle), this).height();
-    return std::ceil(std::max(text, QFontMetricsF(Typography::font(figureStyle), this).height()));
+    const double figures = QFontMetricsF(Typography::font(figureStyle), this).height();
+    rowHeight_ = std::ceil(std::max(text, figures));
+    return *rowHeight_;
 }
 
 /// The header takes the place of a row before the first one.
@@ -130,7 +136,7 @@ void ProcessTableView::copyCurrentRow() const {
     if (!current) return;
     QStringList texts = rowTexts(*current);
     texts << rows_[*current].command;
-    QGuiApplication::clipboard()->setText(texts.join(u'\t'));
+    QApplication::clipboard()->setText(texts.join(u'\t'));
 }
 
 QString ProcessTableView::accessibleValueText() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QString>
 
 #include <cstdint>
@@ -76,6 +77,8 @@ class ProcessTableView : public PaintedView {
     std::vector<Row> rows_;
     std::optional<std::int32_t> currentPID_;
     FocusRing ring_;
+    mutable std::optional<double> rowHeight_;
+    mutable QFont rowHeightFont_;  ///< the system's, when the height was worked out
 };
 
 }  // namespace vantor

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+#include "model/system_snapshot.h"
+
+namespace vantor {
+
+/// What the footer says of the last commit: its time of day to the second, or that there has been
+/// none. Keeps what does not change from one tick to the next. Main thread.
+class LastUpdateText {
+  public:
+    QString of(Timestamp timestamp, const QLocale& locale);
+
+  private:
+    void adopt(const QLocale& locale);
+    /// Seconds that the user's clocks are ahead of UTC at that moment.
+    std::int64_t offsetAt(std::int64_t second);
+
+    std::optional<QLocale> locale_;
+    QString format_;
+    std::optional<std::int64_t> minute_;  ///< since the epoch, that the offset was asked for
+    std::int64_t offset_ = 0;
+};
+
+}  // namespace vantor
