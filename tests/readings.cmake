@@ -170,6 +170,33 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         support/network_namespace.cpp)
 endif()
 
+# On every system: the frameworks of a Mac are stood in for.
+include(${CMAKE_SOURCE_DIR}/src/platform/macos/frameworks.cmake)
+if(CMAKE_SYSTEM_NAME STREQUAL "Darwin")
+    set(vantor_macos_frameworks)  # part of the core
+endif()
+vantor_add_tests(macos_platform_tests LABEL core SOURCES
+    ${vantor_macos_frameworks}
+    platform/macos/fake_core_foundation.cpp
+    platform/macos/fake_darwin.cpp
+    platform/macos/fake_event_system.cpp
+    platform/macos/fake_io_kit.cpp
+    platform/macos/fake_objective_c.cpp
+    platform/macos/fake_objects.cpp
+    platform/macos/frameworks_test.cpp
+    platform/macos/frameworks_test_support.cpp
+    platform/macos/mac_accelerators_test.cpp
+    platform/macos/mac_dynamic_store_test.cpp
+    platform/macos/mac_foundation_info_test.cpp
+    platform/macos/mac_graphics_devices_test.cpp
+    platform/macos/mac_hid_event_system_test.cpp
+    platform/macos/mac_mounted_volumes_test.cpp
+    platform/macos/mac_power_sources_test.cpp
+    platform/macos/mac_readers_test.cpp
+    platform/macos/mac_system_controller_test.cpp
+    platform/macos/property_conversion_test.cpp
+    platform/macos/retained_reference_test.cpp)
+
 vantor_add_tests(settings_tests LABEL core SOURCES
     settings/app_settings_test.cpp
     settings/appearance_test.cpp

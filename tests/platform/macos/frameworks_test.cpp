@@ -1,0 +1,169 @@
+#include "platform/macos/frameworks.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace vantor {
+namespace {
+
+using testing::Contains;
+using testing::IsEmpty;
+
+/// Libraries that are not there, with a symbol for whatever is asked for.
+struct MadeUpLibraries {
+    std::set<std::string> missingLibraries;
+    std::set<std::string> missingSymbols;
+    std::map<std::string, std::unique_ptr<std::uintptr_t>> symbols;
+    std::map<std::string, std::string> libraryOfSymbol;
+    std::set<std::string> opened;  ///< and not closed
+};
+
+MadeUpLibraries* madeUp = nullptr;
+
+LibraryLoader madeUpLoader() {
+    return {[](const char* path) -> void* {
+                if (madeUp->missingLibraries.contains(path)) return nullptr;
+                return const_cast<std::string*>(&*madeUp->opened.insert(path).first);
+            },
+            [](void* library) { madeUp->opened.erase(*static_cast<std::string*>(library)); },
+            [](void* library, const char* symbol) -> void* {
+                if (madeUp->missingSymbols.contains(symbol)) return nullptr;
+                madeUp->libraryOfSymbol[symbol] = *static_cast<std::string*>(library);
+                auto& place = madeUp->symbols[symbol];
+                if (!place) place = std::make_unique<std::uintptr_t>(madeUp->symbols.size());
+                return place.get();
+            }};
+}
+
+class FrameworksTest : public testing::Test {
+  protected:
+    FrameworksTest() { madeUp = &libraries; }
+    ~FrameworksTest() override { madeUp = nullptr; }
+
+    template <class Function>
+    std::string nameOf(Function* function) const {
+        for (const auto& [name, place] : libraries.symbols) {
+            if (reinterpret_cast<const void*>(function) == place.get()) return name;
+        }
+        return "";
+    }
+    /// The value of a constant.
+    std::uintptr_t valueOf(const std::string& name) const { return *libraries.symbols.at(name); }
+
+    MadeUpLibraries libraries;
+};
+
+TEST_F(FrameworksTest, FindsFunctionsByTheirNames) {
+    const auto found = loadFrameworks(madeUpLoader());
+    EXPECT_EQ(nameOf(found->coreFoundation.release), "CFRelease");
+    EXPECT_EQ(nameOf(found->coreFoundation.stringGetBytes), "CFStringGetBytes");
+    EXPECT_EQ(nameOf(found->coreFoundation.dictionaryGetKeysAndValues),
+              "CFDictionaryGetKeysAndValues");
+    EXPECT_EQ(nameOf(found->systemConfiguration.dynamicStoreCopyValue), "SCDynamicStoreCopyValue");
+    EXPECT_EQ(nameOf(found->ioKit.connectCallStructMethod), "IOConnectCallStructMethod");
+    EXPECT_EQ(nameOf(found->ioKit.copyPowerSourcesInfo), "IOPSCopyPowerSourcesInfo");
+    EXPECT_EQ(nameOf(found->metal.createSystemDefaultDevice), "MTLCreateSystemDefaultDevice");
+    EXPECT_EQ(nameOf(found->objectiveC.sendDouble), "objc_msgSend");
+#if defined(__x86_64__)
+    EXPECT_EQ(nameOf(found->objectiveC.sendVersion), "objc_msgSend_stret");
+#else
+    EXPECT_EQ(nameOf(found->objectiveC.sendVersion), "objc_msgSend");
+#endif
+}
+
+TEST_F(FrameworksTest, TakesTheValuesOfConstantsAndTheAddressesOfCallbacks) {
+    const auto found = loadFrameworks(madeUpLoader());
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(found->coreFoundation.volumeIsLocalKey),
+              valueOf("kCFURLVolumeIsLocalKey"));
+    EXPECT_EQ(found->coreFoundation.arrayCallBacks,
+              libraries.symbols.at("kCFTypeArrayCallBacks").get());
+    EXPECT_EQ(found->mainPort, valueOf("kIOMainPortDefault"));
+    EXPECT_EQ(found->task, valueOf("mach_task_self_"));
+}
+
+TEST_F(FrameworksTest, LeavesNothingUnfound) {
+    const auto found = loadFrameworks(madeUpLoader());
+    const auto expectWhole = [](const auto& table) {
+        for (std::size_t i = 0; i < sizeof table / sizeof(void*); ++i) {
+            const void* entry = nullptr;
+            std::memcpy(&entry, reinterpret_cast<const std::byte*>(&table) + i * sizeof entry,
+                        sizeof entry);
+            EXPECT_TRUE(entry) << i;
+        }
+    };
+    expectWhole(found->coreFoundation);
+    expectWhole(found->systemConfiguration);
+    expectWhole(found->ioKit);
+    expectWhole(found->metal);
+    expectWhole(found->objectiveC);
+}
+
+TEST_F(FrameworksTest, SeeksEachSymbolInItsFramework) {
+    loadFrameworks(madeUpLoader());
+    for (const auto& [symbol, library] : libraries.libraryOfSymbol) {
+        const std::string prefix = symbol.substr(0, 2);
+        const std::string expected = prefix == "CF" || prefix == "kC"   ? "CoreFoundation"
+                                     : prefix == "SC"                   ? "SystemConfiguration"
+                                     : prefix == "IO" || prefix == "kI" ? "IOKit"
+                                     : prefix == "MT"                   ? "Metal"
+                                     : symbol == "mach_task_self_"      ? "libSystem.B.dylib"
+                                                                        : "libobjc.A.dylib";
+        EXPECT_EQ(library.substr(library.rfind('/') + 1), expected) << symbol;
+    }
+}
+
+TEST_F(FrameworksTest, KeepsTheLibrariesAsLongAsTheFunctions) {
+    {
+        const auto found = loadFrameworks(madeUpLoader());
+        EXPECT_THAT(libraries.opened,
+                    Contains("/System/Library/Frameworks/Foundation.framework/Foundation"));
+        EXPECT_THAT(libraries.opened,
+                    Contains("/System/Library/Frameworks/CoreGraphics.framework/CoreGraphics"));
+        EXPECT_EQ(libraries.opened.size(), 8u);
+    }
+    EXPECT_THAT(libraries.opened, IsEmpty());
+}
+
+TEST_F(FrameworksTest, LosesNothingButWhatIsMissing) {
+    libraries.missingLibraries = {"/System/Library/Frameworks/Metal.framework/Metal"};
+    libraries.missingSymbols = {"kIOMainPortDefault", "mach_task_self_", "CFDataGetLength",
+                                "kCFURLVolumeIsInternalKey", "kCFTypeArrayCallBacks"};
+    const auto found = loadFrameworks(madeUpLoader());
+    EXPECT_FALSE(found->metal.copyAllDevices);
+    EXPECT_FALSE(found->metal.createSystemDefaultDevice);
+    EXPECT_EQ(found->mainPort, 0u);
+    EXPECT_EQ(found->task, 0u);
+    EXPECT_FALSE(found->coreFoundation.dataGetLength);
+    EXPECT_FALSE(found->coreFoundation.volumeIsInternalKey);
+    EXPECT_FALSE(found->coreFoundation.arrayCallBacks);
+    EXPECT_TRUE(found->coreFoundation.dataGetBytePtr);
+    EXPECT_TRUE(found->coreFoundation.volumeIsRemovableKey);
+}
+
+TEST_F(FrameworksTest, LoadsOnAnySystem) {
+    ASSERT_TRUE(loadFrameworks());
+}
+
+TEST_F(FrameworksTest, ClosesALibraryOnce) {
+    LoadedFramework first(madeUpLoader(), "/first");
+    LoadedFramework second(madeUpLoader(), "/second");
+    EXPECT_TRUE(first.find("anything"));
+    second = std::move(first);
+    EXPECT_EQ(libraries.opened, std::set<std::string>{"/first"});
+    LoadedFramework third = std::move(second);
+    EXPECT_FALSE(second);  // NOLINT(bugprone-use-after-move): that is what is tested
+    EXPECT_EQ(second.find("anything"), nullptr);
+    EXPECT_EQ(second.findConstant("anything"), nullptr);
+    EXPECT_EQ(libraries.opened, std::set<std::string>{"/first"});
+    third = LoadedFramework(madeUpLoader(), "/third");
+    EXPECT_EQ(libraries.opened, std::set<std::string>{"/third"});
+}
+
+}  // namespace
+}  // namespace vantor
