@@ -131,7 +131,9 @@ double MacHIDEventSystem::floatValue(const Functions& functions, Object event, s
 }
 
 void MacHIDEventSystem::release(Object object) {
-    if (canCreate_ && object != 0) frameworks_->coreFoundation.release(referenceOf(object));
+    if (!canCreate_ || object == 0) return;
+    const AutoreleasePool pool(frameworks_->objectiveC);
+    frameworks_->coreFoundation.release(referenceOf(object));
 }
 
 }  // namespace vantor

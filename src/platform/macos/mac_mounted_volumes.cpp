@@ -18,10 +18,10 @@ MacMountedVolumes::MacMountedVolumes(std::shared_ptr<const Frameworks> framework
 }
 
 std::optional<std::vector<MountedVolumes::Volume>> MacMountedVolumes::mountedVolumes() {
+    const AutoreleasePool pool(frameworks_->objectiveC);
     found_.clear();
     if (!canEnumerate_) return std::nullopt;
     const CoreFoundationTable& cf = frameworks_->coreFoundation;
-    const AutoreleasePool pool(frameworks_->objectiveC);
     const RetainedReference enumerator = conversion_.own(
         cf.urlEnumeratorCreateForMountedVolumes(nullptr, cfURLEnumeratorSkipInvisibles, nullptr));
     if (!enumerator) return std::nullopt;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/macos/autorelease_pool.h"
+
 namespace vantor {
 
 namespace {
@@ -20,6 +22,7 @@ MacSystemController::MacSystemController(std::shared_ptr<const Frameworks> frame
 
 SystemController::Service MacSystemController::matchingService() {
     if (!canAsk_) return 0;
+    const AutoreleasePool pool(frameworks_->objectiveC);
     const CFTypeRef matching = frameworks_->ioKit.serviceMatching("AppleSMC");
     if (!matching) return 0;
     // Takes the dictionary, also when there is no such service.

@@ -9,6 +9,7 @@
 #include <set>
 #include <span>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "platform/macos/fake_objects.h"
@@ -106,13 +107,15 @@ class FakeDarwin {
     Port* port(MachPort name, Port::Kind kind, const char* function);
     bool closePort(MachPort name) { return ports_.erase(name) == 1; }
 
-    std::vector<Ref> pools;                ///< the innermost last
+    /// Of the calling thread, the innermost last.
+    std::vector<Ref>& pools() { return pools_[std::this_thread::get_id()]; }
     std::map<std::string, Ref> constants;  ///< texts, by name
     Ref processInfoClass;
     std::set<Ref> matchedClients;
     std::recursive_mutex lock;
 
   private:
+    std::map<std::thread::id, std::vector<Ref>> pools_;
     std::map<MachPort, Port> ports_;
     MachPort lastPort_ = 1000;
 };

@@ -52,11 +52,11 @@ Object sendObject(Object receiver, Selector selector) {
     if (!answer || !*answer || call->fails()) return nullptr;
     // An only object of its class stays as it is; what else is asked for is autoreleased.
     if ((*answer)->kind == Kind::instance) return *answer;
-    if (call->pools.empty()) {
+    if (call->pools().empty()) {
         call->objects.complain("an object is autoreleased where there is no pool");
         return nullptr;
     }
-    return call->objects.copyInto(call->pools.back(), *answer);
+    return call->objects.copyInto(call->pools().back(), *answer);
 }
 
 Truth sendTruthOfSelector(Object receiver, Selector selector, Selector argument) {
@@ -69,11 +69,11 @@ Truth sendTruthOfSelector(Object receiver, Selector selector, Selector argument)
 
 void popPool(void* pool) {
     const FakeCall call;
-    if (call->pools.empty() || call->pools.back() != pool) {
+    if (call->pools().empty() || call->pools().back() != pool) {
         call->objects.complain("a pool ends that is not the innermost one");
         return;
     }
-    call->pools.pop_back();
+    call->pools().pop_back();
     call->objects.release(pool);
 }
 
@@ -93,7 +93,7 @@ ObjectiveCTable fakeObjectiveC() {
     table.autoreleasePoolPush = []() -> void* {
         const FakeCall call;
         FakeObject& pool = call->objects.create(Kind::pool);
-        call->pools.push_back(&pool);
+        call->pools().push_back(&pool);
         return &pool;
     };
     table.autoreleasePoolPop = popPool;
@@ -114,7 +114,7 @@ MetalTable fakeMetal() {
     MetalTable table;
     table.copyAllDevices = []() -> const void* {
         const FakeCall call;
-        if (call->pools.empty()) call->objects.complain("devices are asked for without a pool");
+        if (call->pools().empty()) call->objects.complain("devices are asked for without a pool");
         if (call->fails()) return nullptr;
         if (call->otherDeviceList) return call->objects.copyOut(*call->otherDeviceList);
         FakeObject& list = call->objects.create(Kind::array);
@@ -124,7 +124,7 @@ MetalTable fakeMetal() {
     };
     table.createSystemDefaultDevice = []() -> const void* {
         const FakeCall call;
-        if (call->pools.empty()) call->objects.complain("a device is asked for without a pool");
+        if (call->pools().empty()) call->objects.complain("a device is asked for without a pool");
         ++call->defaultDevicesCreated;
         if (!call->defaultDevice || call->fails()) return nullptr;
         return call->objects.copyOut(call->devices.at(*call->defaultDevice));

@@ -21,7 +21,8 @@ struct MadeUpLibraries {
     std::set<std::string> missingSymbols;
     std::map<std::string, std::unique_ptr<std::uintptr_t>> symbols;
     std::map<std::string, std::string> libraryOfSymbol;
-    std::set<std::string> opened;  ///< and not closed
+    std::map<std::string, int> searches;  ///< by symbol
+    std::set<std::string> opened;         ///< and not closed
 };
 
 MadeUpLibraries* madeUp = nullptr;
@@ -34,6 +35,7 @@ LibraryLoader madeUpLoader() {
             [](void* library) { madeUp->opened.erase(*static_cast<std::string*>(library)); },
             [](void* library, const char* symbol) -> void* {
                 if (madeUp->missingSymbols.contains(symbol)) return nullptr;
+                ++madeUp->searches[symbol];
                 madeUp->libraryOfSymbol[symbol] = *static_cast<std::string*>(library);
                 auto& place = madeUp->symbols[symbol];
                 if (!place) place = std::make_unique<std::uintptr_t>(madeUp->symbols.size());
@@ -115,6 +117,13 @@ TEST_F(FrameworksTest, SeeksEachSymbolInItsFramework) {
                                      : symbol == "mach_task_self_"      ? "libSystem.B.dylib"
                                                                         : "libobjc.A.dylib";
         EXPECT_EQ(library.substr(library.rfind('/') + 1), expected) << symbol;
+    }
+}
+
+TEST_F(FrameworksTest, SeeksNoSymbolTwice) {
+    loadFrameworks(madeUpLoader());
+    for (const auto& [symbol, times] : libraries.searches) {
+        if (symbol != "objc_msgSend") EXPECT_EQ(times, 1) << symbol;
     }
 }
 

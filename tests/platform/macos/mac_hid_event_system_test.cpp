@@ -153,10 +153,7 @@ TEST_F(MacHIDEventSystemTest, KeepsNothingOfManyReads) {
 
 TEST_F(MacHIDEventSystemTest, AnswersSeveralThreadsAtOnce) {
     std::vector<std::thread> threads;
-    // The pools of the stand-in are one thread's; the functions do without them too.
-    const auto frameworks = darwin.frameworks();
-    frameworks->objectiveC = {};
-    MacHIDEventSystem system(frameworks);
+    MacHIDEventSystem system(darwin.frameworks());
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&] {
             for (int j = 0; j < 50; ++j)

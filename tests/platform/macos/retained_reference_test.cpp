@@ -84,21 +84,21 @@ TEST_F(AutoreleasePoolTest, LetsGoOfWhatWasAutoreleasedMeanwhile) {
             EXPECT_TRUE(darwin.objects.check(name, "name"));
         }
         EXPECT_THAT(darwin.objects.complaints(), testing::IsEmpty());
-        EXPECT_EQ(darwin.pools.size(), 1u);
+        EXPECT_EQ(darwin.pools().size(), 1u);
         darwin.objects.sweep();
     }
-    EXPECT_THAT(darwin.pools, testing::IsEmpty());
+    EXPECT_THAT(darwin.pools(), testing::IsEmpty());
 }
 
 TEST_F(AutoreleasePoolTest, IsNoneWhereHalfOfItIsMissing) {
     auto frameworks = darwin.frameworks();
     frameworks->objectiveC.autoreleasePoolPop = nullptr;
     const AutoreleasePool pool(frameworks->objectiveC);
-    EXPECT_THAT(darwin.pools, testing::IsEmpty());
+    EXPECT_THAT(darwin.pools(), testing::IsEmpty());
     frameworks = darwin.frameworks();
     frameworks->objectiveC.autoreleasePoolPush = nullptr;
     const AutoreleasePool other(frameworks->objectiveC);
-    EXPECT_THAT(darwin.pools, testing::IsEmpty());
+    EXPECT_THAT(darwin.pools(), testing::IsEmpty());
 }
 
 }  // namespace
