@@ -81,8 +81,18 @@ TEST_F(FrameworksTest, FindsFunctionsByTheirNames) {
 
 TEST_F(FrameworksTest, TakesTheValuesOfConstantsAndTheAddressesOfCallbacks) {
     const auto found = loadFrameworks(madeUpLoader());
-    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(found->coreFoundation.volumeIsLocalKey),
-              valueOf("kCFURLVolumeIsLocalKey"));
+    const CoreFoundationTable& cf = found->coreFoundation;
+    const std::map<std::string, CFTypeRef> texts{
+        {"kCFURLVolumeIsLocalKey", cf.volumeIsLocalKey},
+        {"kCFURLVolumeIsBrowsableKey", cf.volumeIsBrowsableKey},
+        {"kCFURLVolumeNameKey", cf.volumeNameKey},
+        {"kCFURLVolumeTotalCapacityKey", cf.volumeTotalCapacityKey},
+        {"kCFURLVolumeAvailableCapacityKey", cf.volumeAvailableCapacityKey},
+        {"kCFURLVolumeIsInternalKey", cf.volumeIsInternalKey},
+        {"kCFURLVolumeIsRemovableKey", cf.volumeIsRemovableKey},
+        {"kCFURLVolumeIsReadOnlyKey", cf.volumeIsReadOnlyKey}};
+    for (const auto& [name, text] : texts)
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(text), valueOf(name)) << name;
     EXPECT_EQ(found->coreFoundation.arrayCallBacks,
               libraries.symbols.at("kCFTypeArrayCallBacks").get());
     EXPECT_EQ(found->mainPort, valueOf("kIOMainPortDefault"));
@@ -123,7 +133,9 @@ TEST_F(FrameworksTest, SeeksEachSymbolInItsFramework) {
 TEST_F(FrameworksTest, SeeksNoSymbolTwice) {
     loadFrameworks(madeUpLoader());
     for (const auto& [symbol, times] : libraries.searches) {
-        if (symbol != "objc_msgSend") EXPECT_EQ(times, 1) << symbol;
+        // That one is found under several types.
+        if (symbol == "objc_msgSend") continue;
+        EXPECT_EQ(times, 1) << symbol;
     }
 }
 
