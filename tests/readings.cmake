@@ -183,6 +183,7 @@ vantor_add_tests(macos_platform_tests LABEL core SOURCES
     platform/macos/fake_io_kit.cpp
     platform/macos/fake_objective_c.cpp
     platform/macos/fake_objects.cpp
+    platform/macos/fake_volumes.cpp
     platform/macos/frameworks_test.cpp
     platform/macos/frameworks_test_support.cpp
     platform/macos/mac_accelerators_test.cpp

@@ -133,6 +133,8 @@ class FakeCall {
 
 // The parts of it.
 CoreFoundationTable fakeCoreFoundation(const FakeDarwin& darwin);
+/// The functions that are about volumes, and the keys of their values.
+void addFakeVolumes(CoreFoundationTable& table, const FakeDarwin& darwin);
 IOKitTable fakeIOKit();
 ObjectiveCTable fakeObjectiveC();
 MetalTable fakeMetal();
