@@ -77,7 +77,6 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/drm_fdinfo_test.cpp
         platform/linux/engine_use_test.cpp
         platform/linux/failing_card_sensor_test.cpp
-        platform/linux/failing_file_writes_test.cpp
         platform/linux/failing_processor_sensor_test.cpp
         platform/linux/file_system_kind_test.cpp
         platform/linux/graphics_names_test.cpp
@@ -87,7 +86,6 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/link_numbers_test.cpp
         platform/linux/link_source_test.cpp
         platform/linux/linux_accelerators_test.cpp
-        platform/linux/linux_atomic_file_writer_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
         platform/linux/linux_graphics_devices_test.cpp
         platform/linux/linux_hid_event_system_test.cpp
@@ -95,7 +93,6 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_host_processors_test.cpp
         platform/linux/linux_kernel_values_test.cpp
         platform/linux/linux_load_averages_test.cpp
-        platform/linux/linux_local_calendar_test.cpp
         platform/linux/linux_mounted_volumes_test.cpp
         platform/linux/linux_network_interfaces_test.cpp
         platform/linux/linux_power_sources_test.cpp
@@ -142,6 +139,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/udev_data_test.cpp
         platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
+        platform/posix/failing_file_writes_test.cpp
+        platform/posix/posix_atomic_file_writer_test.cpp
+        platform/posix/posix_local_calendar_test.cpp
         support/burner.cpp
         support/fake_graphics.cpp
         support/fake_kernel_tree.cpp
@@ -171,12 +171,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
 endif()
 
 # On every system: the frameworks of a Mac are stood in for.
-include(${CMAKE_SOURCE_DIR}/src/platform/macos/frameworks.cmake)
-if(CMAKE_SYSTEM_NAME STREQUAL "Darwin")
-    set(vantor_macos_frameworks)  # part of the core
-endif()
 vantor_add_tests(macos_platform_tests LABEL core SOURCES
-    ${vantor_macos_frameworks}
     platform/macos/fake_core_foundation.cpp
     platform/macos/fake_darwin.cpp
     platform/macos/fake_event_system.cpp
@@ -197,6 +192,20 @@ vantor_add_tests(macos_platform_tests LABEL core SOURCES
     platform/macos/mac_system_controller_test.cpp
     platform/macos/property_conversion_test.cpp
     platform/macos/retained_reference_test.cpp)
+target_link_libraries(macos_platform_tests PRIVATE vantor_macos_logic)
+
+# What the adapter for macOS has that needs no header of its system runs here as well.
+if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
+    vantor_add_tests(macos_logic_tests LABEL core SOURCES
+        platform/macos/interface_entry_test.cpp
+        platform/macos/product_version_test.cpp)
+    target_link_libraries(macos_logic_tests PRIVATE vantor_macos_logic)
+endif()
+
+# The console program on the machine that the tests run on.
+add_test(NAME VantorProbe.HasAnAnswerOfWhatMustAnswer COMMAND vantor_probe)
+set_tests_properties(VantorProbe.HasAnAnswerOfWhatMustAnswer PROPERTIES TIMEOUT 120 LABELS core)
+add_dependencies(core_tests vantor_probe)
 
 vantor_add_tests(settings_tests LABEL core SOURCES
     settings/app_settings_test.cpp
@@ -204,5 +213,7 @@ vantor_add_tests(settings_tests LABEL core SOURCES
     settings/settings_loading_test.cpp)
 
 vantor_add_tests(house_tests LABEL core SOURCES
+    house/call_rules.cpp
+    house/calls_test.cpp
     house/floor_rules.cpp
     house/floors_test.cpp)

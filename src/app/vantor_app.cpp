@@ -36,10 +36,7 @@ constexpr auto writePatience = 3s;
 VantorApp::VantorApp(Environment environment)
     : machine_(std::move(environment.machine)),
       mainLoop_(std::make_shared<QtMainLoop>()),
-      queues_(std::make_shared<ThreadedSerialQueueFactory>([](const std::string& label) {
-          TerminationSignals::keepFromThisThread();
-          assumeUtilityRole(label);
-      })),
+      queues_(makeNativeQueueFactory([] { TerminationSignals::keepFromThisThread(); })),
       defaults_(std::make_shared<QtDefaultsStore>(environment.settingsFile)),
       settings_(
           std::make_shared<AppSettings>(defaults_, std::make_shared<QtApplicationAppearance>())),

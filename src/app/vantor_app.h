@@ -20,7 +20,7 @@
 #include "platform/export_platform.h"
 #include "platform/machine.h"
 #include "platform/main_loop.h"
-#include "platform/threads/threaded_serial_queue.h"
+#include "platform/serial_queue.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
 #include "ui/app_metadata.h"
@@ -96,7 +96,7 @@ class VantorApp : public QObject {
 
     std::shared_ptr<Machine> machine_;
     std::shared_ptr<MainLoop> mainLoop_;
-    std::shared_ptr<ThreadedSerialQueueFactory> queues_;
+    std::shared_ptr<BackgroundQueueFactory> queues_;
     std::shared_ptr<DefaultsStore> defaults_;
     std::shared_ptr<AppSettings> settings_;
     std::shared_ptr<SystemMonitor> monitor_;

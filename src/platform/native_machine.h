@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "platform/atomic_file_writer.h"
 #include "platform/local_calendar.h"
 #include "platform/machine.h"
+#include "platform/serial_queue.h"
 
 /// What the build's operating system supplies; each folder of adapters defines these once.
 namespace vantor {
@@ -24,6 +26,11 @@ void preferLittleMemory();
 /// Gives memory back that the start took and that nobody uses any more. Any thread; takes about a
 /// millisecond.
 void giveBackUnusedMemory();
+
+/// Queues of its own making. `prepareThread` is called on each thread before it runs tasks, perhaps
+/// more than once: for what the program asks of threads that are not the main one.
+std::shared_ptr<BackgroundQueueFactory> makeNativeQueueFactory(
+    std::function<void()> prepareThread = {});
 
 /// Makes the calling thread a labelled background one of utility priority.
 void assumeUtilityRole(const std::string& label);

@@ -44,7 +44,7 @@ class ProcessTable {
 
     /// Whether path and name may differ from what they were when path was last called. Systems that
     /// cannot tell say yes.
-    virtual bool mayHaveNewPath(std::int32_t /*pid*/) { return true; }
+    virtual bool mayHaveNewPath(std::int32_t pid) = 0;
 
     /// The kernel's short name; bytes written, below 1 on failure.
     virtual int name(std::int32_t pid, std::span<char> buffer) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string_view>
 
@@ -7,7 +8,7 @@
 
 namespace vantor {
 
-/// One background thread of utility priority that runs its tasks one after the other, in order.
+/// Runs its tasks one after the other, in order, in the background with utility priority.
 ///
 /// submit may be called from any thread and returns at once. Destroying the queue never waits:
 /// what was submitted still runs, and a task that hangs for ever only costs its own thread.
@@ -17,11 +18,19 @@ class SerialQueue {
     virtual void submit(Task task) = 0;
 };
 
-/// Makes queues. The label names the thread for debuggers and has no other meaning.
+/// Makes queues. The label names the queue for debuggers and has no other meaning.
 class SerialQueueFactory {
   public:
     virtual ~SerialQueueFactory() = default;
     virtual std::unique_ptr<SerialQueue> makeQueue(std::string_view label) = 0;
+};
+
+/// Makes queues that work beside the program's own threads.
+class BackgroundQueueFactory : public SerialQueueFactory {
+  public:
+    /// Waits until no queue has work or a thread any more, for which all must have been destroyed;
+    /// false when that takes longer. For orderly ends; nothing depends on it.
+    virtual bool waitForThreads(std::chrono::milliseconds limit) = 0;
 };
 
 }  // namespace vantor

@@ -19,6 +19,11 @@ std::optional<std::uint32_t> fourCC(std::string_view text);
 class SMCRecord {
   public:
     static constexpr std::size_t size = 80;
+    static constexpr std::size_t keyOffset = 0;
+    static constexpr std::size_t dataSizeOffset = 28;
+    static constexpr std::size_t dataTypeOffset = 32;
+    static constexpr std::size_t resultOffset = 40;
+    static constexpr std::size_t commandOffset = 42;
     static constexpr std::size_t valueOffset = 48;
     static constexpr std::size_t valueSize = size - valueOffset;
 
@@ -55,12 +60,6 @@ class SMCRecord {
     void clear() { bytes_.fill(std::byte{0}); }
 
   private:
-    static constexpr std::size_t keyOffset = 0;
-    static constexpr std::size_t dataSizeOffset = 28;
-    static constexpr std::size_t dataTypeOffset = 32;
-    static constexpr std::size_t resultOffset = 40;
-    static constexpr std::size_t commandOffset = 42;
-
     std::uint32_t word(std::size_t offset) const;
     void setWord(std::size_t offset, std::uint32_t word);
 

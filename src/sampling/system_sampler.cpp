@@ -53,12 +53,12 @@ void SystemSampler::invalidate() {
 template <class Operation, class Answer>
 void SystemSampler::schedule(ProviderIndex provider, double minimumInterval, bool force,
                              Operation operation, Answer completion) {
-    const auto& [queue, gate] = providers_[provider];
-    if (!gate->begin(minimumInterval, force)) return;
+    const Provider& asked = providers_[provider];
+    if (!asked.gate->begin(minimumInterval, force)) return;
     // When the sampler goes while this runs, the run is what keeps it alive; it then ends here, on
     // the provider's thread, and its queues with it: none of them waits.
-    queue->submit([weak = weak_from_this(), gate = gate, operation,
-                   completion = std::move(completion)]() mutable {
+    asked.queue->submit([weak = weak_from_this(), gate = asked.gate, operation,
+                         completion = std::move(completion)]() mutable {
         const auto sampler = weak.lock();
         if (!sampler) {
             gate->finish();

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/linux/linux_atomic_file_writer.h"
+#include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/simulated/simulated_macs.h"
 #include "sampling/played_export_platform.h"
 #include "sampling/wound_world.h"
@@ -115,7 +115,7 @@ SystemSnapshot exportSubject(const DocumentSubject& subject,
                              const std::filesystem::path& destination) {
     PlayedExportPlatform user;
     ExportPlatform platform = user.platform();
-    platform.files = std::make_shared<LinuxAtomicFileWriter>();
+    platform.files = std::make_shared<PosixAtomicFileWriter>();
     ReadingMonitor monitor(subject.machine, std::move(platform));
     monitor.read();
     subject.advance();

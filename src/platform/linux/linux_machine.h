@@ -21,6 +21,7 @@
 #include "platform/linux/linux_system_controller.h"
 #include "platform/linux/processor_sensors.h"
 #include "platform/machine.h"
+#include "platform/posix/system_wall_clock.h"
 
 namespace vantor {
 
@@ -64,13 +65,6 @@ class LinuxMachine : public Machine {
     const PlatformWords& words() const override { return words_; }
 
   private:
-    class SystemWallClock : public WallClock {
-      public:
-        std::chrono::system_clock::time_point now() const override {
-            return std::chrono::system_clock::now();
-        }
-    };
-
     // Each for both that tell of them.
     std::shared_ptr<GraphicsCards> graphicsCards_;
     std::shared_ptr<ProcessorSensors> processorSensors_;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/machine.h"
+#include "platform/macos/mac_words.h"
 #include "platform/simulated/simulated_accelerators.h"
 #include "platform/simulated/simulated_dynamic_store.h"
 #include "platform/simulated/simulated_graphics_devices.h"
@@ -109,7 +110,7 @@ class SimulatedMachine : public Machine {
     SimulatedProcessTable& processTable() override { return processTable_; }
     SimulatedSystemController& systemController() override { return systemController_; }
     SimulatedWallClock& wallClock() override { return wallClock_; }
-    const PlatformWords& words() const override { return words_; }
+    const PlatformWords& words() const override { return macWords; }
 
   private:
     std::shared_ptr<WoundClock> clock_;
@@ -128,19 +129,6 @@ class SimulatedMachine : public Machine {
     SimulatedProcessTable processTable_;
     SimulatedSystemController systemController_;
     SimulatedWallClock wallClock_;
-    PlatformWords words_{
-        .systemName = "macOS",
-        .subtitle = "Live macOS performance intelligence",
-        .unknownHardware = "Unknown Mac",
-        .noGraphicsTitle = "No Metal Device",
-        .noGraphicsMessage = "The active graphics driver did not expose a Metal device.",
-        .noVolumesMessage = "No browsable mounted volume was returned by macOS.",
-        .graphicsLoadNote = "",
-        .graphicsLoadNoteMark = "",
-        .processInterface = "libproc",
-        .graphicsInterface = "Metal",
-        .graphicsTelemetry = "Metal + IORegistry",
-        .quitKeys = "Command-Q"};
 };
 
 }  // namespace vantor

@@ -14,7 +14,7 @@ namespace vantor {
 ///
 /// The threads are detached: a probe stuck in the kernel cannot be interrupted, and a program that
 /// joined it could never quit. What a task needs it must therefore own.
-class ThreadedSerialQueueFactory : public SerialQueueFactory {
+class ThreadedSerialQueueFactory : public BackgroundQueueFactory {
   public:
     /// Called first thing on each new thread, to name it and lower its priority.
     using ThreadRole = std::function<void(const std::string& label)>;
@@ -24,9 +24,7 @@ class ThreadedSerialQueueFactory : public SerialQueueFactory {
 
     std::unique_ptr<SerialQueue> makeQueue(std::string_view label) override;
 
-    /// Waits until no queue has a thread any more, for which all must have been destroyed; false
-    /// when that takes longer. For orderly ends; nothing depends on it.
-    bool waitForThreads(std::chrono::milliseconds limit);
+    bool waitForThreads(std::chrono::milliseconds limit) override;
 
   private:
     struct Census;

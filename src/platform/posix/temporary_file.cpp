@@ -1,4 +1,4 @@
-#include "platform/linux/temporary_file.h"
+#include "platform/posix/temporary_file.h"
 
 #include <sys/random.h>
 
@@ -24,8 +24,7 @@ int untilUninterrupted(Call call) {
 
 std::string hiddenName() {
     std::array<std::uint8_t, 12> random{};
-    // The kernel gives so few bytes at once or, early in its life, not at all.
-    if (::getrandom(random.data(), random.size(), 0) < 0) return {};
+    if (::getentropy(random.data(), random.size()) != 0) return {};
     std::string name = ".vantor-";
     for (const std::uint8_t byte : random)
         (name += "0123456789abcdef"[byte >> 4]) += "0123456789abcdef"[byte & 0xF];

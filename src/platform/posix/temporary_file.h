@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/file_calls.h"
+#include "platform/posix/file_calls.h"
 
 namespace vantor {
 

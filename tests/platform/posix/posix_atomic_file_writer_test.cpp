@@ -1,4 +1,4 @@
-#include "platform/linux/linux_atomic_file_writer.h"
+#include "platform/posix/posix_atomic_file_writer.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -10,7 +10,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/linux/played_file_calls.h"
+#include "platform/posix/played_file_calls.h"
 #include "support/temporary_folder.h"
 
 namespace vantor {
@@ -35,7 +35,7 @@ class AtomicFileWriting : public testing::TestWithParam<bool> {
 
     /// The error's words, or none.
     std::string write(const fs::path& destination, std::string_view bytes = "new") {
-        LinuxAtomicFileWriter writer(calls);
+        PosixAtomicFileWriter writer(calls);
         const auto error = writer.write(destination, bytes);
         return error ? error->description : "";
     }

@@ -1,11 +1,10 @@
-#include "platform/linux/file_calls.h"
+#include "platform/posix/file_calls.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <string>
 
 namespace vantor {
 
@@ -15,10 +14,6 @@ constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
 
 }  // namespace
 
-int FileCalls::createNameless(int folder) {
-    return ::openat(folder, ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, ownerOnly);
-}
-
 int FileCalls::create(int folder, const char* name) {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     return ::openat(folder, name, flags, ownerOnly);
@@ -26,10 +21,6 @@ int FileCalls::create(int folder, const char* name) {
 
 ssize_t FileCalls::write(int file, const void* bytes, std::size_t count) {
     return ::write(file, bytes, count);
-}
-
-int FileCalls::sync(int file) {
-    return ::fsync(file);
 }
 
 int FileCalls::close(int file) {
@@ -42,12 +33,6 @@ int FileCalls::changeOwner(int file, uid_t owner, gid_t group) {
 
 int FileCalls::changeMode(int file, mode_t mode) {
     return ::fchmod(file, mode);
-}
-
-int FileCalls::link(int file, int folder, const char* name) {
-    // The way that needs no privilege.
-    const std::string open = "/proc/self/fd/" + std::to_string(file);
-    return ::linkat(AT_FDCWD, open.c_str(), folder, name, AT_SYMLINK_FOLLOW);
 }
 
 int FileCalls::rename(int folder, const char* from, const char* to) {

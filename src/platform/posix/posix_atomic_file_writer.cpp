@@ -1,47 +1,23 @@
-#include "platform/linux/linux_atomic_file_writer.h"
+#include "platform/posix/posix_atomic_file_writer.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
-#include <ctime>
 #include <optional>
 #include <string>
 #include <system_error>
 
-#include "platform/linux/file_descriptor.h"
-#include "platform/linux/file_error.h"
-#include "platform/linux/temporary_file.h"
+#include "platform/file_descriptor.h"
+#include "platform/posix/file_error.h"
+#include "platform/posix/temporary_file.h"
 
 namespace vantor {
 
 namespace {
 
 constexpr int mostLinks = 40;  // what the kernel follows, too
-
-/// While this is there, a file beyond the allowed size (ulimit -f) is an error of this thread's
-/// write, and not the end of the program.
-class NoSizeSignal {
-  public:
-    NoSizeSignal() {
-        sigemptyset(&signal_);
-        sigaddset(&signal_, SIGXFSZ);
-        ::pthread_sigmask(SIG_BLOCK, &signal_, &before_);
-    }
-    NoSizeSignal(const NoSizeSignal&) = delete;
-    NoSizeSignal& operator=(const NoSizeSignal&) = delete;
-    ~NoSizeSignal() {
-        const std::timespec noTime{};
-        if (!sigismember(&before_, SIGXFSZ)) ::sigtimedwait(&signal_, nullptr, &noTime);
-        ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
-    }
-
-  private:
-    sigset_t signal_{};
-    sigset_t before_{};
-};
 
 /// Where the data goes: an open folder and a name in it.
 struct Target {
@@ -64,12 +40,11 @@ int followLinks(std::filesystem::path& destination) {
 int openFolder(const std::filesystem::path& destination, Target& target) {
     const auto parent = destination.parent_path();
     const char* const path = parent.empty() ? "." : parent.c_str();
-    constexpr int flags = O_DIRECTORY | O_CLOEXEC;
-    target.folder = FileDescriptor(::open(path, flags | O_RDONLY));
+    target.folder = FileDescriptor(::open(path, O_DIRECTORY | O_CLOEXEC | O_RDONLY));
     if (!target.folder && errno == EACCES) {
         // One that can be written to but not listed.
         target.canSyncFolder = false;
-        target.folder = FileDescriptor(::open(path, flags | O_PATH));
+        target.folder = FileDescriptor(FileCalls::openUnlisted(path));
     }
     return target.folder ? 0 : errno;
 }
@@ -106,8 +81,9 @@ void takeOver(const struct stat& old, FileCalls& calls, int file) {
     if (now.st_uid != old.st_uid) calls.changeOwner(file, old.st_uid, sameGroup);
     mode_t mode = old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
     if (!hasGroup) {
-        const mode_t ofAll = (mode & S_IRWXO) << 3;
-        mode = (mode & ~static_cast<mode_t>(S_IRWXG)) | (mode & S_IRWXG & ofAll);
+        const auto ofAll = static_cast<mode_t>((mode & S_IRWXO) << 3);
+        const auto ofGroup = static_cast<mode_t>(mode & S_IRWXG & ofAll);
+        mode = static_cast<mode_t>((mode & ~static_cast<mode_t>(S_IRWXG)) | ofGroup);
     }
     calls.changeMode(file, mode);
 }
@@ -131,20 +107,24 @@ Outcome writeBy(TemporaryFile::Kind kind, const Target& target, std::string_view
 
 }  // namespace
 
-std::optional<DescribedError> LinuxAtomicFileWriter::write(const std::filesystem::path& destination,
-                                                           std::string_view bytes) {
-    const NoSizeSignal noSizeSignal;
+int PosixAtomicFileWriter::tryToWrite(const std::filesystem::path& destination,
+                                      std::string_view bytes) {
     Target target;
-    int error = findTarget(destination, target);
-    if (error == 0) {
-        Outcome outcome = writeBy(TemporaryFile::Kind::nameless, target, bytes, *calls_);
-        if (outcome.error != 0 && outcome.isOfItsKind)
-            outcome = writeBy(TemporaryFile::Kind::named, target, bytes, *calls_);
-        error = outcome.error;
-    }
-    if (error != 0) return describeFileError(error, destination);
+    if (const int error = findTarget(destination, target)) return error;
+    Outcome outcome = writeBy(TemporaryFile::Kind::nameless, target, bytes, *calls_);
+    if (outcome.error != 0 && outcome.isOfItsKind)
+        outcome = writeBy(TemporaryFile::Kind::named, target, bytes, *calls_);
+    if (outcome.error != 0) return outcome.error;
     // The file is in place; if the folder cannot tell the disk so now, it will do so later.
     if (target.canSyncFolder) calls_->sync(target.folder.get());
+    return 0;
+}
+
+std::optional<DescribedError> PosixAtomicFileWriter::write(const std::filesystem::path& destination,
+                                                           std::string_view bytes) {
+    int error = 0;
+    FileCalls::withoutSizeSignal([&] { error = tryToWrite(destination, bytes); });
+    if (error != 0) return describeFileError(error, destination);
     return std::nullopt;
 }
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/atomic_file_writer.h"
-#include "platform/linux/file_calls.h"
+#include "platform/posix/file_calls.h"
 
 namespace vantor {
 
@@ -18,15 +18,18 @@ namespace vantor {
 /// symbolic link stays one: what it leads to is replaced, or made. A crash can leave a hidden file
 /// ".vantor-…" behind, where the file system has no nameless files (and for the moment of the
 /// renaming).
-class LinuxAtomicFileWriter : public AtomicFileWriter {
+class PosixAtomicFileWriter : public AtomicFileWriter {
   public:
-    explicit LinuxAtomicFileWriter(std::shared_ptr<FileCalls> calls = std::make_shared<FileCalls>())
+    explicit PosixAtomicFileWriter(std::shared_ptr<FileCalls> calls = std::make_shared<FileCalls>())
         : calls_(std::move(calls)) {}
 
     std::optional<DescribedError> write(const std::filesystem::path& destination,
                                         std::string_view bytes) override;
 
   private:
+    /// Gives 0, an errno value, or notAnOrdinaryFile.
+    int tryToWrite(const std::filesystem::path& destination, std::string_view bytes);
+
     std::shared_ptr<FileCalls> calls_;
 };
 

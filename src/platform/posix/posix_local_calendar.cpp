@@ -1,10 +1,10 @@
-#include "platform/linux/linux_local_calendar.h"
+#include "platform/posix/posix_local_calendar.h"
 
 #include <ctime>
 
 namespace vantor {
 
-CalendarTime LinuxLocalCalendar::at(std::chrono::system_clock::time_point moment) const {
+CalendarTime PosixLocalCalendar::at(std::chrono::system_clock::time_point moment) const {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(moment).time_since_epoch();
     const auto instant = static_cast<std::time_t>(seconds.count());
     std::tm local{};

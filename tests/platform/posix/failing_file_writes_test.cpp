@@ -12,9 +12,9 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/file_error.h"
-#include "platform/linux/linux_atomic_file_writer.h"
-#include "platform/linux/played_file_calls.h"
+#include "platform/posix/file_error.h"
+#include "platform/posix/played_file_calls.h"
+#include "platform/posix/posix_atomic_file_writer.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
 
@@ -73,7 +73,7 @@ TEST_P(FailingFileWrite, LeavesTheOldFileAndNothingElse) {
     calls->errors[row.call] = row.error;
     const TemporaryFolder folder;
     writeFile(folder.path() / "file.json", "old");
-    LinuxAtomicFileWriter writer(calls);
+    PosixAtomicFileWriter writer(calls);
     const auto error = writer.write(folder.path() / "file.json", "new");
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description, std::string("\"file.json\" could not be saved. ") + row.reason);
@@ -88,7 +88,7 @@ TEST_P(FailingFileWrite, MakesNoFileWhereNoneWas) {
     calls->hasNamelessFiles = isNameless;
     calls->errors[row.call] = row.error;
     const TemporaryFolder folder;
-    LinuxAtomicFileWriter writer(calls);
+    PosixAtomicFileWriter writer(calls);
     EXPECT_TRUE(writer.write(folder.path() / "file.json", "new"));
     EXPECT_THAT(folder.names(), testing::IsEmpty());
 }
@@ -96,7 +96,7 @@ TEST_P(FailingFileWrite, MakesNoFileWhereNoneWas) {
 class HinderedFileWrite : public testing::Test {
   protected:
     void expectToBeWritten() {
-        LinuxAtomicFileWriter writer(calls);
+        PosixAtomicFileWriter writer(calls);
         const std::string content = "a content of some length";
         EXPECT_EQ(writer.write(folder.path() / "file.json", content), std::nullopt);
         EXPECT_EQ(contentOf(folder.path() / "file.json"), content);
@@ -115,7 +115,7 @@ TEST_F(HinderedFileWrite, GoesOnAfterEachShortOne) {
 
 TEST_F(HinderedFileWrite, EndsWhenNothingIsTakenAtAll) {
     calls->mostPerWrite = 0;
-    LinuxAtomicFileWriter writer(calls);
+    PosixAtomicFileWriter writer(calls);
     EXPECT_TRUE(writer.write(folder.path() / "file.json", "new"));
 }
 
@@ -138,7 +138,7 @@ TEST_F(HinderedFileWrite, TriesAnotherNameWhenOneIsTaken) {
 TEST_F(HinderedFileWrite, GivesUpWhenAllNamesAreTaken) {
     calls->hasNamelessFiles = false;
     calls->errors["create"] = EEXIST;
-    LinuxAtomicFileWriter writer(calls);
+    PosixAtomicFileWriter writer(calls);
     EXPECT_TRUE(writer.write(folder.path() / "file.json", "new"));
     EXPECT_LT(calls->made["create"], 100);
 }
@@ -168,7 +168,7 @@ TEST(FileSizeLimit, IsAnErrorAndNotTheProgramsEnd) {
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const rlimit small{4096, before.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const auto error = LinuxAtomicFileWriter().write(file, std::string(10'000, 'x'));
+    const auto error = PosixAtomicFileWriter().write(file, std::string(10'000, 'x'));
     ::setrlimit(RLIMIT_FSIZE, &before);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description,
@@ -181,7 +181,7 @@ TEST(FileSizeLimit, IsAnErrorAndNotTheProgramsEnd) {
 pid_t startWriter(const fs::path& file, const std::string& content) {
     const pid_t child = ::fork();
     if (child == 0) {
-        LinuxAtomicFileWriter writer;
+        PosixAtomicFileWriter writer;
         while (!writer.write(file, content)) {
         }
         ::_exit(1);
@@ -228,7 +228,7 @@ TEST(FullDisk, LeavesTheOldFileAndNothingElse) {
     const std::string complaints = onSmallDisk([](const fs::path& disk) {
         writeFile(disk / "file.json", "old");
         const auto error =
-            LinuxAtomicFileWriter().write(disk / "file.json", std::string(100'000, 'x'));
+            PosixAtomicFileWriter().write(disk / "file.json", std::string(100'000, 'x'));
         const std::string said = error ? error->description : "(nothing)";
         return complaintUnless(said == std::string("\"file.json\" could not be saved. ") + noSpace,
                                said) +
@@ -246,7 +246,7 @@ TEST(ReadOnlyDisk, IsSaid) {
             return std::string("not possible");
         std::string heard;
         for (const char* name : {"file.json", "another.json"}) {
-            const auto error = LinuxAtomicFileWriter().write(disk / name, "new");
+            const auto error = PosixAtomicFileWriter().write(disk / name, "new");
             const std::string said = error ? error->description : "(nothing)";
             heard += complaintUnless(said.ends_with(" The disk can only be read."), said);
         }

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/linux/file_calls.h"
+#include "platform/posix/file_calls.h"
 
 namespace vantor {
 

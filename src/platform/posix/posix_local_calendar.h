@@ -5,7 +5,7 @@
 namespace vantor {
 
 /// By the C library: TZ, else /etc/localtime.
-class LinuxLocalCalendar : public LocalCalendar {
+class PosixLocalCalendar : public LocalCalendar {
   public:
     CalendarTime at(std::chrono::system_clock::time_point moment) const override;
 };

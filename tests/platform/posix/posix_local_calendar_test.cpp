@@ -1,4 +1,4 @@
-#include "platform/linux/linux_local_calendar.h"
+#include "platform/posix/posix_local_calendar.h"
 
 #include <gtest/gtest.h>
 
@@ -38,17 +38,17 @@ constexpr auto centralEurope = "CET-1CEST,M3.5.0,M10.5.0/3";
 TEST(LocalCalendar, NamesASnapshotOfAFebruaryMorningByTheLocalClock) {
     const TimeZone zone(centralEurope);
     const auto moment = sys_days{February / 3 / 2026} + 8h + 5min + 7s;
-    EXPECT_EQ(snapshotFileName(LinuxLocalCalendar().at(moment)), "Vantor-2026-02-03-090507.json");
+    EXPECT_EQ(snapshotFileName(PosixLocalCalendar().at(moment)), "Vantor-2026-02-03-090507.json");
 }
 
 TEST(LocalCalendar, KnowsSummerTime) {
     const TimeZone zone(centralEurope);
-    EXPECT_EQ(LinuxLocalCalendar().at(sys_days{July / 31 / 2026} + 22h),
+    EXPECT_EQ(PosixLocalCalendar().at(sys_days{July / 31 / 2026} + 22h),
               (CalendarTime{2026, 8, 1, 0, 0, 0}));
 }
 
 TEST(LocalCalendar, FollowsAUserWhoTravels) {
-    const LinuxLocalCalendar calendar;
+    const PosixLocalCalendar calendar;
     const auto moment = sys_days{December / 31 / 2026} + 20h;
     {
         const TimeZone zone("UTC0");
@@ -60,15 +60,15 @@ TEST(LocalCalendar, FollowsAUserWhoTravels) {
 
 TEST(LocalCalendar, RoundsDownBeforeTheEpochToo) {
     const TimeZone zone("UTC0");
-    EXPECT_EQ(LinuxLocalCalendar().at(sys_days{January / 1 / 1970} - 1ms),
+    EXPECT_EQ(PosixLocalCalendar().at(sys_days{January / 1 / 1970} - 1ms),
               (CalendarTime{1969, 12, 31, 23, 59, 59}));
-    EXPECT_EQ(LinuxLocalCalendar().at(sys_days{January / 1 / 1970} + 999ms),
+    EXPECT_EQ(PosixLocalCalendar().at(sys_days{January / 1 / 1970} + 999ms),
               (CalendarTime{1970, 1, 1, 0, 0, 0}));
 }
 
 TEST(LocalCalendar, HasADayForTheEarliestMoment) {
     const TimeZone zone("UTC0");
-    EXPECT_EQ(LinuxLocalCalendar().at(system_clock::time_point::min()).year, 1677);
+    EXPECT_EQ(PosixLocalCalendar().at(system_clock::time_point::min()).year, 1677);
 }
 
 }  // namespace

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <memory>
+
+#include "app/probe/report.h"
+#include "platform/machine.h"
+#include "platform/serial_queue.h"
+
+namespace vantor {
+
+/// Has every reader read twice, a second apart, on its own queue, and reports the second reading of
+/// each as one line. Gives whether those answered that do so on any machine: processor, memory,
+/// system and processes.
+bool reportAreas(const std::shared_ptr<Machine>& machine, BackgroundQueueFactory& queues,
+                 Report& report);
+
+/// Writes a file, reads the calendar and lets the queues end; gives whether all of it worked.
+bool reportServices(std::shared_ptr<BackgroundQueueFactory> queues, Report& report);
+
+}  // namespace vantor
