@@ -194,12 +194,23 @@ vantor_add_tests(macos_platform_tests LABEL core SOURCES
     platform/macos/retained_reference_test.cpp)
 target_link_libraries(macos_platform_tests PRIVATE vantor_macos_logic)
 
-# What the adapter for macOS has that needs no header of its system runs here as well.
+# The adapter for macOS runs here as well: what needs its system's headers, on a stand-in for them.
 if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
-    vantor_add_tests(macos_logic_tests LABEL core SOURCES
+    vantor_add_tests(macos_kernel_tests LABEL core SOURCES
         platform/macos/interface_entry_test.cpp
-        platform/macos/product_version_test.cpp)
-    target_link_libraries(macos_logic_tests PRIVATE vantor_macos_logic)
+        platform/macos/kernel_calls_test.cpp
+        platform/macos/mac_queue_factory_test.cpp
+        platform/macos/played_dispatcher.cpp
+        platform/macos/played_kernel.cpp
+        platform/macos/product_version_test.cpp
+        ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_host_memory.cpp
+        ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_host_processors.cpp
+        ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_kernel_values.cpp
+        ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_load_averages.cpp
+        ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_process_table.cpp
+        ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_queue_factory.cpp)
+    target_include_directories(macos_kernel_tests BEFORE PRIVATE platform/macos/stand_in)
+    target_link_libraries(macos_kernel_tests PRIVATE vantor_macos_logic)
 endif()
 
 # The console program on the machine that the tests run on.
