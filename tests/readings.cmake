@@ -202,15 +202,17 @@ if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
         platform/macos/mac_queue_factory_test.cpp
         platform/macos/played_dispatcher.cpp
         platform/macos/played_kernel.cpp
-        platform/macos/product_version_test.cpp
+        platform/macos/product_version_test.cpp)
+    add_library(vantor_macos_kernel STATIC
         ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_host_memory.cpp
         ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_host_processors.cpp
         ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_kernel_values.cpp
         ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_load_averages.cpp
         ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_process_table.cpp
         ${CMAKE_SOURCE_DIR}/src/platform/macos/mac_queue_factory.cpp)
-    target_include_directories(macos_kernel_tests BEFORE PRIVATE platform/macos/stand_in)
-    target_link_libraries(macos_kernel_tests PRIVATE vantor_macos_logic)
+    target_include_directories(vantor_macos_kernel BEFORE PUBLIC platform/macos/stand_in)
+    target_link_libraries(vantor_macos_kernel PUBLIC vantor_macos_logic PRIVATE vantor_warnings)
+    target_link_libraries(macos_kernel_tests PRIVATE vantor_macos_kernel)
 endif()
 
 # The console program on the machine that the tests run on.

@@ -125,7 +125,7 @@ bool reportAreas(const std::shared_ptr<Machine>& machine, BackgroundQueueFactory
                         [](const std::string& text) { return text.empty() || text == "absent"; });
 }
 
-bool reportServices(std::shared_ptr<BackgroundQueueFactory> queues, Report& report) {
+bool reportServices(BackgroundQueueFactory& queues, Report& report) {
     const auto now = std::chrono::system_clock::now();
     const std::string name = snapshotFileName(makeNativeLocalCalendar()->at(now));
     report.line("local calendar, as a file's name", name);
@@ -136,7 +136,7 @@ bool reportServices(std::shared_ptr<BackgroundQueueFactory> queues, Report& repo
     report.line("atomic file writer", error ? error->description : Report::text(isWritten));
     std::error_code ignored;
     std::filesystem::remove(path, ignored);
-    const bool hasEnded = queues->waitForThreads(2s);
+    const bool hasEnded = queues.waitForThreads(2s);
     report.line("queues have ended", hasEnded);
     return isWritten && hasEnded;
 }

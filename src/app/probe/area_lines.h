@@ -15,6 +15,6 @@ bool reportAreas(const std::shared_ptr<Machine>& machine, BackgroundQueueFactory
                  Report& report);
 
 /// Writes a file, reads the calendar and lets the queues end; gives whether all of it worked.
-bool reportServices(std::shared_ptr<BackgroundQueueFactory> queues, Report& report);
+bool reportServices(BackgroundQueueFactory& queues, Report& report);
 
 }  // namespace vantor

@@ -19,7 +19,7 @@ int main() {
     const auto queues = makeNativeQueueFactory();
     const bool areasAnswer = reportAreas(machine, *queues, report);
     report.heading("Services");
-    const bool servicesWork = reportServices(queues, report);
+    const bool servicesWork = reportServices(*queues, report);
     std::cout << "\n"
               << (areasAnswer && servicesWork ? "All that must answer has answered."
                                               : "Something that must answer has not.")

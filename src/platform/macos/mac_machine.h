@@ -27,7 +27,7 @@ namespace vantor {
 /// answered_calls.cpp.
 class MacMachine final : public Machine {
   public:
-    explicit MacMachine(std::shared_ptr<const Frameworks> frameworks = loadFrameworks())
+    explicit MacMachine(const std::shared_ptr<const Frameworks>& frameworks = loadFrameworks())
         : accelerators_(frameworks),
           dynamicStore_(frameworks),
           graphicsDevices_(frameworks),
