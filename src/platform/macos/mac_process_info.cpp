@@ -74,10 +74,13 @@ std::uint64_t MacProcessInfo::physicalMemory() const {
 }
 
 void MacProcessInfo::hostName(std::string& name) const {
-    if (foundation_.hostName(name)) return;
+    // The same name as Foundation's, which may wait for a name server, again and again.
     std::array<char, 256> buffer{};
-    const bool answers = ::gethostname(buffer.data(), buffer.size() - 1) == 0;
-    name = answers && buffer[0] != '\0' ? buffer.data() : "localhost";
+    if (::gethostname(buffer.data(), buffer.size() - 1) == 0 && buffer[0] != '\0') {
+        name = buffer.data();
+    } else if (!foundation_.hostName(name)) {
+        name = "localhost";
+    }
 }
 
 ProcessInfo::Version MacProcessInfo::operatingSystemVersion() const {
