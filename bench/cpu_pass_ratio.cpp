@@ -9,13 +9,14 @@
 
 #include "stat_baseline.h"
 #include "ticking_machine.h"
+#include "verdict.h"
 
 /// Compares a processor reading with merely reading /proc/stat, both in this process and in turns,
 /// so that the machine's moods touch them alike. Exits with 1 when the reading costs too much.
 namespace vantor::bench {
 namespace {
 
-constexpr int rounds = 400;
+constexpr int wholeRounds = 400;
 constexpr int passesPerRound = 25;
 constexpr double ratioLimit = 2.0;
 
@@ -26,7 +27,7 @@ struct Row {
     std::vector<double> microseconds;  // per pass, one of each round
     std::size_t allocations = 0;
 
-    explicit Row(const char* n) : name(n) { microseconds.reserve(rounds); }
+    explicit Row(const char* n) : name(n) { microseconds.reserve(wholeRounds); }
 
     template <class Pass>
     void run(Pass pass) {
@@ -46,7 +47,8 @@ struct Row {
     }
 
     double median() {
-        const auto middle = microseconds.begin() + rounds / 2;
+        const auto middle =
+            microseconds.begin() + static_cast<std::ptrdiff_t>(microseconds.size() / 2);
         std::nth_element(microseconds.begin(), middle, microseconds.end());
         return *middle;
     }
@@ -54,7 +56,8 @@ struct Row {
 
 bool report(Row& row, double keptOpen, double opened, bool isLimited) {
     const double median = row.median();
-    const double perPass = static_cast<double>(row.allocations) / (rounds * passesPerRound);
+    const double perPass = static_cast<double>(row.allocations) /
+                           (static_cast<double>(row.microseconds.size()) * passesPerRound);
     const bool passes = !isLimited || (median <= ratioLimit * keptOpen && row.allocations == 0);
     std::printf("%-28s %9.2f %10.2f %10.2f %10.2f", row.name, median, median / keptOpen,
                 median / opened, perPass);
@@ -66,7 +69,8 @@ bool report(Row& row, double keptOpen, double opened, bool isLimited) {
     return passes;
 }
 
-int compare() {
+int compare(Form form) {
+    const int rounds = form.of(wholeRounds);
     StatBaseline baseline;
     CPUReader reader(makeTickingMachine());
     int readings = 0;
@@ -96,12 +100,14 @@ int compare() {
                 "allocs", "limit", "verdict");
     report(keptOpen, a, b, false);
     report(opened, a, b, false);
-    return report(reading, a, b, true) ? 0 : 1;
+    const bool passes = report(reading, a, b, true);
+    tellResult(reading.name, reading.median() / a, ratioLimit, passes);
+    return form.status(passes);
 }
 
 }  // namespace
 }  // namespace vantor::bench
 
-int main() {
-    return vantor::bench::compare();
+int main(int argc, char** argv) {
+    return vantor::bench::compare(vantor::bench::Form(argc, argv));
 }

@@ -15,6 +15,7 @@
 #include "sampling/counted_allocations.h"
 
 #include "graphics_tree.h"
+#include "verdict.h"
 
 /// Compares a pass over graphics cards with the bare system calls that it cannot do without: one
 /// read of each file that tells, kept open, and the links of all processes' open files once in five
@@ -22,7 +23,7 @@
 namespace vantor::bench {
 namespace {
 
-constexpr int rounds = 200;
+constexpr int wholeRounds = 200;
 constexpr int passesPerRound = 25;
 constexpr int passesPerSweep = 5;
 constexpr double ratioLimit = 1.5;
@@ -107,7 +108,8 @@ struct Row {
     void endRound() { microseconds.push_back(std::exchange(spent, 0) / passesPerRound); }
 
     double median() {
-        const auto middle = microseconds.begin() + rounds / 2;
+        const auto middle =
+            microseconds.begin() + static_cast<std::ptrdiff_t>(microseconds.size() / 2);
         std::nth_element(microseconds.begin(), middle, microseconds.end());
         return *middle;
     }
@@ -122,7 +124,8 @@ std::size_t readAll(LinuxAccelerators& accelerators) {
     return figures;
 }
 
-int compare() {
+int compare(Form form) {
+    const int rounds = form.of(wholeRounds);
     constexpr std::size_t allFigures = 5;  // four of the one, the utilisation of the other
     GraphicsTree tree;
     const auto clock = std::make_shared<SecondsClock>();
@@ -154,12 +157,13 @@ int compare() {
     std::printf("%-28s %9.2f %8.2f %8.2f %8.1f  %s\n", reading.name, pass, pass / base,
                 static_cast<double>(reading.allocations) / (rounds * passesPerRound), ratioLimit,
                 pass <= ratioLimit * base ? "ok" : "TOO MUCH");
-    return pass <= ratioLimit * base ? 0 : 1;
+    tellResult(reading.name, pass / base, ratioLimit, pass <= ratioLimit * base);
+    return form.status(pass <= ratioLimit * base);
 }
 
 }  // namespace
 }  // namespace vantor::bench
 
-int main() {
-    return vantor::bench::compare();
+int main(int argc, char** argv) {
+    return vantor::bench::compare(vantor::bench::Form(argc, argv));
 }

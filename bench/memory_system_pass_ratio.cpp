@@ -6,19 +6,21 @@
 
 #include "kept_files.h"
 #include "pass_row.h"
+#include "verdict.h"
 
 /// Compares readings of memory and of the system with merely reading the files that they are made
 /// of, in this process and in turns. Exits with 1 when one costs too much.
 namespace vantor::bench {
 namespace {
 
-constexpr int rounds = 200;
+constexpr int wholeRounds = 200;
 constexpr int passesPerRound = 25;
 constexpr double ratioLimit = 1.5;
 
 volatile std::size_t sink = 0;  // keeps results from being optimised away
 
-int compare() {
+int compare(Form form) {
+    const int rounds = form.of(wholeRounds);
     KeptFiles memoryText(memoryFiles(), std::size_t{16} * 1024);
     KeptFiles systemText(systemFiles(), 256);
     MemoryReader memory(makeNativeMachine());
@@ -48,12 +50,12 @@ int compare() {
     reportHeading();
     const bool memoryPasses = report(bareMemory, readMemory, ratioLimit, Allocations::forbidden);
     const bool systemPasses = report(bareSystem, readSystem, ratioLimit, Allocations::forbidden);
-    return memoryPasses && systemPasses ? 0 : 1;
+    return form.status(memoryPasses && systemPasses);
 }
 
 }  // namespace
 }  // namespace vantor::bench
 
-int main() {
-    return vantor::bench::compare();
+int main(int argc, char** argv) {
+    return vantor::bench::compare(vantor::bench::Form(argc, argv));
 }

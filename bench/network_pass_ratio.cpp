@@ -9,6 +9,7 @@
 #include "sampling/counted_allocations.h"
 
 #include "network_baseline.h"
+#include "verdict.h"
 
 /// Compares a network reading with merely fetching what it is made of, both in this process and in
 /// turns, so that the machine's moods touch them alike. Exits with 1 when the reading costs too
@@ -16,7 +17,7 @@
 namespace vantor::bench {
 namespace {
 
-constexpr int rounds = 200;
+constexpr int wholeRounds = 200;
 constexpr int passesPerRound = 25;
 constexpr int passesPerLookup = 5;  // of the primary interface, at a reading each second
 constexpr double ratioLimit = 1.5;
@@ -28,7 +29,7 @@ struct Row {
     std::vector<double> microseconds;  // per pass, one of each round
     std::size_t allocations = 0;
 
-    explicit Row(const char* n) : name(n) { microseconds.reserve(rounds); }
+    explicit Row(const char* n) : name(n) { microseconds.reserve(wholeRounds); }
 
     template <class Pass>
     void run(Pass pass) {
@@ -48,7 +49,8 @@ struct Row {
     }
 
     double median() {
-        const auto middle = microseconds.begin() + rounds / 2;
+        const auto middle =
+            microseconds.begin() + static_cast<std::ptrdiff_t>(microseconds.size() / 2);
         std::nth_element(microseconds.begin(), middle, microseconds.end());
         return *middle;
     }
@@ -56,7 +58,8 @@ struct Row {
 
 bool report(Row& row, double baseline, bool isLimited) {
     const double median = row.median();
-    const double perPass = static_cast<double>(row.allocations) / (rounds * passesPerRound);
+    const double perPass = static_cast<double>(row.allocations) /
+                           (static_cast<double>(row.microseconds.size()) * passesPerRound);
     const bool passes = !isLimited || (median <= ratioLimit * baseline && row.allocations == 0);
     std::printf("%-28s %9.2f %10.2f %10.2f", row.name, median, median / baseline, perPass);
     if (isLimited) {
@@ -67,7 +70,8 @@ bool report(Row& row, double baseline, bool isLimited) {
     return passes;
 }
 
-int compare() {
+int compare(Form form) {
+    const int rounds = form.of(wholeRounds);
     NetworkBaseline baseline;
     NetworkReader reader(makeNativeMachine());
     double uptime = 0;
@@ -100,12 +104,14 @@ int compare() {
     std::printf("%-28s %9s %10s %10s %8s  %s\n", "pass", "us", "/bare", "allocs", "limit",
                 "verdict");
     report(bare, a, false);
-    return report(reading, a, true) ? 0 : 1;
+    const bool passes = report(reading, a, true);
+    tellResult(reading.name, reading.median() / a, ratioLimit, passes);
+    return form.status(passes);
 }
 
 }  // namespace
 }  // namespace vantor::bench
 
-int main() {
-    return vantor::bench::compare();
+int main(int argc, char** argv) {
+    return vantor::bench::compare(vantor::bench::Form(argc, argv));
 }

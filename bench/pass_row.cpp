@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "verdict.h"
+
 namespace vantor::bench {
 
 namespace {
@@ -43,6 +45,7 @@ bool report(const PassRow& bare, const PassRow& reading, double limit, Allocatio
     const bool passes =
         reading.median() <= limit * baseline && (mayAllocate || reading.allocations() == 0.0);
     std::printf(" %6.1f  %s\n", limit, passes ? "ok" : "TOO MUCH");
+    tellResult(reading.name(), reading.median() / baseline, limit, passes);
     return passes;
 }
 

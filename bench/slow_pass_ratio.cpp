@@ -12,13 +12,14 @@
 
 #include "pass_row.h"
 #include "slow_baseline.h"
+#include "verdict.h"
 
 /// Compares readings of the volumes and of a notebook's two batteries with merely asking for what
 /// they are made of, in this process and in turns. Exits with 1 when one costs too much.
 namespace vantor::bench {
 namespace {
 
-constexpr int rounds = 200;
+constexpr int wholeRounds = 200;
 constexpr int passesPerRound = 10;
 constexpr double ratioLimit = 1.5;
 
@@ -48,7 +49,8 @@ void makeNotebook(const FakeKernelTree& tree) {
     }
 }
 
-int compare() {
+int compare(Form form) {
+    const int rounds = form.of(wholeRounds);
     const FakeKernelTree tree;
     makeNotebook(tree);
     StorageReader storage(makeNativeMachine());
@@ -91,12 +93,12 @@ int compare() {
     reportBeside(spaceAlone, bareStorage);
     const bool storagePasses = report(bareStorage, readStorage, ratioLimit, Allocations::allowed);
     const bool powerPasses = report(barePower, readPower, ratioLimit, Allocations::allowed);
-    return storagePasses && powerPasses ? 0 : 1;
+    return form.status(storagePasses && powerPasses);
 }
 
 }  // namespace
 }  // namespace vantor::bench
 
-int main() {
-    return vantor::bench::compare();
+int main(int argc, char** argv) {
+    return vantor::bench::compare(vantor::bench::Form(argc, argv));
 }

@@ -87,7 +87,9 @@ bool differInDigitsOnly(const QString& one, const QString& other) {
 }
 
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics) {
-    const double digitWidth = widestDigit(metrics);
+    // Ten digits to measure: not for the many texts that have none.
+    const bool hasDigits = std::any_of(text.begin(), text.end(), isDigit);
+    const double digitWidth = hasDigits ? widestDigit(metrics) : 0;
     double width = 0;
     forEachRun(text, [&](const QString& run, bool digit) {
         width += digit ? digitWidth : metrics.horizontalAdvance(run);

@@ -71,6 +71,45 @@ TEST_F(DashboardViewTest, ShowingItDuringAPauseDoesNotEndThePause) {
     EXPECT_FALSE(world.monitor->isMonitoring());
 }
 
+TEST_F(DashboardViewTest, NothingIsWorkedOutWhileItIsHiddenAndAllIsThereWhenItIsShown) {
+    world.open();
+    world.goLive();
+    const std::string before = footer();
+    const auto gauge = card().gauge().gauge();
+    world.view->setVisible(false);
+    world.machine->hostProcessors().growth = {60, 20, 20, 0};
+    world.advance(5s);
+    EXPECT_EQ(footer(), before);
+    EXPECT_EQ(card().gauge().gauge(), gauge);
+    world.view->setVisible(true);
+    EXPECT_NE(footer(), before);
+    EXPECT_EQ(utf8(card().gauge().gauge().title), "80%");
+}
+
+TEST_F(DashboardViewTest, AMinimisedWindowCatchesUpWhenItIsRestored) {
+    world.open();
+    world.goLive();
+    const std::string before = footer();
+    world.view->setWindowState(Qt::WindowMinimized);
+    world.advance(5s);
+    EXPECT_EQ(footer(), before);
+    world.view->setWindowState(Qt::WindowNoState);
+    EXPECT_NE(footer(), before);
+}
+
+TEST_F(DashboardViewTest, WhatIsPublishedUnseenDuringAPauseIsShownToo) {
+    world.open();
+    world.goLive();
+    const std::string before = footer();
+    world.view->setVisible(false);
+    world.monitor->togglePause();
+    world.advance(1s);
+    world.monitor->forceRefresh();
+    world.advance(1s);
+    world.view->setVisible(true);
+    EXPECT_NE(footer(), before);
+}
+
 TEST_F(DashboardViewTest, EverythingWaitsBeforeTheFirstCommit) {
     world.open();
     EXPECT_EQ(footer(), "Collecting live data\u2026");

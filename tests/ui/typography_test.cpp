@@ -48,5 +48,14 @@ TEST(Typography, AllDigitsAreAsWideAsTheWidest) {
                      Typography::digitTextWidth(QStringLiteral("888.8%"), metrics));
 }
 
+TEST(Typography, TextsThatDifferInDigitsOnlyAreEquallyWide) {
+    EXPECT_TRUE(Typography::differInDigitsOnly(QStringLiteral("Updated 09:05:07"),
+                                               QStringLiteral("Updated 23:58:41")));
+    EXPECT_FALSE(Typography::differInDigitsOnly(QStringLiteral("9.9%"), QStringLiteral("10.1%")));
+    EXPECT_FALSE(Typography::differInDigitsOnly(QStringLiteral("1 AM"), QStringLiteral("1 PM")));
+    EXPECT_FALSE(Typography::differInDigitsOnly(QStringLiteral("1x"), QStringLiteral("x1")));
+    EXPECT_TRUE(Typography::differInDigitsOnly(QString(), QString()));
+}
+
 }  // namespace
 }  // namespace vantor

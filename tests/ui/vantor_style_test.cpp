@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QPushButton>
 
+#include "ui/product_icon.h"
 #include "ui/rendering.h"
 #include "ui/theme.h"
 
@@ -80,6 +81,21 @@ TEST_F(VantorStyleTest, BackAndForwardAreMirrored) {
     QApplication::setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(drawn(QStyle::SP_ArrowBack), forward);
     EXPECT_EQ(drawn(QStyle::SP_ArrowForward), back);
+}
+
+TEST_F(VantorStyleTest, AFieldIsClearedWithTheProgramsOwnSymbol) {
+    const QColor text = QApplication::palette().color(QPalette::ButtonText);
+    EXPECT_GT(pixelsLike(drawn(QStyle::SP_LineEditClearButton), everywhere, text), 30);
+}
+
+TEST_F(VantorStyleTest, TheProductsIconIsItsTileAtEachSize) {
+    for (const int side : {16, 24, 32, 48, 64}) {
+        const QImage tile = productIcon().pixmap(QSize(side, side), 1.0).toImage();
+        EXPECT_EQ(tile.size(), QSize(side, side));
+        EXPECT_GT(pixelsLike(tile, tile.rect(), Qt::white), side / 10) << side;
+        EXPECT_EQ(tile.pixelColor(side / 4, side / 4).alpha(), 255) << side;
+    }
+    EXPECT_EQ(productIcon().availableSizes().size(), 5);
 }
 
 TEST_F(VantorStyleTest, WhatItHasNoSymbolForIsTheToolkitsOwn) {
