@@ -222,7 +222,7 @@ def main():
     program = desktop.start(PROGRAM)
     looks = []
     try:
-        time.sleep(4)
+        time.sleep(8)  # by then its icon is in the tray, too
         if not desktop.windows():
             sys.exit("vantor: no window came up")
         user = User(desktop)
