@@ -1,5 +1,6 @@
 vantor_add_tests(model_tests LABEL core SOURCES
     model/equality_test.cpp
+    model/number_text_test.cpp
     model/placeholders_test.cpp
     model/record_coding_test.cpp
     model/record_values_test.cpp

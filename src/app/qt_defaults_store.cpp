@@ -52,12 +52,19 @@ QString toQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-template <class T>
-std::optional<T> wholeNumber(const std::string& text) {
-    T number{};
+std::optional<std::int64_t> wholeNumber(const std::string& text) {
+    std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
     return number;
+}
+
+/// The toolkit's own reading, whatever the locale, for a text that is nothing but a number.
+std::optional<double> floatingNumber(const QString& text) {
+    if (text.startsWith(u'+') || text.trimmed() != text) return std::nullopt;
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
 }
 
 /// An ini file holds texts only; what such a text can be read as is its type.
@@ -65,8 +72,8 @@ DefaultsStore::Value typed(const QString& text) {
     const std::string bytes = text.toStdString();
     if (bytes == "true") return true;
     if (bytes == "false") return false;
-    if (const auto whole = wholeNumber<std::int64_t>(bytes)) return *whole;
-    if (const auto number = wholeNumber<double>(bytes)) return *number;
+    if (const auto whole = wholeNumber(bytes)) return *whole;
+    if (const auto number = floatingNumber(text)) return *number;
     return bytes;
 }
 

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "model/number_text.h"
 #include "model/record_coding.h"
 #include "model/record_fields.h"
 #include "model/utf8.h"
@@ -74,7 +75,7 @@ class DocumentWriter {
         } else if constexpr (std::floating_point<T>) {
             return writeFloating(value, place);
         } else if constexpr (std::integral<T>) {
-            writeCharacters(value);
+            writeWhole(value);
         } else if constexpr (std::same_as<T, Timestamp>) {
             writeText(encodeTimestamp(value));
         } else if constexpr (std::same_as<T, SharedText>) {
@@ -162,14 +163,12 @@ class DocumentWriter {
         out_.append(2 * level_, ' ');
     }
 
-    template <class Number>
-    std::string_view writeCharacters(Number number) {
-        std::array<char, 32> characters;  // no number needs more than 25
+    template <std::integral Number>
+    void writeWhole(Number number) {
+        std::array<char, 24> characters;  // no number needs more than 20
         const auto end =
             std::to_chars(characters.data(), characters.data() + characters.size(), number).ptr;
-        const std::size_t before = out_.size();
         out_.append(characters.data(), end);
-        return std::string_view(out_).substr(before);
     }
 
     bool writeFloating(double value, const Place* place) {
@@ -179,7 +178,9 @@ class DocumentWriter {
                          ", and a JSON document can hold finite numbers only.";
             return false;
         }
-        const std::string_view written = writeCharacters(value);
+        std::array<char, 32> characters;
+        const std::string_view written = shortestText(characters, value);
+        out_ += written;
         if (written.find_first_of(".e") == std::string_view::npos) out_ += ".0";
         return true;
     }

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
+#include <string_view>
 
+#include "model/number_text.h"
 #include "ui/byte_count_formatter.h"
 
 namespace vantor::Formatters {
@@ -55,10 +56,9 @@ QString fixed(double value, int precision) {
     // The toolkit rounds exact halves up, where printf rounds them to even.
     constexpr std::size_t mostDigits = std::numeric_limits<double>::max_exponent10 + 32;
     std::array<char, mostDigits> digits{};
-    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                            std::chars_format::fixed, precision);
-    if (error != std::errc{}) return QString::number(value, 'f', precision);
-    return QString::fromLatin1(digits.data(), end - digits.data());
+    const std::string_view text = fixedText(digits, value, precision);
+    if (text.empty()) return QString::number(value, 'f', precision);
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 }  // namespace vantor::Formatters
