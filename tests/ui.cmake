@@ -64,14 +64,17 @@ target_link_libraries(instance_program PRIVATE vantor_app vantor_warnings)
 
 vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURCES
     app/app_delegate_test.cpp
+    app/app_commands_test.cpp
     app/appearance_test.cpp
     app/damaged_store_test.cpp
+    app/dock_reopen_test.cpp
     app/launch_stabilizer_test.cpp
     app/local_claim_test.cpp
     app/menu_bar_test.cpp
     app/qt_alerts_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
+    app/qt_menu_bar_extras_test.cpp
     app/qt_save_dialogs_test.cpp
     app/single_instance_test.cpp
     app/stored_settings_test.cpp
@@ -84,6 +87,13 @@ target_compile_definitions(app_tests PRIVATE
     VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_QUITTING_PROGRAM="$<TARGET_FILE:quitting_program>")
 add_dependencies(app_tests ending_program instance_program quitting_program)
+
+# What is chosen on a Mac is compiled wherever the tests are.
+if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
+    add_library(vantor_mac_desktop OBJECT ${CMAKE_SOURCE_DIR}/src/app/mac_desktop.cpp)
+    target_link_libraries(vantor_mac_desktop PRIVATE vantor_app vantor_warnings)
+    add_dependencies(app_tests vantor_mac_desktop)
+endif()
 
 # Takes what the components look like now for what they are meant to look like. To be reviewed
 # picture by picture before it is committed.

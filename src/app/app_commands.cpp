@@ -1,6 +1,7 @@
 #include "app/app_commands.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -23,7 +24,7 @@ QString flatStyle() {
 
 }  // namespace
 
-AppCommands::AppCommands(Actions actions)
+AppCommands::AppCommands(Actions actions, bool sharesMenuBar)
     : about_(add(QStringLiteral("About Vantor"), {}, actions.about)),
       refresh_(add(QStringLiteral("Refresh Now"), {QStringLiteral("Ctrl+R"), QStringLiteral("F5")},
                    actions.refresh)),
@@ -35,7 +36,12 @@ AppCommands::AppCommands(Actions actions)
     about_->setMenuRole(QAction::AboutRole);
     settings_->setMenuRole(QAction::PreferencesRole);
     quit_->setMenuRole(QAction::QuitRole);
+    if (!sharesMenuBar) return;
+    sharedBar_ = std::make_unique<QMenuBar>();
+    fill(*sharedBar_, closing(sharedBar_.get()));
 }
+
+AppCommands::~AppCommands() = default;
 
 QAction* AppCommands::add(const QString& title, const std::vector<QString>& keys,
                           const std::function<void()>& run) {
@@ -52,25 +58,33 @@ QAction* AppCommands::add(const QString& title, const std::vector<QString>& keys
 QAction* AppCommands::closing(QWidget* window) {
     auto* action = makeChild<QAction>(window, QStringLiteral("Close Window"));
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+W")));
-    connect(action, &QAction::triggered, window, [window] { window->window()->close(); });
+    const bool isShared = window == sharedBar_.get();
+    connect(action, &QAction::triggered, window, [window, isShared] {
+        if (QWidget* const open = isShared ? QApplication::activeWindow() : window->window())
+            open->close();
+    });
     return action;
 }
 
 QMenuBar* AppCommands::makeMenuBar(QWidget* window) {
     auto* bar = makeChild<QMenuBar>(window);
     bar->setStyleSheet(flatStyle());
-    QMenu* const file = bar->addMenu(QStringLiteral("&File"));
+    fill(*bar, closing(window));
+    return bar;
+}
+
+void AppCommands::fill(QMenuBar& bar, QAction* closing) {
+    QMenu* const file = bar.addMenu(QStringLiteral("&File"));
     file->addAction(refresh_);
     file->addAction(export_);
     file->addSeparator();
     file->addAction(settings_);
     file->addSeparator();
-    file->addAction(closing(window));
+    file->addAction(closing);
     file->addAction(quit_);
-    QMenu* const help = bar->addMenu(QStringLiteral("&Help"));
+    QMenu* const help = bar.addMenu(QStringLiteral("&Help"));
     help->addAction(help_);
     help->addAction(about_);
-    return bar;
 }
 
 void AppCommands::addTo(QWidget* window) {

@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QAction;
@@ -12,7 +13,8 @@ class QWidget;
 namespace vantor {
 
 /// The program's menu commands with their keys, the same in each window. On desktops that have one
-/// menu bar for all programs the toolkit moves them there.
+/// menu bar for all programs the toolkit moves them there; some have it for windows alone, and some
+/// for the program as a whole. Main thread.
 class AppCommands : public QObject {
   public:
     struct Actions {
@@ -24,7 +26,12 @@ class AppCommands : public QObject {
         std::function<void()> quit;
     };
 
-    explicit AppCommands(Actions actions);
+    /// Where all windows share one menu bar, it is made at once and belongs to none of them.
+    explicit AppCommands(Actions actions, bool sharesMenuBar = false);
+    ~AppCommands() override;
+
+    /// Null where each window has its own.
+    QMenuBar* sharedMenuBar() const { return sharedBar_.get(); }
 
     /// The menu bar of the main window, to be put into it by the caller.
     QMenuBar* makeMenuBar(QWidget* window);
@@ -38,6 +45,7 @@ class AppCommands : public QObject {
     QAction* add(const QString& title, const std::vector<QString>& keys,
                  const std::function<void()>& run);
     QAction* closing(QWidget* window);
+    void fill(QMenuBar& bar, QAction* closing);
 
     std::vector<QAction*> all_;  // owned by this object, as its children
     QAction* about_;
@@ -46,6 +54,7 @@ class AppCommands : public QObject {
     QAction* settings_;
     QAction* help_;
     QAction* quit_;
+    std::unique_ptr<QMenuBar> sharedBar_;
 };
 
 }  // namespace vantor

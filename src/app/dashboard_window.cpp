@@ -15,7 +15,11 @@ DashboardWindow::DashboardWindow(DashboardView::Environment environment, AppComm
     const auto mainLoop = environment.mainLoop;
     dashboard_ = makeChild<DashboardView>(this, std::move(environment));
     MainWindowLaunchStabilizer(mainLoop, std::move(onLiveResize), this);
-    dashboard_->setMenuBar(commands.makeMenuBar(dashboard_));
+    if (commands.sharedMenuBar()) {
+        commands.addTo(this);
+    } else {
+        dashboard_->setMenuBar(commands.makeMenuBar(dashboard_));
+    }
     setWindowTitle(QStringLiteral("Vantor"));
     setWindowIcon(productIcon());
     setMinimumSize(smallestSize);

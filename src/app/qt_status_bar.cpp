@@ -1,6 +1,5 @@
 #include "app/qt_status_bar.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -14,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "app/status_menu.h"
 #include "ui/components/make_child.h"
 #include "ui/product_icon.h"
 
@@ -63,20 +63,7 @@ class QtStatusBar::Item : public StatusItem {
     }
 
   private:
-    void fill() {
-        menu_.clear();
-        for (const StatusMenuEntry& entry : content_.menu()) {
-            if (entry.title.isEmpty()) {
-                menu_.addSeparator();
-                continue;
-            }
-            QAction* const action = menu_.addAction(entry.title);
-            action->setEnabled(entry.action != nullptr);
-            QObject::connect(
-                action, &QAction::triggered, &menu_, [run = entry.action] { run(); },
-                Qt::QueuedConnection);
-        }
-    }
+    void fill() { fillStatusMenu(menu_, content_.menu()); }
 
     QtStatusBar& bar_;
     StatusItemContent content_;

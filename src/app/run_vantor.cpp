@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <memory>
 
+#include "app/desktop.h"
 #include "app/qt_defaults_store.h"
 #include "app/qt_export_platform.h"
-#include "app/qt_status_bar.h"
 #include "app/session_end.h"
 #include "app/single_instance.h"
 #include "app/termination_signals.h"
@@ -38,8 +38,8 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     installViewAccessibility();
 
     const auto vantor =
-        makeVantorApp({machine, QtDefaultsStore::userFile(), std::make_shared<QtStatusBar>(),
-                       [] { QApplication::quit(); }, makeQtExportPlatform()});
+        makeVantorApp({machine, QtDefaultsStore::userFile(), makeNativeStatusBar(),
+                       [] { QApplication::quit(); }, makeQtExportPlatform(), nativeDesktopWays()});
     instance->setOnActivate([&](const QString& token) { vantor->reopen(token); });
     const TerminationSignals terminationSignals([] { QApplication::quit(); });
     const SessionEnd sessionEnd(application, [&] { vantor->saveState(); });

@@ -49,7 +49,10 @@ QString sessionBusAddress() {
 QString privateRuntimeFolder() {
     QString ofSession = runtimeFolderOfSession();
     if (isPrivateFolder(ofSession)) return ofSession;
-    const QString own = QDir::tempPath() + QStringLiteral("/vantor-%1").arg(::geteuid());
+    // The shorter a path is the better: it may have to fit into a socket's address.
+    QString temporary = QDir::tempPath();
+    if (isPrivateFolder(temporary)) return temporary;
+    const QString own = temporary + QStringLiteral("/vantor-%1").arg(::geteuid());
     ::mkdir(QFile::encodeName(own).constData(), 0700);
     // Whether it was made just now or is somebody's trap, this tells.
     return isPrivateFolder(own) ? own : QString();

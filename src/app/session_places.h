@@ -9,8 +9,9 @@ namespace vantor {
 /// that would start a bus or another program, or go to a network.
 QString sessionBusAddress();
 
-/// A folder that the user alone may enter: the runtime folder of the session, else one that is made
-/// among the temporary files. Empty where neither is to be had.
+/// A folder that the user alone may enter: the runtime folder of the session, else that of
+/// temporary files where each user has one, else one that is made in it. Empty where none is to be
+/// had.
 QString privateRuntimeFolder();
 
 /// What the program's windows are on, as the environment tells it; the screen number, which means

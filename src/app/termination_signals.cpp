@@ -82,9 +82,10 @@ void TerminationSignals::install(std::chrono::nanoseconds sameRequest) {
     struct sigaction action {};
     action.sa_handler = handle;
     action.sa_flags = SA_RESTART;
-    ::sigemptyset(&action.sa_mask);
+    // Macros on some systems: so without the colons.
+    sigemptyset(&action.sa_mask);
     for (const int number : numbers)
-        ::sigaddset(&action.sa_mask, number);
+        sigaddset(&action.sa_mask, number);
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         ::sigaction(numbers[i], nullptr, &former_[i]);
         if (former_[i].sa_handler != SIG_IGN) ::sigaction(numbers[i], &action, nullptr);
@@ -99,9 +100,9 @@ void TerminationSignals::read() {
 
 void TerminationSignals::keepFromThisThread() {
     sigset_t set;
-    ::sigemptyset(&set);
+    sigemptyset(&set);
     for (const int number : numbers)
-        ::sigaddset(&set, number);
+        sigaddset(&set, number);
     ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
 }
 

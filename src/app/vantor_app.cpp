@@ -52,13 +52,16 @@ VantorApp::VantorApp(Environment environment)
                      if (monitor_) monitor_->forceRefresh();
                  },
                  [this] { monitor_->exportSnapshot(); }, [this] { openSettings(); },
-                 [this] { openHelp(); }, quit_}) {
+                 [this] { openHelp(); }, quit_},
+                environment.desktop.hasOneMenuBar) {
     frames_ =
         std::make_shared<QtDefaultsStore>(WindowGeometry::fileBeside(environment.settingsFile));
     // Whether the last window ends the program is asked each time.
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowClosed(); });
     statusBar_->listen([this] { statusBarChanged(); });
+    if (environment.desktop.reopensByActivation)
+        dockReopen_ = std::make_unique<DockReopen>([this] { reopen({}); });
 }
 
 VantorApp::~VantorApp() {
@@ -172,6 +175,7 @@ void VantorApp::statusBarChanged() {
 bool VantorApp::shutDown(std::chrono::milliseconds patience) {
     cancelTask(wayBackTask_);
     statusBar_->listen({});
+    dockReopen_.reset();
     disconnect(qApp, nullptr, this, nullptr);
     menuBar_.reset();
     settingsWindow_.reset();

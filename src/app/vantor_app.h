@@ -13,6 +13,8 @@
 #include "app/build_info.h"
 #include "app/content_window.h"
 #include "app/dashboard_window.h"
+#include "app/desktop.h"
+#include "app/dock_reopen.h"
 #include "app/menu_bar_controller.h"
 #include "app/status_bar.h"
 #include "app/vantor_help_window.h"
@@ -38,6 +40,7 @@ class VantorApp : public QObject {
         std::shared_ptr<StatusBar> statusBar;
         std::function<void()> quit;
         ExportPlatform exportPlatform{};  ///< without one, Export does nothing
+        DesktopWays desktop{};
     };
 
     VantorApp(const VantorApp&) = delete;
@@ -114,6 +117,7 @@ class VantorApp : public QObject {
     QPointer<QMessageBox> about_;            // while it is open
     std::shared_ptr<MainTask> wayBackTask_;  // while a tray that was there is waited for
     bool hasClosedWithoutTray_ = false;
+    std::unique_ptr<DockReopen> dockReopen_;  // where there is a dock
 };
 
 /// The variant that suits the machine's system.

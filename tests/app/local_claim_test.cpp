@@ -253,9 +253,19 @@ TEST_F(SessionPlacesTest, OrTheSocketWhereItUsuallyIs) {
     EXPECT_EQ(sessionBusAddress(), QStringLiteral("unix:path=") + file.fileName());
 }
 
+TEST_F(SessionPlacesTest, AFolderOfTemporaryFilesThatIsTheUsersAloneIsUsedAsItIs) {
+    QTemporaryDir temporary;
+    qputenv("TMPDIR", QFile::encodeName(temporary.path()) + '/');
+    qunsetenv("XDG_RUNTIME_DIR");
+    EXPECT_EQ(privateRuntimeFolder(), temporary.path());
+    ASSERT_EQ(::chmod(QFile::encodeName(temporary.path()).constData(), 0750), 0);
+    EXPECT_NE(privateRuntimeFolder(), temporary.path());
+}
+
 TEST_F(SessionPlacesTest, AFolderThatOthersMayEnterIsNotUsed) {
     EXPECT_EQ(privateRuntimeFolder(), folder.path());
     QTemporaryDir temporary;
+    ASSERT_EQ(::chmod(QFile::encodeName(temporary.path()).constData(), 0755), 0);
     qputenv("TMPDIR", QFile::encodeName(temporary.path()));
     const QString own = temporary.filePath(QStringLiteral("vantor-%1").arg(::geteuid()));
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
