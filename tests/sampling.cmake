@@ -38,7 +38,7 @@ foreach(end hanging_end hanging_volumes_end busy_end)
 endforeach()
 
 # A program of its own, because it replaces operator new; the sanitizers replace it themselves.
-if(NOT VANTOR_SANITIZE)
+if(NOT VANTOR_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(allocation_tests LABEL core SOURCES
         sampling/allocation_test.cpp
         sampling/counted_allocations.cpp

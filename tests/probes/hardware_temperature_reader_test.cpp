@@ -15,6 +15,7 @@
 #include "platform/simulated/simulated_macs.h"
 #include "probes/gpu_temperature.h"
 #include "sampling/named_row.h"
+#include "support/joined_threads.h"
 #include "support/patient_threads.h"
 
 namespace vantor {
@@ -235,10 +236,10 @@ int askAtOnce(const SharedSensors& shared, int rounds, std::chrono::milliseconds
         }
     };
     {
-        std::vector<std::jthread> threads;
+        JoinedThreads threads;
         for (int i = 0; i < 2; ++i) {
-            threads.emplace_back(processor);
-            threads.emplace_back(graphics);
+            threads.start(processor);
+            threads.start(graphics);
         }
     }
     return wrong;
@@ -265,13 +266,13 @@ TEST(HardwareTemperatureReader, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
     const auto sources = GPUTemperatureSources::of(reader);
     std::atomic<int> wrong{0};
     {
-        std::vector<std::jthread> threads;
+        JoinedThreads threads;
         for (int thread = 0; thread < 2; ++thread) {
-            threads.emplace_back([&] {
+            threads.start([&] {
                 for (int i = 0; i < rounds; ++i)
                     if (reader->cpuTemperature() != 61.5) ++wrong;
             });
-            threads.emplace_back([&] {
+            threads.start([&] {
                 for (int i = 0; i < rounds; ++i)
                     if (hardwareGPUTemperature(sources) != 52.75) ++wrong;
             });

@@ -4,10 +4,10 @@
 #include <future>
 #include <memory>
 #include <optional>
-#include <thread>
 #include <type_traits>
 #include <utility>
-#include <vector>
+
+#include "support/joined_threads.h"
 
 namespace vantor {
 
@@ -22,14 +22,14 @@ class PatientThreads {
         auto promise = std::make_shared<std::promise<Answer>>();
         // Other than that of std::async, this future's end waits for nobody.
         std::future<Answer> answer = promise->get_future();
-        threads_.emplace_back(
+        threads_.start(
             [promise = std::move(promise), call = std::move(call)] { promise->set_value(call()); });
         const bool isThere = answer.wait_for(limit) == std::future_status::ready;
         return isThere ? std::optional<Answer>(answer.get()) : std::nullopt;
     }
 
   private:
-    std::vector<std::jthread> threads_;
+    JoinedThreads threads_;
 };
 
 }  // namespace vantor
