@@ -1,0 +1,13 @@
+# Makes the program a bundle that a Mac's Finder can start: Vantor.app.
+set(VANTOR_INFO_PLIST ${CMAKE_BINARY_DIR}/packaging/Info.plist)
+configure_file(${CMAKE_SOURCE_DIR}/packaging/macos/Info.plist.in ${VANTOR_INFO_PLIST} @ONLY)
+
+function(vantor_make_bundle target)
+    set(icon ${CMAKE_SOURCE_DIR}/packaging/macos/Vantor.icns)
+    set_source_files_properties(${icon} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+    target_sources(${target} PRIVATE ${icon})
+    set_target_properties(${target} PROPERTIES
+        MACOSX_BUNDLE ON
+        MACOSX_BUNDLE_INFO_PLIST ${VANTOR_INFO_PLIST}
+        OUTPUT_NAME Vantor)
+endfunction()
