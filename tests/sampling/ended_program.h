@@ -10,6 +10,9 @@
 #include <cstdlib>
 #include <string>
 
+// Not every system's header declares it.
+extern "C" char** environ;
+
 namespace vantor {
 
 /// A program whose output is read until it has ended.
