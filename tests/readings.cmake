@@ -96,7 +96,6 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_load_averages_test.cpp
         platform/linux/linux_mounted_volumes_test.cpp
         platform/linux/linux_network_interfaces_test.cpp
-        platform/linux/linux_power_sources_test.cpp
         platform/linux/linux_process_info_test.cpp
         platform/linux/linux_process_table_listing_test.cpp
         platform/linux/linux_process_table_names_test.cpp
@@ -125,14 +124,11 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/pid_listing_test.cpp
         platform/linux/power_supply_test.cpp
         platform/linux/proc_stat_test.cpp
-        platform/linux/process_census_test.cpp
         platform/linux/process_stat_test.cpp
         platform/linux/processor_sensor_names_test.cpp
-        platform/linux/processor_sensors_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
         platform/linux/runtime_status_test.cpp
-        platform/linux/silent_file_system_test.cpp
         platform/linux/sleeping_graphics_card_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp
@@ -164,6 +160,18 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         set_property(SOURCE platform/linux/nvml_library_test.cpp APPEND PROPERTY
             COMPILE_DEFINITIONS FAKE_NVML${variant}_FILE="$<TARGET_FILE:${library}>")
     endforeach()
+    # Those of them with threads.
+    vantor_add_tests(linux_thread_tests LABEL core SOURCES
+        platform/linux/linux_power_sources_test.cpp
+        platform/linux/process_census_test.cpp
+        platform/linux/processor_sensors_test.cpp
+        platform/linux/silent_file_system_test.cpp
+        support/burner.cpp
+        support/fake_kernel_tree.cpp
+        support/live_child.cpp
+        support/opened_files.cpp
+        support/private_mounts.cpp)
+    vantor_add_failing_reads(linux_thread_tests)
     # A program of its own: its process leaves the network namespace that it was started in.
     vantor_add_tests(network_namespace_tests LABEL core SOURCES
         platform/linux/network_changes_test.cpp
