@@ -11,7 +11,8 @@ import time
 
 PROGRAM, MINUTES, APART = sys.argv[1], float(sys.argv[2]), sys.argv[3] != "0"
 SCREEN = (1366, 900)
-SETTLING = 20.0  # seconds until the program has been everywhere once
+# Seconds until the program has been everywhere once; in a long run until its caches are full.
+SETTLING = max(20.0, min(300.0, MINUTES * 60 / 4))
 LOOK_EVERY = 2.0
 PAGE = 4  # kilobytes
 OPENBOX = """<?xml version="1.0"?>
