@@ -1,14 +1,11 @@
-#include <atomic>
-#include <chrono>
 #include <cstdio>
-#include <semaphore>
 #include <string>
-#include <thread>
 #include <variant>
 #include <vector>
 
 #include "model/snapshot_document.h"
-#include "platform/threads/threaded_serial_queue.h"
+#include "platform/simulated/manual_serial_queue.h"
+#include "probes/cpu_reader.h"
 #include "sampling/commit.h"
 #include "sampling/system_sampler.h"
 
@@ -16,8 +13,8 @@
 #include "ticking_machine.h"
 #include "verdict.h"
 
-/// Compares what a reading meets on its way to the views with the bare work that is in it: going to
-/// a thread and back, copying the list of 3,000 processes, and writing a document of them. In this
+/// Compares what a reading meets on its way to the views with the bare work that is in it: the
+/// reading itself, copying the list of 3,000 processes, and writing a document of them. In this
 /// process and in turns. Exits with 1 when one costs too much.
 namespace vantor::bench {
 namespace {
@@ -29,34 +26,6 @@ constexpr double commitLimit = 1.5;
 constexpr double documentLimit = 1.3;
 
 volatile std::size_t sink = 0;  // keeps results from being optimised away
-
-/// A thread that does nothing but answer.
-class Echo {
-  public:
-    void ask() {
-        asked_.release();
-        answered_.acquire();
-    }
-    ~Echo() {
-        ends_ = true;
-        asked_.release();
-        thread_.join();
-    }
-
-  private:
-    void run() {
-        for (;;) {
-            asked_.acquire();
-            if (ends_) return;
-            answered_.release();
-        }
-    }
-
-    std::binary_semaphore asked_{0};
-    std::binary_semaphore answered_{0};
-    std::atomic<bool> ends_ = false;
-    std::thread thread_{[this] { run(); }};
-};
 
 ProcessSample makeSample() {
     ProcessSample sample;
@@ -114,27 +83,29 @@ class Commits {
 
 int compare(Form form) {
     const ProcessSample sample = makeSample();
-    Echo echo;
-    ThreadedSerialQueueFactory queues;
+    // A queue that is run by hand: how long a thread takes to wake depends on which processor it
+    // last ran on, and by a factor of thirty.
+    ManualSerialQueueFactory queues;
     const auto sampler = SystemSampler::make(makeTickingMachine(), queues);
-    std::binary_semaphore answered{0};
+    CPUReader reader(makeTickingMachine());
+    std::size_t answers = 0;
     Commits commits(sample);
     std::vector<ProcessStats> copy = sample.all;
     SystemSnapshot snapshot = commits.state().snapshot;
     snapshot.timestamp = Timestamp{};
     std::string text;
 
-    PassRow bareAsking("a thread and back", 20);
-    PassRow asking("request to completion (processor)", 20);
+    PassRow bareAsking("the reading of the processor alone", 20);
+    PassRow asking("request to completion", 20);
     PassRow bareCopy("the list of processes, twice", 2);
     PassRow commit("a commit of all processes", 2);
     PassRow bareText("as many members by printf", 1);
     PassRow document("the snapshot's document", 1);
     const auto round = [&] {
-        bareAsking.run([&] { echo.ask(); });
+        bareAsking.run([&] { answers += reader.read() != nullptr ? 1 : 0; });
         asking.run([&] {
-            sampler->requestCPU(0.5, true, [&](const CPUStats*) { answered.release(); });
-            answered.acquire();
+            sampler->requestCPU(0.5, true, [&](const CPUStats*) { ++answers; });
+            queues.runWaiting();
         });
         bareCopy.run([&] {
             copy = sample.all;
@@ -152,8 +123,9 @@ int compare(Form form) {
         row->forget();
     for (int i = 0; i < form.of(wholeRounds); ++i)
         round();
+    sink = answers;
     reportHeading();
-    const bool asks = report(bareAsking, asking, requestLimit, Allocations::forbidden);
+    const bool asks = report(bareAsking, asking, requestLimit, Allocations::allowed);
     const bool commitsWell = report(bareCopy, commit, commitLimit, Allocations::allowed);
     const bool writes = report(bareText, document, documentLimit, Allocations::allowed);
     return form.status(asks && commitsWell && writes);
