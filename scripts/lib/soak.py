@@ -198,8 +198,9 @@ def verdict(name, seen, allowed, passes):
 def judge(looks):
     memory = [(at / 60, kilobytes) for at, (kilobytes, _, _) in looks]
     growth = slope(lowest(memory, min(20, max(4, len(memory) // 6))))
-    # What a slope is worth depends on how long it was watched: a few pages come and go at any time.
-    allowed = PAGE + 60 * PAGE / (memory[-1][0] - memory[0][0])
+    # One page a minute, if it was watched for long. In a few minutes caches still fill, by some
+    # hundred kilobytes in all, and a slope tells of a coarse leak only.
+    allowed = PAGE + 150 * PAGE / (memory[-1][0] - memory[0][0]) ** 2
     half = len(looks) // 2
     print("%-44s %-30s %-22s %s" % ("", "seen", "allowed", "verdict"))
     good = [verdict("memory of its own, kilobytes a minute", "%.1f (%d to %d in all)" % (
