@@ -11,6 +11,7 @@ add_executable(vantor_e2e_tests
     e2e/lifecycle_test.cpp
     e2e/main.cpp
     e2e/program_test.cpp
+    e2e/running_program.cpp
     e2e/small_screen_test.cpp
     e2e/tray_test.cpp
     e2e/wayland_test.cpp

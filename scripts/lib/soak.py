@@ -36,11 +36,18 @@ class Desktop:
                     "XDG_RUNTIME_DIR": folder, "LANG": "C.UTF-8"}
         reader, writer = os.pipe()
         self.start("Xvfb", "-displayfd", str(writer), "-screen", "0", "%dx%dx24" % SCREEN, "-nolisten", "tcp",
-                   pass_fds=(writer,))
+                   "-noreset", pass_fds=(writer,))
         self.env["DISPLAY"] = ":" + os.read(reader, 16).decode().strip()
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
         self.env["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
-        self.start("openbox")
+        # A window that asks to be shown before it is ready never is.
+        self.start("openbox", "--startup", "touch '%s/window-manager-is-ready'" % folder)
+        for _ in range(200):
+            if os.path.exists(folder + "/window-manager-is-ready"):
+                break
+            time.sleep(0.05)
+        else:
+            raise SystemExit("the window manager did not start")
         # At the bottom in the middle.
         self.start("trayer", "--edge", "bottom", "--align", "center", "--widthtype", "request", "--height", "24")
         time.sleep(1)

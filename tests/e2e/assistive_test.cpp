@@ -5,6 +5,7 @@
 
 #include "e2e/assistive_client.h"
 #include "e2e/desktop.h"
+#include "e2e/running_program.h"
 
 /// The program as a screen reader meets it, on the real accessibility bus.
 namespace vantor {

@@ -2,19 +2,12 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QRegularExpression>
+#include <QFile>
 #include <QThread>
 
-#include <algorithm>
 #include <cmath>
 
-#include "ui/theme.h"
-
 namespace vantor {
-
-namespace {
-
-constexpr int toolPatience = 15'000;
 
 bool isNear(QRgb pixel, const QColor& color) {
     constexpr int tolerance = 14;
@@ -23,7 +16,14 @@ bool isNear(QRgb pixel, const QColor& color) {
            std::abs(qBlue(pixel) - color.blue()) <= tolerance;
 }
 
-}  // namespace
+QString stateOf(QProcess& process) {
+    process.waitForFinished(0);  // takes notice of its end
+    if (process.state() != QProcess::NotRunning) return QStringLiteral("runs");
+    return QStringLiteral("%1 with %2")
+        .arg(process.exitStatus() == QProcess::CrashExit ? QStringLiteral("crashed")
+                                                         : QStringLiteral("ended"),
+             QString::number(process.exitCode()));
+}
 
 bool eventually(const std::function<bool()>& isSo, int milliseconds) {
     QElapsedTimer clock;
@@ -48,9 +48,12 @@ int countColor(const QImage& picture, const QRect& area, const QColor& color) {
 
 Desktop::Desktop(QSize screen) : environment_(QProcessEnvironment::systemEnvironment()) {
     const QString size = QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height());
+    // Unless it is told not to, it starts anew when its last client leaves, and throws out who was
+    // just coming.
     server_.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                   QStringLiteral("0"), size, QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+                   QStringLiteral("0"), size, QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                   QStringLiteral("-noreset")});
     if (!server_.waitForReadyRead(toolPatience)) return;
     const QString number = QString::fromLatin1(server_.readLine()).trimmed();
     environment_.insert(QStringLiteral("DISPLAY"), u':' + number);
@@ -65,27 +68,17 @@ Desktop::Desktop(QSize screen) : environment_(QProcessEnvironment::systemEnviron
     QDir().mkpath(home_.filePath(QStringLiteral("config/vantor")));
     windowManager_.setProcessEnvironment(environment_);
     windowManager_.setStandardErrorFile(QProcess::nullDevice());
-    // A display server that has just started may still turn away who comes first.
-    for (int attempts = 3; attempts > 0 && !isUp_; --attempts)
-        isUp_ = startWindowManager();
+    isUp_ = startWindowManager();
 }
 
 bool Desktop::startWindowManager() {
-    windowManager_.start(QStringLiteral("openbox"), QStringList());
-    const bool hasStarted = windowManager_.waitForStarted(toolPatience);
-    const auto isManaging = [this] {
-        return run(QStringLiteral("xprop"),
-                   {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
-            .contains(u'#');
-    };
-    const auto hasEnded = [this] { return windowManager_.waitForFinished(0); };
-    bool managing = false;
-    if (hasStarted) eventually([&] { return (managing = isManaging()) || hasEnded(); });
-    if (!managing) {
-        windowManager_.kill();
-        windowManager_.waitForFinished(toolPatience);
-    }
-    return managing;
+    // It announces itself long before it is ready, and never shows a window that asks in between;
+    // what it starts itself, it starts when it is.
+    const QString sign = home_.filePath(QStringLiteral("window-manager-is-ready"));
+    windowManager_.start(QStringLiteral("openbox"),
+                         {QStringLiteral("--startup"), QStringLiteral("touch '%1'").arg(sign)});
+    return windowManager_.waitForStarted(toolPatience) &&
+           eventually([&] { return QFile::exists(sign); });
 }
 
 QString Desktop::startSessionBus() {
@@ -178,91 +171,14 @@ QString Desktop::activeTitle() const {
         .trimmed();
 }
 
-RunningProgram::RunningProgram(const Desktop& desktop, QStringList through) : desktop_(desktop) {
-    process_.setProcessEnvironment(desktop.environment());
-    process_.setProcessChannelMode(QProcess::ForwardedChannels);
-    through.append(QStringLiteral(VANTOR_PROGRAM));
-    const QString first = through.takeFirst();
-    process_.start(first, through);
-    process_.waitForStarted(toolPatience);
-}
-
-RunningProgram::~RunningProgram() {
-    if (!isRunning()) return;
-    process_.kill();
-    process_.waitForFinished(3000);
-}
-
-bool RunningProgram::waitForEnd(int milliseconds) {
-    return process_.waitForFinished(milliseconds) || !isRunning();
-}
-
-QString RunningProgram::window() const {
-    const QString list = desktop_.run(
-        QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST")});
-    auto ids = QRegularExpression(QStringLiteral("0x[0-9a-f]+")).globalMatch(list);
-    while (ids.hasNext()) {
-        const QString id = ids.next().captured();
-        const QString name = desktop_.run(QStringLiteral("xprop"),
-                                          {QStringLiteral("-id"), id, QStringLiteral("WM_CLASS")});
-        if (name.contains(QStringLiteral("\"vantor\""))) return id;
-    }
-    return {};
-}
-
-QRect RunningProgram::windowArea() const {
-    const QString text =
-        desktop_.run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), window()});
-    const auto number = [&](const QString& name) {
-        const auto match = QRegularExpression(name + QStringLiteral(":\\s+(-?\\d+)")).match(text);
-        return match.captured(1).toInt();
-    };
-    return {number(QStringLiteral("Absolute upper-left X")),
-            number(QStringLiteral("Absolute upper-left Y")), number(QStringLiteral("Width")),
-            number(QStringLiteral("Height"))};
-}
-
-bool RunningProgram::isActive() const {
-    const QString active = desktop_.run(
-        QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_ACTIVE_WINDOW")});
-    const QString id = window();
-    return !id.isEmpty() && active.contains(id);
-}
-
-bool RunningProgram::hasOpenMenu() const {
-    const QString list = desktop_.run(QStringLiteral("xdotool"),
-                                      {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                       QStringLiteral("--class"), QStringLiteral("vantor")});
-    return list.count(u'\n') >= 2;
-}
-
-bool RunningProgram::waitForLiveData() {
-    return eventually(
-        [this] {
-            const QString id = window();
-            if (id.isEmpty()) return false;
-            const QString name =
-                desktop_.run(QStringLiteral("xprop"),
-                             {QStringLiteral("-id"), id, QStringLiteral("_NET_WM_ICON_NAME")});
-            return name.contains(QStringLiteral("= \"Vantor\"\n"));
-        },
-        30'000);
-}
-
-QRect RunningProgram::focusedButton() const {
-    const QImage picture = desktop_.picture();
-    const QRect area = windowArea();
-    // Of the focus ring's colour; a chart or a dot of it would be lower in the window.
-    const QRect header(area.topLeft(), QSize(area.width(), std::min(area.height(), 170)));
-    QRect found;
-    for (int y = header.top(); y <= header.bottom(); ++y) {
-        for (int x = header.left(); x <= header.right(); ++x) {
-            if (picture.rect().contains(x, y) && isNear(picture.pixel(x, y), VantorTheme::blue())) {
-                found = found.united(QRect(x, y, 1, 1));
-            }
-        }
-    }
-    return found;
+QString Desktop::condition() {
+    return QStringLiteral("server %1, window manager %2\n%3%4")
+        .arg(
+            stateOf(server_), stateOf(windowManager_),
+            run(QStringLiteral("xwininfo"), {QStringLiteral("-root"), QStringLiteral("-children")}),
+            run(QStringLiteral("xprop"),
+                {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST"),
+                 QStringLiteral("_NET_ACTIVE_WINDOW")}));
 }
 
 }  // namespace vantor

@@ -13,6 +13,9 @@
 
 namespace vantor {
 
+/// Milliseconds that a tool may take.
+constexpr int toolPatience = 15'000;
+
 /// A virtual display with a window manager, and a home folder that nobody else uses.
 class Desktop {
   public:
@@ -55,6 +58,10 @@ class Desktop {
     /// The title of the window that has the keyboard.
     QString activeTitle() const;
 
+    /// Whether server and window manager still run, and all windows there are: for who has to find
+    /// out why something did not happen.
+    QString condition();
+
     /// A file in the home folder.
     QString path(const QString& name) const { return home_.filePath(name); }
 
@@ -70,43 +77,14 @@ class Desktop {
     bool isUp_ = false;
 };
 
-/// The program under test, on a desktop.
-class RunningProgram {
-  public:
-    /// Starts it, through another program if one is named: with its arguments, the last of which
-    /// is then the file of the program under test. That other one has to become it (exec).
-    explicit RunningProgram(const Desktop& desktop, QStringList through = {});
-    ~RunningProgram();
-
-    /// Until it has a window and has drawn live figures.
-    bool waitForLiveData();
-    bool isRunning() const { return process_.state() == QProcess::Running; }
-    bool waitForEnd(int milliseconds);
-    void terminate() { process_.terminate(); }
-    qint64 processId() const { return process_.processId(); }
-    int exitStatus() const { return process_.exitCode(); }
-    bool endedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }
-
-    /// The id of its first window that is on the screen, empty while it has none.
-    QString window() const;
-    QRect windowArea() const;
-
-    /// Whether the keyboard is the window's.
-    bool isActive() const;
-
-    /// Whether it has more windows than its first: a menu is one.
-    bool hasOpenMenu() const;
-
-    /// The button that shows the keyboard's focus, as a place on the screen; empty when none does.
-    QRect focusedButton() const;
-
-  private:
-    const Desktop& desktop_;
-    QProcess process_;
-};
-
 /// Asks again and again until it is so; false when it is not after `milliseconds`.
 bool eventually(const std::function<bool()>& isSo, int milliseconds = 10'000);
+
+/// Whether a pixel has about that colour.
+bool isNear(QRgb pixel, const QColor& color);
+
+/// Whether it still runs, or how it ended.
+QString stateOf(QProcess& process);
 
 /// How many pixels of `area` have about that colour.
 int countColor(const QImage& picture, const QRect& area, const QColor& color);

@@ -10,6 +10,7 @@
 
 #include "e2e/assistive_client.h"
 #include "e2e/desktop.h"
+#include "e2e/running_program.h"
 
 namespace vantor {
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "e2e/desktop.h"
+#include "e2e/running_program.h"
 
 namespace vantor {
 

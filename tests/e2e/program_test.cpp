@@ -7,6 +7,7 @@
 #include "ui/theme.h"
 
 #include "e2e/desktop.h"
+#include "e2e/running_program.h"
 
 namespace vantor {
 namespace {

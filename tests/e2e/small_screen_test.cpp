@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "e2e/desktop.h"
+#include "e2e/running_program.h"
 
 namespace vantor {
 namespace {
 
 TEST(ProgramOnASmallScreen, FitsTheScreen) {
-    const Desktop desktop({1024, 640});
+    Desktop desktop({1024, 640});
     ASSERT_TRUE(desktop.isUp());
     RunningProgram program(desktop);
     ASSERT_TRUE(program.waitForLiveData());
