@@ -4,7 +4,7 @@ find_path(VANTOR_QT_FOLDER QtWidgets/QWidget
     PATHS /usr/include /usr/local/include
     PATH_SUFFIXES x86_64-linux-gnu/qt6 aarch64-linux-gnu/qt6 qt6
     NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
-foreach(part Core DBus Gui Svg Test Widgets)
+foreach(part Core DBus Gui Test Widgets)
     add_library(Qt6::${part} INTERFACE IMPORTED)
     target_include_directories(Qt6::${part} SYSTEM INTERFACE
         ${VANTOR_QT_FOLDER} ${VANTOR_QT_FOLDER}/Qt${part})
@@ -12,9 +12,7 @@ endforeach()
 foreach(part DBus Gui)
     target_link_libraries(Qt6::${part} INTERFACE Qt6::Core)
 endforeach()
-foreach(part Svg Widgets)
-    target_link_libraries(Qt6::${part} INTERFACE Qt6::Gui)
-endforeach()
+target_link_libraries(Qt6::Widgets INTERFACE Qt6::Gui)
 
 function(qt_add_resources sources)
     set(none ${CMAKE_BINARY_DIR}/borrowed/no_resources.cpp)

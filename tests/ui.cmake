@@ -1,3 +1,6 @@
+# Against which the program's own drawings are compared.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Svg)
+
 # What tests of widgets share: the main that makes the toolkit's application, and looking at pixels.
 add_library(vantor_widget_testing STATIC
     ui/main.cpp
@@ -8,7 +11,7 @@ target_compile_definitions(vantor_widget_testing PRIVATE
     VANTOR_TESTS_DIR="${CMAKE_SOURCE_DIR}/tests" VANTOR_BUILD_DIR="${CMAKE_BINARY_DIR}")
 target_link_libraries(vantor_widget_testing PUBLIC vantor_ui GTest::gmock PRIVATE vantor_warnings)
 
-vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
+vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/accessibility_test.cpp
     ui/app_metadata_test.cpp
     ui/byte_count_formatter_test.cpp
@@ -34,6 +37,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/menu_picker_test.cpp
     ui/metric_row_test.cpp
     ui/mirrored_test.cpp
+    ui/path_data_test.cpp
     ui/picture_test.cpp
     ui/pixels_test.cpp
     ui/process_explorer_test.cpp
@@ -53,7 +57,8 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui SOURCES
     ui/theme_test.cpp
     ui/typography_test.cpp
     ui/usage_bar_test.cpp
-    ui/vantor_style_test.cpp)
+    ui/vantor_style_test.cpp
+    ui/vector_drawing_test.cpp)
 
 add_executable(quitting_program app/quitting_program.cpp)
 target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)

@@ -1,10 +1,14 @@
 #include "ui/product_icon.h"
 
 #include <QIconEngine>
+#include <QLinearGradient>
 #include <QPainter>
-#include <QSvgRenderer>
 
+#include <algorithm>
 #include <memory>
+
+#include "ui/drawing/vector_drawing.h"
+#include "ui/theme.h"
 
 namespace vantor {
 
@@ -15,7 +19,17 @@ namespace {
 class TileEngine : public QIconEngine {
   public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
-        QSvgRenderer(QStringLiteral(":/vantor.svg")).render(painter, rect);
+        const auto drawing = VectorDrawing::ofResource(QStringLiteral(":/vantor.svg"));
+        if (!drawing) return;
+        QRectF square(0, 0, std::min(rect.width(), rect.height()), 0);
+        square.setHeight(square.width());
+        square.moveCenter(QRectF(rect).center());
+        QLinearGradient tile;
+        tile.setCoordinateMode(QGradient::ObjectMode);
+        tile.setFinalStop(1, 1);
+        tile.setColorAt(0, VantorTheme::cyan());
+        tile.setColorAt(1, VantorTheme::purple());
+        drawing->paint(*painter, square, tile, Qt::white);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {

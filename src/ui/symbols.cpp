@@ -1,12 +1,13 @@
 #include "ui/symbols.h"
 
-#include <QFile>
 #include <QPixmap>
 #include <QPixmapCache>
-#include <QSvgRenderer>
+#include <QResource>
 
 #include <algorithm>
 #include <cmath>
+
+#include "ui/drawing/vector_drawing.h"
 
 namespace vantor::Symbols {
 
@@ -17,12 +18,13 @@ QString pathOf(const QString& name) {
 }
 
 QPixmap render(const QString& name, int devicePixels, const QColor& color) {
+    const auto drawing = VectorDrawing::ofResource(pathOf(name));
+    if (!drawing) return {};
     QPixmap pixmap(devicePixels, devicePixels);
     pixmap.fill(Qt::transparent);
-    QSvgRenderer renderer(pathOf(name));
-    if (!renderer.isValid()) return {};
     QPainter painter(&pixmap);
-    renderer.render(&painter);
+    drawing->paint(painter, QRectF(pixmap.rect()), Qt::black, Qt::black);
+    // Coloured as a whole, since parts of a translucent drawing would show through each other.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(pixmap.rect(), color);
     return pixmap;
@@ -31,7 +33,7 @@ QPixmap render(const QString& name, int devicePixels, const QColor& color) {
 }  // namespace
 
 bool exists(const QString& name) {
-    return QFile::exists(pathOf(name));
+    return QResource(pathOf(name)).isValid();
 }
 
 void draw(QPainter& painter, const QRectF& area, const QString& name, const QColor& color) {

@@ -63,6 +63,10 @@ Symbol symbolOf(QStyle::StandardPixmap icon) {
         // The toolkit's own is looked for in all icon themes of the disk first.
         case QStyle::SP_LineEditClearButton:
             return {QStringLiteral("xmark.circle"), {}};
+        // A menu bar asks for it at once, and the toolkit's own has it load its plugins for every
+        // kind of picture there is.
+        case QStyle::SP_ToolBarHorizontalExtensionButton:
+            return {isMirrored ? left : right, {}};
         default:
             return {};
     }

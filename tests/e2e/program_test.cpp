@@ -68,6 +68,14 @@ TEST_F(Program, OpensAtItsDefaultSizeAndDrawsLiveFigures) {
     EXPECT_TRUE(showsInHeader(VantorTheme::green())) << "the status pill is not live";
 }
 
+TEST_F(Program, LoadsNoneOfTheToolkitsPluginsForPictures) {
+    start();
+    const QByteArray mapped = read(QStringLiteral("/proc/%1/maps").arg(program_->processId()));
+    ASSERT_TRUE(mapped.contains("/platforms/"));
+    EXPECT_FALSE(mapped.contains("/imageformats/"));
+    EXPECT_FALSE(mapped.contains("/iconengines/"));
+}
+
 TEST_F(Program, PausesAndResumesByKeyboard) {
     start();
     tabTo(pauseStop);

@@ -88,6 +88,11 @@ TEST_F(VantorStyleTest, AFieldIsClearedWithTheProgramsOwnSymbol) {
     EXPECT_GT(pixelsLike(drawn(QStyle::SP_LineEditClearButton), everywhere, text), 30);
 }
 
+TEST_F(VantorStyleTest, AMenuBarThatIsTooNarrowGoesOnWithTheProgramsOwnSymbol) {
+    const QImage more = drawn(QStyle::SP_ToolBarHorizontalExtensionButton);
+    EXPECT_EQ(more, drawn(QStyle::SP_ArrowForward));
+}
+
 TEST_F(VantorStyleTest, TheProductsIconIsItsTileAtEachSize) {
     for (const int side : {16, 24, 32, 48, 64}) {
         const QImage tile = productIcon().pixmap(QSize(side, side), 1.0).toImage();
