@@ -10,7 +10,8 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t firstBufferSize = std::size_t{16} * 1024;
+// A page: most such files are far smaller, and every kept file has its buffer.
+constexpr std::size_t firstBufferSize = std::size_t{4} * 1024;
 constexpr std::size_t largestBufferSize = std::size_t{16} * 1024 * 1024;
 
 ssize_t readFromStart(int fd, std::vector<char>& buffer) {

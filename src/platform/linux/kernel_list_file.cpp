@@ -10,7 +10,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t firstBufferSize = std::size_t{16} * 1024;
+constexpr std::size_t firstBufferSize = std::size_t{4} * 1024;
 
 }  // namespace
 

@@ -44,7 +44,7 @@ FileDescriptor NetlinkDump::openRouteSocket() {
 
 bool NetlinkDump::dump(std::span<std::byte> request, Receiver& receiver) {
     if (request.size() < sizeof(nlmsghdr)) return false;
-    if (buffer_.empty()) buffer_.resize(firstBufferSize);
+    if (!buffer_) makeBuffer(firstBufferSize);
     Outcome outcome = Outcome::again;
     for (int attempt = 0; attempt < attempts && outcome == Outcome::again; ++attempt) {
         if (!socket_) socket_ = openSocket_();
@@ -55,6 +55,11 @@ bool NetlinkDump::dump(std::span<std::byte> request, Receiver& receiver) {
         if (outcome != Outcome::whole) socket_.reset();
     }
     return outcome == Outcome::whole;
+}
+
+void NetlinkDump::makeBuffer(std::size_t size) {
+    buffer_ = std::make_unique_for_overwrite<std::byte[]>(size);
+    bufferSize_ = size;
 }
 
 NetlinkDump::Outcome NetlinkDump::dumpOnce(std::span<std::byte> request, Receiver& receiver) {
@@ -104,7 +109,7 @@ bool NetlinkDump::send(std::span<std::byte> request) {
 NetlinkDump::Outcome NetlinkDump::receive(std::span<const std::byte>& datagram) {
     for (;;) {
         sockaddr_nl sender{};
-        iovec place{buffer_.data(), buffer_.size()};
+        iovec place{buffer_.get(), bufferSize_};
         msghdr message{};
         message.msg_name = &sender;
         message.msg_namelen = sizeof sender;
@@ -115,13 +120,13 @@ NetlinkDump::Outcome NetlinkDump::receive(std::span<const std::byte>& datagram) 
         if (count <= 0) return Outcome::failed;
         if (message.msg_namelen == sizeof sender && sender.nl_pid != 0) continue;
         const auto length = static_cast<std::size_t>(count);
-        if ((message.msg_flags & MSG_TRUNC) != 0 || length > buffer_.size()) {
-            const std::size_t wanted = std::max(length, 2 * buffer_.size());
+        if ((message.msg_flags & MSG_TRUNC) != 0 || length > bufferSize_) {
+            const std::size_t wanted = std::max(length, 2 * bufferSize_);
             if (wanted > largestBufferSize) return Outcome::failed;
-            buffer_.resize(wanted);
+            makeBuffer(wanted);
             return Outcome::again;
         }
-        datagram = std::span<const std::byte>(buffer_).first(length);
+        datagram = {buffer_.get(), length};
         return Outcome::whole;
     }
 }

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
-#include <vector>
 
 #include "platform/linux/file_descriptor.h"
 
@@ -41,12 +41,14 @@ class NetlinkDump {
 
     Outcome dumpOnce(std::span<std::byte> request, Receiver& receiver);
     bool send(std::span<std::byte> request);
+    void makeBuffer(std::size_t size);
     Outcome receive(std::span<const std::byte>& datagram);
 
     OpenSocket openSocket_;
     FileDescriptor socket_;
     std::uint32_t sequence_ = 0;
-    std::vector<std::byte> buffer_;
+    std::unique_ptr<std::byte[]> buffer_;  // not cleared: what is never filled takes no memory
+    std::size_t bufferSize_ = 0;
 };
 
 }  // namespace vantor

@@ -39,13 +39,13 @@ void appendPIDs(std::span<const std::byte> entries, std::vector<std::int32_t>& p
 bool PIDListing::read(const FileDescriptor& proc) {
     pids_.clear();
     if (!proc || ::lseek(proc.get(), 0, SEEK_SET) != 0) return false;
-    if (buffer_.empty()) buffer_.resize(bufferSize);
+    if (!buffer_) buffer_ = std::make_unique_for_overwrite<std::byte[]>(bufferSize);
     for (;;) {
-        const long count = ::syscall(SYS_getdents64, proc.get(), buffer_.data(), buffer_.size());
+        const long count = ::syscall(SYS_getdents64, proc.get(), buffer_.get(), bufferSize);
         if (count < 0) pids_.clear();
         if (count < 0) return false;
         if (count == 0) break;
-        appendPIDs(std::span(buffer_).first(static_cast<std::size_t>(count)), pids_);
+        appendPIDs({buffer_.get(), static_cast<std::size_t>(count)}, pids_);
     }
     // A recorded machine's folder is in whatever order its file system keeps.
     if (!std::is_sorted(pids_.begin(), pids_.end())) std::sort(pids_.begin(), pids_.end());

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -21,7 +22,7 @@ class PIDListing {
 
   private:
     std::vector<std::int32_t> pids_;
-    std::vector<std::byte> buffer_;
+    std::unique_ptr<std::byte[]> buffer_;  // not cleared: what is never filled takes no memory
 };
 
 /// Appends the process identifiers among the names of a block that getdents64 filled; anything that

@@ -8,6 +8,8 @@ namespace vantor {
 
 namespace {
 
+constexpr int stripHeight = 16;
+
 std::uint8_t level(double share) {
     return static_cast<std::uint8_t>(std::clamp(share, 0.0, 1.0) * 255 + 0.5);
 }
@@ -71,8 +73,11 @@ void LineRaster::addSegment(QPointF from, QPointF to, double reach) {
     }
 }
 
-/// Puts the line over what is below it, in shades of one colour.
-void LineRaster::colour(const Style& style) {
+/// Puts the line over what is below it, in shades of one colour, a strip of rows at a time: a
+/// picture of the whole would take as much memory as all the figures that it shows.
+void LineRaster::colour(QPainter& painter, QPoint corner, const Style& style) {
+    if (strip_.width() < width_)
+        strip_ = QImage(width_, stripHeight, QImage::Format_ARGB32_Premultiplied);
     std::array<QRgb, 256> shades{};
     const QColor& color = style.color;
     for (int alpha = 0; alpha < 256; ++alpha)
@@ -80,7 +85,8 @@ void LineRaster::colour(const Style& style) {
             qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
     const std::uint8_t whole = level(style.fillShare);
     for (int y = 0; y < height_; ++y) {
-        auto* const line = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        const int inStrip = y % stripHeight;
+        auto* const line = reinterpret_cast<QRgb*>(strip_.scanLine(inStrip));
         const std::uint8_t* const covered = row(y);
         for (int x = 0; x < width_; ++x) {
             const Surface& surface = surface_[static_cast<std::size_t>(x)];
@@ -89,6 +95,9 @@ void LineRaster::colour(const Style& style) {
             line[x] = shades[static_cast<std::size_t>(
                 over == 0 ? below : over + (255 - over) * below / 255)];
         }
+        if (inStrip + 1 < stripHeight && y + 1 < height_) continue;
+        painter.drawImage(corner + QPoint(0, y - inStrip), strip_,
+                          QRect(0, 0, width_, inStrip + 1));
     }
 }
 
@@ -97,14 +106,11 @@ void LineRaster::draw(QPainter& painter, const QRect& area, std::span<const QPoi
     if (points.size() < 2 || area.isEmpty()) return;
     width_ = area.width();
     height_ = area.height();
-    if (image_.width() < width_ || image_.height() < height_)
-        image_ = QImage(area.size().expandedTo(image_.size()), QImage::Format_ARGB32_Premultiplied);
     coverage_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0);
     findSurface(points, style.fillShare);
     for (std::size_t i = 1; i < points.size(); ++i)
         addSegment(points[i - 1], points[i], style.width / 2);
-    colour(style);
-    painter.drawImage(area.topLeft(), image_, QRect(0, 0, width_, height_));
+    colour(painter, area.topLeft(), style);
 }
 
 }  // namespace vantor

@@ -37,13 +37,13 @@ class LineRaster {
     std::uint8_t* row(int y) { return coverage_.data() + static_cast<std::ptrdiff_t>(y) * width_; }
     void findSurface(std::span<const QPointF> points, double share);
     void addSegment(QPointF from, QPointF to, double reach);
-    void colour(const Style& style);
+    void colour(QPainter& painter, QPoint corner, const Style& style);
 
     int width_ = 0;
     int height_ = 0;
     std::vector<std::uint8_t> coverage_;  // by the line, row by row
     std::vector<Surface> surface_;        // of what is below it, column by column
-    QImage image_;
+    QImage strip_;                        // of what is handed to the painter next
 };
 
 }  // namespace vantor

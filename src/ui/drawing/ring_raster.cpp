@@ -10,6 +10,9 @@ namespace vantor {
 
 namespace {
 
+// A picture of the whole would take as much memory as all the figures beside it.
+constexpr int stripHeight = 16;
+
 /// Premultiplied, 0 to 1.
 struct Shade {
     double red, green, blue, alpha;
@@ -92,15 +95,16 @@ void RingRaster::draw(QPainter& painter, const Ring& ring) {
         QRectF(ring.center.x() - outer, ring.center.y() - outer, 2 * outer, 2 * outer)
             .toAlignedRect();
     if (area.isEmpty()) return;
-    if (image_.width() < area.width() || image_.height() < area.height())
-        image_ = QImage(area.size().expandedTo(image_.size()), QImage::Format_ARGB32_Premultiplied);
+    if (strip_.width() < area.width())
+        strip_ = QImage(area.width(), stripHeight, QImage::Format_ARGB32_Premultiplied);
     const Shade track = Shade::of(ring.track);
     const Shade accent = Shade::of(ring.accent);
     const QRgb wholeTrack = track.pixel();
     const QRgb wholeAccent = accent.pixel();
     const double innerSquared = band.inner() * band.inner();
     for (int y = 0; y < area.height(); ++y) {
-        auto* const line = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        const int inStrip = y % stripHeight;
+        auto* const line = reinterpret_cast<QRgb*>(strip_.scanLine(inStrip));
         const double dy = area.top() + y + 0.5 - ring.center.y();
         for (int x = 0; x < area.width(); ++x) {
             const double dx = area.left() + x + 0.5 - ring.center.x();
@@ -120,8 +124,10 @@ void RingRaster::draw(QPainter& painter, const Ring& ring) {
                 line[x] = accent.at(lit).over(track.at(covered)).pixel();
             }
         }
+        if (inStrip + 1 < stripHeight && y + 1 < area.height()) continue;
+        painter.drawImage(area.topLeft() + QPoint(0, y - inStrip), strip_,
+                          QRect(0, 0, area.width(), inStrip + 1));
     }
-    painter.drawImage(area.topLeft(), image_, QRect(QPoint(), area.size()));
 }
 
 }  // namespace vantor

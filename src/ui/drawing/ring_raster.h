@@ -24,7 +24,7 @@ class RingRaster {
     void draw(QPainter& painter, const Ring& ring);
 
   private:
-    QImage image_;
+    QImage strip_;  // of what is handed to the painter next
 };
 
 }  // namespace vantor
