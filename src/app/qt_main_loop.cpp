@@ -15,7 +15,13 @@ namespace vantor {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 const auto wakeUp = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+// Waking up costs more than most tasks: what comes so shortly before a timer waits for that. Nobody
+// sees a result that is late by so little, and those of a tick come while their commit is near.
+constexpr std::chrono::milliseconds close{35};
 
 }  // namespace
 
@@ -23,6 +29,19 @@ struct QtMainLoop::Inbox {
     std::mutex mutex;
     std::vector<Task> tasks;
     QObject* receiver = nullptr;  // none once the loop is gone
+    bool isWaking = false;        // an event for them is on the way
+    Clock::time_point nextTimer = Clock::time_point::max();
+
+    /// Whether a timer is about to wake the loop anyway.
+    bool isTimerClose() const { return nextTimer - Clock::now() <= close; }
+
+    /// To be called with the mutex held.
+    void wake() {
+        if (isWaking || tasks.empty() || isTimerClose()) return;
+        isWaking = true;
+        // The toolkit takes ownership of posted events.
+        QCoreApplication::postEvent(receiver, std::make_unique<QEvent>(wakeUp).release());
+    }
 };
 
 /// Lives on the main thread: one event wakes it for all the tasks that wait by then.
@@ -42,7 +61,8 @@ class QtMainLoop::Receiver : public QObject {
 
     TimerID start(std::chrono::milliseconds delay, Task task) {
         const auto id = static_cast<TimerID>(startTimer(delay, Qt::PreciseTimer));
-        timers_.emplace(id, std::move(task));
+        timers_.emplace(id, Timer{std::move(task), Clock::now() + delay});
+        findNextTimer();
         return id;
     }
 
@@ -50,15 +70,54 @@ class QtMainLoop::Receiver : public QObject {
         const auto found = timers_.find(timer);
         if (found == timers_.end()) return;
         killTimer(static_cast<int>(timer));
-        const Task dropped = std::move(found->second);  // ends after the entry is gone
+        const Task dropped = std::move(found->second.task);  // ends after the entry is gone
         timers_.erase(found);
+        findNextTimer();
+        wakeForPosted();
     }
 
   protected:
     bool event(QEvent* event) override {
         if (event->type() != wakeUp) return QObject::event(event);
+        runPosted();
+        return true;
+    }
+
+    void timerEvent(QTimerEvent* event) override {
+        const auto found = timers_.find(static_cast<TimerID>(event->timerId()));
+        if (found == timers_.end()) return;
+        killTimer(event->timerId());
+        Task task = std::move(found->second.task);
+        timers_.erase(found);
+        findNextTimer();
+        runPosted();  // what has waited for this timer, in order with it
+        task();
+    }
+
+  private:
+    struct Timer {
+        Task task;
+        Clock::time_point due;
+    };
+
+    void findNextTimer() {
+        auto next = Clock::time_point::max();
+        for (const auto& [id, timer] : timers_)
+            next = std::min(next, timer.due);
+        const std::lock_guard lock(inbox_->mutex);
+        inbox_->nextTimer = next;
+    }
+
+    /// For those that have waited for a timer that will not come.
+    void wakeForPosted() {
+        const std::lock_guard lock(inbox_->mutex);
+        inbox_->wake();
+    }
+
+    void runPosted() {
         {
             const std::lock_guard lock(inbox_->mutex);
+            inbox_->isWaking = false;
             if (running_.empty()) {
                 running_.swap(inbox_->tasks);
             } else {
@@ -74,23 +133,12 @@ class QtMainLoop::Receiver : public QObject {
         }
         running_.clear();
         next_ = 0;
-        return true;
     }
 
-    void timerEvent(QTimerEvent* event) override {
-        const auto found = timers_.find(static_cast<TimerID>(event->timerId()));
-        if (found == timers_.end()) return;
-        killTimer(event->timerId());
-        Task task = std::move(found->second);
-        timers_.erase(found);
-        task();
-    }
-
-  private:
     std::shared_ptr<Inbox> inbox_;
     std::vector<Task> running_;
     std::size_t next_ = 0;  // the first of them that has not run
-    std::map<TimerID, Task> timers_;
+    std::map<TimerID, Timer> timers_;
 };
 
 QtMainLoop::QtMainLoop()
@@ -102,9 +150,7 @@ void QtMainLoop::post(Task task) {
     const std::lock_guard lock(inbox_->mutex);
     if (!inbox_->receiver) return;
     inbox_->tasks.push_back(std::move(task));
-    if (inbox_->tasks.size() > 1) return;  // its event is on the way
-    // The toolkit takes ownership of posted events.
-    QCoreApplication::postEvent(inbox_->receiver, std::make_unique<QEvent>(wakeUp).release());
+    inbox_->wake();
 }
 
 MainLoop::TimerID QtMainLoop::runAfter(std::chrono::nanoseconds delay, Task task) {

@@ -109,6 +109,42 @@ TEST_F(QtMainLoopTest, ATaskThatRunsALoopOfItsOwnSkipsNobody) {
     EXPECT_THAT(ran, testing::UnorderedElementsAre(1, 2, 3));
 }
 
+TEST_F(QtMainLoopTest, WhatComesShortlyBeforeATimerWaitsForIt) {
+    loop->runAfter(20ms, note(3));
+    loop->post(note(1));
+    loop->post(note(2));
+    turn();
+    EXPECT_THAT(ran, IsEmpty()) << "woken although the timer is close";
+    runUntil(3);
+    EXPECT_THAT(ran, ElementsAre(1, 2, 3));
+}
+
+TEST_F(QtMainLoopTest, WhatComesLongBeforeATimerDoesNotWait) {
+    const auto timer = loop->runAfter(1h, note(2));
+    loop->post(note(1));
+    turn();
+    EXPECT_THAT(ran, ElementsAre(1));
+    loop->cancel(timer);
+}
+
+TEST_F(QtMainLoopTest, WhoseTimerIsCancelledWaitsNoLonger) {
+    const auto timer = loop->runAfter(20ms, note(2));
+    loop->post(note(1));
+    loop->cancel(timer);
+    turn();
+    EXPECT_THAT(ran, ElementsAre(1));
+}
+
+TEST_F(QtMainLoopTest, ATaskOfATimerThatRunsALoopOfItsOwnKeepsNobodyWaiting) {
+    loop->runAfter(0ms, [this] {
+        loop->post(note(1));
+        turn();  // as a dialog does
+        ran.push_back(2);
+    });
+    runUntil(2);
+    EXPECT_THAT(ran, ElementsAre(1, 2));
+}
+
 TEST_F(QtMainLoopTest, TimersAreNeverEarlyAndHardlyLate) {
     QElapsedTimer watch;
     watch.start();

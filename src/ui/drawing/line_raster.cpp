@@ -75,7 +75,7 @@ void LineRaster::addSegment(QPointF from, QPointF to, double reach) {
 
 /// Puts the line over what is below it, in shades of one colour, a strip of rows at a time: a
 /// picture of the whole would take as much memory as all the figures that it shows.
-void LineRaster::colour(QPainter& painter, QPoint corner, const Style& style) {
+void LineRaster::colour(QPainter& painter, QPoint corner, int firstRow, const Style& style) {
     if (strip_.width() < width_)
         strip_ = QImage(width_, stripHeight, QImage::Format_ARGB32_Premultiplied);
     std::array<QRgb, 256> shades{};
@@ -84,8 +84,8 @@ void LineRaster::colour(QPainter& painter, QPoint corner, const Style& style) {
         shades[static_cast<std::size_t>(alpha)] =
             qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
     const std::uint8_t whole = level(style.fillShare);
-    for (int y = 0; y < height_; ++y) {
-        const int inStrip = y % stripHeight;
+    for (int y = firstRow; y < height_; ++y) {
+        const int inStrip = (y - firstRow) % stripHeight;
         auto* const line = reinterpret_cast<QRgb*>(strip_.scanLine(inStrip));
         const std::uint8_t* const covered = row(y);
         for (int x = 0; x < width_; ++x) {
@@ -110,7 +110,10 @@ void LineRaster::draw(QPainter& painter, const QRect& area, std::span<const QPoi
     findSurface(points, style.fillShare);
     for (std::size_t i = 1; i < points.size(); ++i)
         addSegment(points[i - 1], points[i], style.width / 2);
-    colour(painter, area.topLeft(), style);
+    // Above the highest point and half of the line's width there is nothing.
+    const auto highest = std::ranges::min_element(points, {}, [](QPointF p) { return p.y(); });
+    const int firstRow = clampedFloor(highest->y() - style.width / 2 - 0.5, 0, height_);
+    colour(painter, area.topLeft(), firstRow, style);
 }
 
 }  // namespace vantor

@@ -37,7 +37,7 @@ class LineRaster {
     std::uint8_t* row(int y) { return coverage_.data() + static_cast<std::ptrdiff_t>(y) * width_; }
     void findSurface(std::span<const QPointF> points, double share);
     void addSegment(QPointF from, QPointF to, double reach);
-    void colour(QPainter& painter, QPoint corner, const Style& style);
+    void colour(QPainter& painter, QPoint corner, int firstRow, const Style& style);
 
     int width_ = 0;
     int height_ = 0;
