@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QtGlobal>
-
 #include <cctype>
 #include <optional>
 #include <string_view>
@@ -14,7 +12,6 @@ class TextScanner {
     explicit TextScanner(std::string_view text) : left_(text) {}
 
     bool isAtEnd() const { return left_.empty(); }
-    std::string_view rest() const { return left_; }
 
     void skipSpace() {
         while (!left_.empty() && (isSpace(left_.front()) || left_.front() == ','))
