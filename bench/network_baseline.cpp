@@ -17,7 +17,7 @@ namespace vantor::bench {
 
 namespace {
 
-constexpr std::size_t bufferSize = std::size_t{32} * 1024;
+constexpr std::size_t receiveBufferSize = std::size_t{32} * 1024;
 
 struct LinkRequest {
     nlmsghdr header{sizeof(LinkRequest), RTM_GETLINK, NLM_F_REQUEST | NLM_F_DUMP, 1, 0};
@@ -53,7 +53,7 @@ bool holdsEnd(const std::byte* bytes, std::size_t length) {
 NetworkBaseline::NetworkBaseline()
     : socket_(::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_ROUTE)),
       routes_(::open("/proc/net/route", O_RDONLY | O_CLOEXEC)),
-      buffer_(bufferSize) {
+      buffer_(receiveBufferSize) {
     if (socket_ < 0) giveUp("netlink");
     if (routes_ < 0) giveUp("/proc/net/route");
 }

@@ -39,7 +39,7 @@ QString name() {
     return QString::fromLatin1(applicationIdentifier);
 }
 
-int millisecondsUntil(const QDeadlineTimer& deadline) {
+int busPatience(const QDeadlineTimer& deadline) {
     return static_cast<int>(std::clamp<qint64>(deadline.remainingTime(), 1, 60'000));
 }
 
@@ -110,8 +110,7 @@ ClaimOutcome SessionBusClaim::claim(const QString& token, const QDeadlineTimer& 
                                                        QStringLiteral("Activate"));
         activate.setArguments({platformData});
         activate.setAutoStartService(false);
-        const QDBusMessage reply =
-            connection_.call(activate, QDBus::Block, millisecondsUntil(deadline));
+        const QDBusMessage reply = connection_.call(activate, QDBus::Block, busPatience(deadline));
         if (reply.type() == QDBusMessage::ReplyMessage) return ClaimOutcome::handedOver;
         const auto error = QDBusError(reply).type();
         // Otherwise it has just ended, and the name may be free now.
@@ -127,7 +126,7 @@ SessionBusClaim::Name SessionBusClaim::requestName(const QDeadlineTimer& deadlin
     auto request = QDBusMessage::createMethodCall(busName, QStringLiteral("/org/freedesktop/DBus"),
                                                   busName, QStringLiteral("RequestName"));
     request.setArguments({name(), doNotQueue});
-    const QDBusMessage reply = connection_.call(request, QDBus::Block, millisecondsUntil(deadline));
+    const QDBusMessage reply = connection_.call(request, QDBus::Block, busPatience(deadline));
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return Name::unknown;
     const uint answer = reply.arguments().constFirst().toUInt();

@@ -19,7 +19,7 @@ constexpr std::array temperatureTerms{"gpu temperature"sv, "temperature(c)"sv, "
 constexpr std::array usedVRAMTerms{"vram used"sv, "vram,used"sv, "vram_used"sv};
 constexpr std::array totalVRAMTerms{"vram total"sv, "vram,total"sv, "vram_total"sv};
 
-bool contains(std::string_view path, std::string_view term) {
+bool hasTerm(std::string_view path, std::string_view term) {
     return path.find(term) != path.npos;
 }
 
@@ -30,7 +30,7 @@ auto firstPassing(const FlattenedStatistics& pairs, std::span<const std::string_
     for (const std::string_view term : terms) {
         for (std::size_t i = 0; i < pairs.size(); ++i) {
             const auto [path, value] = pairs[i];
-            if (!contains(path, term)) continue;
+            if (!hasTerm(path, term)) continue;
             if (const auto answer = check(path, value)) return answer;
         }
     }
@@ -39,9 +39,9 @@ auto firstPassing(const FlattenedStatistics& pairs, std::span<const std::string_
 
 double bytesOfUnit(std::string_view path) {
     // With a blank: "gb" alone is inside too many words.
-    if (contains(path, "gib") || contains(path, " gb")) return 1024.0 * 1024 * 1024;
-    if (contains(path, "mib") || contains(path, "mb")) return 1024.0 * 1024;
-    if (contains(path, "kib") || contains(path, "kb")) return 1024;
+    if (hasTerm(path, "gib") || hasTerm(path, " gb")) return 1024.0 * 1024 * 1024;
+    if (hasTerm(path, "mib") || hasTerm(path, "mb")) return 1024.0 * 1024;
+    if (hasTerm(path, "kib") || hasTerm(path, "kb")) return 1024;
     return 1;
 }
 
@@ -95,7 +95,7 @@ std::optional<double> percentValue(const FlattenedStatistics& in,
     return firstPassing(in, preferredKeys,
                         [](std::string_view path, double value) -> std::optional<double> {
                             const bool isFraction = value >= 0 && value <= 1;
-                            if (isFraction && !contains(path, "%")) value *= 100;
+                            if (isFraction && !hasTerm(path, "%")) value *= 100;
                             // Not fulfilled by what is no number.
                             if (!(value >= 0 && value <= 100)) return std::nullopt;
                             return value / 100;

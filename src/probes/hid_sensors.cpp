@@ -8,11 +8,11 @@ namespace vantor {
 
 namespace {
 
-constexpr double hottest = 150;
+constexpr double hidSensorsHottest = 150;
 constexpr double hottestUnscaled = 130;
 constexpr double scale = 256;
 
-bool contains(std::string_view text, std::string_view part) {
+bool hasPart(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
@@ -31,8 +31,8 @@ std::optional<double> hottestOf(std::span<const HIDTemperatureReader::Reading> r
 std::optional<double> plausibleTemperature(const HIDTemperatureReader::Reading& reading) {
     double value = reading.value;
     if (!std::isfinite(value)) return std::nullopt;
-    if (value > hottestUnscaled && contains(reading.normalizedName, "tdev")) value /= scale;
-    if (value <= 0 || value >= hottest) return std::nullopt;
+    if (value > hottestUnscaled && hasPart(reading.normalizedName, "tdev")) value /= scale;
+    if (value <= 0 || value >= hidSensorsHottest) return std::nullopt;
     return value;
 }
 
@@ -42,7 +42,7 @@ bool isCPUSensor(const HIDTemperatureReader::Reading& reading) {
          {"pmu tdie", "pmu tdev", "pacc mtr temp", "eacc mtr temp"}) {
         if (name.starts_with(prefix)) return true;
     }
-    return (name.starts_with("pmu tp") && name.ends_with("s")) || contains(name, "cpu");
+    return (name.starts_with("pmu tp") && name.ends_with("s")) || hasPart(name, "cpu");
 }
 
 bool isGPUSensor(const HIDTemperatureReader::Reading& reading) {
@@ -50,7 +50,7 @@ bool isGPUSensor(const HIDTemperatureReader::Reading& reading) {
     for (const std::string_view prefix : {"gpu mtr temp sensor", "pmu2 tdie", "pmu2 tdev"}) {
         if (name.starts_with(prefix)) return true;
     }
-    return (name.starts_with("pmu tp") && name.ends_with("g")) || contains(name, "gpu");
+    return (name.starts_with("pmu tp") && name.ends_with("g")) || hasPart(name, "gpu");
 }
 
 std::optional<double> hottestCPUSensor(std::span<const HIDTemperatureReader::Reading> readings) {

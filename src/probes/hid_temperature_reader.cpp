@@ -10,10 +10,10 @@ namespace {
 constexpr double readingInterval = 0.25;
 
 constexpr const char* libraryPath = "/System/Library/Frameworks/IOKit.framework/IOKit";
-constexpr std::int32_t sensorUsagePage = 0xFF00;
-constexpr std::int32_t temperatureUsage = 5;
-constexpr std::int64_t temperatureEvent = 15;
-constexpr std::int32_t temperatureField = 15 << 16;
+constexpr std::int32_t hidTemperatureSensorUsagePage = 0xFF00;
+constexpr std::int32_t hidTemperatureTemperatureUsage = 5;
+constexpr std::int64_t hidTemperatureTemperatureEvent = 15;
+constexpr std::int32_t hidTemperatureTemperatureField = 15 << 16;
 
 using Object = HIDEventSystem::Object;
 
@@ -114,7 +114,8 @@ std::vector<HIDTemperatureReader::Reading> HIDTemperatureReader::loadReadings() 
     if (!functions) return readings;
     const OwnedObject client(system_, system_.createClient(*functions));
     if (client.get() == 0) return readings;
-    system_.setMatching(*functions, client.get(), sensorUsagePage, temperatureUsage);
+    system_.setMatching(*functions, client.get(), hidTemperatureSensorUsagePage,
+                        hidTemperatureTemperatureUsage);
     const OwnedList owned(system_, services_);
     if (!system_.copyServices(*functions, client.get(), services_)) return readings;
     readings.reserve(services_.size());
@@ -130,10 +131,12 @@ std::optional<HIDTemperatureReader::Reading> HIDTemperatureReader::readSensor(
     const HIDEventSystem::Functions& functions, Object service) {
     auto name = system_.copyProperty(functions, service, "Product");
     if (!name || name->empty()) return std::nullopt;
-    const OwnedObject event(system_, system_.copyEvent(functions, service, temperatureEvent));
+    const OwnedObject event(system_,
+                            system_.copyEvent(functions, service, hidTemperatureTemperatureEvent));
     if (event.get() == 0) return std::nullopt;
     lowerCase(*name);
-    return Reading{std::move(*name), system_.floatValue(functions, event.get(), temperatureField)};
+    return Reading{std::move(*name),
+                   system_.floatValue(functions, event.get(), hidTemperatureTemperatureField)};
 }
 
 }  // namespace vantor

@@ -6,7 +6,7 @@ namespace vantor {
 
 namespace {
 
-using Entry = NetworkInterfaces::Entry;
+using InterfaceEntry = NetworkInterfaces::Entry;
 
 class ListGuard {
   public:
@@ -19,13 +19,13 @@ class ListGuard {
     NetworkInterfaces& interfaces_;
 };
 
-bool isEligible(const Entry& entry) {
+bool isEligible(const InterfaceEntry& entry) {
     constexpr auto needed = NetworkInterfaces::up | NetworkInterfaces::running;
     return entry.name && *entry.name != '\0' && (entry.flags & needed) == needed &&
            (entry.flags & NetworkInterfaces::loopback) == 0;
 }
 
-void takeCounters(InterfaceAccumulator& to, const Entry& entry,
+void takeCounters(InterfaceAccumulator& to, const InterfaceEntry& entry,
                   const InterfaceDumpReader::Counters& counters) {
     if (const InterfaceCounters* const wide = counters.find(entry.name)) {
         to.received = wide->received;
@@ -58,13 +58,13 @@ bool InterfaceAccumulators::gather(NetworkInterfaces& interfaces,
     const ListGuard guard(interfaces);
     if (list->empty()) return false;
     interfaceAccumulatorBuffer_.clear();
-    for (const Entry& entry : *list) {
+    for (const InterfaceEntry& entry : *list) {
         if (isEligible(entry)) add(interfaces, entry, counters);
     }
     return true;
 }
 
-void InterfaceAccumulators::add(NetworkInterfaces& interfaces, const Entry& entry,
+void InterfaceAccumulators::add(NetworkInterfaces& interfaces, const InterfaceEntry& entry,
                                 const InterfaceDumpReader::Counters& counters) {
     const auto [accumulator, isNew] = interfaceAccumulatorBuffer_.hold(entry.name);
     if (isNew) clear(accumulator);

@@ -13,9 +13,9 @@ namespace {
 
 constexpr std::size_t largestBuffer = std::size_t{16} * 1024 * 1024;
 constexpr std::size_t trimmedBufferFloor = std::size_t{256} * 1024;
-constexpr std::size_t oversizeFactor = 4;
+constexpr std::size_t interfaceDumpOversizeFactor = 4;
 constexpr int oversizeSuccessLimit = 8;
-constexpr int retries = 2;
+constexpr int interfaceDumpRetries = 2;
 
 std::optional<std::size_t> neededSize(NetworkInterfaces& interfaces) {
     std::size_t size = 0;
@@ -44,12 +44,12 @@ bool InterfaceDumpReader::readAndParse(NetworkInterfaces& interfaces) {
     return true;
 }
 
-/// Interfaces may come between the question for the size and the answer: hence the retries, each
-/// with at least twice the room.
+/// Interfaces may come between the question for the size and the answer: hence the
+/// interfaceDumpRetries, each with at least twice the room.
 std::optional<std::size_t> InterfaceDumpReader::fetch(NetworkInterfaces& interfaces) {
     auto needed = neededSize(interfaces);
     if (!needed) return std::nullopt;
-    for (int retriesLeft = retries;; --retriesLeft) {
+    for (int retriesLeft = interfaceDumpRetries;; --retriesLeft) {
         if (routeBuffer_.size() < *needed) routeBuffer_ = std::vector<std::byte>(*needed);
         std::size_t length = routeBuffer_.size();
         const int error = interfaces.sysctl(interface_message::path, routeBuffer_, length);
@@ -77,7 +77,8 @@ bool InterfaceDumpReader::parse64BitInterfaceCounters(NetworkInterfaces& interfa
 }
 
 void InterfaceDumpReader::trimRouteBufferIfPersistentlyOversized(std::size_t validLength) {
-    const std::size_t enough = std::max(oversizeFactor * validLength, trimmedBufferFloor);
+    const std::size_t enough =
+        std::max(interfaceDumpOversizeFactor * validLength, trimmedBufferFloor);
     if (routeBuffer_.size() <= enough) {
         routeBufferOversizeSuccesses_ = 0;
         return;

@@ -12,15 +12,15 @@ namespace {
 // Larger than the record that any kernel fills, so that a newer one does not fail for want of room.
 constexpr std::size_t wordsOffered = 62;
 
-using Bytes = std::optional<std::uint64_t>;
+using ByteCount = std::optional<std::uint64_t>;
 
-Bytes product(std::uint64_t pages, std::uint64_t pageSize) {
+ByteCount product(std::uint64_t pages, std::uint64_t pageSize) {
     std::uint64_t bytes = 0;
     if (__builtin_mul_overflow(pages, pageSize, &bytes)) return std::nullopt;
     return bytes;
 }
 
-Bytes sum(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
+ByteCount sum(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
     std::uint64_t bytes = 0;
     if (__builtin_add_overflow(a, b, &bytes) || __builtin_add_overflow(bytes, c, &bytes)) {
         return std::nullopt;
@@ -53,14 +53,14 @@ std::optional<MemoryStats> MemoryReader::read() {
     const auto pageSize = host.pageSize(guard.port());
     if (!pageSize) return std::nullopt;
 
-    const Bytes active = product(words[Layout::active], *pageSize);
-    const Bytes wired = product(words[Layout::wired], *pageSize);
-    const Bytes compressed = product(words[Layout::compressor], *pageSize);
+    const ByteCount active = product(words[Layout::active], *pageSize);
+    const ByteCount wired = product(words[Layout::wired], *pageSize);
+    const ByteCount compressed = product(words[Layout::compressor], *pageSize);
     const std::uint64_t cachedPages =
         std::uint64_t{words[Layout::purgeable]} + words[Layout::inactive];
-    const Bytes cached = product(cachedPages, *pageSize);
+    const ByteCount cached = product(cachedPages, *pageSize);
     if (!active || !wired || !compressed || !cached) return std::nullopt;
-    const Bytes inUse = sum(*active, *wired, *compressed);
+    const ByteCount inUse = sum(*active, *wired, *compressed);
     if (!inUse) return std::nullopt;
 
     MemoryStats stats;

@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "platform/time_units.h"
 #include "probes/heaviest.h"
 #include "probes/sysctl.h"
 
@@ -13,7 +14,6 @@ namespace vantor {
 namespace {
 
 constexpr std::int64_t defaultMaximumPIDCapacity = 131072;
-constexpr double nanosecondsPerSecond = 1e9;
 constexpr std::size_t spareListEntries = 64;
 // The call counts the buffer's bytes with 31 bits.
 constexpr std::size_t mostListEntries =
@@ -30,8 +30,8 @@ double findTimebaseFrequency(Machine& machine) {
     const auto frequency = Sysctl(machine.kernelValues()).uint64("hw.tbfrequency");
     if (frequency && *frequency != 0) return static_cast<double>(*frequency);
     const auto timebase = machine.processTable().timebase();
-    if (!timebase || timebase->numerator == 0) return nanosecondsPerSecond;
-    return nanosecondsPerSecond * timebase->denominator / timebase->numerator;
+    if (!timebase || timebase->numerator == 0) return static_cast<double>(nanosecondsPerSecond);
+    return static_cast<double>(nanosecondsPerSecond) * timebase->denominator / timebase->numerator;
 }
 
 /// Soon, and not for all new processes at once.

@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::int64_t spareEntries = 64;
 constexpr std::int64_t leastTarget = 512;
-constexpr std::size_t oversizeFactor = 4;
-constexpr double patience = 30.0;
+constexpr std::size_t processStorageOversizeFactor = 4;
+constexpr double processStoragePatience = 30.0;
 
 /// The count and some to spare, within what is ever worth having.
 std::size_t targetFor(std::int64_t count, std::int64_t maximum) {
@@ -22,7 +22,8 @@ std::size_t targetFor(std::int64_t count, std::int64_t maximum) {
 
 std::size_t oversizeLimit(std::size_t target) {
     constexpr auto most = std::numeric_limits<std::size_t>::max();
-    return target > most / oversizeFactor ? most : target * oversizeFactor;
+    return target > most / processStorageOversizeFactor ? most
+                                                        : target * processStorageOversizeFactor;
 }
 
 }  // namespace
@@ -51,7 +52,7 @@ void ProcessStorage::trim(std::size_t active, double now) {
         scratchOversizeSinceUptime = now;
         return;
     }
-    if (now - *scratchOversizeSinceUptime < patience) return;
+    if (now - *scratchOversizeSinceUptime < processStoragePatience) return;
     scratchOversizeSinceUptime.reset();
     giveBack(limit, wanted);
 }

@@ -10,7 +10,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t recordSelector = 2;
+constexpr std::uint32_t smcTemperatureRecordSelector = 2;
 
 constexpr std::array<std::string_view, 4> intelDieKeys{"TC0D", "TC0E", "TCXC", "TC0F"};
 constexpr std::array<std::string_view, 10> intelCoreKeys{"TC0C", "TC1C", "TC2C", "TC3C", "TC4C",
@@ -38,9 +38,9 @@ class SMCTemperatureReader::Connection {
     std::optional<std::size_t> call(Workspace& workspace) const {
         workspace.response.clear();
         std::size_t size = SMCRecord::size;
-        const int error =
-            controller_.callStructMethod(connection_, recordSelector, workspace.request.bytes(),
-                                         workspace.response.bytes(), size);
+        const int error = controller_.callStructMethod(connection_, smcTemperatureRecordSelector,
+                                                       workspace.request.bytes(),
+                                                       workspace.response.bytes(), size);
         if (error != 0 || size < SMCRecord::valueOffset || size > SMCRecord::size) {
             return std::nullopt;
         }

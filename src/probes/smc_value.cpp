@@ -7,10 +7,10 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t fixedPoint = 0x73703738;     // "sp78"
-constexpr std::uint32_t floatingPoint = 0x666C7420;  // "flt "
-constexpr double coldest = -20;
-constexpr double hottest = 150;
+constexpr std::uint32_t fixedPoint = 0x73703738;             // "sp78"
+constexpr std::uint32_t smcValueFloatingPoint = 0x666C7420;  // "flt "
+constexpr double smcValueColdest = -20;
+constexpr double smcValueHottest = 150;
 
 std::optional<double> decode(std::uint32_t type, std::span<const std::byte> bytes) {
     if (type == fixedPoint && bytes.size() >= 2) {
@@ -18,7 +18,7 @@ std::optional<double> decode(std::uint32_t type, std::span<const std::byte> byte
         return static_cast<std::int16_t>(number) / 256.0;
     }
     float value = 0;
-    if (type == floatingPoint && bytes.size() >= sizeof value) {
+    if (type == smcValueFloatingPoint && bytes.size() >= sizeof value) {
         std::memcpy(&value, bytes.data(), sizeof value);
         return value;
     }
@@ -29,7 +29,8 @@ std::optional<double> decode(std::uint32_t type, std::span<const std::byte> byte
 
 std::optional<double> smcTemperature(std::uint32_t type, std::span<const std::byte> bytes) {
     const auto value = decode(type, bytes);
-    if (!value || !std::isfinite(*value) || *value <= coldest || *value >= hottest) {
+    if (!value || !std::isfinite(*value) || *value <= smcValueColdest ||
+        *value >= smcValueHottest) {
         return std::nullopt;
     }
     return value;

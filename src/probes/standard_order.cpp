@@ -7,12 +7,12 @@ namespace vantor {
 
 namespace {
 
-bool isDigit(char c) {
+bool isOrderedDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
 std::string_view takeDigits(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), isDigit);
+    const auto end = std::find_if_not(text.begin(), text.end(), isOrderedDigit);
     const auto count = static_cast<std::size_t>(end - text.begin());
     const std::string_view digits = text.substr(0, count);
     text.remove_prefix(count);
@@ -66,7 +66,7 @@ std::uint32_t folded(std::uint32_t point) {
 
 int compareWithoutCase(std::string_view a, std::string_view b) {
     while (!a.empty() && !b.empty()) {
-        if (isDigit(a.front()) && isDigit(b.front())) {
+        if (isOrderedDigit(a.front()) && isOrderedDigit(b.front())) {
             if (const int order = compareNumbers(takeDigits(a), takeDigits(b))) return order;
             continue;
         }

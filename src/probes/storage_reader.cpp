@@ -17,7 +17,7 @@ std::string displayName(const MountedVolumes::Volume& volume,
     return repairedUTF8(name.empty() ? volume.path : name);
 }
 
-bool comesFirst(const VolumeStats& a, const VolumeStats& b) {
+bool volumeComesFirst(const VolumeStats& a, const VolumeStats& b) {
     const bool aIsRoot = a.path == "/";
     const bool bIsRoot = b.path == "/";
     if (aIsRoot != bIsRoot) return aIsRoot;
@@ -61,7 +61,7 @@ std::optional<std::vector<VolumeStats>> StorageReader::read() {
         (findings.volumes.empty() && findings.classificationWasUnknown)) {
         return std::nullopt;
     }
-    std::stable_sort(findings.volumes.begin(), findings.volumes.end(), comesFirst);
+    std::stable_sort(findings.volumes.begin(), findings.volumes.end(), volumeComesFirst);
     lastEligiblePaths_.clear();
     for (const VolumeStats& volume : findings.volumes)
         lastEligiblePaths_.insert(volume.path);

@@ -13,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int retries = 2;
+constexpr int sysctlRetries = 2;
 
 template <class T>
 std::optional<T> readInteger(KernelValues& values, const std::string& name) {
@@ -32,7 +32,7 @@ std::optional<std::string> Sysctl::string(const std::string& name) const {
     std::vector<std::byte> buffer(size);
     std::size_t count = size;
     int error = values_->sysctlbyname(name, buffer, count);
-    for (int retry = 0; error == ENOMEM && retry < retries; ++retry) {
+    for (int retry = 0; error == ENOMEM && retry < sysctlRetries; ++retry) {
         if (values_->sysctlbyname(name, {}, size) != 0 || size <= buffer.size()) {
             return std::nullopt;
         }

@@ -12,7 +12,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::app_commands_test {
 namespace {
 
 class AppCommandsTest : public testing::TestWithParam<bool> {
@@ -93,4 +93,4 @@ TEST(SharedMenuBar, ClosesWhicheverWindowIsInFront) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::app_commands_test

@@ -5,7 +5,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "support/kept_defaults.h"
 
-namespace vantor {
+namespace vantor::app_delegate_test {
 namespace {
 
 class AppDelegateTest : public testing::Test {
@@ -54,4 +54,4 @@ TEST_F(AppDelegateTest, OlderSystemsHaveItOpenedHere) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::app_delegate_test

@@ -9,7 +9,7 @@
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/dashboard_world.h"
 
-namespace vantor {
+namespace vantor::appearance_test {
 namespace {
 
 class AppearanceTest : public testing::Test {
@@ -82,4 +82,4 @@ TEST_F(AppearanceTest, TheSettingChangesTheDashboardWhileItIsOpen) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::appearance_test

@@ -3,7 +3,7 @@
 #include "app/store_fixture.h"
 
 /// Settings that cannot be read or written cost the user those settings and nothing else.
-namespace vantor {
+namespace vantor::damaged_store_test {
 namespace {
 
 class DamagedStoreTest : public StoreTest {
@@ -109,4 +109,4 @@ TEST_F(DamagedStoreTest, APlaceThatCannotBeWrittenCostsOnlyThePersistence) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::damaged_store_test

@@ -15,7 +15,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::dock_reopen_test {
 namespace {
 
 /// What the toolkit says of a click on the dock's icon, also to a program that is active as it is.
@@ -166,4 +166,4 @@ TEST_P(ProgramWithDock, TheDashboardHasNoMenuBarOfItsOwnWhereOneServesAllWindows
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::dock_reopen_test

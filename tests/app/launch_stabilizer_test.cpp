@@ -9,7 +9,7 @@
 #include "platform/simulated/wound_clock.h"
 #include "ui/components/make_child.h"
 
-namespace vantor {
+namespace vantor::launch_stabilizer_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -136,4 +136,4 @@ TEST_F(LaunchStabilizer, ALiveResizeEndsWithItsWindow) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::launch_stabilizer_test

@@ -21,7 +21,7 @@
 #include "app/session_places.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::local_claim_test {
 namespace {
 
 /// Claims within this process: a lock is one's own only once, even there.
@@ -291,4 +291,4 @@ TEST_F(SessionPlacesTest, TheDisplayIsWithoutItsScreen) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::local_claim_test

@@ -14,7 +14,7 @@
 #include "ui/rendering.h"
 #include "ui/settings/settings_view.h"
 
-namespace vantor {
+namespace vantor::menu_bar_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -287,4 +287,4 @@ TEST(PopoverPlace, FollowsAScreenThatBeginsElsewhere) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::menu_bar_test

@@ -15,7 +15,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::qt_alerts_test {
 namespace {
 
 const AlertText failed{"Snapshot Export Failed",
@@ -116,4 +116,4 @@ TEST(QtExportPlatform, IsWhole) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::qt_alerts_test

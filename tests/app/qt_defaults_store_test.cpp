@@ -6,7 +6,7 @@
 
 #include "app/store_fixture.h"
 
-namespace vantor {
+namespace vantor::qt_defaults_store_test {
 namespace {
 
 class QtDefaultsStoreTest : public StoreTest {};
@@ -111,4 +111,4 @@ TEST_F(QtDefaultsStoreTest, TheUsersFileIsAmongTheUsersSettings) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::qt_defaults_store_test

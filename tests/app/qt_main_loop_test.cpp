@@ -12,7 +12,7 @@
 #include <thread>
 #include <vector>
 
-namespace vantor {
+namespace vantor::qt_main_loop_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -229,4 +229,4 @@ TEST_F(QtMainLoopTest, WhatIsLeftWhenTheLoopEndsIsDropped) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::qt_main_loop_test

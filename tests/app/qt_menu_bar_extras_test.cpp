@@ -11,7 +11,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::qt_menu_bar_extras_test {
 namespace {
 
 class QtMenuBarExtrasTest : public testing::Test {
@@ -96,4 +96,4 @@ TEST_F(QtMenuBarExtrasTest, ItsTitleIsToldWhereThePointerRests) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::qt_menu_bar_extras_test

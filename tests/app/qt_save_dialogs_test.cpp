@@ -18,7 +18,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::qt_save_dialogs_test {
 namespace {
 
 using Path = std::filesystem::path;
@@ -216,4 +216,4 @@ TEST_F(SaveDialogTest, OpensInTheDocumentsAndThenWhereWasSavedLast) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::qt_save_dialogs_test

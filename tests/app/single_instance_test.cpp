@@ -14,7 +14,7 @@
 
 #include "app/instance_world.h"
 
-namespace vantor {
+namespace vantor::single_instance_test {
 namespace {
 
 /// Whether there is a session bus is all that differs: what the user meets is the same.
@@ -211,4 +211,4 @@ TEST_F(ApplicationOnTheBus, TakesNothingForATokenThatIsNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::single_instance_test

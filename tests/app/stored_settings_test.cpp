@@ -4,7 +4,7 @@
 #include "settings/app_settings.h"
 
 /// The preferences over the file that they are kept in.
-namespace vantor {
+namespace vantor::stored_settings_test {
 namespace {
 
 class NoAppearance : public ApplicationAppearance {
@@ -105,4 +105,4 @@ TEST_F(StoredSettingsTest, WithoutAPlaceToKeepThemChangesHoldForTheRun) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::stored_settings_test

@@ -13,7 +13,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::termination_signals_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -195,4 +195,4 @@ TEST(EndingProgramTest, StartedToSurviveItsTerminalItDoes) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::termination_signals_test

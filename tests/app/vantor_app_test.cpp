@@ -21,7 +21,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::vantor_app_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -222,4 +222,4 @@ TEST_F(VantorAppTest, TheProgramQuitsOrderlyWhenAllProbesAnswer) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::vantor_app_test

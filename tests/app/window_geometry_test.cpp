@@ -17,7 +17,7 @@ inline void PrintTo(const QRect& area, std::ostream* out) {
     PrintTo(QRectF(area), out);
 }
 
-namespace vantor {
+namespace vantor::window_geometry_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -328,4 +328,4 @@ TEST_F(WindowGeometryFileTest, IsAFileBesideThePreferences) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::window_geometry_test

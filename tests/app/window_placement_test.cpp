@@ -11,6 +11,9 @@ void PrintTo(const WindowPlacement& placement, std::ostream* out) {
     *out << placement.text();
 }
 
+}  // namespace vantor
+
+namespace vantor::window_placement_test {
 namespace {
 
 constexpr QSize smallest{720, 560};
@@ -143,4 +146,4 @@ TEST(WindowPlacementFit, TheFarthestPlacesDoNotOverflow) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::window_placement_test

@@ -13,7 +13,7 @@
 #include "documents/document_subjects.h"
 
 /// What is exported of each machine, letter by letter, compared with what was agreed upon.
-namespace vantor {
+namespace vantor::machine_snapshots_test {
 namespace {
 
 std::string nameOf(const testing::TestParamInfo<std::string>& subject) {
@@ -43,4 +43,4 @@ TEST_P(MachineSnapshot, IsAsAgreed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::machine_snapshots_test

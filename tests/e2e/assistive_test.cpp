@@ -8,7 +8,7 @@
 #include "e2e/running_program.h"
 
 /// The program as a screen reader meets it, on the real accessibility bus.
-namespace vantor {
+namespace vantor::assistive_test {
 namespace {
 
 using testing::IsSupersetOf;
@@ -145,4 +145,4 @@ TEST_F(ForScreenReaders, TheExplorerIsOperatedByKeyboardAlone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::assistive_test

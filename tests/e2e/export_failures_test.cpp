@@ -9,7 +9,7 @@
 #include "e2e/export_scene.h"
 
 /// Exports that cannot work: the user is told, the file of before stays, and the next one works.
-namespace vantor {
+namespace vantor::export_failures_test {
 namespace {
 
 class FailingExport : public ExportScene {
@@ -94,4 +94,4 @@ TEST_F(FailingExport, IntoAFolderThatVanishedMeanwhileIsTold) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::export_failures_test

@@ -8,7 +8,7 @@
 #include "e2e/export_scene.h"
 
 /// Saving a snapshot, as its user does it.
-namespace vantor {
+namespace vantor::export_test {
 namespace {
 
 class Export : public ExportScene {};
@@ -105,4 +105,4 @@ TEST_F(Export, QuittingWhileTheDialogIsOpenEndsTheProgramWithSuccess) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::export_test

@@ -3,7 +3,7 @@
 #include "e2e/program_fixture.h"
 
 /// Starting twice, ending by signal, and what lasts from run to run.
-namespace vantor {
+namespace vantor::lifecycle_test {
 namespace {
 
 class Lifecycle : public ProgramOnADesktop {
@@ -75,4 +75,4 @@ TEST_F(Lifecycle, TheWindowOpensWhereAndAsLargeAsItWas) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::lifecycle_test

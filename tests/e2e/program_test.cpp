@@ -9,7 +9,7 @@
 #include "e2e/desktop.h"
 #include "e2e/running_program.h"
 
-namespace vantor {
+namespace vantor::program_test {
 namespace {
 
 constexpr QSize screen{1366, 900};
@@ -161,4 +161,4 @@ TEST_F(Program, ADamagedSettingsFileIsKeptAsideAndDefaultsAreUsed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::program_test

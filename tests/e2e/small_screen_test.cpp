@@ -3,7 +3,7 @@
 #include "e2e/desktop.h"
 #include "e2e/running_program.h"
 
-namespace vantor {
+namespace vantor::small_screen_test {
 namespace {
 
 TEST(ProgramOnASmallScreen, FitsTheScreen) {
@@ -17,4 +17,4 @@ TEST(ProgramOnASmallScreen, FitsTheScreen) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::small_screen_test

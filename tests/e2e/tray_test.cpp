@@ -7,7 +7,7 @@
 #include "e2e/program_fixture.h"
 
 /// The program and a real tray.
-namespace vantor {
+namespace vantor::tray_test {
 namespace {
 
 class Tray : public ProgramOnADesktop {
@@ -124,4 +124,4 @@ TEST_F(Tray, QuitInThePanelEndsTheProgram) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::tray_test

@@ -10,7 +10,7 @@
 #include "e2e/desktop.h"
 
 /// The program without any X server, on a compositor that has no screen.
-namespace vantor {
+namespace vantor::wayland_test {
 namespace {
 
 constexpr int patience = 15'000;
@@ -93,4 +93,4 @@ TEST_F(OnWayland, StartsAndShowsLiveFigures) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::wayland_test

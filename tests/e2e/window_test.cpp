@@ -8,7 +8,7 @@
 
 #include "e2e/desktop.h"
 
-namespace vantor {
+namespace vantor::window_test {
 namespace {
 
 /// A small program with one window, on a real display with a window manager.
@@ -176,4 +176,4 @@ TEST_F(WindowOnADesktop, MaximisedItComesBackSoAndKnowsItsFormerPlace) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::window_test

@@ -5,7 +5,7 @@
 #include "e2e/program_fixture.h"
 
 /// The windows beside the main one, and what is changed in them.
-namespace vantor {
+namespace vantor::windows_test {
 namespace {
 
 class Windows : public ProgramOnADesktop {
@@ -87,4 +87,4 @@ TEST_F(Windows, AboutIsInTheHelpMenu) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::windows_test

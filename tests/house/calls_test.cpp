@@ -6,7 +6,7 @@
 #include "house/call_rules.h"
 #include "house/made_up_house.h"
 
-namespace vantor {
+namespace vantor::calls_test {
 namespace {
 
 using testing::ElementsAre;
@@ -57,4 +57,4 @@ TEST(Calls, AreLookedForInTheFolderItself) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::calls_test

@@ -7,7 +7,7 @@
 #include "house/floor_rules.h"
 #include "house/made_up_house.h"
 
-namespace vantor {
+namespace vantor::floors_test {
 namespace {
 
 using testing::ElementsAre;
@@ -117,4 +117,4 @@ TEST(House, HasNoFileOutsideItsRooms) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::floors_test

@@ -19,7 +19,7 @@
 #include "machines/machine_document.h"
 
 /// Recorded machines whose files are damaged: nothing may crash, and what is not known is absent.
-namespace vantor {
+namespace vantor::damaged_machines_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -273,4 +273,4 @@ TEST_P(SpeechlessMachine, LosesOnlyWhatSystemCallsTell) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::damaged_machines_test

@@ -16,7 +16,7 @@
 ///
 /// With VANTOR_UPDATE_GOLDENS in the environment, what is said becomes what is agreed upon; the
 /// target update_goldens sets it.
-namespace vantor {
+namespace vantor::machines_test {
 namespace {
 
 std::string testNameOf(const testing::TestParamInfo<std::string>& machine) {
@@ -63,4 +63,4 @@ TEST(LineDifference, PassesOverWhatIsFarFromADifference) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::machines_test

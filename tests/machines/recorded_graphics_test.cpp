@@ -11,7 +11,7 @@
 #include "support/recorded_machine.h"
 
 /// What the calls tell of the graphics cards of recorded machines.
-namespace vantor {
+namespace vantor::recorded_graphics_test {
 namespace {
 
 /// A line for each card, in the order of the calls, with a star before the default one: its number
@@ -112,4 +112,4 @@ TEST_P(RecordedGraphics, AreTold) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::recorded_graphics_test

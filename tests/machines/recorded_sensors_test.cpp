@@ -21,7 +21,7 @@
 #include "machines/machine_document.h"
 
 /// The temperatures that whole machines tell when sensors of theirs fail, or have other numbers.
-namespace vantor {
+namespace vantor::recorded_sensors_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -228,4 +228,4 @@ TEST(LaptopWithAProcessorsZone, TellsItWhenThePackageFails) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::recorded_sensors_test

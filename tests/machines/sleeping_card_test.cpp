@@ -12,7 +12,7 @@
 #include "machines/machine_document.h"
 
 /// What a whole machine asks of a graphics card that sleeps, whoever of its parts it is that asks.
-namespace vantor {
+namespace vantor::sleeping_card_test {
 namespace {
 
 using testing::ElementsAre;
@@ -86,4 +86,4 @@ TEST_F(SleepingCardOfAMachine, HasNoFileOpenButItsPowerState) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::sleeping_card_test

@@ -6,7 +6,7 @@
 #include "model/filled_records.h"
 #include "model/power_read_result.h"
 
-namespace vantor {
+namespace vantor::equality_test {
 namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -252,4 +252,4 @@ TEST(PowerReadResult, TellsAMachineWithoutBatteryFromAFailure) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::equality_test

@@ -14,7 +14,7 @@
 
 #include "model/printed_number_text.h"
 
-namespace vantor {
+namespace vantor::number_text_test {
 namespace {
 
 using Room = std::array<char, 400>;
@@ -121,4 +121,4 @@ TEST(NumberText, TheUsersLocaleDoesNotMatter) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::number_text_test

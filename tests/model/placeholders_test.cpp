@@ -4,7 +4,7 @@
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
 
-namespace vantor {
+namespace vantor::placeholders_test {
 namespace {
 
 using testing::IsEmpty;
@@ -88,4 +88,4 @@ TEST(Placeholders, AreBuiltOnceAndShared) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::placeholders_test

@@ -10,7 +10,7 @@
 
 #include "model/filled_records.h"
 
-namespace vantor {
+namespace vantor::record_coding_test {
 namespace {
 
 using nlohmann::json;
@@ -185,4 +185,4 @@ TEST_P(RecordCoding, RefusesWhatIsNoObject) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::record_coding_test

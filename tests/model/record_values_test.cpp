@@ -8,7 +8,7 @@
 #include "model/filled_records.h"
 #include "model/record_coding.h"
 
-namespace vantor {
+namespace vantor::record_values_test {
 namespace {
 
 using nlohmann::json;
@@ -157,4 +157,4 @@ TEST(ProcessSampleCoding, RefusesAValueThatIsNotANumberInAnyList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::record_values_test

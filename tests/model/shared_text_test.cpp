@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace vantor {
+namespace vantor::shared_text_test {
 namespace {
 
 TEST(SharedText, APairLivesAsLongAsEitherOfItsTexts) {
@@ -109,4 +109,4 @@ TEST(SharedText, MayBeCopiedOnManyThreadsAtOnce) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::shared_text_test

@@ -10,7 +10,7 @@
 #include "model/filled_records.h"
 #include "model/record_coding.h"
 
-namespace vantor {
+namespace vantor::snapshot_document_test {
 namespace {
 
 using nlohmann::json;
@@ -199,4 +199,4 @@ TEST(SnapshotDocument, BeginsWithItsBraceAndEndsWithIt) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::snapshot_document_test

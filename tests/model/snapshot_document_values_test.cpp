@@ -15,7 +15,7 @@
 #include "model/utf8.h"
 
 /// How single numbers and texts stand in a snapshot's document, and which cannot.
-namespace vantor {
+namespace vantor::snapshot_document_values_test {
 namespace {
 
 using nlohmann::json;
@@ -141,4 +141,4 @@ TEST(SnapshotDocument, FailsForAnyNumberThatIsNotFiniteAndSaysWhereItIs) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::snapshot_document_values_test

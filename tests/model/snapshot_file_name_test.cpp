@@ -4,7 +4,7 @@
 
 #include "model/filled_records.h"
 
-namespace vantor {
+namespace vantor::snapshot_file_name_test {
 namespace {
 
 TEST(SnapshotFileName, OfAMorningInFebruaryHasTwoDigitsEverywhere) {
@@ -30,4 +30,4 @@ TEST(SnapshotFileMoment, IsNowWhileNothingHasBeenCommitted) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::snapshot_file_name_test

@@ -5,7 +5,7 @@
 
 #include "model/record_coding.h"
 
-namespace vantor {
+namespace vantor::timestamp_test {
 namespace {
 
 using namespace std::chrono;
@@ -89,4 +89,4 @@ TEST_P(MalformedTimestamp, IsRefused) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::timestamp_test

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::utf8_test {
 namespace {
 
 struct Row {
@@ -126,4 +126,4 @@ TEST(UTF8Replacement, LeavesNothingOfAnEarlierText) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::utf8_test

@@ -9,7 +9,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::property_value_test {
 namespace {
 
 struct Row : NamedRow {
@@ -91,4 +91,4 @@ TEST(PropertyDictionary, FindsTheFirstOfTwoValuesUnderOneKey) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::property_value_test

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::published_test {
 namespace {
 
 using testing::ElementsAre;
@@ -160,4 +160,4 @@ TEST(SubscriptionTest, EndsWhenAnotherOneTakesItsPlace) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::published_test

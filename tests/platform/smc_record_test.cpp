@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::smc_record_test {
 namespace {
 
 std::uint32_t wordAt(const SMCRecord& record, std::size_t offset) {
@@ -94,4 +94,4 @@ TEST(SMCRecord, GivesWhatWasWritten) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::smc_record_test

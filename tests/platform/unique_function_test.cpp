@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-namespace vantor {
+namespace vantor::unique_function_test {
 namespace {
 
 /// Counts its living copies, and moves that may throw if `mayThrow`.
@@ -121,4 +121,4 @@ TEST(Task, HasRoomForAWorkItemOfTheSamplers) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::unique_function_test

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::address_rules_test {
 namespace {
 
 TEST(AddressRules, IPv4LinkLocalIsAllOf169254AndNothingElse) {
@@ -66,4 +66,4 @@ TEST(AddressRules, ALinkLocalIPv6AddressIsTakenOnlyWhereThereIsNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::address_rules_test

@@ -8,7 +8,7 @@
 #include "platform/simulated/simulated_kernel_values.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::chip_family_test {
 namespace {
 
 std::string joined(std::span<const std::string_view> keys) {
@@ -130,4 +130,4 @@ TEST_P(PlatformDetection, GoesByTranslationArchitectureAndBrand) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::chip_family_test

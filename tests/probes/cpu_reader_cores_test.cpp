@@ -8,7 +8,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "probes/cpu_reader.h"
 
-namespace vantor {
+namespace vantor::cpu_reader_cores_test {
 namespace {
 
 using testing::ElementsAre;
@@ -206,4 +206,4 @@ TEST(CPUReader, GivesTheArrayBackWithItsSizeInBytes) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_reader_cores_test

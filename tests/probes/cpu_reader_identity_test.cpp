@@ -8,7 +8,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "probes/cpu_reader.h"
 
-namespace vantor {
+namespace vantor::cpu_reader_identity_test {
 namespace {
 
 struct ModelRow {
@@ -184,4 +184,4 @@ TEST_F(Temperature, IsAbsentWithoutASensor) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_reader_identity_test

@@ -11,7 +11,7 @@
 
 #include "platform/simulated/simulated_machine.h"
 
-namespace vantor {
+namespace vantor::cpu_reader_test {
 namespace {
 
 using testing::ElementsAre;
@@ -203,4 +203,4 @@ TEST_F(CPUReaderTest, LoadAveragesAreEmptyUntilTheyFirstAnswer) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_reader_test

@@ -7,7 +7,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::cpu_ticks_test {
 namespace {
 
 constexpr std::uint32_t last = std::numeric_limits<std::uint32_t>::max();
@@ -124,4 +124,4 @@ TEST_P(BusyShare, IsWhatWasNotIdle) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_ticks_test

@@ -11,7 +11,7 @@
 #include "probes/gpu_statistics.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::gpu_extraction_test {
 namespace {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
@@ -187,4 +187,4 @@ TEST(GPUExtraction, EverySpellingOfAUnitIsUnderstood) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_extraction_test

@@ -7,7 +7,7 @@
 
 #include "probes/gpu_statistics.h"
 
-namespace vantor {
+namespace vantor::gpu_flattening_test {
 namespace {
 
 using testing::ElementsAre;
@@ -127,4 +127,4 @@ TEST(GPUFlattening, ClearedStatisticsKeepNothing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_flattening_test

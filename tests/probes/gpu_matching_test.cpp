@@ -9,7 +9,7 @@
 #include "probes/gpu_names.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::gpu_matching_test {
 namespace {
 
 using testing::ElementsAre;
@@ -221,4 +221,4 @@ TEST(GPURegistryOrder, KeepsTheOrderOfEquals) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_matching_test

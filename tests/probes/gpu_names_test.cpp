@@ -8,7 +8,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::gpu_names_test {
 namespace {
 
 struct NormalizedRow : NamedRow {
@@ -83,4 +83,4 @@ TEST(GPUNames, WhatIsNoNameIsAbsent) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_names_test

@@ -4,7 +4,7 @@
 #include "probes/gpu_reader_fixture.h"
 
 /// How devices and services become rows.
-namespace vantor {
+namespace vantor::gpu_reader_rows_test {
 namespace {
 
 using testing::ElementsAre;
@@ -152,4 +152,4 @@ TEST(SimulatedGraphics, TheBrokenMachinesCannotBeLookedUp) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_reader_rows_test

@@ -7,7 +7,7 @@
 
 #include "probes/gpu_reader_fixture.h"
 
-namespace vantor {
+namespace vantor::gpu_reader_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -177,4 +177,4 @@ TEST_F(GPUReaderTest, ReleasesEveryServiceOfALongList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_reader_test

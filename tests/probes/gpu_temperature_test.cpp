@@ -9,7 +9,7 @@
 #include "probes/hid_sensors.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::gpu_temperature_test {
 namespace {
 
 using Reading = HIDTemperatureReader::Reading;
@@ -113,4 +113,4 @@ TEST_F(HardwareGPUTemperature, IsAbsentWhenNobodyKnowsOne) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_temperature_test

@@ -18,7 +18,7 @@
 #include "support/joined_threads.h"
 #include "support/patient_threads.h"
 
-namespace vantor {
+namespace vantor::hardware_temperature_reader_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -283,4 +283,4 @@ TEST(HardwareTemperatureReader, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::hardware_temperature_reader_test

@@ -8,7 +8,7 @@
 #include <random>
 #include <vector>
 
-namespace vantor {
+namespace vantor::heaviest_test {
 namespace {
 
 using testing::ElementsAre;
@@ -126,4 +126,4 @@ TEST(Heaviest, AgreesWithSortingTheWholeList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::heaviest_test

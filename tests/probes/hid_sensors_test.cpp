@@ -9,7 +9,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::hid_sensors_test {
 namespace {
 
 using Reading = HIDTemperatureReader::Reading;
@@ -91,4 +91,4 @@ TEST(HIDSensors, PlausibilityDoesNotDependOnWhoseSensorItIs) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::hid_sensors_test

@@ -12,7 +12,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "support/patient_threads.h"
 
-namespace vantor {
+namespace vantor::hid_temperature_reader_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -173,4 +173,4 @@ TEST_F(HIDTemperatureReaderTest, ACallerThatMeetsALoadInProgressGetsTheListBefor
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::hid_temperature_reader_test

@@ -10,7 +10,7 @@
 #include "platform/simulated/simulated_network_interfaces.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::interface_dump_reader_test {
 namespace {
 
 using testing::ElementsAre;
@@ -271,4 +271,4 @@ INSTANTIATE_TEST_SUITE_P(
     rowName<Failure>);
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::interface_dump_reader_test

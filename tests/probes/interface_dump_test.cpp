@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace vantor {
+namespace vantor::interface_dump_test {
 namespace {
 
 using Bytes = std::vector<std::byte>;
@@ -121,4 +121,4 @@ TEST(InterfaceDump, AnInterfaceMessageShorterThan160BytesIsMalformed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::interface_dump_test

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::interface_order_test {
 namespace {
 
 using testing::ElementsAre;
@@ -67,4 +67,4 @@ TEST(InterfaceOrder, SumsPastTheLargestNumberAreEqual) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::interface_order_test

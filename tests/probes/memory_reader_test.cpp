@@ -6,7 +6,7 @@
 
 #include "platform/simulated/simulated_machine.h"
 
-namespace vantor {
+namespace vantor::memory_reader_test {
 namespace {
 
 constexpr std::uint64_t gibibyte = std::uint64_t{1} << 30;
@@ -185,4 +185,4 @@ TEST(MemoryReader, GivesNothingOnAMachineWhereEveryCallFails) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::memory_reader_test

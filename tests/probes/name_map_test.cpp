@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::name_map_test {
 namespace {
 
 using testing::ElementsAre;
@@ -97,4 +97,4 @@ TEST(NameMap, GivesUpThePlacesOfNamesThatNeverReturn) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::name_map_test

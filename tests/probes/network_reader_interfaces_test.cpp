@@ -6,7 +6,7 @@
 #include "probes/network_reader_fixture.h"
 
 /// Which interfaces there are, and with what addresses.
-namespace vantor {
+namespace vantor::network_reader_interfaces_test {
 namespace {
 
 using testing::ElementsAre;
@@ -191,4 +191,4 @@ TEST_F(NetworkReaderTest, NamesThatAreNoTextAreMadeOne) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::network_reader_interfaces_test

@@ -4,7 +4,7 @@
 #include "probes/network_reader_fixture.h"
 
 /// Which interface is the primary one, the order of the rows, and what is not asked every time.
-namespace vantor {
+namespace vantor::network_reader_primary_test {
 namespace {
 
 using testing::ElementsAre;
@@ -159,4 +159,4 @@ TEST_F(NetworkReaderTest, RowsAreThePrimaryThenThoseWithAddressesThenByTrafficTh
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::network_reader_primary_test

@@ -9,7 +9,7 @@
 #include "probes/network_reader_fixture.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::network_reader_test {
 namespace {
 
 using testing::ElementsAre;
@@ -298,4 +298,4 @@ TEST_F(NetworkReaderTest, OnADesktopShowsAllItsInterfacesThePrimaryOneFirst) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::network_reader_test

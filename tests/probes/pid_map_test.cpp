@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace vantor {
+namespace vantor::pid_map_test {
 namespace {
 
 template <class Value>
@@ -242,4 +242,4 @@ TEST(PIDSet, KnowsWhoWasPutIn) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::pid_map_test

@@ -11,7 +11,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::power_reader_test {
 namespace {
 
 constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
@@ -265,4 +265,4 @@ TEST(PowerReader, ReadsTheSimulatedMachines) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::power_reader_test

@@ -8,7 +8,7 @@
 
 #include "platform/simulated/simulated_process_table.h"
 
-namespace vantor {
+namespace vantor::process_names_test {
 namespace {
 
 struct PathRow {
@@ -172,4 +172,4 @@ TEST(LastPathComponent, IsTheLastPieceThatIsNotEmpty) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_names_test

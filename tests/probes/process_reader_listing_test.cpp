@@ -6,7 +6,7 @@
 
 #include "probes/process_world.h"
 
-namespace vantor {
+namespace vantor::process_reader_listing_test {
 namespace {
 
 using testing::ElementsAre;
@@ -228,4 +228,4 @@ TEST_F(ProcessReaderListingTest, ABaselineCallTrimsToo) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_reader_listing_test

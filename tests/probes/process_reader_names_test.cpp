@@ -6,7 +6,7 @@
 #include "probes/process_world.h"
 
 /// When names and paths are looked up: that is the expensive part.
-namespace vantor {
+namespace vantor::process_reader_names_test {
 namespace {
 
 class ProcessReaderNamesTest : public testing::Test, protected ProcessWorld {
@@ -157,4 +157,4 @@ TEST_F(ProcessReaderNamesTest, AProcessWithoutPathIsCalledAsTheKernelDoes) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_reader_names_test

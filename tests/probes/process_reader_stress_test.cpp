@@ -11,7 +11,7 @@
 
 /// Thousands of processes that are born and die at random, identifiers used again, against a plain
 /// recomputation that keeps books by birth and not by identifier.
-namespace vantor {
+namespace vantor::process_reader_stress_test {
 namespace {
 
 using List = std::vector<ProcessStats>;
@@ -144,4 +144,4 @@ TEST(ProcessReaderStress, AgreesWithAPlainRecomputationWhileProcessesComeAndGo) 
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_reader_stress_test

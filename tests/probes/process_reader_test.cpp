@@ -8,7 +8,7 @@
 
 #include "probes/process_world.h"
 
-namespace vantor {
+namespace vantor::process_reader_test {
 namespace {
 
 using testing::Each;
@@ -251,4 +251,4 @@ TEST_F(ProcessReaderTest, EveryShareIsFiniteWhateverTheClock) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_reader_test

@@ -7,7 +7,7 @@
 
 #include "probes/process_world.h"
 
-namespace vantor {
+namespace vantor::process_reader_time_base_test {
 namespace {
 
 struct TimeBaseRow {
@@ -56,4 +56,4 @@ TEST(ProcessReaderTimeBase, OfADenominatorOfZeroGivesNoShares) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_reader_time_base_test

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace vantor {
+namespace vantor::process_storage_test {
 namespace {
 
 constexpr std::int64_t maximum = 100000;
@@ -214,4 +214,4 @@ TEST_F(ProcessStorageTest, ResetMakesAnOversizedNameCacheCompact) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_storage_test

@@ -12,7 +12,7 @@
 #include "sampling/named_row.h"
 #include "support/patient_threads.h"
 
-namespace vantor {
+namespace vantor::smc_temperature_reader_test {
 namespace {
 
 using testing::ElementsAre;
@@ -275,4 +275,4 @@ TEST_F(SMCTemperatureReaderTest, NoLockIsHeldWhileTheControllerIsAsked) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::smc_temperature_reader_test

@@ -12,7 +12,7 @@
 
 #include "platform/smc_record.h"
 
-namespace vantor {
+namespace vantor::smc_value_test {
 namespace {
 
 using Bytes = std::vector<std::byte>;
@@ -95,4 +95,4 @@ TEST(SMCValue, OtherTypesAreRejected) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::smc_value_test

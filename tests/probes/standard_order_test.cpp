@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::standard_order_test {
 namespace {
 
 struct Pair {
@@ -72,4 +72,4 @@ TEST(StandardOrder, NeverContradictsItself) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::standard_order_test

@@ -12,7 +12,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::storage_reader_test {
 namespace {
 
 using testing::ElementsAre;
@@ -269,4 +269,4 @@ TEST(StorageReader, ListsTheSimulatedMachines) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::storage_reader_test

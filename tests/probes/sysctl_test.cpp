@@ -10,7 +10,7 @@
 
 #include "platform/simulated/simulated_kernel_values.h"
 
-namespace vantor {
+namespace vantor::sysctl_test {
 namespace {
 
 std::vector<std::byte> bytes(std::string_view text) {
@@ -171,4 +171,4 @@ TEST_F(SysctlTest, GivesNoIntegerWhenTheCallFails) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::sysctl_test

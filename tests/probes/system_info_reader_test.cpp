@@ -5,7 +5,7 @@
 #include "platform/program_architecture.h"
 #include "platform/simulated/simulated_machine.h"
 
-namespace vantor {
+namespace vantor::system_info_reader_test {
 namespace {
 
 class SystemInfoReaderTest : public testing::Test {
@@ -138,4 +138,4 @@ TEST(SystemInfoReader, AnswersOnAMachineWhereEveryCallFails) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_info_reader_test

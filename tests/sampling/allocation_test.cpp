@@ -18,7 +18,7 @@
 
 /// A program that watches memory must not churn it: the steady state of a reading allocates
 /// nothing.
-namespace vantor {
+namespace vantor::allocation_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -147,4 +147,4 @@ TEST(Allocations, OfARefusedRequestAreNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::allocation_test

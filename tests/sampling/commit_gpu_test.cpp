@@ -4,7 +4,7 @@
 #include "sampling/commit.h"
 #include "sampling/sample_records.h"
 
-namespace vantor {
+namespace vantor::commit_gpu_test {
 namespace {
 
 using testing::ElementsAre;
@@ -115,4 +115,4 @@ TEST(GPUCommit, DeviceThatComesBackStartsANewHistory) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::commit_gpu_test

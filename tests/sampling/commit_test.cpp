@@ -10,7 +10,7 @@
 #include "sampling/named_row.h"
 #include "sampling/sample_records.h"
 
-namespace vantor {
+namespace vantor::commit_test {
 namespace {
 
 using testing::ElementsAre;
@@ -287,4 +287,4 @@ TEST(PendingUpdate, PowerWithoutABatteryIsAResult) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::commit_test

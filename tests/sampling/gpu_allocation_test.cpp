@@ -7,7 +7,7 @@
 #include "sampling/counted_passes.h"
 
 /// Drivers publish hundreds of statistics, service by service and second by second.
-namespace vantor {
+namespace vantor::gpu_allocation_test {
 namespace {
 
 TEST(Allocations, OfFlatteningAndExtractingADriversStatisticsAreNone) {
@@ -35,4 +35,4 @@ TEST(Allocations, OfFlatteningAndExtractingADriversStatisticsAreNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_allocation_test

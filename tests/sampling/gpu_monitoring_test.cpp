@@ -9,7 +9,7 @@
 #include "sampling/wound_world.h"
 
 /// Graphics devices on their way from the machine to the dashboard's state.
-namespace vantor {
+namespace vantor::gpu_monitoring_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -174,4 +174,4 @@ TEST(GPUMonitoringOfABrokenMachine, NeverShowsADevice) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_monitoring_test

@@ -17,7 +17,7 @@
 #include "sampling/wound_world.h"
 
 /// A probe that hangs in the kernel costs its own thread and nothing else.
-namespace vantor {
+namespace vantor::hanging_probe_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -125,4 +125,4 @@ INSTANTIATE_TEST_SUITE_P(WithAProbeThat, ProgramsEnd,
                          rowName<EndRow>);
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::hanging_probe_test

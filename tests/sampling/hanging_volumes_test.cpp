@@ -16,7 +16,7 @@
 #include "support/machine_with_volumes.h"
 
 /// A mounted file system that stops answering holds up the list of volumes and nothing else.
-namespace vantor {
+namespace vantor::hanging_volumes_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -105,4 +105,4 @@ TEST_F(HangingVolumes, LeaveTheLastListAndAllOtherReadingsAlone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::hanging_volumes_test

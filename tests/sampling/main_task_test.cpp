@@ -6,7 +6,7 @@
 
 #include "platform/simulated/manual_main_loop.h"
 
-namespace vantor {
+namespace vantor::main_task_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -112,4 +112,4 @@ TEST(MainTask, CancelledOneDoesNotKeepTheLoop) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::main_task_test

@@ -2,7 +2,7 @@
 
 #include "sampling/wound_world.h"
 
-namespace vantor {
+namespace vantor::monitor_end_test {
 namespace {
 
 TEST(SystemMonitor, EndSkipsTheQueuedReadingsEvenWhileAnotherOneKeepsTheSampler) {
@@ -26,4 +26,4 @@ TEST(SystemMonitor, EndSkipsTheQueuedReadingsEvenWhileAnotherOneKeepsTheSampler)
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::monitor_end_test

@@ -13,7 +13,7 @@
 #include "sampling/wound_world.h"
 
 /// A monitor on real threads whose user cannot keep still.
-namespace vantor {
+namespace vantor::monitor_stress_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -136,4 +136,4 @@ TEST_F(MonitorStress, MonitorsComeAndGoWhileTheirReadingsAreUnderWay) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::monitor_stress_test

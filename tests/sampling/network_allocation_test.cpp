@@ -9,7 +9,7 @@
 
 /// The steady state of a network reading allocates nothing, whatever traffic does to the order of
 /// the rows and also when the host's name and the primary interface are looked up again.
-namespace vantor {
+namespace vantor::network_allocation_test {
 namespace {
 
 constexpr int warmUpReads = 50;
@@ -68,4 +68,4 @@ TEST(NetworkAllocations, OfAReadingOnThisMachineAreNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::network_allocation_test

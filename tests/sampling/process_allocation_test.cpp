@@ -11,7 +11,7 @@
 
 /// A pass over the processes hands its sample away, and asks for memory for that alone: a list of
 /// all and two short ones, however many processes there are.
-namespace vantor {
+namespace vantor::process_allocation_test {
 namespace {
 
 constexpr std::size_t listsOfASample = 3;
@@ -85,4 +85,4 @@ TEST(ProcessAllocations, OnThisMachineAreThoseListsMostly) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_allocation_test

@@ -8,7 +8,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::provider_gate_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -195,4 +195,4 @@ TEST(ProviderGate, CountNeverFallsBelowZero) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::provider_gate_test

@@ -13,7 +13,7 @@
 #include "sampling/any_provider.h"
 
 /// Samplers that live and die under the requests of several threads.
-namespace vantor {
+namespace vantor::sampler_stress_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -218,4 +218,4 @@ TEST_F(SamplerStress, EveryAdmittedRunOfALivingSamplerAnswers) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::sampler_stress_test

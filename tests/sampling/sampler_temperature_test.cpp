@@ -14,7 +14,7 @@
 #include "sampling/named_row.h"
 #include "sampling/system_sampler.h"
 
-namespace vantor {
+namespace vantor::sampler_temperature_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -176,4 +176,4 @@ TEST(SamplerGraphicsTemperature, SharesOneListOfSensorsWithTheProcessors) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::sampler_temperature_test

@@ -9,7 +9,7 @@
 #include "support/fake_kernel_tree.h"
 
 /// Memory and the system's state are read all day long: in the steady state neither allocates.
-namespace vantor {
+namespace vantor::slow_state_allocation_test {
 namespace {
 
 void recordMemory(const FakeKernelTree& tree) {
@@ -79,4 +79,4 @@ TEST(Allocations, OfASystemInfoReadingOnThisMachineAreNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::slow_state_allocation_test

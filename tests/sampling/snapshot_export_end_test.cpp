@@ -6,7 +6,7 @@
 #include "sampling/export_flow.h"
 
 /// The monitor's end at each step of an export.
-namespace vantor {
+namespace vantor::snapshot_export_end_test {
 namespace {
 
 using testing::IsEmpty;
@@ -71,4 +71,4 @@ TEST_F(SnapshotExportFlow, LetsTheMonitorEndWhileTheAlertIsRead) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::snapshot_export_end_test

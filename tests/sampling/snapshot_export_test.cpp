@@ -8,7 +8,7 @@
 #include "sampling/export_flow.h"
 
 /// The user saves the snapshot: question, background write, and an alert if it failed.
-namespace vantor {
+namespace vantor::snapshot_export_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -209,4 +209,4 @@ TEST(SnapshotExport, CancelledBeforeItRunsHasNoErrorEvenIfItCouldNotBeEncoded) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::snapshot_export_test

@@ -16,7 +16,7 @@
 #include "support/temporary_folder.h"
 
 /// Exports by real threads onto real disks, and onto one that hangs.
-namespace vantor {
+namespace vantor::snapshot_export_thread_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -120,4 +120,4 @@ TEST_F(ThreadedExport, IsWholeOrNotThereWhenTheMonitorEndsAtAnyMoment) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::snapshot_export_thread_test

@@ -7,7 +7,7 @@
 #include "sampling/wound_world.h"
 
 /// Pause, manual refresh, a change of the interval, and the monitor's end.
-namespace vantor {
+namespace vantor::system_monitor_control_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -291,4 +291,4 @@ TEST(SystemMonitor, ResultForAMonitorThatIsGoneIsLost) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_monitor_control_test

@@ -8,7 +8,7 @@
 #include "sampling/wound_world.h"
 
 /// The length of the histories, and the live resize that holds commits back.
-namespace vantor {
+namespace vantor::system_monitor_history_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -169,4 +169,4 @@ TEST(SystemMonitor, PauseDuringALiveResizeForgetsWhatIsGathered) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_monitor_history_test

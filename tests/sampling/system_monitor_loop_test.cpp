@@ -8,7 +8,7 @@
 #include "sampling/wound_world.h"
 
 /// The refresh loop and the staged start of the slow providers.
-namespace vantor {
+namespace vantor::system_monitor_loop_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -225,4 +225,4 @@ TEST(SystemMonitor, TicksDuringALiveResizeAskNobodyButGoOn) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_monitor_loop_test

@@ -9,7 +9,7 @@
 #include "sampling/wound_world.h"
 
 /// What the monitor takes in, when it commits it, and how often it publishes.
-namespace vantor {
+namespace vantor::system_monitor_receive_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -229,4 +229,4 @@ TEST(SystemMonitor, KeepsTheLastReadingWhenTheProcessorsStopAnswering) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_monitor_receive_test

@@ -7,7 +7,7 @@
 #include "sampling/sampler_world.h"
 
 /// What holds for each of the eight providers.
-namespace vantor {
+namespace vantor::system_sampler_provider_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -93,4 +93,4 @@ INSTANTIATE_TEST_SUITE_P(SystemSampler, EachProvider,
                          rowName<ProviderRow>);
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_sampler_provider_test

@@ -9,7 +9,7 @@
 #include "model/system_snapshot.h"
 #include "sampling/sampler_world.h"
 
-namespace vantor {
+namespace vantor::system_sampler_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -224,4 +224,4 @@ TEST(SystemSampler, WhatTheProbeDoesNotKnowIsPassedOnAsNothing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_sampler_test

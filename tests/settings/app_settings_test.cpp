@@ -10,7 +10,7 @@
 
 #include "settings/settings_fakes.h"
 
-namespace vantor {
+namespace vantor::app_settings_test {
 namespace {
 
 using testing::ElementsAre;
@@ -182,4 +182,4 @@ TEST(HistoryLength, IsClampedToWhatAHistoryHolds) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::app_settings_test

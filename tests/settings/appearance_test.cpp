@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::appearance_test {
 namespace {
 
 TEST(Appearance, OffersItsCasesInOrder) {
@@ -41,4 +41,4 @@ TEST_P(OtherText, IsDark) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::appearance_test

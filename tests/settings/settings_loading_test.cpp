@@ -10,7 +10,7 @@
 #include "settings/app_settings.h"
 #include "settings/settings_fakes.h"
 
-namespace vantor {
+namespace vantor::settings_loading_test {
 namespace {
 
 using testing::ElementsAre;
@@ -188,4 +188,4 @@ TEST_P(StoredAppearance, IsDarkUnlessItIsExactlyAnother) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::settings_loading_test

@@ -10,7 +10,7 @@
 #include "ui/dashboard_world.h"
 
 /// What those hear who cannot see the screen.
-namespace vantor {
+namespace vantor::accessibility_test {
 namespace {
 
 RingGauge gauge(const QString& title) {
@@ -97,4 +97,4 @@ TEST(Accessibility, AllSixCardsAndTheExplorerAreThere) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::accessibility_test

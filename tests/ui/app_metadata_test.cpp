@@ -7,7 +7,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::app_metadata_test {
 namespace {
 
 using Facts = std::map<std::string, std::string, std::less<>>;
@@ -54,4 +54,4 @@ TEST(AppMetadata, OutlivesTheBundleItWasReadFrom) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::app_metadata_test

@@ -8,7 +8,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::byte_count_formatter_test {
 namespace {
 
 constexpr std::int64_t kib = 1024;
@@ -119,4 +119,4 @@ TEST(ByteCountFormatter, NoCountShowsMoreThanFourDigitsOfItsWholePart) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::byte_count_formatter_test

@@ -7,7 +7,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::capsule_button_test {
 namespace {
 
 class CapsuleButtonTest : public testing::Test {
@@ -129,4 +129,4 @@ TEST_F(CapsuleButtonTest, KeepsRoomForTitlesToCome) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::capsule_button_test

@@ -6,7 +6,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::compatible_form_test {
 namespace {
 
 QRect placeIn(const QWidget& whole, const QWidget& part) {
@@ -125,4 +125,4 @@ TEST_P(CompatibleFormTest, OnlyGroupsStandOnAGround) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::compatible_form_test

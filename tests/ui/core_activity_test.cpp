@@ -11,7 +11,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::core_activity_test {
 namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -182,4 +182,4 @@ TEST_F(CoreActivityViewTest, SaysAllCores) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::core_activity_test

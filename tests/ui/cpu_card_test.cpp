@@ -9,7 +9,7 @@
 #include "ui/rendering.h"
 
 /// What the card says; how it looks is another file.
-namespace vantor {
+namespace vantor::cpu_card_test {
 namespace {
 
 using testing::ElementsAre;
@@ -153,4 +153,4 @@ TEST(CPUCard, OtherSectionsRevisionsDoNotTouchIt) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_card_test

@@ -10,7 +10,7 @@
 #include "ui/rendering.h"
 
 /// How the card follows what it is shown.
-namespace vantor {
+namespace vantor::cpu_card_view_test {
 namespace {
 
 class CPUCardViewTest : public testing::Test {
@@ -197,4 +197,4 @@ TEST_F(CPUCardViewTest, OlderSystemsHaveAnotherSymbolBeforeTheProcesses) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_card_view_test

@@ -5,7 +5,7 @@
 #include "ui/components/card_chrome.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::dashboard_card_test {
 namespace {
 
 DashboardCard cardWith(std::optional<QString> subtitle) {
@@ -134,4 +134,4 @@ TEST(DashboardCard, ShowsAnotherTitleInTheSameFrame) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::dashboard_card_test

@@ -14,7 +14,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::dashboard_header_test {
 namespace {
 
 using Form = VantorHorizontalFit::Form;
@@ -257,4 +257,4 @@ TEST_F(DashboardHeaderViewTest, IdentityTileRunsFromCyanToPurple) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::dashboard_header_test

@@ -6,7 +6,7 @@
 #include "ui/rendering.h"
 
 /// What the header says; how it behaves is another file.
-namespace vantor {
+namespace vantor::dashboard_header_texts_test {
 namespace {
 
 DashboardHeader paused() {
@@ -55,4 +55,4 @@ TEST(DashboardHeader, EqualityIgnoresTheCallbacks) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::dashboard_header_texts_test

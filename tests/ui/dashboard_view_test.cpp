@@ -25,7 +25,7 @@
 #include "ui/explorer/process_explorer_view.h"
 #include "ui/gestures.h"
 
-namespace vantor {
+namespace vantor::dashboard_view_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -346,4 +346,4 @@ TEST_F(DashboardViewTest, OlderSystemsScrollPlainlyAndGoByBreakpoints) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::dashboard_view_test

@@ -11,7 +11,7 @@
 #include "ui/dashboard_world.h"
 
 /// The line at the bottom: what program this is, and how old its figures are.
-namespace vantor {
+namespace vantor::footer_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -137,4 +137,4 @@ TEST_F(FooterTest, BothTextsAreWhollyVisible) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::footer_test

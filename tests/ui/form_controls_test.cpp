@@ -10,7 +10,7 @@
 #include "ui/rendering.h"
 
 /// Stepper, switch, and the picker of segments without its label.
-namespace vantor {
+namespace vantor::form_controls_test {
 namespace {
 
 using Half = StepperView::Half;
@@ -249,4 +249,4 @@ TEST(SegmentedPicker, WithoutItsLabelItIsAsWideAsItsTrack) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::form_controls_test

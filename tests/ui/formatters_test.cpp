@@ -14,7 +14,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::formatters_test {
 namespace {
 
 using std::numeric_limits;
@@ -161,4 +161,4 @@ TEST(Formatters, WriteTheSameInEveryLocale) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::formatters_test

@@ -7,7 +7,7 @@
 #include "ui/cards/storage_card.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::gpu_storage_card_test {
 namespace {
 
 const PlatformWords& macWords() {
@@ -197,4 +197,4 @@ TEST(StorageCard, WithoutVolumesItSaysSoButNotBeforeItKnows) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::gpu_storage_card_test

@@ -11,7 +11,7 @@
 #include "ui/drawing/ground_view.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::ground_test {
 namespace {
 
 using Layer = Ground::Layer;
@@ -169,4 +169,4 @@ TEST(CardGround, IsOpaqueOnlyWhereItKnowsItsGround) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::ground_test

@@ -12,7 +12,7 @@
 #include "ui/gestures.h"
 #include "ui/views_world.h"
 
-namespace vantor {
+namespace vantor::help_view_test {
 namespace {
 
 using testing::HasSubstr;
@@ -213,4 +213,4 @@ TEST_F(HelpViewTest, AnOlderSystemHasItsOwnScrollBar) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::help_view_test

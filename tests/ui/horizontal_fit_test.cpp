@@ -6,7 +6,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::horizontal_fit_test {
 namespace {
 
 using Form = VantorHorizontalFit::Form;
@@ -111,4 +111,4 @@ TEST(HorizontalFit, WithABreakpointARowThatDoesNotFitStaysWithinItsWidth) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::horizontal_fit_test

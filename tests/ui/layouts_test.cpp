@@ -4,7 +4,7 @@
 #include "ui/dashboard/flow_layout.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::layouts_test {
 namespace {
 
 /// Something of a size.
@@ -166,4 +166,4 @@ TEST_F(FlowLayoutTest, RunsFromTheRightWhereOneReadsFromTheRight) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::layouts_test

@@ -7,7 +7,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::memory_network_card_test {
 namespace {
 
 void expectRow(const MetricRow& row, const char* label, const char* value,
@@ -145,4 +145,4 @@ TEST(NetworkCard, ViewShowsChartsUnderTheTiles) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::memory_network_card_test

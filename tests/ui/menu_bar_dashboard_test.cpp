@@ -12,7 +12,7 @@
 #include "ui/symbols.h"
 #include "ui/views_world.h"
 
-namespace vantor {
+namespace vantor::menu_bar_dashboard_test {
 namespace {
 
 using testing::IsEmpty;
@@ -289,4 +289,4 @@ TEST(MenuMetric, StandsOnAFaintTileAndItsBarHasItsShare) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::menu_bar_dashboard_test

@@ -11,7 +11,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::menu_picker_test {
 namespace {
 
 class MenuPickerTest : public testing::Test {
@@ -62,4 +62,4 @@ TEST(PlaceAmong, TellsWhereAValueIs) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::menu_picker_test

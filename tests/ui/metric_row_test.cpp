@@ -4,7 +4,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::metric_row_test {
 namespace {
 
 constexpr QSize size{240, 20};
@@ -93,4 +93,4 @@ TEST(MetricRow, ALongValueIsCutBesideItsLabelAndWholeInItsHelp) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::metric_row_test

@@ -19,7 +19,7 @@
 #include "ui/explorer/filter_field.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::mirrored_test {
 namespace {
 
 /// What is painted where, for who reads from the left and for who reads from the right.
@@ -140,4 +140,4 @@ TEST(Mirrored, ChartsAndRingsRunAsTimeAndClocksDo) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mirrored_test

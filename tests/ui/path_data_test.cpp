@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantor {
+namespace vantor::path_data_test {
 namespace {
 
 QPointF endOf(std::string_view data) {
@@ -80,4 +80,4 @@ TEST(PathData, AnythingElseIsNoPath) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::path_data_test

@@ -27,7 +27,7 @@
 #include "ui/views_world.h"
 
 /// Every component as it is meant to look, in both schemes, on ordinary and on fine screens.
-namespace vantor {
+namespace vantor::picture_test {
 namespace {
 
 struct Subject {
@@ -273,4 +273,4 @@ TEST_P(Picture, LooksAsAgreed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::picture_test

@@ -8,7 +8,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::pixels_test {
 namespace {
 
 /// A painter on a device with that many pixels to the point.
@@ -93,4 +93,4 @@ TEST(Pixels, ATurnedPainterHasNoPixelsToSnapTo) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::pixels_test

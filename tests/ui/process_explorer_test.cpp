@@ -8,7 +8,7 @@
 #include "ui/rendering.h"
 
 /// Which processes the explorer lists.
-namespace vantor {
+namespace vantor::process_explorer_test {
 namespace {
 
 using testing::ElementsAre;
@@ -139,4 +139,4 @@ TEST(SortModes, AreTwoWithTheirLabels) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_explorer_test

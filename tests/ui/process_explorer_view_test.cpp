@@ -19,7 +19,7 @@
 #include "ui/rendering.h"
 
 /// How the explorer follows the user and the readings.
-namespace vantor {
+namespace vantor::process_explorer_view_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -305,4 +305,4 @@ TEST(ProcessColumns, HaveTheirWidthsAndScaleWithTheFont) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_explorer_view_test

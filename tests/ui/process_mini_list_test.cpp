@@ -9,7 +9,7 @@
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::process_mini_list_test {
 namespace {
 
 using Metric = ProcessMiniList::Metric;
@@ -164,4 +164,4 @@ TEST_F(ProcessMiniListTest, SaysItsTitleAndThatItIsAList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_mini_list_test

@@ -12,7 +12,7 @@
 #include "ui/drawing/ring_raster.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::rasters_test {
 namespace {
 
 constexpr QSize size{160, 80};
@@ -159,4 +159,4 @@ INSTANTIATE_TEST_SUITE_P(Sweeps, RingRasterLooks,
                          testing::Values(0, 1, 45, 90, 133, 179, 180, 181, 270, 359, 360));
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::rasters_test

@@ -19,7 +19,7 @@
 #include "ui/dashboard_world.h"
 #include "ui/explorer/process_explorer_view.h"
 
-namespace vantor {
+namespace vantor::repaint_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -148,4 +148,4 @@ TEST_F(Repaint, AHiddenWindowPaintsNothing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::repaint_test

@@ -8,7 +8,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::ring_gauge_test {
 namespace {
 
 constexpr double side = 126;
@@ -128,4 +128,4 @@ TEST(RingGauge, IsOneElementThatSaysDetailAndTitle) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::ring_gauge_test

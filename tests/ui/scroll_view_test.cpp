@@ -8,7 +8,7 @@
 #include "ui/components/make_child.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::scroll_view_test {
 namespace {
 
 class GlidingPage : public testing::Test {
@@ -87,4 +87,4 @@ TEST_F(GlidingPage, FingersOnATouchpadMoveItDirectly) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::scroll_view_test

@@ -8,7 +8,7 @@
 #include "ui/settings_fixture.h"
 
 /// How the settings are laid out, walked through and told of.
-namespace vantor {
+namespace vantor::settings_look_test {
 namespace {
 
 using testing::IsEmpty;
@@ -100,4 +100,4 @@ TEST_P(SettingsLook, NothingIsCut) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::settings_look_test

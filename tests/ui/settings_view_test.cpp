@@ -7,7 +7,7 @@
 #include "platform/native_machine.h"
 #include "ui/settings_fixture.h"
 
-namespace vantor {
+namespace vantor::settings_view_test {
 namespace {
 
 using testing::IsEmpty;
@@ -230,4 +230,4 @@ TEST_F(SettingsViewTest, GoneItFollowsNothing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::settings_view_test

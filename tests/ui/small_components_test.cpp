@@ -9,7 +9,7 @@
 #include "ui/rendering.h"
 
 /// Speed tile, labelled chart, empty state, picker.
-namespace vantor {
+namespace vantor::small_components_test {
 namespace {
 
 SpeedTile tile() {
@@ -157,4 +157,4 @@ TEST(SegmentedPicker, ItsChoicesAreRadioButtonsUnderItsName) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::small_components_test

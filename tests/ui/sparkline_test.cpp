@@ -8,7 +8,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::sparkline_test {
 namespace {
 
 using testing::ElementsAre;
@@ -130,4 +130,4 @@ TEST(Sparkline, SaysItsLabelAndItsNewestValue) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::sparkline_test

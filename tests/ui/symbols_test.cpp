@@ -10,7 +10,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::symbols_test {
 namespace {
 
 /// The names of all symbols, as the resources have them.
@@ -110,4 +110,4 @@ TEST(Symbols, TranslucentColoursStayTranslucent) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::symbols_test

@@ -6,7 +6,7 @@
 #include "ui/card_samples.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::system_card_test {
 namespace {
 
 std::string text(const MetricRow& row) {
@@ -140,4 +140,4 @@ TEST_F(SystemCardTest, SaysNothingBeforeTheFirstReading) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::system_card_test

@@ -7,7 +7,7 @@
 #include "ui/other_font.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::text_shapes_test {
 namespace {
 
 constexpr TextStyle plain{Typography::body};
@@ -127,4 +127,4 @@ TEST(TextShapes, TextThatReadsFromTheRightEndsAtTheRightEdge) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::text_shapes_test

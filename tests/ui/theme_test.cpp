@@ -10,7 +10,7 @@
 #include "ui/cards/core_activity.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::theme_test {
 namespace {
 
 constexpr std::array schemes{ColorScheme::dark, ColorScheme::light};
@@ -174,4 +174,4 @@ TEST(VantorGroupedFormStyle, GivesTheRowsRoom) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::theme_test

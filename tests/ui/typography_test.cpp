@@ -7,7 +7,7 @@
 
 #include "ui/other_font.h"
 
-namespace vantor {
+namespace vantor::typography_test {
 namespace {
 
 TEST(Typography, SizesAreThoseOfASystemFontOf13) {
@@ -58,4 +58,4 @@ TEST(Typography, TextsThatDifferInDigitsOnlyAreEquallyWide) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::typography_test

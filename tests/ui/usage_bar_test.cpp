@@ -6,7 +6,7 @@
 
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::usage_bar_test {
 namespace {
 
 constexpr QRectF bounds{0, 0, 200, 8};
@@ -57,4 +57,4 @@ TEST(UsageBar, TellsItsShareAsText) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::usage_bar_test

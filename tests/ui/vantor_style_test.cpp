@@ -11,7 +11,7 @@
 #include "ui/rendering.h"
 #include "ui/theme.h"
 
-namespace vantor {
+namespace vantor::vantor_style_test {
 namespace {
 
 constexpr QRectF everywhere(0, 0, 48, 48);
@@ -108,4 +108,4 @@ TEST_F(VantorStyleTest, WhatItHasNoSymbolForIsTheToolkitsOwn) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::vantor_style_test

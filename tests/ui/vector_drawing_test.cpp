@@ -9,7 +9,7 @@
 #include "ui/product_icon.h"
 #include "ui/rendering.h"
 
-namespace vantor {
+namespace vantor::vector_drawing_test {
 namespace {
 
 QImage emptyImage(int side) {
@@ -116,4 +116,4 @@ TEST(VectorDrawing, WhatItCannotDrawIsNoDrawing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::vector_drawing_test

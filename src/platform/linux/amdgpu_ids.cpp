@@ -2,19 +2,14 @@
 
 #include <charconv>
 
+#include "platform/linux/trimmed.h"
+
 namespace vantor {
 
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r";
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 /// Takes the front up to the next comma.
-std::optional<std::string_view> takeField(std::string_view& line) {
+std::optional<std::string_view> takeUpToComma(std::string_view& line) {
     const auto comma = line.find(',');
     if (comma == std::string_view::npos) return std::nullopt;
     const std::string_view field = trimmed(line.substr(0, comma));
@@ -43,8 +38,8 @@ std::optional<std::string> findAMDGPUName(std::string_view text, std::uint16_t d
         std::string_view line = text.substr(0, end);
         text.remove_prefix(end + 1);
         if (line.starts_with('#')) continue;
-        if (parseHex<std::uint16_t>(takeField(line)) != device) continue;
-        const auto listed = parseHex<std::uint8_t>(takeField(line));
+        if (parseHex<std::uint16_t>(takeUpToComma(line)) != device) continue;
+        const auto listed = parseHex<std::uint8_t>(takeUpToComma(line));
         const std::string_view name = trimmed(line);
         if (!listed || name.empty()) continue;
         if (revision && listed == revision) return std::string(name);

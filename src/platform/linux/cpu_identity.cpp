@@ -10,18 +10,11 @@
 
 #include "platform/linux/cpu_list.h"
 #include "platform/linux/kernel_file.h"
+#include "platform/linux/trimmed.h"
 
 namespace vantor {
 
 namespace {
-
-std::string_view trim(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
-        text.remove_prefix(1);
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t'))
-        text.remove_suffix(1);
-    return text;
-}
 
 std::optional<std::vector<std::uint32_t>> readCPUList(const LinuxRoots& roots, const char* name) {
     const auto text = readKernelFile(roots.sys / "devices/system/cpu" / name);
@@ -82,8 +75,8 @@ std::optional<std::string> findInCPUInfo(std::string_view text, std::string_view
         const std::string_view line = text.substr(0, lineEnd);
         text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 1);
         const auto colon = line.find(':');
-        if (colon == std::string_view::npos || trim(line.substr(0, colon)) != key) continue;
-        const auto value = trim(line.substr(colon + 1));
+        if (colon == std::string_view::npos || trimmed(line.substr(0, colon)) != key) continue;
+        const auto value = trimmed(line.substr(colon + 1));
         if (!value.empty()) return std::string(value);
     }
     return std::nullopt;
@@ -92,11 +85,11 @@ std::optional<std::string> findInCPUInfo(std::string_view text, std::string_view
 std::optional<std::uint64_t> frequencyInName(std::string_view name) {
     const auto at = name.rfind('@');
     if (at == std::string_view::npos) return std::nullopt;
-    const std::string_view text = trim(name.substr(at + 1));
+    const std::string_view text = trimmed(name.substr(at + 1));
     double number = 0;
     const auto [end, error] =
         std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    const auto unit = trim(text.substr(static_cast<std::size_t>(end - text.data())));
+    const auto unit = trimmed(text.substr(static_cast<std::size_t>(end - text.data())));
     const double scale = unit == "GHz" ? 1e9 : unit == "MHz" ? 1e6 : 0;
     const double hertz = number * scale;
     if (error != std::errc{} || !(hertz >= 1 && hertz < 1e15)) return std::nullopt;

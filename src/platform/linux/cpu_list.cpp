@@ -6,11 +6,11 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t processorLimit = 65536;
+constexpr std::uint32_t cpuListProcessorLimit = 65536;
 
 bool readNumber(std::string_view& text, std::uint32_t& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || number >= processorLimit) return false;
+    if (error != std::errc{} || number >= cpuListProcessorLimit) return false;
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return true;
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t mostOpenFiles = 256;
 /// Drivers with many memory regions write some two kilobytes.
-constexpr std::size_t bufferSize = std::size_t{16} * 1024;
+constexpr std::size_t drmClientsBufferSize = std::size_t{16} * 1024;
 
 /// A text that tells its device must tell the one whose node is open.
 bool isOf(const DRMFdInfo& info, const DRMDevice& device) {
@@ -141,7 +141,7 @@ FileDescriptor DRMClients::open(std::int32_t pid, std::int32_t fd) const {
 
 std::optional<std::string_view> DRMClients::read(const FileDescriptor& file) {
     if (!file) return std::nullopt;
-    if (buffer_.empty()) buffer_.resize(bufferSize);
+    if (buffer_.empty()) buffer_.resize(drmClientsBufferSize);
     ssize_t count = 0;
     do {
         count = ::pread(file.get(), buffer_.data(), buffer_.size(), 0);

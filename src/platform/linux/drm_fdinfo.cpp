@@ -3,19 +3,14 @@
 #include <algorithm>
 #include <charconv>
 
+#include "platform/linux/trimmed.h"
+
 namespace vantor {
 
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r";
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 /// A number with nothing behind it but the unit, if it has one.
-std::optional<std::uint64_t> parseNumber(std::string_view text, std::string_view unit = {}) {
+std::optional<std::uint64_t> parseAmount(std::string_view text, std::string_view unit = {}) {
     std::uint64_t number = 0;
     const char* const end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data(), end, number);
@@ -45,21 +40,21 @@ DRMEngine* DRMFdInfo::engine(std::string_view name) {
 void DRMFdInfo::take(std::string_view key, std::string_view value) {
     if (takePrefix(key, "engine-capacity-")) {
         // None at all is no capacity to divide by.
-        const auto capacity = parseNumber(value);
+        const auto capacity = parseAmount(value);
         if (DRMEngine* const known = capacity.value_or(0) > 0 ? engine(key) : nullptr) {
             known->capacity = *capacity;
         }
     } else if (takePrefix(key, "engine-")) {
-        const auto busy = parseNumber(value, "ns");
+        const auto busy = parseAmount(value, "ns");
         if (DRMEngine* const known = busy ? engine(key) : nullptr) known->busyNanoseconds = busy;
     } else if (takePrefix(key, "cycles-")) {
-        const auto cycles = parseNumber(value);
+        const auto cycles = parseAmount(value);
         if (DRMEngine* const known = cycles ? engine(key) : nullptr) known->cycles = cycles;
     } else if (takePrefix(key, "total-cycles-")) {
-        const auto cycles = parseNumber(value);
+        const auto cycles = parseAmount(value);
         if (DRMEngine* const known = cycles ? engine(key) : nullptr) known->totalCycles = cycles;
     } else if (key == "client-id") {
-        if (const auto number = parseNumber(value)) {
+        if (const auto number = parseAmount(value)) {
             clientID = *number;
             hasClientID_ = true;
         }

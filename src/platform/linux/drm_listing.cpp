@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The names in a folder; none when it is not there, absent when it cannot be listed.
-std::optional<std::vector<std::string>> namesIn(const fs::path& folder) {
+std::optional<std::vector<std::string>> namesIfListed(const fs::path& folder) {
     std::vector<std::string> names;
     std::error_code error;
     fs::directory_iterator at(folder, error);
@@ -56,7 +56,7 @@ bool isRenderNode(std::string_view name) {
 void appendUnlisted(const LinuxRoots& roots, const fs::path& sys, std::vector<DRMDevice>& devices) {
     const fs::path folder = roots.sys / "bus/pci/drivers/nvidia";
     std::vector<DRMDevice> unlisted;
-    for (const std::string& name : namesIn(folder).value_or(std::vector<std::string>{})) {
+    for (const std::string& name : namesIfListed(folder).value_or(std::vector<std::string>{})) {
         if (!parsePCIAddress(name)) continue;
         auto device = describe(folder / name, sys);
         if (!device || !device->address) continue;
@@ -95,7 +95,7 @@ std::optional<std::uint32_t> parseCardNumber(std::string_view node) {
 
 std::optional<std::vector<DRMDevice>> listDRMDevices(const LinuxRoots& roots) {
     const fs::path folder = roots.sys / "class/drm";
-    const auto names = namesIn(folder);
+    const auto names = namesIfListed(folder);
     if (!names) return std::nullopt;
     std::error_code error;
     const fs::path sys = fs::canonical(roots.sys, error);

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/time_units.h"
+
 namespace vantor {
 
 namespace {
-
-constexpr double nanosecondsPerSecond = 1e9;
 
 /// Of a counter that stepped back, as one of another client under the same number does, nothing.
 double growth(std::uint64_t before, std::uint64_t now) {
@@ -42,7 +42,7 @@ double ClientEngines::share(const Counters& before, const DRMEngine& engine, dou
     double share = 0;
     if (engine.busyNanoseconds && before.busyNanoseconds) {
         share = growth(*before.busyNanoseconds, *engine.busyNanoseconds) /
-                (elapsed * nanosecondsPerSecond * capacity);
+                (elapsed * static_cast<double>(nanosecondsPerSecond) * capacity);
     } else if (engine.cycles && engine.totalCycles && before.cycles && before.totalCycles) {
         const double total = growth(*before.totalCycles, *engine.totalCycles);
         if (total > 0) share = growth(*before.cycles, *engine.cycles) / (total * capacity);

@@ -42,7 +42,7 @@ constexpr std::array pseudoPrograms{"gvfs-fuse-daemon"sv, "gvfsd-fuse"sv, "lxcfs
 constexpr std::array localWithoutDevice{"apfs"sv, "bcachefs"sv, "btrfs"sv, "ubifs"sv, "zfs"sv};
 
 template <class Names>
-bool contains(const Names& names, std::string_view name) {
+bool isAmong(const Names& names, std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
@@ -50,18 +50,18 @@ bool contains(const Names& names, std::string_view name) {
 
 FileSystemKind kindOf(const Mount& mount) {
     const std::string_view type = mount.type;
-    if (contains(networkTypes, type)) return FileSystemKind::network;
-    if (contains(hostShares, type)) return FileSystemKind::hostShare;
+    if (isAmong(networkTypes, type)) return FileSystemKind::network;
+    if (isAmong(hostShares, type)) return FileSystemKind::hostShare;
     constexpr std::string_view served = "fuse.";
     if (type == "fuse") return FileSystemKind::userSpace;
     if (type.starts_with(served)) {
         const std::string_view program = type.substr(served.size());
-        if (contains(networkPrograms, program)) return FileSystemKind::network;
-        if (contains(pseudoPrograms, program)) return FileSystemKind::userSpacePseudo;
-        if (contains(localPrograms, program)) return FileSystemKind::local;
+        if (isAmong(networkPrograms, program)) return FileSystemKind::network;
+        if (isAmong(pseudoPrograms, program)) return FileSystemKind::userSpacePseudo;
+        if (isAmong(localPrograms, program)) return FileSystemKind::local;
         return FileSystemKind::userSpace;
     }
-    const bool isLocal = mount.major != 0 || contains(localWithoutDevice, type);
+    const bool isLocal = mount.major != 0 || isAmong(localWithoutDevice, type);
     return isLocal ? FileSystemKind::local : FileSystemKind::pseudo;
 }
 

@@ -18,10 +18,10 @@ constexpr std::array<std::string_view, 10> driversWithClients{
 
 constexpr std::uint32_t displayClass = 0x03;
 // Sensors that are off or broken tell temperatures that no working card has.
-constexpr std::int64_t coldest = -100'000;
-constexpr std::int64_t hottest = 250'000;
+constexpr std::int64_t graphicsCardColdest = -100'000;
+constexpr std::int64_t graphicsCardHottest = 250'000;
 
-bool contains(const auto& list, std::string_view word) {
+bool isListed(const auto& list, std::string_view word) {
     return std::find(list.begin(), list.end(), word) != list.end();
 }
 
@@ -47,7 +47,8 @@ std::optional<double> readSensor(const SmallFile& sensor) {
     std::array<char, 32> buffer{};
     const auto text = sensor.read(buffer);
     const auto temperature = text ? parseTemperature(*text) : std::nullopt;
-    if (!temperature || *temperature < coldest || *temperature > hottest) return std::nullopt;
+    if (!temperature || *temperature < graphicsCardColdest || *temperature > graphicsCardHottest)
+        return std::nullopt;
     return static_cast<double>(*temperature) / 1000;
 }
 
@@ -177,7 +178,7 @@ bool GraphicsCard::needsLibrary() const {
 
 bool GraphicsCard::needsClients() const {
     if (files_ && files_->amdgpu) return files_->amdgpu->isBusynessUnknown();
-    return contains(driversWithClients, place_.driver);
+    return isListed(driversWithClients, place_.driver);
 }
 
 void GraphicsCard::readTemperature() {

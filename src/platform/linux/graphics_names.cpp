@@ -19,7 +19,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint16_t amd = 0x1002;
-constexpr std::size_t longestName = 256;
+constexpr std::size_t graphicsNamesLongestName = 256;
 
 constexpr std::array<std::pair<std::uint16_t, std::string_view>, 8> knownVendors{{
     {amd, "AMD"},
@@ -79,7 +79,7 @@ std::string anyName(const GraphicsIdentity& identity, const ListedNames& listed)
 }  // namespace
 
 std::string graphicsName(const GraphicsIdentity& identity, const ListedNames& listed) {
-    std::string name = anyName(identity, listed).substr(0, longestName);
+    std::string name = anyName(identity, listed).substr(0, graphicsNamesLongestName);
     std::erase_if(name, [](unsigned char letter) { return letter < 0x20 || letter == 0x7F; });
     const auto last = name.find_last_not_of(' ');
     name.erase(last == std::string::npos ? 0 : last + 1);

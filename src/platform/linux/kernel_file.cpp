@@ -11,8 +11,8 @@ namespace vantor {
 namespace {
 
 // A page: most such files are far smaller, and every kept file has its buffer.
-constexpr std::size_t firstBufferSize = std::size_t{4} * 1024;
-constexpr std::size_t largestBufferSize = std::size_t{16} * 1024 * 1024;
+constexpr std::size_t kernelFileFirstBufferSize = std::size_t{4} * 1024;
+constexpr std::size_t kernelFileLargestBufferSize = std::size_t{16} * 1024 * 1024;
 
 ssize_t readFromStart(int fd, std::vector<char>& buffer) {
     ssize_t count = 0;
@@ -31,12 +31,12 @@ bool KernelFile::open() {
 
 std::optional<std::string_view> KernelFile::read() {
     if (!file_ && !open()) return std::nullopt;
-    if (buffer_.empty()) buffer_.resize(firstBufferSize);
+    if (buffer_.empty()) buffer_.resize(kernelFileFirstBufferSize);
     ssize_t count = readFromStart(file_.get(), buffer_);
     // A full buffer may hide more. The kernel makes the text anew for each read from the start, so
     // reading on would join the end of one moment to the start of another: read it all again.
     while (count >= 0 && static_cast<std::size_t>(count) == buffer_.size() &&
-           buffer_.size() < largestBufferSize) {
+           buffer_.size() < kernelFileLargestBufferSize) {
         buffer_.resize(buffer_.size() * 2);
         count = readFromStart(file_.get(), buffer_);
     }
@@ -51,8 +51,8 @@ std::optional<std::string> readKernelFile(const std::filesystem::path& path) {
     const FileDescriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
     if (!file) return std::nullopt;
     std::string content;
-    std::array<char, firstBufferSize> buffer{};
-    while (content.size() < largestBufferSize) {
+    std::array<char, kernelFileFirstBufferSize> buffer{};
+    while (content.size() < kernelFileLargestBufferSize) {
         const ssize_t count = ::read(file.get(), buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;

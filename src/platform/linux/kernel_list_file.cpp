@@ -10,7 +10,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t firstBufferSize = std::size_t{4} * 1024;
+constexpr std::size_t kernelListFileFirstBufferSize = std::size_t{4} * 1024;
 
 }  // namespace
 
@@ -19,7 +19,7 @@ std::optional<std::string_view> KernelListFile::read() {
         file_ = FileDescriptor{::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
         if (!file_) return std::nullopt;
     }
-    if (buffer_.empty()) buffer_.resize(std::min(firstBufferSize, limit_));
+    if (buffer_.empty()) buffer_.resize(std::min(kernelListFileFirstBufferSize, limit_));
     std::size_t size = 0;
     while (size < limit_) {
         if (size == buffer_.size()) buffer_.resize(std::min(2 * size, limit_));

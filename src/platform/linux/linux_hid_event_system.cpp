@@ -6,10 +6,10 @@ namespace vantor {
 
 namespace {
 
-constexpr std::int32_t sensorUsagePage = 0xFF00;
-constexpr std::int32_t temperatureUsage = 5;
-constexpr std::int64_t temperatureEvent = 15;
-constexpr std::int32_t temperatureField = 15 << 16;
+constexpr std::int32_t hidEventSystemSensorUsagePage = 0xFF00;
+constexpr std::int32_t hidEventSystemTemperatureUsage = 5;
+constexpr std::int64_t hidEventSystemTemperatureEvent = 15;
+constexpr std::int32_t hidEventSystemTemperatureField = 15 << 16;
 
 }  // namespace
 
@@ -42,7 +42,8 @@ void LinuxHIDEventSystem::setMatching(const Functions&, Object client, std::int3
     const std::lock_guard guard(lock_);
     const auto found = objects_.find(client);
     if (found == objects_.end()) return;
-    found->second.matches = usagePage == sensorUsagePage && usage == temperatureUsage;
+    found->second.matches =
+        usagePage == hidEventSystemSensorUsagePage && usage == hidEventSystemTemperatureUsage;
 }
 
 bool LinuxHIDEventSystem::copyServices(const Functions&, Object client,
@@ -65,14 +66,14 @@ std::optional<std::string> LinuxHIDEventSystem::copyProperty(const Functions&, O
 HIDEventSystem::Object LinuxHIDEventSystem::copyEvent(const Functions&, Object service,
                                                       std::int64_t type) {
     const auto entry = find(service);
-    if (!entry || !entry->sensor || type != temperatureEvent) return 0;
+    if (!entry || !entry->sensor || type != hidEventSystemTemperatureEvent) return 0;
     const auto value = entry->sensor->read();
     return value ? add({true, nullptr, nullptr, value}) : 0;
 }
 
 double LinuxHIDEventSystem::floatValue(const Functions&, Object event, std::int32_t field) {
     const auto entry = find(event);
-    return entry && field == temperatureField ? entry->value.value_or(0) : 0;
+    return entry && field == hidEventSystemTemperatureField ? entry->value.value_or(0) : 0;
 }
 
 void LinuxHIDEventSystem::release(Object object) {

@@ -8,7 +8,7 @@ namespace vantor {
 namespace {
 
 // More than any kernel is built for; a larger number is a damaged file, not a machine.
-constexpr std::uint32_t processorLimit = 65536;
+constexpr std::uint32_t hostProcessorsProcessorLimit = 65536;
 
 constexpr std::uint32_t low(std::uint64_t ticks) {
     return static_cast<std::uint32_t>(ticks);
@@ -64,7 +64,7 @@ std::optional<HostProcessors::ProcessorArray> LinuxHostProcessors::processorTick
     ++reading_;
     auto* place = words_.data();
     for (const auto& [id, raw] : stat_.processors) {
-        if (id >= processorLimit) return std::nullopt;
+        if (id >= hostProcessorsProcessorLimit) return std::nullopt;
         if (id >= byID_.size()) byID_.resize(id + 1);
         Known& known = byID_[id];
         const ProcStat::Ticks now = known.steady.update(raw);

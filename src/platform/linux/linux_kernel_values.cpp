@@ -11,24 +11,23 @@
 
 #include "platform/linux/cpu_identity.h"
 #include "platform/linux/kernel_facts.h"
+#include "platform/time_units.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
-
-using Bytes = std::optional<std::vector<std::byte>>;
+using KernelBytes = std::optional<std::vector<std::byte>>;
 
 template <class T>
-Bytes toBytes(const std::optional<T>& value) {
+KernelBytes toBytes(const std::optional<T>& value) {
     if (!value) return std::nullopt;
     std::vector<std::byte> bytes(sizeof(T));
     std::memcpy(bytes.data(), &*value, sizeof(T));
     return bytes;
 }
 
-Bytes toBytes(const std::optional<std::string>& text) {
+KernelBytes toBytes(const std::optional<std::string>& text) {
     if (!text) return std::nullopt;
     const auto letters = std::as_bytes(std::span(*text));
     std::vector<std::byte> bytes(letters.begin(), letters.end());
@@ -36,28 +35,32 @@ Bytes toBytes(const std::optional<std::string>& text) {
     return bytes;
 }
 
-struct Entry {
+struct KernelValueEntry {
     std::string_view name;
-    Bytes (*read)(const LinuxRoots&);
+    KernelBytes (*read)(const LinuxRoots&);
 };
 
 constexpr std::array entries{
-    Entry{"machdep.cpu.brand_string",
-          [](const LinuxRoots& roots) { return toBytes(readProcessorName(roots)); }},
-    Entry{"hw.model", [](const LinuxRoots& roots) { return toBytes(readHardwareModel(roots)); }},
-    Entry{"hw.logicalcpu",
-          [](const LinuxRoots& roots) { return toBytes(countOnlineProcessors(roots)); }},
-    Entry{"hw.physicalcpu",
-          [](const LinuxRoots& roots) { return toBytes(countPhysicalCores(roots)); }},
-    Entry{"hw.cpufrequency",
-          [](const LinuxRoots& roots) { return toBytes(readNominalFrequencyHz(roots)); }},
-    Entry{"hw.memsize",
-          [](const LinuxRoots& roots) { return toBytes(readInstalledMemory(roots)); }},
-    Entry{"hw.tbfrequency",
-          [](const LinuxRoots&) { return toBytes(std::optional(nanosecondsPerSecond)); }},
-    Entry{"kern.maxproc", [](const LinuxRoots& roots) { return toBytes(readProcessLimit(roots)); }},
-    Entry{"kern.osversion",
-          [](const LinuxRoots& roots) { return toBytes(readKernelRelease(roots)); }},
+    KernelValueEntry{"machdep.cpu.brand_string",
+                     [](const LinuxRoots& roots) { return toBytes(readProcessorName(roots)); }},
+    KernelValueEntry{"hw.model",
+                     [](const LinuxRoots& roots) { return toBytes(readHardwareModel(roots)); }},
+    KernelValueEntry{"hw.logicalcpu",
+                     [](const LinuxRoots& roots) { return toBytes(countOnlineProcessors(roots)); }},
+    KernelValueEntry{"hw.physicalcpu",
+                     [](const LinuxRoots& roots) { return toBytes(countPhysicalCores(roots)); }},
+    KernelValueEntry{
+        "hw.cpufrequency",
+        [](const LinuxRoots& roots) { return toBytes(readNominalFrequencyHz(roots)); }},
+    KernelValueEntry{"hw.memsize",
+                     [](const LinuxRoots& roots) { return toBytes(readInstalledMemory(roots)); }},
+    KernelValueEntry{
+        "hw.tbfrequency",
+        [](const LinuxRoots&) { return toBytes(std::optional(nanosecondsPerSecond)); }},
+    KernelValueEntry{"kern.maxproc",
+                     [](const LinuxRoots& roots) { return toBytes(readProcessLimit(roots)); }},
+    KernelValueEntry{"kern.osversion",
+                     [](const LinuxRoots& roots) { return toBytes(readKernelRelease(roots)); }},
 };
 
 }  // namespace
@@ -65,8 +68,8 @@ constexpr std::array entries{
 int LinuxKernelValues::sysctlbyname(const std::string& name, std::span<std::byte> buffer,
                                     std::size_t& size) {
     const auto entry = std::find_if(entries.begin(), entries.end(),
-                                    [&](const Entry& e) { return e.name == name; });
-    const Bytes value = entry == entries.end() ? std::nullopt : entry->read(roots_);
+                                    [&](const KernelValueEntry& e) { return e.name == name; });
+    const KernelBytes value = entry == entries.end() ? std::nullopt : entry->read(roots_);
     if (!value) return ENOENT;
     size = value->size();
     if (buffer.empty()) return 0;

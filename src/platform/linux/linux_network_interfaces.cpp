@@ -20,7 +20,7 @@ static_assert(NetworkInterfaces::up == IFF_UP && NetworkInterfaces::loopback == 
 namespace {
 
 /// Copies `text` with a zero byte behind it; false when it does not fit.
-bool copyText(std::string_view text, std::span<char> to) {
+bool copyName(std::string_view text, std::span<char> to) {
     if (text.size() >= to.size()) return false;
     std::copy(text.begin(), text.end(), to.begin());
     to[text.size()] = '\0';
@@ -75,7 +75,7 @@ void LinuxNetworkInterfaces::writeMessages(std::span<std::byte> buffer) const {
 
 bool LinuxNetworkInterfaces::indexToName(std::uint32_t index, std::span<char> name) {
     const auto place = numbers_.placeOfNumber(index);
-    return place && copyText(links_[*place].name, name);
+    return place && copyName(links_[*place].name, name);
 }
 
 std::optional<std::span<const NetworkInterfaces::Entry>> LinuxNetworkInterfaces::getifaddrs() {
@@ -115,10 +115,10 @@ bool LinuxNetworkInterfaces::numericHost(const Entry& entry, std::span<char> tex
     } else {
         return false;
     }
-    if (!copyText(numbers, text)) return false;
+    if (!copyName(numbers, text)) return false;
     if (entry.scope == 0 || !entry.name) return true;
     const auto rest = text.subspan(numbers.size());
-    if (!copyText(entry.name, rest.subspan(1))) return false;
+    if (!copyName(entry.name, rest.subspan(1))) return false;
     rest[0] = '%';
     return true;
 }

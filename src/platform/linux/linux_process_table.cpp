@@ -10,6 +10,7 @@
 #include <climits>
 
 #include "platform/linux/process_stat.h"
+#include "platform/time_units.h"
 
 namespace vantor {
 
@@ -18,7 +19,6 @@ namespace {
 // A stat line is some 300 bytes; a name has at most 64 of them, kernel workers included.
 constexpr std::size_t fileBufferSize = 4096;
 constexpr double residentPeriod = 5.0;
-constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
 constexpr std::uint64_t microsecondsPerSecond = 1'000'000;
 
 /// "PID/file" relative to /proc, without touching the heap.

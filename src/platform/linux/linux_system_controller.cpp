@@ -11,17 +11,17 @@ namespace vantor {
 
 namespace {
 
-constexpr SystemController::Service theService = 1;
+constexpr SystemController::Service systemControllerTheService = 1;
 constexpr SystemController::Connection theConnection = 1;
-constexpr std::uint32_t recordSelector = 2;
+constexpr std::uint32_t systemControllerRecordSelector = 2;
 
 constexpr std::uint8_t badCommand = 0x82;
-constexpr std::uint8_t noSuchKey = 0x84;
+constexpr std::uint8_t systemControllerNoSuchKey = 0x84;
 constexpr std::uint8_t keyNotReadable = 0x85;
 
-constexpr std::uint32_t packageKey = 0x54433044;     // "TC0D"
-constexpr std::uint32_t firstCoreKey = 0x54433043;   // "TC0C"
-constexpr std::uint32_t floatingPoint = 0x666C7420;  // "flt "
+constexpr std::uint32_t packageKey = 0x54433044;                     // "TC0D"
+constexpr std::uint32_t firstCoreKey = 0x54433043;                   // "TC0C"
+constexpr std::uint32_t systemControllerFloatingPoint = 0x666C7420;  // "flt "
 
 /// The digit of "TC0C" to "TC9C".
 std::optional<std::size_t> coreDigit(std::uint32_t key) {
@@ -39,17 +39,17 @@ bool knows(const ProcessorSensorList& list, std::uint32_t key) {
 
 void answerKeyInfo(const ProcessorSensorList& list, SMCRecord& record) {
     if (!knows(list, record.key())) {
-        record.setResult(noSuchKey);
+        record.setResult(systemControllerNoSuchKey);
         return;
     }
     record.setDataSize(sizeof(float));
-    record.setDataType(floatingPoint);
+    record.setDataType(systemControllerFloatingPoint);
 }
 
 void answerBytes(ProcessorSensors& sensors, SMCRecord& record) {
     const auto digit = coreDigit(record.key());
     if (record.key() != packageKey && !digit) {
-        record.setResult(noSuchKey);
+        record.setResult(systemControllerNoSuchKey);
         return;
     }
     const auto temperature = digit ? sensors.hottestCore(*digit) : sensors.hottestPackage();
@@ -64,18 +64,18 @@ void answerBytes(ProcessorSensors& sensors, SMCRecord& record) {
 }  // namespace
 
 SystemController::Service LinuxSystemController::matchingService() {
-    return sensors_->list()->sensors.empty() ? 0 : theService;
+    return sensors_->list()->sensors.empty() ? 0 : systemControllerTheService;
 }
 
 SystemController::Connection LinuxSystemController::open(Service service) {
-    return service == theService ? theConnection : 0;
+    return service == systemControllerTheService ? theConnection : 0;
 }
 
 int LinuxSystemController::callStructMethod(Connection connection, std::uint32_t selector,
                                             std::span<const std::byte> request,
                                             std::span<std::byte> response,
                                             std::size_t& responseSize) {
-    if (connection != theConnection || selector != recordSelector) return EINVAL;
+    if (connection != theConnection || selector != systemControllerRecordSelector) return EINVAL;
     if (request.size() < SMCRecord::size || response.size() < SMCRecord::size) return EINVAL;
     SMCRecord record;
     std::copy_n(request.begin(), SMCRecord::size, record.bytes().begin());

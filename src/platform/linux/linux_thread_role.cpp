@@ -19,7 +19,7 @@ constexpr std::int32_t utilityNiceness = 5;
 // larger share; older kernels ignore it.
 constexpr std::uint64_t sliceNanoseconds = 100'000;
 
-constexpr std::size_t longestName = 15;
+constexpr std::size_t threadRoleLongestName = 15;
 
 // The C library has no wrapper for the call, nor its structure.
 struct SchedulingAttributes {
@@ -38,7 +38,7 @@ struct SchedulingAttributes {
 void assumeUtilityRole(const std::string& label) {
     const auto dot = label.rfind('.');
     const std::string name = dot == std::string::npos ? label : label.substr(dot + 1);
-    ::pthread_setname_np(::pthread_self(), name.substr(0, longestName).c_str());
+    ::pthread_setname_np(::pthread_self(), name.substr(0, threadRoleLongestName).c_str());
     SchedulingAttributes attributes;
     attributes.nice = utilityNiceness;
     attributes.runtime = sliceNanoseconds;

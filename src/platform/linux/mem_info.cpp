@@ -13,7 +13,7 @@ struct Key {
     MemInfo::Amount MemInfo::*amount;
 };
 
-constexpr std::array keys{
+constexpr std::array memInfoKeys{
     Key{"MemFree", &MemInfo::free},
     Key{"MemAvailable", &MemInfo::available},
     Key{"Buffers", &MemInfo::buffers},
@@ -39,7 +39,7 @@ constexpr std::uint64_t bitOf(std::string_view name) {
 
 constexpr std::uint64_t bitsOfKeys = [] {
     std::uint64_t bits = 0;
-    for (const Key& key : keys)
+    for (const Key& key : memInfoKeys)
         bits |= bitOf(key.name);
     return bits;
 }();
@@ -64,7 +64,7 @@ MemInfo::Amount readAmount(std::string_view text) {
 std::optional<MemInfo> MemInfo::parse(std::string_view text) {
     if (text.empty() || text.back() != '\n') return std::nullopt;
     MemInfo info;
-    auto next = keys.begin();  // the file has its lines in the order of the table
+    auto next = memInfoKeys.begin();  // the file has its lines in the order of the table
     while (!text.empty()) {
         const auto lineEnd = text.find('\n');
         const std::string_view line = text.substr(0, lineEnd);
@@ -77,8 +77,8 @@ std::optional<MemInfo> MemInfo::parse(std::string_view text) {
             continue;
         }
         if ((bitsOfKeys & bitOf(name)) == 0) continue;
-        for (std::size_t tried = 0; tried < keys.size(); ++tried) {
-            if (next == keys.end()) next = keys.begin();
+        for (std::size_t tried = 0; tried < memInfoKeys.size(); ++tried) {
+            if (next == memInfoKeys.end()) next = memInfoKeys.begin();
             const Key& key = *next++;
             if (key.name != name) continue;
             info.*key.amount = readAmount(line.substr(colon + 1));

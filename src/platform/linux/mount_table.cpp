@@ -10,7 +10,7 @@ namespace {
 
 /// Takes what stands before the next blank. Two blanks in a row hold an empty field: the source may
 /// be one.
-std::optional<std::string_view> takeField(std::string_view& line) {
+std::optional<std::string_view> takeMountField(std::string_view& line) {
     if (line.data() == nullptr) return std::nullopt;
     const auto end = line.find(' ');
     const std::string_view field = line.substr(0, end);
@@ -26,12 +26,12 @@ bool readNumber(std::string_view text, T& number) {
 }
 
 bool takeNumber(std::string_view& line, std::uint64_t& number) {
-    const auto field = takeField(line);
+    const auto field = takeMountField(line);
     return field && readNumber(*field, number);
 }
 
 bool takeDevice(std::string_view& line, Mount& mount) {
-    const auto field = takeField(line);
+    const auto field = takeMountField(line);
     if (!field) return false;
     const auto colon = field->find(':');
     return colon != std::string_view::npos && readNumber(field->substr(0, colon), mount.major) &&
@@ -39,14 +39,14 @@ bool takeDevice(std::string_view& line, Mount& mount) {
 }
 
 bool takeText(std::string_view& line, std::string_view& text) {
-    const auto field = takeField(line);
+    const auto field = takeMountField(line);
     if (!field) return false;
     text = *field;
     return true;
 }
 
 bool skipOptionalFields(std::string_view& line) {
-    while (const auto field = takeField(line)) {
+    while (const auto field = takeMountField(line)) {
         if (*field == "-") return true;
     }
     return false;

@@ -15,10 +15,10 @@ namespace vantor {
 namespace {
 
 constexpr int attempts = 4;
-constexpr std::size_t firstBufferSize =
+constexpr std::size_t netlinkDumpFirstBufferSize =
     std::size_t{32} * 1024;  // the most the kernel fills at once
-constexpr std::size_t largestBufferSize = std::size_t{1024} * 1024;
-constexpr timeval patience{2, 0};
+constexpr std::size_t netlinkDumpLargestBufferSize = std::size_t{1024} * 1024;
+constexpr timeval netlinkDumpPatience{2, 0};
 
 /// What the message that ends a list says: 0, or a negative errno value.
 int errorOf(std::span<const std::byte> payload) {
@@ -36,7 +36,8 @@ FileDescriptor NetlinkDump::openRouteSocket() {
     own.nl_family = AF_NETLINK;
     const auto* const address = reinterpret_cast<const sockaddr*>(&own);
     if (::bind(socket.get(), address, sizeof own) != 0 ||
-        ::setsockopt(socket.get(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience) != 0) {
+        ::setsockopt(socket.get(), SOL_SOCKET, SO_RCVTIMEO, &netlinkDumpPatience,
+                     sizeof netlinkDumpPatience) != 0) {
         socket.reset();
     }
     return socket;
@@ -44,7 +45,7 @@ FileDescriptor NetlinkDump::openRouteSocket() {
 
 bool NetlinkDump::dump(std::span<std::byte> request, Receiver& receiver) {
     if (request.size() < sizeof(nlmsghdr)) return false;
-    if (!buffer_) makeBuffer(firstBufferSize);
+    if (!buffer_) makeBuffer(netlinkDumpFirstBufferSize);
     Outcome outcome = Outcome::again;
     for (int attempt = 0; attempt < attempts && outcome == Outcome::again; ++attempt) {
         if (!socket_) socket_ = openSocket_();
@@ -122,7 +123,7 @@ NetlinkDump::Outcome NetlinkDump::receive(std::span<const std::byte>& datagram) 
         const auto length = static_cast<std::size_t>(count);
         if ((message.msg_flags & MSG_TRUNC) != 0 || length > bufferSize_) {
             const std::size_t wanted = std::max(length, 2 * bufferSize_);
-            if (wanted > largestBufferSize) return Outcome::failed;
+            if (wanted > netlinkDumpLargestBufferSize) return Outcome::failed;
             makeBuffer(wanted);
             return Outcome::again;
         }

@@ -14,13 +14,13 @@ namespace vantor {
 
 namespace {
 
-using Bytes = std::span<const std::byte>;
+using MessageBytes = std::span<const std::byte>;
 
-constexpr std::size_t longestName = 15;
+constexpr std::size_t netlinkMessagesLongestName = 15;
 
 /// The kernel's structures lie in the datagram at any address: they are copied out.
 template <class T>
-std::optional<T> readAt(Bytes bytes, std::size_t offset = 0) {
+std::optional<T> readAt(MessageBytes bytes, std::size_t offset = 0) {
     if (offset > bytes.size() || bytes.size() - offset < sizeof(T)) return std::nullopt;
     T value;
     std::memcpy(&value, bytes.data() + offset, sizeof value);
@@ -29,13 +29,13 @@ std::optional<T> readAt(Bytes bytes, std::size_t offset = 0) {
 
 /// Moves past `length` bytes and the padding to the next multiple of four, which the last one of a
 /// list may lack.
-Bytes past(Bytes bytes, std::size_t length) {
+MessageBytes past(MessageBytes bytes, std::size_t length) {
     return bytes.subspan(std::min((length + 3) & ~std::size_t{3}, bytes.size()));
 }
 
 /// Calls `visit(type, value)` for each attribute; false when they are malformed.
 template <class Visit>
-bool forEachAttribute(Bytes rest, Visit visit) {
+bool forEachAttribute(MessageBytes rest, Visit visit) {
     while (!rest.empty()) {
         const auto header = readAt<rtattr>(rest);
         if (!header || header->rta_len < sizeof(rtattr) || header->rta_len > rest.size()) {
@@ -48,17 +48,17 @@ bool forEachAttribute(Bytes rest, Visit visit) {
     return true;
 }
 
-void readName(Bytes value, std::string& name) {
+void readName(MessageBytes value, std::string& name) {
     const auto end = std::find(value.begin(), value.end(), std::byte{0});
     const auto length = static_cast<std::size_t>(end - value.begin());
-    if (length > longestName) return;
+    if (length > netlinkMessagesLongestName) return;
     name.resize(length);
     std::memcpy(name.data(), value.data(), length);
 }
 
 /// Kernels append fields to the statistics; the byte counts have always been the third and fourth.
 template <class Counter>
-bool readCounters(Bytes value, LinkSource::Link& link) {
+bool readCounters(MessageBytes value, LinkSource::Link& link) {
     const auto received = readAt<Counter>(value, 2 * sizeof(Counter));
     const auto sent = readAt<Counter>(value, 3 * sizeof(Counter));
     if (!received || !sent) return false;
@@ -84,7 +84,7 @@ NetlinkMessages::Step NetlinkMessages::next(NetlinkMessage& message) {
     return Step::message;
 }
 
-bool parseLink(Bytes payload, LinkSource::Link& link) {
+bool parseLink(MessageBytes payload, LinkSource::Link& link) {
     const auto header = readAt<ifinfomsg>(payload);
     if (!header) return false;
     link.index = static_cast<std::uint32_t>(header->ifi_index);
@@ -94,7 +94,7 @@ bool parseLink(Bytes payload, LinkSource::Link& link) {
     link.hasCounters = false;
     link.name.clear();
     bool hasWideCounters = false;
-    return forEachAttribute(past(payload, sizeof(ifinfomsg)), [&](int type, Bytes value) {
+    return forEachAttribute(past(payload, sizeof(ifinfomsg)), [&](int type, MessageBytes value) {
         if (type == IFLA_IFNAME) {
             readName(value, link.name);
         } else if (type == IFLA_STATS64) {
@@ -105,7 +105,7 @@ bool parseLink(Bytes payload, LinkSource::Link& link) {
     });
 }
 
-AddressVerdict parseAddress(Bytes payload, LinkSource::Address& address) {
+AddressVerdict parseAddress(MessageBytes payload, LinkSource::Address& address) {
     const auto header = readAt<ifaddrmsg>(payload);
     if (!header) return AddressVerdict::malformed;
     address = {};
@@ -113,17 +113,17 @@ AddressVerdict parseAddress(Bytes payload, LinkSource::Address& address) {
     address.isIPv6 = header->ifa_family == AF_INET6;
     address.isLinkScope = header->ifa_scope == RT_SCOPE_LINK;
     const std::size_t size = address.isIPv6 ? 16 : 4;
-    Bytes local;
-    Bytes other;
+    MessageBytes local;
+    MessageBytes other;
     const bool isWhole =
-        forEachAttribute(past(payload, sizeof(ifaddrmsg)), [&](int type, Bytes value) {
+        forEachAttribute(past(payload, sizeof(ifaddrmsg)), [&](int type, MessageBytes value) {
             if (value.size() != size) return;
             if (type == IFA_LOCAL) local = value;
             if (type == IFA_ADDRESS) other = value;
         });
     if (!isWhole) return AddressVerdict::malformed;
     if (!address.isIPv6 && header->ifa_family != AF_INET) return AddressVerdict::notOurs;
-    const Bytes bytes = local.empty() ? other : local;
+    const MessageBytes bytes = local.empty() ? other : local;
     if (bytes.empty()) return AddressVerdict::notOurs;
     std::memcpy(address.bytes.data(), bytes.data(), bytes.size());
     return AddressVerdict::address;

@@ -40,7 +40,7 @@ struct Functions {
 };
 
 template <class Function>
-void find(void* library, const char* name, Function& function) {
+void findFunction(void* library, const char* name, Function& function) {
     function = reinterpret_cast<Function>(::dlsym(library, name));
 }
 
@@ -99,13 +99,13 @@ class NVMLLibrary : public GraphicsLibrary {
         if (!library_) {
             library_ = ::dlopen(file_.c_str(), RTLD_LAZY | RTLD_LOCAL);
             if (!library_) return false;
-            vantor::find(library_, "nvmlInit_v2", functions_.init);
-            vantor::find(library_, "nvmlShutdown", functions_.shutdown);
-            vantor::find(library_, "nvmlDeviceGetHandleByPciBusId_v2", functions_.findByAddress);
-            vantor::find(library_, "nvmlDeviceGetUtilizationRates", functions_.utilization);
-            vantor::find(library_, "nvmlDeviceGetMemoryInfo", functions_.memory);
-            vantor::find(library_, "nvmlDeviceGetTemperature", functions_.temperature);
-            vantor::find(library_, "nvmlDeviceGetName", functions_.name);
+            findFunction(library_, "nvmlInit_v2", functions_.init);
+            findFunction(library_, "nvmlShutdown", functions_.shutdown);
+            findFunction(library_, "nvmlDeviceGetHandleByPciBusId_v2", functions_.findByAddress);
+            findFunction(library_, "nvmlDeviceGetUtilizationRates", functions_.utilization);
+            findFunction(library_, "nvmlDeviceGetMemoryInfo", functions_.memory);
+            findFunction(library_, "nvmlDeviceGetTemperature", functions_.temperature);
+            findFunction(library_, "nvmlDeviceGetName", functions_.name);
         }
         // The first versions of two of these wake all devices; what cannot be shut down cannot be
         // let go of.

@@ -2,17 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/linux/trimmed.h"
+
 namespace vantor {
 
 namespace {
-
-constexpr std::string_view blanks = " \t\r";
-
-std::string_view trim(std::string_view text) {
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 /// Inside of double quotes a backslash is one, but before these.
 bool isEscapable(char letter) {
@@ -47,15 +41,15 @@ std::optional<std::string> readBareValue(std::string_view text) {
 }
 
 std::optional<std::string> readValue(std::string_view text) {
-    text = trim(text);
+    text = trimmed(text);
     const bool isQuoted = text.starts_with('"') || text.starts_with('\'');
     auto value = isQuoted ? unquote(text, text.front()) : readBareValue(text);
     if (!value) return std::nullopt;
     const bool hasControls = std::any_of(value->begin(), value->end(), [](char letter) {
         return static_cast<unsigned char>(letter) < 0x20 || letter == 0x7F;
     });
-    if (hasControls || trim(*value).empty()) return std::nullopt;
-    return std::string(trim(*value));
+    if (hasControls || trimmed(*value).empty()) return std::nullopt;
+    return std::string(trimmed(*value));
 }
 
 }  // namespace
@@ -64,7 +58,7 @@ std::optional<std::string> findInOSRelease(std::string_view text, std::string_vi
     std::optional<std::string> value;
     while (!text.empty()) {
         const auto lineEnd = text.find('\n');
-        const std::string_view line = trim(text.substr(0, lineEnd));
+        const std::string_view line = trimmed(text.substr(0, lineEnd));
         text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 1);
         const auto equals = line.find('=');
         if (equals == std::string_view::npos || line.substr(0, equals) != key) continue;

@@ -7,18 +7,18 @@ namespace vantor {
 
 namespace {
 
-struct Entry {
+struct IDEntry {
     std::uint16_t number = 0;
     std::string_view name;
 };
 
 /// "10de  NVIDIA Corporation".
-std::optional<Entry> parseEntry(std::string_view line) {
+std::optional<IDEntry> parseEntry(std::string_view line) {
     constexpr std::size_t digits = 4;
     if (line.size() < digits + 3 || line[digits] != ' ' || line[digits + 1] != ' ') {
         return std::nullopt;
     }
-    Entry entry;
+    IDEntry entry;
     const char* const end = line.data() + digits;
     const auto [rest, error] = std::from_chars(line.data(), end, entry.number, 16);
     if (error != std::errc{} || rest != end) return std::nullopt;

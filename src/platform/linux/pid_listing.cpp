@@ -12,7 +12,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t bufferSize = std::size_t{32} * 1024;
+constexpr std::size_t pidListingBufferSize = std::size_t{32} * 1024;
 
 // struct linux_dirent64: inode, offset (8 bytes each), length of the entry (2), type (1), name.
 constexpr std::size_t lengthOffset = 16;
@@ -39,9 +39,10 @@ void appendPIDs(std::span<const std::byte> entries, std::vector<std::int32_t>& p
 bool PIDListing::read(const FileDescriptor& proc) {
     pids_.clear();
     if (!proc || ::lseek(proc.get(), 0, SEEK_SET) != 0) return false;
-    if (!buffer_) buffer_ = std::make_unique_for_overwrite<std::byte[]>(bufferSize);
+    if (!buffer_) buffer_ = std::make_unique_for_overwrite<std::byte[]>(pidListingBufferSize);
     for (;;) {
-        const long count = ::syscall(SYS_getdents64, proc.get(), buffer_.get(), bufferSize);
+        const long count =
+            ::syscall(SYS_getdents64, proc.get(), buffer_.get(), pidListingBufferSize);
         if (count < 0) pids_.clear();
         if (count < 0) return false;
         if (count == 0) break;

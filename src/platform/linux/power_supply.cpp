@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/linux/battery_fill.h"
+#include "platform/linux/trimmed.h"
 
 namespace vantor {
 
@@ -60,18 +61,13 @@ void describeTimes(PropertyDictionary& description, Supplies batteries,
     description.push_back({"Time to Empty", isCharging ? minutesUnknown : toEmpty});
 }
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks(" \t\r\n\0", 5);
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
+constexpr std::string_view attributeBlanks(" \t\r\n\0", 5);
 
 std::string nameOf(Supplies batteries) {
     std::string name;
     for (const PowerSupplyTexts& battery : batteries) {
         const std::string_view model =
-            battery.modelName ? trimmed(*battery.modelName) : std::string_view{};
+            battery.modelName ? trimmed(*battery.modelName, attributeBlanks) : std::string_view{};
         if (!name.empty()) name += " + ";
         name += model.empty() ? std::string_view(battery.folder) : model;
     }

@@ -8,7 +8,7 @@ namespace {
 
 // user nice system idle iowait irq softirq steal (guest guest_nice follow and are parts of the
 // first two). Kernels before 2.6 end after idle; the later ones are then zero.
-constexpr std::size_t fieldCount = 8;
+constexpr std::size_t procStatFieldCount = 8;
 constexpr std::size_t requiredFields = 4;
 
 /// Reads one decimal number at `at` and moves past it; false when there is none or it overflows.
@@ -26,9 +26,9 @@ bool readNumber(const char*& at, const char* end, std::uint64_t& number) {
 
 /// Reads the counters after the processor's name; `line` is without its line end.
 std::optional<ProcStat::Ticks> readTicks(const char* at, const char* end) {
-    std::array<std::uint64_t, fieldCount> fields{};
+    std::array<std::uint64_t, procStatFieldCount> fields{};
     std::size_t count = 0;
-    while (count < fieldCount) {
+    while (count < procStatFieldCount) {
         while (at != end && *at == ' ')
             ++at;
         if (at == end) break;

@@ -6,11 +6,11 @@
 #include <chrono>
 #include <ctime>
 
+#include "platform/time_units.h"
+
 namespace vantor {
 
 namespace {
-
-constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
 
 /// The kernel's own encoding (posix-timers.h): the complemented pid above three bits, of which 2
 /// means the scheduler's clock of the whole process. clock_getcpuclockid makes the same and asks

@@ -14,11 +14,11 @@ constexpr std::size_t userField = 11;
 constexpr std::size_t systemField = 12;
 constexpr std::size_t startField = 19;
 constexpr std::size_t residentField = 21;
-constexpr std::size_t fieldCount = 22;
+constexpr std::size_t processStatFieldCount = 22;
 
 constexpr std::uint64_t kernelThreadFlag = 0x00200000;  // PF_KTHREAD of the kernel's sched.h
 
-std::string_view takeField(std::string_view& text) {
+std::string_view takeStatField(std::string_view& text) {
     const auto first = text.find_first_not_of(" \n");
     if (first == std::string_view::npos) return {};
     text.remove_prefix(first);
@@ -47,9 +47,9 @@ std::optional<ProcessStat> ProcessStat::parse(std::string_view text) {
     std::string_view rest = text.substr(close + 1);
     // A line that was cut may end inside a number, which would then be a smaller one.
     if (rest.find('\n') == std::string_view::npos) return std::nullopt;
-    std::array<std::string_view, fieldCount> fields;
+    std::array<std::string_view, processStatFieldCount> fields;
     for (std::string_view& field : fields)
-        field = takeField(rest);
+        field = takeStatField(rest);
     std::uint64_t flags = 0;
     std::uint64_t resident = 0;
     if (!readNumber(fields[flagsField], flags) || !readNumber(fields[userField], stat.userTicks) ||
@@ -69,9 +69,9 @@ std::optional<ProcessStat> ProcessStat::parse(std::string_view text) {
 
 std::optional<std::uint64_t> parseResidentPages(std::string_view statm) {
     if (statm.find('\n') == std::string_view::npos) return std::nullopt;
-    takeField(statm);
+    takeStatField(statm);
     std::uint64_t pages = 0;
-    return readNumber(takeField(statm), pages) ? std::optional(pages) : std::nullopt;
+    return readNumber(takeStatField(statm), pages) ? std::optional(pages) : std::nullopt;
 }
 
 }  // namespace vantor

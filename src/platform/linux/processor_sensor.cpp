@@ -11,9 +11,9 @@ namespace vantor {
 namespace {
 
 // Thousandths of a degree. Beyond them are the numbers of broken sensors, which must not pass for
-// the hottest one.
-constexpr std::int64_t coldest = -20'000;
-constexpr std::int64_t hottest = 150'000;
+// the processorSensorHottest one.
+constexpr std::int64_t processorSensorColdest = -20'000;
+constexpr std::int64_t processorSensorHottest = 150'000;
 
 std::optional<SmallFile> openIfAny(const std::filesystem::path& path) {
     return path.empty() ? std::nullopt : std::optional<SmallFile>(std::in_place, path);
@@ -40,7 +40,9 @@ std::optional<double> ProcessorSensor::read() const {
     std::array<char, 32> buffer{};
     const auto text = open.input.read(buffer);
     const auto temperature = text ? parseTemperature(*text) : std::nullopt;
-    if (!temperature || *temperature <= coldest || *temperature >= hottest) return std::nullopt;
+    if (!temperature || *temperature <= processorSensorColdest ||
+        *temperature >= processorSensorHottest)
+        return std::nullopt;
     return static_cast<double>(*temperature) / 1000;
 }
 

@@ -13,8 +13,8 @@ namespace vantor {
 namespace {
 
 // Sensors that are off or broken tell temperatures that no working machine has.
-constexpr std::int64_t coldest = -100'000;
-constexpr std::int64_t hottest = 250'000;
+constexpr std::int64_t thermalZonesColdest = -100'000;
+constexpr std::int64_t thermalZonesHottest = 250'000;
 
 ThermalTrips readTrips(const std::filesystem::path& zone) {
     ThermalTrips trips;
@@ -83,7 +83,9 @@ std::optional<int> ThermalZones::state(double uptime) {
     for (const Zone& zone : zones_) {
         const auto text = zone.temperature.read(buffer);
         const auto temperature = text ? parseTemperature(*text) : std::nullopt;
-        if (!temperature || *temperature < coldest || *temperature > hottest) continue;
+        if (!temperature || *temperature < thermalZonesColdest ||
+            *temperature > thermalZonesHottest)
+            continue;
         worst = std::max(worst.value_or(0), zone.trips.judge(*temperature));
     }
     return worst;

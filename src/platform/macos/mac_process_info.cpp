@@ -10,13 +10,13 @@
 
 #include "platform/macos/mac_kernel_values.h"
 #include "platform/macos/product_version.h"
+#include "platform/time_units.h"
 
 namespace vantor {
 
 namespace {
 
 constexpr int unknownThermalState = -1;
-constexpr double nanosecondsPerSecond = 1e9;
 
 template <class T>
 std::optional<T> kernelValue(const char* name) {
@@ -49,7 +49,8 @@ MacProcessInfo::MacProcessInfo(std::shared_ptr<const Frameworks> frameworks)
 }
 
 double MacProcessInfo::systemUptime() const {
-    return static_cast<double>(::clock_gettime_nsec_np(CLOCK_UPTIME_RAW)) / nanosecondsPerSecond;
+    return static_cast<double>(::clock_gettime_nsec_np(CLOCK_UPTIME_RAW)) /
+           static_cast<double>(nanosecondsPerSecond);
 }
 
 double MacProcessInfo::secondsSinceBoot() const {

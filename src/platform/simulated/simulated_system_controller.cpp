@@ -8,11 +8,11 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t recordSelector = 2;
-constexpr SystemController::Service theService = 71;
+constexpr std::uint32_t simulatedSystemControllerRecordSelector = 2;
+constexpr SystemController::Service simulatedSystemControllerTheService = 71;
 constexpr SystemController::Connection firstConnection = 5000;
 constexpr int failedCall = -536870212;
-constexpr std::uint8_t noSuchKey = 0x84;
+constexpr std::uint8_t simulatedSystemControllerNoSuchKey = 0x84;
 
 std::string textOf(std::uint32_t code) {
     std::string text(4, '\0');
@@ -60,18 +60,18 @@ SystemController::Service SimulatedSystemController::matchingService() {
     tell();
     if (!isPresent) return 0;
     ++servicesOutstanding_;
-    return theService;
+    return simulatedSystemControllerTheService;
 }
 
 void SimulatedSystemController::release(Service service) {
     tell();
-    if (service != theService) ++improperCalls_;
+    if (service != simulatedSystemControllerTheService) ++improperCalls_;
     --servicesOutstanding_;
 }
 
 SystemController::Connection SimulatedSystemController::open(Service service) {
     tell();
-    if (service != theService) ++improperCalls_;
+    if (service != simulatedSystemControllerTheService) ++improperCalls_;
     if (openFails) return 0;
     ++connectionsOutstanding_;
     return firstConnection + static_cast<Connection>(connectionsOpened_++);
@@ -86,7 +86,8 @@ void SimulatedSystemController::close(Connection connection) {
 bool SimulatedSystemController::isProper(Connection connection, std::uint32_t selector,
                                          std::span<const std::byte> request,
                                          std::span<const std::byte> response) const {
-    if (connection < firstConnection || selector != recordSelector) return false;
+    if (connection < firstConnection || selector != simulatedSystemControllerRecordSelector)
+        return false;
     if (request.size() != SMCRecord::size || response.size() != SMCRecord::size) return false;
     SMCRecord record;
     std::copy(request.begin(), request.end(), record.bytes().begin());
@@ -117,7 +118,7 @@ int SimulatedSystemController::callStructMethod(Connection connection, std::uint
     }
     const auto found = keys.find(name);
     if (found == keys.end()) {
-        record.setResult(noSuchKey);
+        record.setResult(simulatedSystemControllerNoSuchKey);
     } else {
         const Key& key = found->second;
         const Fault& fault = isKeyInfo ? key.keyInfoFault : key.readBytesFault;

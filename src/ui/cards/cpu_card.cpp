@@ -14,10 +14,10 @@ namespace vantor {
 
 namespace {
 
-constexpr int chartHeight = 62;
+constexpr int cpuCardChartHeight = 62;
 constexpr int sectionSpacing = 8;
 // Enough to name the culprit; more is the process explorer's business.
-constexpr std::size_t processRows = 5;
+constexpr std::size_t cpuCardProcessRows = 5;
 
 }  // namespace
 
@@ -79,7 +79,7 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     // The whole range, not the values' own: a machine that idles must look idle.
     history_ = makeChild<SparklineView>(this, QStringLiteral("CPU history"),
                                         Sparkline{{}, VantorTheme::cyan(), std::pair{0.0, 1.0}},
-                                        chartHeight);
+                                        cpuCardChartHeight);
     body().addWidget(history_);
     auto* activity = makeInnerLayout<QVBoxLayout>();
     activity->setSpacing(sectionSpacing);
@@ -92,7 +92,7 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     processes_ = makeChild<ProcessMiniListView>(
         this,
         ProcessMiniList{QStringLiteral("Top CPU Processes"), {}, ProcessMiniList::Metric::cpu},
-        processRows, processSymbol(versions));
+        cpuCardProcessRows, processSymbol(versions));
     body().addWidget(processes_);
     body().addStretch();
 }

@@ -10,7 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr int gaugeSpacing = 20;
-constexpr int rowSpacing = 10;
+constexpr int gaugeAndRowsRowSpacing = 10;
 
 }  // namespace
 
@@ -22,7 +22,7 @@ GaugeAndRowsView::GaugeAndRowsView(const RingGauge& gauge, std::span<const Metri
     whole->setSpacing(gaugeSpacing);
     whole->addWidget(gauge_, 0, Qt::AlignVCenter);
     auto* column = makeInnerLayout<QVBoxLayout>();
-    column->setSpacing(rowSpacing);
+    column->setSpacing(gaugeAndRowsRowSpacing);
     column->addStretch();
     for (const MetricRow& row : rows) {
         rows_.push_back(makeChild<MetricRowView>(this, row));

@@ -13,8 +13,8 @@ namespace vantor {
 
 namespace {
 
-constexpr int chartHeight = 62;
-constexpr int cardSpacing = 16;
+constexpr int gpuCardChartHeight = 62;
+constexpr int gpuCardCardSpacing = 16;
 constexpr int deviceSpacing = 10;
 
 QString words(std::string_view text) {
@@ -77,12 +77,12 @@ GPUCardView::GPUCardView(const PlatformWords& platform, QWidget* parent)
     filled_ = makeChild<QWidget>(this);
     auto* column = makeLayout<QVBoxLayout>(filled_);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(cardSpacing);
+    column->setSpacing(gpuCardCardSpacing);
     figures_ = makeChild<GaugeAndRowsView>(filled_, card.gauge(), card.rows());
     column->addWidget(figures_);
     history_ = makeChild<SparklineView>(filled_, QStringLiteral("GPU history"),
                                         Sparkline{{}, VantorTheme::purple(), std::pair{0.0, 1.0}},
-                                        chartHeight);
+                                        gpuCardChartHeight);
     column->addWidget(history_);
     list_ = makeInnerLayout<QVBoxLayout>();
     list_->setSpacing(deviceSpacing);

@@ -16,13 +16,14 @@ namespace vantor {
 namespace {
 
 constexpr double lineSpacing = 3;
-constexpr double textGap = 8;
+constexpr double graphicsDeviceTextGap = 8;
 
-constexpr TextStyle nameStyle{Typography::caption, QFont::Medium};
-constexpr TextStyle detailStyle{Typography::caption2};
+constexpr TextStyle graphicsDeviceNameStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle graphicsDeviceDetailStyle{Typography::caption2};
 double lineHeight(const QWidget* widget) {
-    return std::ceil(std::max(QFontMetricsF(Typography::font(nameStyle), widget).height(),
-                              QFontMetricsF(Typography::font(detailStyle), widget).height()));
+    return std::ceil(
+        std::max(QFontMetricsF(Typography::font(graphicsDeviceNameStyle), widget).height(),
+                 QFontMetricsF(Typography::font(graphicsDeviceDetailStyle), widget).height()));
 }
 QString workingSetLabel() {
     return QStringLiteral("Recommended Working Set");
@@ -89,15 +90,16 @@ void GraphicsDeviceView::paintEvent(QPaintEvent*) {
         painter.primary();
         painter.figures(style, line, Qt::AlignRight | Qt::AlignVCenter, value);
         const double used = painter.figuresWidth(style, value);
-        if (style == detailStyle) painter.secondary();
-        painter.line(style, line.adjusted(0, 0, -used - textGap, 0),
+        if (style == graphicsDeviceDetailStyle) painter.secondary();
+        painter.line(style, line.adjusted(0, 0, -used - graphicsDeviceTextGap, 0),
                      Qt::AlignLeft | Qt::AlignVCenter, label);
         line.translate(0, step);
     };
-    drawPair(nameStyle, block_.name, block_.utilization);
-    drawPair(detailStyle, block_.kind, {});
-    if (!block_.note.isEmpty()) drawPair(detailStyle, block_.note, {});
-    if (block_.workingSet) drawPair(detailStyle, workingSetLabel(), *block_.workingSet);
+    drawPair(graphicsDeviceNameStyle, block_.name, block_.utilization);
+    drawPair(graphicsDeviceDetailStyle, block_.kind, {});
+    if (!block_.note.isEmpty()) drawPair(graphicsDeviceDetailStyle, block_.note, {});
+    if (block_.workingSet)
+        drawPair(graphicsDeviceDetailStyle, workingSetLabel(), *block_.workingSet);
 }
 
 }  // namespace vantor

@@ -9,9 +9,9 @@ namespace vantor {
 
 namespace {
 
-constexpr int chartHeight = 62;
+constexpr int memoryCardChartHeight = 62;
 // As many as leave this card about as high as its neighbour, which has cells for its cores instead.
-constexpr std::size_t processRows = 9;
+constexpr std::size_t memoryCardProcessRows = 9;
 
 double usedFraction(const MemoryStats& stats) {
     if (stats.totalBytes == 0) return 0;
@@ -59,13 +59,13 @@ MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
     body().addWidget(figures_);
     history_ = makeChild<SparklineView>(this, QStringLiteral("Memory history"),
                                         Sparkline{{}, VantorTheme::pink(), std::pair{0.0, 1.0}},
-                                        chartHeight);
+                                        memoryCardChartHeight);
     body().addWidget(history_);
     processes_ = makeChild<ProcessMiniListView>(
         this,
         ProcessMiniList{
             QStringLiteral("Top Memory Processes"), {}, ProcessMiniList::Metric::memory},
-        processRows, processSymbol(versions));
+        memoryCardProcessRows, processSymbol(versions));
     body().addWidget(processes_);
     body().addStretch();
 }

@@ -14,8 +14,8 @@ namespace vantor {
 
 namespace {
 
-constexpr int tileSpacing = 12;
-constexpr int rowSpacing = 10;
+constexpr int networkCardTileSpacing = 12;
+constexpr int networkCardRowSpacing = 10;
 constexpr std::size_t interfacesRow = 3;
 // A container host has hundreds; a tool tip that covers the screen helps nobody.
 constexpr std::size_t mostHelpLines = 16;
@@ -100,7 +100,7 @@ NetworkCardView::NetworkCardView(QWidget* parent)
     const DashboardState none;
     const NetworkCard card = NetworkCard::of(none);
     auto* tiles = makeInnerLayout<QHBoxLayout>();
-    tiles->setSpacing(tileSpacing);
+    tiles->setSpacing(networkCardTileSpacing);
     downloadTile_ = makeChild<SpeedTileView>(this, card.downloadTile());
     uploadTile_ = makeChild<SpeedTileView>(this, card.uploadTile());
     tiles->addWidget(downloadTile_, 1);
@@ -113,7 +113,7 @@ NetworkCardView::NetworkCardView(QWidget* parent)
     body().addWidget(downloadHistory_);
     body().addWidget(uploadHistory_);
     auto* column = makeInnerLayout<QVBoxLayout>();
-    column->setSpacing(rowSpacing);
+    column->setSpacing(networkCardRowSpacing);
     const auto rows = card.rows();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows_[i] = makeChild<MetricRowView>(this, rows[i]);

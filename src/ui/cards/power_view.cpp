@@ -17,13 +17,13 @@ namespace vantor {
 
 namespace {
 
-constexpr double padding = 10;
-constexpr double symbolSide = 20;
-constexpr double symbolGap = 9;
+constexpr double powerPadding = 10;
+constexpr double powerSymbolSide = 20;
+constexpr double powerSymbolGap = 9;
 constexpr double low = 0.2;
 constexpr double middling = 0.4;
 
-constexpr TextStyle textStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle powerTextStyle{Typography::caption, QFont::Medium};
 constexpr TextStyle chargeStyle{Typography::body, QFont::Bold};
 
 QString batterySymbol(bool isConnectedToAC, const ProcessInfo& versions) {
@@ -80,11 +80,11 @@ void PowerView::show(const PowerBlock& block) {
 }
 
 QSize PowerView::sizeHint() const {
-    const double text = std::max(QFontMetricsF(Typography::font(textStyle), this).height(),
+    const double text = std::max(QFontMetricsF(Typography::font(powerTextStyle), this).height(),
                                  QFontMetricsF(Typography::font(chargeStyle), this).height());
     return {Typography::scaled(200),
-            static_cast<int>(
-                std::ceil(std::max(text, symbolSide * Typography::lengthScale()) + 2 * padding))};
+            static_cast<int>(std::ceil(std::max(text, powerSymbolSide * Typography::lengthScale()) +
+                                       2 * powerPadding))};
 }
 
 QSize PowerView::minimumSizeHint() const {
@@ -94,14 +94,15 @@ QSize PowerView::minimumSizeHint() const {
 void PowerView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     CardChrome::paintTile(painter, rect(), painter.scheme());
-    const double symbol = symbolSide * Typography::lengthScale();
-    Symbols::draw(painter, painter.leading({padding, (height() - symbol) / 2, symbol, symbol}),
+    const double symbol = powerSymbolSide * Typography::lengthScale();
+    Symbols::draw(painter, painter.leading({powerPadding, (height() - symbol) / 2, symbol, symbol}),
                   block_.symbol, block_.color);
-    const QRectF line(padding, 0, width() - 2 * padding, height());
+    const QRectF line(powerPadding, 0, width() - 2 * powerPadding, height());
     painter.primary();
     painter.figures(chargeStyle, line, Qt::AlignRight | Qt::AlignVCenter, block_.charge);
     const double used = painter.figuresWidth(chargeStyle, block_.charge);
-    painter.line(textStyle, line.adjusted(symbol + symbolGap, 0, -used - symbolGap, 0),
+    painter.line(powerTextStyle,
+                 line.adjusted(symbol + powerSymbolGap, 0, -used - powerSymbolGap, 0),
                  Qt::AlignLeft | Qt::AlignVCenter, block_.text);
 }
 

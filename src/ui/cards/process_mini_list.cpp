@@ -18,15 +18,15 @@ namespace vantor {
 
 namespace {
 
-constexpr double rowSpacing = 8;
+constexpr double processMiniListRowSpacing = 8;
 constexpr double symbolWidth = 14;
-constexpr double symbolGap = 8;
+constexpr double processMiniListSymbolGap = 8;
 
 QString waitingText() {
     return QStringLiteral("Waiting for process data…");
 }
-constexpr TextStyle nameStyle{Typography::caption};
-constexpr TextStyle valueStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle processMiniListNameStyle{Typography::caption};
+constexpr TextStyle processMiniListValueStyle{Typography::caption, QFont::Medium};
 
 }  // namespace
 
@@ -75,17 +75,17 @@ QString ProcessMiniListView::accessibleValueText() const {
 }
 
 double ProcessMiniListView::titleHeight() const {
-    return QFontMetricsF(Typography::font(nameStyle), this).height();
+    return QFontMetricsF(Typography::font(processMiniListNameStyle), this).height();
 }
 
 double ProcessMiniListView::rowHeight() const {
-    return std::max(QFontMetricsF(Typography::font(nameStyle), this).height(),
-                    QFontMetricsF(Typography::font(valueStyle), this).height());
+    return std::max(QFontMetricsF(Typography::font(processMiniListNameStyle), this).height(),
+                    QFontMetricsF(Typography::font(processMiniListValueStyle), this).height());
 }
 
 QRectF ProcessMiniListView::rowArea(std::size_t index) const {
-    const double step = rowHeight() + rowSpacing;
-    return {0, titleHeight() + rowSpacing + step * static_cast<double>(index),
+    const double step = rowHeight() + processMiniListRowSpacing;
+    return {0, titleHeight() + processMiniListRowSpacing + step * static_cast<double>(index),
             static_cast<double>(width()), rowHeight()};
 }
 
@@ -115,23 +115,28 @@ void ProcessMiniListView::paintEvent(QPaintEvent*) {
     const QColor secondary = VantorTheme::secondaryLabel(painter.scheme());
     vantorForeground(painter, secondary);
     const double across = width();
-    painter.line(nameStyle, {0, 0, across, painter.lineHeight(nameStyle)}, Qt::AlignLeft, title_);
+    painter.line(processMiniListNameStyle,
+                 {0, 0, across, painter.lineHeight(processMiniListNameStyle)}, Qt::AlignLeft,
+                 title_);
     QRectF area = rowArea(0);
     if (rows_.empty()) {
-        painter.line(nameStyle, area, Qt::AlignLeft | Qt::AlignVCenter, waitingText());
+        painter.line(processMiniListNameStyle, area, Qt::AlignLeft | Qt::AlignVCenter,
+                     waitingText());
         return;
     }
     const double symbol = symbolWidth * Typography::lengthScale();
-    const double step = area.height() + rowSpacing;
+    const double step = area.height() + processMiniListRowSpacing;
     for (const Row& row : rows_) {
         Symbols::draw(painter, painter.leading({0, area.top(), symbol, area.height()}), symbol_,
                       secondary);
         painter.primary();
-        painter.figures(valueStyle, area, Qt::AlignRight | Qt::AlignVCenter, row.value);
-        const double valueWidth = painter.figuresWidth(valueStyle, row.value);
-        const double left = symbol + symbolGap;
-        painter.line(nameStyle,
-                     {left, area.top(), across - left - symbolGap - valueWidth, area.height()},
+        painter.figures(processMiniListValueStyle, area, Qt::AlignRight | Qt::AlignVCenter,
+                        row.value);
+        const double valueWidth = painter.figuresWidth(processMiniListValueStyle, row.value);
+        const double left = symbol + processMiniListSymbolGap;
+        painter.line(processMiniListNameStyle,
+                     {left, area.top(), across - left - processMiniListSymbolGap - valueWidth,
+                      area.height()},
                      Qt::AlignLeft | Qt::AlignVCenter, row.name);
         area.translate(0, step);
     }

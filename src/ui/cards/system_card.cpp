@@ -13,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int rowSpacing = 10;
+constexpr int systemCardRowSpacing = 10;
 constexpr std::size_t thermalRow = 4;
 
 }  // namespace
@@ -58,7 +58,7 @@ SystemCardView::SystemCardView(const ProcessInfo& versions, QWidget* parent)
     const DashboardState none;
     const auto rows = SystemCard::of(none).rows();
     auto* column = makeInnerLayout<QVBoxLayout>();
-    column->setSpacing(rowSpacing);
+    column->setSpacing(systemCardRowSpacing);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows_[i] = makeChild<MetricRowView>(this, rows[i]);
         column->addWidget(rows_[i]);

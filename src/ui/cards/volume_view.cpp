@@ -16,13 +16,13 @@ namespace vantor {
 namespace {
 
 constexpr double fullFrom = 0.9;
-constexpr double symbolSide = 15;
-constexpr double symbolGap = 8;
-constexpr double spacing = 6;
-constexpr double barHeight = 7;
+constexpr double volumeSymbolSide = 15;
+constexpr double volumeSymbolGap = 8;
+constexpr double volumeLineSpacing = 6;
+constexpr double volumeBarHeight = 7;
 
-constexpr TextStyle nameStyle{Typography::caption, QFont::Medium};
-constexpr TextStyle detailStyle{Typography::caption2};
+constexpr TextStyle volumeNameStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle volumeDetailStyle{Typography::caption2};
 double heightOf(const TextStyle& style, const QWidget* widget) {
     return std::ceil(QFontMetricsF(Typography::font(style), widget).height());
 }
@@ -69,8 +69,8 @@ QString VolumeView::accessibleValueText() const {
 
 QSize VolumeView::sizeHint() const {
     return {Typography::scaled(240),
-            static_cast<int>(heightOf(nameStyle, this) + heightOf(detailStyle, this) + 2 * spacing +
-                             barHeight)};
+            static_cast<int>(heightOf(volumeNameStyle, this) + heightOf(volumeDetailStyle, this) +
+                             2 * volumeLineSpacing + volumeBarHeight)};
 }
 
 QSize VolumeView::minimumSizeHint() const {
@@ -81,22 +81,22 @@ void VolumeView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     const ColorScheme scheme = painter.scheme();
     const double across = width();
-    const double nameHeight = heightOf(nameStyle, this);
-    const double symbol = symbolSide * Typography::lengthScale();
+    const double nameHeight = heightOf(volumeNameStyle, this);
+    const double symbol = volumeSymbolSide * Typography::lengthScale();
     Symbols::draw(painter, painter.leading({0, (nameHeight - symbol) / 2, symbol, symbol}),
                   block_.symbol, VantorTheme::secondaryLabel(scheme));
-    const double left = symbol + symbolGap;
+    const double left = symbol + volumeSymbolGap;
     painter.primary();
-    painter.line(nameStyle, {left, 0, across - left, nameHeight}, Qt::AlignLeft | Qt::AlignTop,
-                 block_.name);
-    double top = nameHeight + spacing;
-    paintUsageBar(painter, {0, top, across, barHeight},
-                  {block_.usedFraction, block_.accent, barHeight});
-    top += barHeight + spacing;
+    painter.line(volumeNameStyle, {left, 0, across - left, nameHeight},
+                 Qt::AlignLeft | Qt::AlignTop, block_.name);
+    double top = nameHeight + volumeLineSpacing;
+    paintUsageBar(painter, {0, top, across, volumeBarHeight},
+                  {block_.usedFraction, block_.accent, volumeBarHeight});
+    top += volumeBarHeight + volumeLineSpacing;
     painter.secondary();
-    const QRectF line(0, top, across, heightOf(detailStyle, this));
-    painter.figures(detailStyle, line, Qt::AlignLeft | Qt::AlignTop, block_.usedText);
-    painter.figures(detailStyle, line, Qt::AlignRight | Qt::AlignTop, block_.freeText);
+    const QRectF line(0, top, across, heightOf(volumeDetailStyle, this));
+    painter.figures(volumeDetailStyle, line, Qt::AlignLeft | Qt::AlignTop, block_.usedText);
+    painter.figures(volumeDetailStyle, line, Qt::AlignRight | Qt::AlignTop, block_.freeText);
 }
 
 }  // namespace vantor

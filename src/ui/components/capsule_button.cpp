@@ -16,18 +16,18 @@ namespace vantor {
 
 namespace {
 
-constexpr double horizontalPadding = 12;
-constexpr double verticalPadding = 8;
+constexpr double capsuleButtonHorizontalPadding = 12;
+constexpr double capsuleButtonVerticalPadding = 8;
 constexpr double symbolSpacing = 6;
-constexpr double groundOpacity = 0.07;
-constexpr double hoverOpacity = 0.12;
-constexpr double pressedOpacity = 0.18;
-constexpr double disabledOpacity = 0.38;
+constexpr double capsuleButtonGroundOpacity = 0.07;
+constexpr double capsuleButtonHoverOpacity = 0.12;
+constexpr double capsuleButtonPressedOpacity = 0.18;
+constexpr double capsuleButtonDisabledOpacity = 0.38;
 
-constexpr TextStyle labelStyle{Typography::caption, QFont::DemiBold};
+constexpr TextStyle capsuleButtonLabelStyle{Typography::caption, QFont::DemiBold};
 
-double symbolSize() {
-    return std::round(QFontMetricsF(Typography::font(labelStyle)).height());
+double capsuleSymbolSize() {
+    return std::round(QFontMetricsF(Typography::font(capsuleButtonLabelStyle)).height());
 }
 
 }  // namespace
@@ -59,14 +59,16 @@ void CapsuleButtonView::reserveWidthFor(const QString& title) {
 }
 
 double CapsuleButtonView::widthFor(const QString& title) const {
-    return symbolSize() + symbolSpacing +
-           Typography::digitTextWidth(title, QFontMetricsF(Typography::font(labelStyle), this));
+    return capsuleSymbolSize() + symbolSpacing +
+           Typography::digitTextWidth(
+               title, QFontMetricsF(Typography::font(capsuleButtonLabelStyle), this));
 }
 
 QSize CapsuleButtonView::sizeHint() const {
-    const double height = QFontMetricsF(Typography::font(labelStyle), this).height();
-    return {static_cast<int>(std::ceil(widthFor(widestTitle_) + 2 * horizontalPadding)),
-            static_cast<int>(std::ceil(height + 2 * verticalPadding))};
+    const double height = QFontMetricsF(Typography::font(capsuleButtonLabelStyle), this).height();
+    return {
+        static_cast<int>(std::ceil(widthFor(widestTitle_) + 2 * capsuleButtonHorizontalPadding)),
+        static_cast<int>(std::ceil(height + 2 * capsuleButtonVerticalPadding))};
 }
 
 void CapsuleButtonView::enterEvent(QEnterEvent* event) {
@@ -95,18 +97,18 @@ void CapsuleButtonView::keyPressEvent(QKeyEvent* event) {
 
 void CapsuleButtonView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    if (!isEnabled()) painter.setOpacity(capsuleButtonDisabledOpacity);
     paintGround(painter);
     paintLabel(painter);
 }
 
 void CapsuleButtonView::paintGround(ViewPainter& painter) const {
     const QRectF area = Pixels::snapped(painter, rect());
-    double opacity = groundOpacity;
+    double opacity = capsuleButtonGroundOpacity;
     if (isEnabled() && isDown()) {
-        opacity = pressedOpacity;
+        opacity = capsuleButtonPressedOpacity;
     } else if (isEnabled() && underMouse()) {
-        opacity = hoverOpacity;
+        opacity = capsuleButtonHoverOpacity;
     }
     QPainterPath capsule;
     capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
@@ -119,8 +121,8 @@ void CapsuleButtonView::paintGround(ViewPainter& painter) const {
 
 void CapsuleButtonView::paintLabel(ViewPainter& painter) const {
     const QColor color = VantorTheme::primaryLabel(painter.scheme());
-    const double symbol = std::round(painter.lineHeight(labelStyle));
-    const double textWidth = painter.figuresWidth(labelStyle, text());
+    const double symbol = std::round(painter.lineHeight(capsuleButtonLabelStyle));
+    const double textWidth = painter.figuresWidth(capsuleButtonLabelStyle, text());
     const double left = (width() - symbol - symbolSpacing - textWidth) / 2;
     const bool trailing = isSymbolTrailing();
     const double symbolLeft = trailing ? left + textWidth + symbolSpacing : left;
@@ -128,7 +130,8 @@ void CapsuleButtonView::paintLabel(ViewPainter& painter) const {
     Symbols::draw(painter, painter.leading({symbolLeft, (height() - symbol) / 2, symbol, symbol}),
                   systemImage_, color);
     vantorForeground(painter, color);
-    painter.figures(labelStyle, {textLeft, 0, textWidth, static_cast<double>(height())},
+    painter.figures(capsuleButtonLabelStyle,
+                    {textLeft, 0, textWidth, static_cast<double>(height())},
                     Qt::AlignLeft | Qt::AlignVCenter, text());
 }
 

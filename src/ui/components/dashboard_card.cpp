@@ -15,15 +15,15 @@ namespace vantor {
 
 namespace {
 
-constexpr TextStyle titleStyle{14, QFont::DemiBold};
-constexpr TextStyle subtitleStyle{Typography::caption};
+constexpr TextStyle dashboardCardTitleStyle{14, QFont::DemiBold};
+constexpr TextStyle dashboardCardSubtitleStyle{Typography::caption};
 constexpr double iconFrame = 28;
 // A symbol of font size 14 measures 17.
-constexpr SymbolTile::Shape iconShape{.side = iconFrame, .corner = 9, .symbol = 17};
+constexpr SymbolTile::Shape dashboardCardIconShape{.side = iconFrame, .corner = 9, .symbol = 17};
 constexpr double headerSpacing = 10;
-constexpr double titleSpacing = 1;
+constexpr double dashboardCardTitleSpacing = 1;
 constexpr int cardPadding = 18;
-constexpr int cardSpacing = 16;
+constexpr int dashboardCardCardSpacing = 16;
 
 }  // namespace
 
@@ -42,9 +42,9 @@ void CardHeaderView::show(const DashboardCard& card) {
 }
 
 double CardHeaderView::textHeight() const {
-    const QFontMetricsF title(Typography::font(titleStyle), this);
-    const QFontMetricsF subtitle(Typography::font(subtitleStyle), this);
-    return title.height() + (card_.subtitle ? titleSpacing + subtitle.height() : 0);
+    const QFontMetricsF title(Typography::font(dashboardCardTitleStyle), this);
+    const QFontMetricsF subtitle(Typography::font(dashboardCardSubtitleStyle), this);
+    return title.height() + (card_.subtitle ? dashboardCardTitleSpacing + subtitle.height() : 0);
 }
 
 QSize CardHeaderView::sizeHint() const {
@@ -59,21 +59,23 @@ QSize CardHeaderView::minimumSizeHint() const {
 void CardHeaderView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     const double side = Typography::scaled(iconFrame);
-    SymbolTile::paint(painter, painter.leading({0, (height() - side) / 2, side, side}), iconShape,
-                      card_.icon, card_.accent);
+    SymbolTile::paint(painter, painter.leading({0, (height() - side) / 2, side, side}),
+                      dashboardCardIconShape, card_.icon, card_.accent);
 
     const double left = side + headerSpacing;
-    const double titleHeight = painter.lineHeight(titleStyle);
-    const double subtitleHeight = painter.lineHeight(subtitleStyle);
-    const double total = titleHeight + (card_.subtitle ? titleSpacing + subtitleHeight : 0);
+    const double titleHeight = painter.lineHeight(dashboardCardTitleStyle);
+    const double subtitleHeight = painter.lineHeight(dashboardCardSubtitleStyle);
+    const double total =
+        titleHeight + (card_.subtitle ? dashboardCardTitleSpacing + subtitleHeight : 0);
     double top = (height() - total) / 2;
     const double across = width() - left;
     painter.primary();
-    painter.line(titleStyle, {left, top, across, titleHeight}, Qt::AlignLeft, card_.title);
+    painter.line(dashboardCardTitleStyle, {left, top, across, titleHeight}, Qt::AlignLeft,
+                 card_.title);
     if (!card_.subtitle) return;
-    top += titleHeight + titleSpacing;
+    top += titleHeight + dashboardCardTitleSpacing;
     painter.secondary();
-    painter.line(subtitleStyle, {left, top, across, subtitleHeight}, Qt::AlignLeft,
+    painter.line(dashboardCardSubtitleStyle, {left, top, across, subtitleHeight}, Qt::AlignLeft,
                  *card_.subtitle);
 }
 
@@ -82,7 +84,7 @@ DashboardCardView::DashboardCardView(const DashboardCard& card, QWidget* parent)
       header_(makeChild<CardHeaderView>(this, card)),
       body_(makeLayout<QVBoxLayout>(this)) {
     body_->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
-    body_->setSpacing(cardSpacing);
+    body_->setSpacing(dashboardCardCardSpacing);
     body_->addWidget(header_);
     setAccessibleName(card.title);
 }

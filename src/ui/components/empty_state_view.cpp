@@ -12,20 +12,20 @@ namespace vantor {
 
 namespace {
 
-constexpr double padding = 10;
-constexpr double spacing = 10;
+constexpr double emptyStatePadding = 10;
+constexpr double emptyStateSpacing = 10;
 constexpr double leastHeight = 180;
-constexpr double symbolSide = 34;  // what a symbol of font size 28 measures
+constexpr double emptyStateSymbolSide = 34;  // what a symbol of font size 28 measures
 // Lines longer than this are tiring to read.
 constexpr double widestMessage = 420;
 constexpr int messageFlags =
     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap | Qt::TextWrapAnywhere;
 
-constexpr TextStyle titleStyle{Typography::headline, QFont::DemiBold};
+constexpr TextStyle emptyStateTitleStyle{Typography::headline, QFont::DemiBold};
 constexpr TextStyle messageStyle{Typography::caption};
 
 double messageWidth(double width) {
-    return std::min(width - 2 * padding, widestMessage * Typography::lengthScale());
+    return std::min(width - 2 * emptyStatePadding, widestMessage * Typography::lengthScale());
 }
 
 }  // namespace
@@ -53,14 +53,15 @@ double EmptyStateView::messageHeight(double width) const {
 }
 
 double EmptyStateView::contentHeight(double width) const {
-    return symbolSide * Typography::lengthScale() + spacing +
-           QFontMetricsF(Typography::font(titleStyle), this).height() + spacing +
-           messageHeight(width);
+    return emptyStateSymbolSide * Typography::lengthScale() + emptyStateSpacing +
+           QFontMetricsF(Typography::font(emptyStateTitleStyle), this).height() +
+           emptyStateSpacing + messageHeight(width);
 }
 
 int EmptyStateView::heightForWidth(int width) const {
     const double least = leastHeight * Typography::lengthScale();
-    return static_cast<int>(std::ceil(std::max(least, contentHeight(width)) + 2 * padding));
+    return static_cast<int>(
+        std::ceil(std::max(least, contentHeight(width)) + 2 * emptyStatePadding));
 }
 
 QSize EmptyStateView::sizeHint() const {
@@ -76,15 +77,16 @@ void EmptyStateView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     const double across = width();
     double top = (height() - contentHeight(across)) / 2;
-    const double symbol = symbolSide * Typography::lengthScale();
+    const double symbol = emptyStateSymbolSide * Typography::lengthScale();
     Symbols::draw(painter, {(across - symbol) / 2, top, symbol, symbol}, state_.systemImage,
                   VantorTheme::secondaryLabel(painter.scheme()));
-    top += symbol + spacing;
-    const double titleHeight = painter.lineHeight(titleStyle);
+    top += symbol + emptyStateSpacing;
+    const double titleHeight = painter.lineHeight(emptyStateTitleStyle);
     painter.primary();
-    painter.line(titleStyle, {padding, top, across - 2 * padding, titleHeight}, Qt::AlignHCenter,
-                 state_.title);
-    top += titleHeight + spacing;
+    painter.line(emptyStateTitleStyle,
+                 {emptyStatePadding, top, across - 2 * emptyStatePadding, titleHeight},
+                 Qt::AlignHCenter, state_.title);
+    top += titleHeight + emptyStateSpacing;
     painter.setFont(Typography::font(messageStyle));
     painter.secondary();
     const double wide = messageWidth(across);

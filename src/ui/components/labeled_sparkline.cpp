@@ -11,10 +11,10 @@ namespace vantor {
 
 namespace {
 
-constexpr double spacing = 6;
-constexpr double chartHeight = 54;
+constexpr double labeledSparklineSpacing = 6;
+constexpr double labeledSparklineChartHeight = 54;
 
-constexpr TextStyle textStyle{Typography::caption2};
+constexpr TextStyle labeledSparklineTextStyle{Typography::caption2};
 
 }  // namespace
 
@@ -31,12 +31,12 @@ void LabeledSparklineView::show(const QString& value, std::span<const double> va
 }
 
 double LabeledSparklineView::textHeight() const {
-    return std::ceil(QFontMetricsF(Typography::font(textStyle), this).height());
+    return std::ceil(QFontMetricsF(Typography::font(labeledSparklineTextStyle), this).height());
 }
 
 QSize LabeledSparklineView::sizeHint() const {
-    return {Typography::scaled(160),
-            static_cast<int>(textHeight() + spacing) + Typography::scaled(chartHeight)};
+    return {Typography::scaled(160), static_cast<int>(textHeight() + labeledSparklineSpacing) +
+                                         Typography::scaled(labeledSparklineChartHeight)};
 }
 
 QSize LabeledSparklineView::minimumSizeHint() const {
@@ -45,16 +45,19 @@ QSize LabeledSparklineView::minimumSizeHint() const {
 
 void LabeledSparklineView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    const double textHeight = std::ceil(painter.lineHeight(textStyle));
+    const double textHeight = std::ceil(painter.lineHeight(labeledSparklineTextStyle));
     const QRectF text(0, 0, width(), textHeight);
     painter.primary();
-    painter.figures(textStyle, text, Qt::AlignRight | Qt::AlignTop, sparkline_.value);
-    const double valueWidth = painter.figuresWidth(textStyle, sparkline_.value);
+    painter.figures(labeledSparklineTextStyle, text, Qt::AlignRight | Qt::AlignTop,
+                    sparkline_.value);
+    const double valueWidth = painter.figuresWidth(labeledSparklineTextStyle, sparkline_.value);
     painter.secondary();
-    painter.line(textStyle, text.adjusted(0, 0, -valueWidth - spacing, 0),
+    painter.line(labeledSparklineTextStyle,
+                 text.adjusted(0, 0, -valueWidth - labeledSparklineSpacing, 0),
                  Qt::AlignLeft | Qt::AlignTop, sparkline_.label);
     paintSparkline(painter,
-                   {0, textHeight + spacing, text.width(), height() - textHeight - spacing},
+                   {0, textHeight + labeledSparklineSpacing, text.width(),
+                    height() - textHeight - labeledSparklineSpacing},
                    sparkline_.values, sparkline_.color, std::nullopt);
 }
 

@@ -12,17 +12,17 @@ namespace vantor {
 
 namespace {
 
-constexpr double spacing = 8;
+constexpr double metricRowSpacing = 8;
 constexpr double dotSize = 7;
 
-constexpr TextStyle labelStyle{Typography::caption};
-constexpr TextStyle valueStyle{Typography::caption, QFont::Medium};
+constexpr TextStyle metricRowLabelStyle{Typography::caption};
+constexpr TextStyle metricRowValueStyle{Typography::caption, QFont::Medium};
 
 }  // namespace
 
 MetricRowGeometry MetricRowGeometry::make(double height, bool hasDot) {
     if (!hasDot) return {};
-    return {QRectF(0, (height - dotSize) / 2, dotSize, dotSize), dotSize + spacing};
+    return {QRectF(0, (height - dotSize) / 2, dotSize, dotSize), dotSize + metricRowSpacing};
 }
 
 MetricRowView::MetricRowView(MetricRow row, QWidget* parent)
@@ -40,10 +40,10 @@ void MetricRowView::show(const MetricRow& row) {
 }
 
 QSize MetricRowView::sizeHint() const {
-    const QFontMetricsF label(Typography::font(labelStyle), this);
-    const QFontMetricsF value(Typography::font(valueStyle), this);
+    const QFontMetricsF label(Typography::font(metricRowLabelStyle), this);
+    const QFontMetricsF value(Typography::font(metricRowValueStyle), this);
     const double width = MetricRowGeometry::make(0, row_.color.has_value()).labelLeft +
-                         label.horizontalAdvance(row_.label) + spacing +
+                         label.horizontalAdvance(row_.label) + metricRowSpacing +
                          Typography::digitTextWidth(row_.value, value);
     return {static_cast<int>(std::ceil(width)),
             static_cast<int>(std::ceil(std::max(label.height(), value.height())))};
@@ -61,23 +61,23 @@ void MetricRowView::paintEvent(QPaintEvent*) {
         dot.addEllipse(painter.leading(*geometry.dot));
         vantorBackground(painter, *row_.color, dot);
     }
-    const double valueWidth = painter.figuresWidth(valueStyle, row_.value);
+    const double valueWidth = painter.figuresWidth(metricRowValueStyle, row_.value);
     painter.primary();
     // Neither a long label nor a long value takes all of the row.
-    const double beside =
-        width() - geometry.labelLeft - spacing - painter.lineWidth(labelStyle, row_.label);
+    const double beside = width() - geometry.labelLeft - metricRowSpacing -
+                          painter.lineWidth(metricRowLabelStyle, row_.label);
     const double room = std::max(beside, width() / 2.0);
     if (valueWidth > room) {
         const QRectF area(width() - room, 0, room, height());
-        painter.line(valueStyle, area, Qt::AlignRight | Qt::AlignVCenter, row_.value);
+        painter.line(metricRowValueStyle, area, Qt::AlignRight | Qt::AlignVCenter, row_.value);
     } else {
-        painter.figures(valueStyle, rect(), Qt::AlignRight | Qt::AlignVCenter, row_.value);
+        painter.figures(metricRowValueStyle, rect(), Qt::AlignRight | Qt::AlignVCenter, row_.value);
     }
     painter.secondary();
     const double taken = std::min(valueWidth, room);
-    const QRectF label(geometry.labelLeft, 0, width() - geometry.labelLeft - spacing - taken,
-                       height());
-    painter.line(labelStyle, label, Qt::AlignLeft | Qt::AlignVCenter, row_.label);
+    const QRectF label(geometry.labelLeft, 0,
+                       width() - geometry.labelLeft - metricRowSpacing - taken, height());
+    painter.line(metricRowLabelStyle, label, Qt::AlignLeft | Qt::AlignVCenter, row_.label);
 }
 
 }  // namespace vantor

@@ -12,10 +12,10 @@ namespace vantor {
 
 namespace {
 
-constexpr double frame = 126;
-constexpr TextStyle titleStyle{24, QFont::Bold};
-constexpr TextStyle detailStyle{Typography::caption2, QFont::Medium};
-constexpr double textSpacing = 2;
+constexpr double ringFrame = 126;
+constexpr TextStyle ringGaugeTitleStyle{24, QFont::Bold};
+constexpr TextStyle ringGaugeDetailStyle{Typography::caption2, QFont::Medium};
+constexpr double ringGaugeTextSpacing = 2;
 
 }  // namespace
 
@@ -45,7 +45,7 @@ std::optional<double> RingGaugeView::accessibleFraction() const {
 }
 
 QSize RingGaugeView::sizeHint() const {
-    const int side = Typography::scaled(frame);
+    const int side = Typography::scaled(ringFrame);
     return {side, side};
 }
 
@@ -64,16 +64,16 @@ void RingGaugeView::paintEvent(QPaintEvent*) {
     const double width = gauge_.lineWidth * Typography::lengthScale();
     paintRing(painter, RingGaugeGeometry::make(rect(), gauge_.value, width), width);
 
-    const double titleHeight = painter.lineHeight(titleStyle);
-    const double detailHeight = painter.lineHeight(detailStyle);
-    const double top = (height() - titleHeight - textSpacing - detailHeight) / 2;
+    const double titleHeight = painter.lineHeight(ringGaugeTitleStyle);
+    const double detailHeight = painter.lineHeight(ringGaugeDetailStyle);
+    const double top = (height() - titleHeight - ringGaugeTextSpacing - detailHeight) / 2;
     painter.primary();
-    painter.figures(titleStyle, QRectF(0, top, this->width(), titleHeight), Qt::AlignHCenter,
-                    gauge_.title);
+    painter.figures(ringGaugeTitleStyle, QRectF(0, top, this->width(), titleHeight),
+                    Qt::AlignHCenter, gauge_.title);
     painter.secondary();
-    const QRectF detail(width, top + titleHeight + textSpacing, this->width() - 2 * width,
+    const QRectF detail(width, top + titleHeight + ringGaugeTextSpacing, this->width() - 2 * width,
                         detailHeight);
-    painter.line(detailStyle, detail, Qt::AlignHCenter, gauge_.detail);
+    painter.line(ringGaugeDetailStyle, detail, Qt::AlignHCenter, gauge_.detail);
 }
 
 }  // namespace vantor

@@ -17,15 +17,15 @@ namespace vantor {
 
 namespace {
 
-constexpr double horizontalPadding = 12;
-constexpr double verticalPadding = 5;
+constexpr double segmentedPickerHorizontalPadding = 12;
+constexpr double segmentedPickerVerticalPadding = 5;
 constexpr int trackInset = 3;
 constexpr int labelGap = 8;
-constexpr double trackOpacity = 0.07;
+constexpr double segmentedPickerTrackOpacity = 0.07;
 constexpr double chosenOpacity = 0.16;
-constexpr double hoverOpacity = 0.06;
+constexpr double segmentedPickerHoverOpacity = 0.06;
 
-constexpr TextStyle titleStyle{Typography::caption, QFont::DemiBold};
+constexpr TextStyle segmentedPickerTitleStyle{Typography::caption, QFont::DemiBold};
 
 }  // namespace
 
@@ -39,9 +39,10 @@ SegmentButton::SegmentButton(const QString& title, QWidget* parent) : QAbstractB
 }
 
 QSize SegmentButton::sizeHint() const {
-    const QFontMetricsF metrics(Typography::font(titleStyle), this);
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()) + 2 * horizontalPadding)),
-            static_cast<int>(std::ceil(metrics.height() + 2 * verticalPadding))};
+    const QFontMetricsF metrics(Typography::font(segmentedPickerTitleStyle), this);
+    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()) +
+                                       2 * segmentedPickerHorizontalPadding)),
+            static_cast<int>(std::ceil(metrics.height() + 2 * segmentedPickerVerticalPadding))};
 }
 
 void SegmentButton::focusInEvent(QFocusEvent* event) {
@@ -74,11 +75,13 @@ void SegmentButton::paintEvent(QPaintEvent*) {
         QPainterPath shape;
         shape.addRoundedRect(area, radius, radius);
         vantorBackground(
-            painter, VantorTheme::faded(label, isChecked() ? chosenOpacity : hoverOpacity), shape);
+            painter,
+            VantorTheme::faded(label, isChecked() ? chosenOpacity : segmentedPickerHoverOpacity),
+            shape);
     }
     if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, area, radius, palette());
     vantorForeground(painter, isChecked() ? label : VantorTheme::secondaryLabel(scheme));
-    painter.line(titleStyle, area, Qt::AlignHCenter | Qt::AlignVCenter, text());
+    painter.line(segmentedPickerTitleStyle, area, Qt::AlignHCenter | Qt::AlignVCenter, text());
 }
 
 SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choices,
@@ -143,9 +146,10 @@ void SegmentedPicker::paintEvent(QPaintEvent*) {
         Pixels::snapped(painter, track.adjusted(-trackInset, -trackInset, trackInset, trackInset));
     QPainterPath shape;
     shape.addRoundedRect(area, area.height() / 2, area.height() / 2);
-    vantorBackground(
-        painter, VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)), trackOpacity),
-        shape);
+    vantorBackground(painter,
+                     VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)),
+                                        segmentedPickerTrackOpacity),
+                     shape);
 }
 
 }  // namespace vantor

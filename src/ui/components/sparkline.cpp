@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 constexpr double lineWidth = 2;
-constexpr double fillOpacity = 0.12;
+constexpr double sparklineFillOpacity = 0.12;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ void paintSparkline(ViewPainter& painter, const QRectF& area, std::span<const do
         SparklineGeometry::make(values, place.width(), place.height() - width, fixedRange);
     for (QPointF& point : geometry.points)
         point.ry() += width / 2;
-    painter.lines().draw(painter, place, geometry.points, {accent, width, fillOpacity});
+    painter.lines().draw(painter, place, geometry.points, {accent, width, sparklineFillOpacity});
 }
 
 SparklineView::SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent)

@@ -14,12 +14,12 @@ namespace vantor {
 namespace {
 
 constexpr double tilePadding = 10;
-constexpr double spacing = 9;
-constexpr double textSpacing = 1;
-constexpr SymbolTile::Shape iconShape{.side = 26, .corner = 8, .symbol = 15};
+constexpr double speedTileSpacing = 9;
+constexpr double speedTileTextSpacing = 1;
+constexpr SymbolTile::Shape speedTileIconShape{.side = 26, .corner = 8, .symbol = 15};
 
-constexpr TextStyle titleStyle{Typography::caption2};
-constexpr TextStyle valueStyle{Typography::caption, QFont::DemiBold};
+constexpr TextStyle speedTileTitleStyle{Typography::caption2};
+constexpr TextStyle speedTileValueStyle{Typography::caption, QFont::DemiBold};
 
 }  // namespace
 
@@ -40,18 +40,19 @@ void SpeedTileView::show(const SpeedTile& tile) {
 }
 
 QSize SpeedTileView::sizeHint() const {
-    const QFontMetricsF title(Typography::font(titleStyle), this);
-    const QFontMetricsF value(Typography::font(valueStyle), this);
-    const double icon = Typography::scaled(iconShape.side);
+    const QFontMetricsF title(Typography::font(speedTileTitleStyle), this);
+    const QFontMetricsF value(Typography::font(speedTileValueStyle), this);
+    const double icon = Typography::scaled(speedTileIconShape.side);
     const double text = std::max(title.horizontalAdvance(tile_.title),
                                  Typography::digitTextWidth(tile_.value, value));
-    return {static_cast<int>(std::ceil(2 * padding() + icon + spacing + text)),
-            static_cast<int>(std::ceil(
-                2 * padding() + std::max(icon, title.height() + textSpacing + value.height())))};
+    return {static_cast<int>(std::ceil(2 * padding() + icon + speedTileSpacing + text)),
+            static_cast<int>(
+                std::ceil(2 * padding() +
+                          std::max(icon, title.height() + speedTileTextSpacing + value.height())))};
 }
 
 QSize SpeedTileView::minimumSizeHint() const {
-    return {Typography::scaled(iconShape.side) + static_cast<int>(2 * padding()),
+    return {Typography::scaled(speedTileIconShape.side) + static_cast<int>(2 * padding()),
             sizeHint().height()};
 }
 
@@ -59,18 +60,19 @@ void SpeedTileView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     if (ground_ == Ground::tile) CardChrome::paintTile(painter, rect(), painter.scheme());
 
-    const double side = Typography::scaled(iconShape.side);
+    const double side = Typography::scaled(speedTileIconShape.side);
     SymbolTile::paint(painter, painter.leading({padding(), (height() - side) / 2, side, side}),
-                      iconShape, tile_.icon, tile_.color);
-    const double left = padding() + side + spacing;
+                      speedTileIconShape, tile_.icon, tile_.color);
+    const double left = padding() + side + speedTileSpacing;
     const double across = width() - left - padding();
-    const double titleHeight = painter.lineHeight(titleStyle);
-    const double valueHeight = painter.lineHeight(valueStyle);
-    const double top = (height() - titleHeight - textSpacing - valueHeight) / 2;
+    const double titleHeight = painter.lineHeight(speedTileTitleStyle);
+    const double valueHeight = painter.lineHeight(speedTileValueStyle);
+    const double top = (height() - titleHeight - speedTileTextSpacing - valueHeight) / 2;
     painter.secondary();
-    painter.line(titleStyle, {left, top, across, titleHeight}, Qt::AlignLeft, tile_.title);
+    painter.line(speedTileTitleStyle, {left, top, across, titleHeight}, Qt::AlignLeft, tile_.title);
     painter.primary();
-    painter.figures(valueStyle, {left, top + titleHeight + textSpacing, across, valueHeight},
+    painter.figures(speedTileValueStyle,
+                    {left, top + titleHeight + speedTileTextSpacing, across, valueHeight},
                     Qt::AlignLeft, tile_.value);
 }
 

@@ -19,14 +19,14 @@ namespace vantor {
 namespace {
 
 constexpr double halfWidth = 34;
-constexpr double verticalPadding = 6;
-constexpr double symbolSide = 14;
-constexpr double groundOpacity = 0.07;
-constexpr double hoverOpacity = 0.06;
-constexpr double pressedOpacity = 0.14;
+constexpr double stepperVerticalPadding = 6;
+constexpr double stepperSymbolSide = 14;
+constexpr double stepperGroundOpacity = 0.07;
+constexpr double stepperHoverOpacity = 0.06;
+constexpr double stepperPressedOpacity = 0.14;
 constexpr double dividerOpacity = 0.14;
 constexpr double dividerInset = 7;
-constexpr double disabledOpacity = 0.38;
+constexpr double stepperDisabledOpacity = 0.38;
 constexpr int firstRepeat = 400;  // milliseconds that the button is held down
 constexpr int nextRepeat = 40;
 constexpr std::int64_t page = 10;
@@ -78,7 +78,7 @@ void StepperView::setAccessibleNumber(double number) {
 }
 
 QSize StepperView::sizeHint() const {
-    const double height = QFontMetricsF(symbolFont(), this).height() + 2 * verticalPadding;
+    const double height = QFontMetricsF(symbolFont(), this).height() + 2 * stepperVerticalPadding;
     return {2 * Typography::scaled(halfWidth), static_cast<int>(std::ceil(height))};
 }
 
@@ -205,7 +205,7 @@ void StepperView::paintEvent(QPaintEvent*) {
     const double radius = area.height() / 2;
     QPainterPath capsule;
     capsule.addRoundedRect(area, radius, radius);
-    vantorBackground(painter, VantorTheme::faded(label, groundOpacity), capsule);
+    vantorBackground(painter, VantorTheme::faded(label, stepperGroundOpacity), capsule);
     painter.save();
     painter.setClipPath(capsule);
     for (const Half half : {Half::less, Half::more})
@@ -224,16 +224,16 @@ void StepperView::paintHalf(QPainter& painter, Half half) const {
     const QRectF area = areaOf(half);
     const bool isPressed = pressed_ == half;
     if (canStep(half) && (isPressed || hovered_ == half)) {
-        painter.fillRect(area,
-                         VantorTheme::faded(label, isPressed ? pressedOpacity : hoverOpacity));
+        painter.fillRect(area, VantorTheme::faded(
+                                   label, isPressed ? stepperPressedOpacity : stepperHoverOpacity));
     }
     // Odd, so that a stroke through the middle fills whole pixels.
-    const double side = Typography::scaled(symbolSide) | 1;
+    const double side = Typography::scaled(stepperSymbolSide) | 1;
     const QRectF symbol(std::round(area.center().x() - side / 2),
                         std::round(area.center().y() - side / 2), side, side);
     Symbols::draw(painter, symbol,
                   half == Half::more ? QStringLiteral("plus") : QStringLiteral("minus"),
-                  canStep(half) ? label : VantorTheme::faded(label, disabledOpacity));
+                  canStep(half) ? label : VantorTheme::faded(label, stepperDisabledOpacity));
 }
 
 }  // namespace vantor

@@ -10,7 +10,7 @@ namespace vantor::SymbolTile {
 
 namespace {
 
-constexpr double groundOpacity = 0.14;
+constexpr double symbolTileGroundOpacity = 0.14;
 
 void paintOn(QPainter& painter, const QRectF& ground, const QBrush& fill,
              const SymbolTile::Shape& shape, const QString& symbol, const QColor& color) {
@@ -27,7 +27,8 @@ void paintOn(QPainter& painter, const QRectF& ground, const QBrush& fill,
 void paint(QPainter& painter, const QRectF& area, const Shape& shape, const QString& symbol,
            const QColor& color) {
     const QRectF ground = Pixels::snapped(painter, area);
-    paintOn(painter, ground, VantorTheme::faded(color, groundOpacity), shape, symbol, color);
+    paintOn(painter, ground, VantorTheme::faded(color, symbolTileGroundOpacity), shape, symbol,
+            color);
 }
 
 void paintProduct(QPainter& painter, const QRectF& area, const Shape& shape) {

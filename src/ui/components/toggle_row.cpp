@@ -19,11 +19,11 @@ namespace {
 constexpr double switchWidth = 38;
 constexpr double switchHeight = 22;
 constexpr double knobInset = 2;
-constexpr double spacing = 16;
+constexpr double toggleRowSpacing = 16;
 constexpr double narrowestText = 120;
 constexpr double offOpacity = 0.18;
-constexpr double hoverOpacity = 0.26;
-constexpr double disabledOpacity = 0.38;
+constexpr double toggleRowHoverOpacity = 0.26;
+constexpr double toggleRowDisabledOpacity = 0.38;
 constexpr int textFlags = Qt::TextWordWrap;
 
 QFont textFont() {
@@ -37,7 +37,7 @@ QSizeF switchSize() {
 
 /// What of the row's width is not the text's.
 double beside() {
-    return switchSize().width() + spacing + 2 * ToggleRowView::outset;
+    return switchSize().width() + toggleRowSpacing + 2 * ToggleRowView::outset;
 }
 
 }  // namespace
@@ -119,7 +119,7 @@ void ToggleRowView::keyPressEvent(QKeyEvent* event) {
 void ToggleRowView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled()) painter.setOpacity(disabledOpacity);
+    if (!isEnabled()) painter.setOpacity(toggleRowDisabledOpacity);
     paintSwitch(painter);
     painter.setFont(textFont());
     vantorPrimaryForeground(painter, colorScheme(*this));
@@ -133,7 +133,7 @@ void ToggleRowView::paintSwitch(QPainter& painter) const {
     const QColor label = VantorTheme::primaryLabel(colorScheme(*this));
     QPainterPath track;
     track.addRoundedRect(area, radius, radius);
-    const QColor off = VantorTheme::faded(label, underMouse() ? hoverOpacity : offOpacity);
+    const QColor off = VantorTheme::faded(label, underMouse() ? toggleRowHoverOpacity : offOpacity);
     vantorBackground(painter, isChecked() ? VantorTheme::blue() : off, track);
     const double side = area.height() - 2 * knobInset;
     const bool isKnobAtRight = isChecked() != isRightToLeft();

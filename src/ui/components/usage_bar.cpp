@@ -11,8 +11,8 @@ namespace vantor {
 
 namespace {
 
-constexpr double trackOpacity = 0.08;
-constexpr double fillOpacity = 0.92;
+constexpr double usageBarTrackOpacity = 0.08;
+constexpr double usageBarFillOpacity = 0.92;
 
 void fillCapsule(QPainter& painter, const QRectF& area, const QColor& color) {
     const double radius = std::min(area.width(), area.height()) / 2;
@@ -36,10 +36,11 @@ void paintUsageBar(ViewPainter& painter, const QRectF& bounds, const UsageBar& b
     auto geometry =
         UsageBarGeometry::make(Pixels::snapped(painter, painter.leading(whole)), bar.value);
     if (painter.isMirrored()) geometry.fill.moveRight(geometry.track.right());
-    fillCapsule(painter, geometry.track,
-                VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), trackOpacity));
+    fillCapsule(
+        painter, geometry.track,
+        VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), usageBarTrackOpacity));
     if (geometry.fill.width() > 0) {
-        fillCapsule(painter, geometry.fill, VantorTheme::faded(bar.accent, fillOpacity));
+        fillCapsule(painter, geometry.fill, VantorTheme::faded(bar.accent, usageBarFillOpacity));
     }
 }
 

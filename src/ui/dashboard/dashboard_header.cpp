@@ -13,8 +13,8 @@ namespace vantor {
 
 namespace {
 
-constexpr int padding = 16;
-constexpr int controlSpacing = 8;
+constexpr int dashboardHeaderPadding = 16;
+constexpr int dashboardHeaderControlSpacing = 8;
 constexpr int leastGap = 24;
 constexpr int stackedSpacing = 14;
 
@@ -43,7 +43,8 @@ DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_vie
                                          std::optional<double> legacyBreakpoint, QWidget* parent)
     : CardGround(parent), header_(std::move(header)) {
     auto* layout = makeLayout<QVBoxLayout>(this);
-    layout->setContentsMargins(padding, padding, padding, padding);
+    layout->setContentsMargins(dashboardHeaderPadding, dashboardHeaderPadding,
+                               dashboardHeaderPadding, dashboardHeaderPadding);
     auto* identity = makeChild<IdentityView>(this, subtitle);
     fit_ = makeChild<VantorHorizontalFit>(this, identity, makeControls(), leastGap, stackedSpacing,
                                           legacyBreakpoint);
@@ -56,7 +57,7 @@ QWidget* DashboardHeaderView::makeControls() {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     controls->setSizePolicy(policy);
-    auto* flow = std::make_unique<FlowLayout>(controlSpacing, controls).release();
+    auto* flow = std::make_unique<FlowLayout>(dashboardHeaderControlSpacing, controls).release();
     status_ = makeChild<StatusPillView>(controls);
     flow->addWidget(status_);
     interval_ = makeChild<IntervalMenuView>(controls, header_.onRefreshIntervalChange);

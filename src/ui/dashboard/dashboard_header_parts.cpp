@@ -19,14 +19,14 @@ constexpr double pillDot = 8;
 constexpr double pillSpacing = 7;
 
 // The symbol's measure is that of one of font size 22.
-constexpr SymbolTile::Shape tileShape{.side = 46, .corner = 14, .symbol = 27};
+constexpr SymbolTile::Shape headerPartsTileShape{.side = 46, .corner = 14, .symbol = 27};
 constexpr double identitySpacing = 13;
 constexpr double nameSize = 23;
 constexpr double subtitleSize = 12;
 
 constexpr TextStyle pillStyle{Typography::caption, QFont::DemiBold};
-constexpr TextStyle nameStyle{nameSize, QFont::Bold};
-constexpr TextStyle subtitleStyle{subtitleSize};
+constexpr TextStyle headerPartsNameStyle{nameSize, QFont::Bold};
+constexpr TextStyle headerPartsSubtitleStyle{subtitleSize};
 
 QStringList intervalTexts() {
     QStringList texts;
@@ -93,9 +93,9 @@ IdentityView::IdentityView(std::string_view subtitle, QWidget* parent)
 }
 
 QSize IdentityView::sizeHint() const {
-    const QFontMetricsF name(Typography::font(nameStyle), this);
-    const QFontMetricsF subtitle(Typography::font(subtitleStyle), this);
-    const double side = Typography::scaled(tileShape.side);
+    const QFontMetricsF name(Typography::font(headerPartsNameStyle), this);
+    const QFontMetricsF subtitle(Typography::font(headerPartsSubtitleStyle), this);
+    const double side = Typography::scaled(headerPartsTileShape.side);
     const double text =
         std::max(name.horizontalAdvance(accessibleLabel()), subtitle.horizontalAdvance(subtitle_));
     return {static_cast<int>(std::ceil(side + identitySpacing + text)),
@@ -103,25 +103,26 @@ QSize IdentityView::sizeHint() const {
 }
 
 QSize IdentityView::minimumSizeHint() const {
-    return {Typography::scaled(tileShape.side), sizeHint().height()};
+    return {Typography::scaled(headerPartsTileShape.side), sizeHint().height()};
 }
 
 void IdentityView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    const double side = Typography::scaled(tileShape.side);
+    const double side = Typography::scaled(headerPartsTileShape.side);
     SymbolTile::paintProduct(painter, painter.leading({0, (height() - side) / 2, side, side}),
-                             tileShape);
+                             headerPartsTileShape);
 
     const double left = side + identitySpacing;
-    const double nameHeight = painter.lineHeight(nameStyle);
-    const double subtitleHeight = painter.lineHeight(subtitleStyle);
+    const double nameHeight = painter.lineHeight(headerPartsNameStyle);
+    const double subtitleHeight = painter.lineHeight(headerPartsSubtitleStyle);
     const double top = (height() - nameHeight - subtitleHeight) / 2;
     const double across = width() - left;
     painter.primary();
-    painter.line(nameStyle, {left, top, across, nameHeight}, Qt::AlignLeft, accessibleLabel());
+    painter.line(headerPartsNameStyle, {left, top, across, nameHeight}, Qt::AlignLeft,
+                 accessibleLabel());
     painter.secondary();
-    painter.line(subtitleStyle, {left, top + nameHeight, across, subtitleHeight}, Qt::AlignLeft,
-                 subtitle_);
+    painter.line(headerPartsSubtitleStyle, {left, top + nameHeight, across, subtitleHeight},
+                 Qt::AlignLeft, subtitle_);
 }
 
 IntervalMenuView::IntervalMenuView(const std::function<void(double)>& onChange, QWidget* parent)

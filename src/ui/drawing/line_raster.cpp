@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int stripHeight = 16;
+constexpr int lineRasterStripHeight = 16;
 
 std::uint8_t level(double share) {
     return static_cast<std::uint8_t>(std::clamp(share, 0.0, 1.0) * 255 + 0.5);
@@ -77,7 +77,7 @@ void LineRaster::addSegment(QPointF from, QPointF to, double reach) {
 /// picture of the whole would take as much memory as all the figures that it shows.
 void LineRaster::colour(QPainter& painter, QPoint corner, int firstRow, const Style& style) {
     if (strip_.width() < width_)
-        strip_ = QImage(width_, stripHeight, QImage::Format_ARGB32_Premultiplied);
+        strip_ = QImage(width_, lineRasterStripHeight, QImage::Format_ARGB32_Premultiplied);
     std::array<QRgb, 256> shades{};
     const QColor& color = style.color;
     for (int alpha = 0; alpha < 256; ++alpha)
@@ -85,7 +85,7 @@ void LineRaster::colour(QPainter& painter, QPoint corner, int firstRow, const St
             qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
     const std::uint8_t whole = level(style.fillShare);
     for (int y = firstRow; y < height_; ++y) {
-        const int inStrip = (y - firstRow) % stripHeight;
+        const int inStrip = (y - firstRow) % lineRasterStripHeight;
         auto* const line = reinterpret_cast<QRgb*>(strip_.scanLine(inStrip));
         const std::uint8_t* const covered = row(y);
         for (int x = 0; x < width_; ++x) {
@@ -95,7 +95,7 @@ void LineRaster::colour(QPainter& painter, QPoint corner, int firstRow, const St
             line[x] = shades[static_cast<std::size_t>(
                 over == 0 ? below : over + (255 - over) * below / 255)];
         }
-        if (inStrip + 1 < stripHeight && y + 1 < height_) continue;
+        if (inStrip + 1 < lineRasterStripHeight && y + 1 < height_) continue;
         painter.drawImage(corner + QPoint(0, y - inStrip), strip_,
                           QRect(0, 0, width_, inStrip + 1));
     }

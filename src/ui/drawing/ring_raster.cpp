@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 // A picture of the whole would take as much memory as all the figures beside it.
-constexpr int stripHeight = 16;
+constexpr int ringRasterStripHeight = 16;
 
 /// Premultiplied, 0 to 1.
 struct Shade {
@@ -96,14 +96,14 @@ void RingRaster::draw(QPainter& painter, const Ring& ring) {
             .toAlignedRect();
     if (area.isEmpty()) return;
     if (strip_.width() < area.width())
-        strip_ = QImage(area.width(), stripHeight, QImage::Format_ARGB32_Premultiplied);
+        strip_ = QImage(area.width(), ringRasterStripHeight, QImage::Format_ARGB32_Premultiplied);
     const Shade track = Shade::of(ring.track);
     const Shade accent = Shade::of(ring.accent);
     const QRgb wholeTrack = track.pixel();
     const QRgb wholeAccent = accent.pixel();
     const double innerSquared = band.inner() * band.inner();
     for (int y = 0; y < area.height(); ++y) {
-        const int inStrip = y % stripHeight;
+        const int inStrip = y % ringRasterStripHeight;
         auto* const line = reinterpret_cast<QRgb*>(strip_.scanLine(inStrip));
         const double dy = area.top() + y + 0.5 - ring.center.y();
         for (int x = 0; x < area.width(); ++x) {
@@ -124,7 +124,7 @@ void RingRaster::draw(QPainter& painter, const Ring& ring) {
                 line[x] = accent.at(lit).over(track.at(covered)).pixel();
             }
         }
-        if (inStrip + 1 < stripHeight && y + 1 < area.height()) continue;
+        if (inStrip + 1 < ringRasterStripHeight && y + 1 < area.height()) continue;
         painter.drawImage(area.topLeft() + QPoint(0, y - inStrip), strip_,
                           QRect(0, 0, area.width(), inStrip + 1));
     }

@@ -15,16 +15,16 @@ namespace vantor {
 namespace {
 
 constexpr double corner = 8;
-constexpr double symbolSide = 14;
+constexpr double filterFieldSymbolSide = 14;
 constexpr double symbolLeft = 9;
-constexpr double textGap = 6;
-constexpr double verticalPadding = 8;
-constexpr double groundOpacity = 0.06;
-constexpr double borderOpacity = 0.16;
+constexpr double filterFieldTextGap = 6;
+constexpr double filterFieldVerticalPadding = 8;
+constexpr double filterFieldGroundOpacity = 0.06;
+constexpr double filterFieldBorderOpacity = 0.16;
 constexpr double focusWidth = 2;
 
-double symbolSize() {
-    return symbolSide * Typography::lengthScale();
+double filterSymbolSize() {
+    return filterFieldSymbolSide * Typography::lengthScale();
 }
 
 }  // namespace
@@ -44,7 +44,7 @@ FilterField::FilterField(const QString& placeholder, QWidget* parent) : QLineEdi
 
 /// The text begins behind the symbol, on whichever side that is.
 void FilterField::adoptDirection() {
-    const int leading = static_cast<int>(symbolLeft + symbolSize() + textGap) - 2;
+    const int leading = static_cast<int>(symbolLeft + filterSymbolSize() + filterFieldTextGap) - 2;
     constexpr int trailing = 4;
     setTextMargins(isRightToLeft() ? trailing : leading, 0, isRightToLeft() ? leading : trailing,
                    0);
@@ -65,7 +65,8 @@ void FilterField::changeEvent(QEvent* event) {
 
 QSize FilterField::sizeHint() const {
     const double text = QFontMetricsF(font(), this).height();
-    return {Typography::scaled(widest), static_cast<int>(std::ceil(text + 2 * verticalPadding))};
+    return {Typography::scaled(widest),
+            static_cast<int>(std::ceil(text + 2 * filterFieldVerticalPadding))};
 }
 
 QSize FilterField::minimumSizeHint() const {
@@ -80,17 +81,17 @@ void FilterField::paintEvent(QPaintEvent* event) {
     const QRectF area = Pixels::snapped(painter, rect());
     QPainterPath ground;
     ground.addRoundedRect(area, corner, corner);
-    vantorBackground(painter, VantorTheme::faded(label, groundOpacity), ground);
+    vantorBackground(painter, VantorTheme::faded(label, filterFieldGroundOpacity), ground);
     const bool isFocused = hasFocus();
     const double width = isFocused ? focusWidth : Pixels::snappedLineWidth(painter, 1);
     const double inset = width / 2;
-    painter.setPen(QPen(
-        isFocused ? palette().color(QPalette::Highlight) : VantorTheme::faded(label, borderOpacity),
-        width));
+    painter.setPen(QPen(isFocused ? palette().color(QPalette::Highlight)
+                                  : VantorTheme::faded(label, filterFieldBorderOpacity),
+                        width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), corner - inset,
                             corner - inset);
-    const double side = symbolSize();
+    const double side = filterSymbolSize();
     const double left = isRightToLeft() ? this->width() - symbolLeft - side : symbolLeft;
     Symbols::draw(painter, {left, (height() - side) / 2, side, side},
                   QStringLiteral("magnifyingglass"), VantorTheme::secondaryLabel(scheme));

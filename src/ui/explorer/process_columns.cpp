@@ -13,7 +13,7 @@ constexpr double iconGap = 8;
 constexpr double pidWidth = 64;
 constexpr double cpuWidth = 120;
 constexpr double memoryWidth = 140;
-constexpr double barGap = 8;
+constexpr double processColumnsBarGap = 8;
 constexpr double narrowestName = 110;
 
 }  // namespace
@@ -30,12 +30,12 @@ ProcessColumns ProcessColumns::make(double width, double height, double scale) {
     };
     ProcessColumns columns;
     columns.memoryBar = take(hasBars ? memoryBarWidth : 0);
-    right -= hasBars ? barGap : 0;
-    columns.memoryText = take(memoryWidth - memoryBarWidth - barGap);
+    right -= hasBars ? processColumnsBarGap : 0;
+    columns.memoryText = take(memoryWidth - memoryBarWidth - processColumnsBarGap);
     right -= columnGap;
     columns.cpuBar = take(hasBars ? cpuBarWidth : 0);
-    right -= hasBars ? barGap : 0;
-    columns.cpuText = take(cpuWidth - cpuBarWidth - barGap);
+    right -= hasBars ? processColumnsBarGap : 0;
+    columns.cpuText = take(cpuWidth - cpuBarWidth - processColumnsBarGap);
     right -= columnGap;
     columns.pid = take(pidWidth);
     right -= columnGap;

@@ -19,9 +19,9 @@ namespace {
 
 // Longer than between two keystrokes of a quick typist, shorter than anybody notices.
 constexpr std::chrono::milliseconds debounceDelay{150};
-constexpr int controlSpacing = 12;
+constexpr int processExplorerControlSpacing = 12;
 
-DashboardCard frame() {
+DashboardCard explorerFrame() {
     return {QStringLiteral("Process Explorer"), QStringLiteral("Live process activity"),
             QStringLiteral("list.bullet.rectangle"), VantorTheme::cyan()};
 }
@@ -30,7 +30,7 @@ DashboardCard frame() {
 
 ProcessExplorerView::ProcessExplorerView(const ProcessInfo& versions,
                                          std::shared_ptr<MainLoop> mainLoop, QWidget* parent)
-    : DashboardCardView(frame(), parent), mainLoop_(std::move(mainLoop)) {
+    : DashboardCardView(explorerFrame(), parent), mainLoop_(std::move(mainLoop)) {
     build(versions);
     addShortcuts();
     refresh();
@@ -42,7 +42,7 @@ ProcessExplorerView::~ProcessExplorerView() {
 
 void ProcessExplorerView::build(const ProcessInfo& versions) {
     auto* controls = makeInnerLayout<QHBoxLayout>();
-    controls->setSpacing(controlSpacing);
+    controls->setSpacing(processExplorerControlSpacing);
     filter_ = makeChild<FilterField>(this, QStringLiteral("Filter processes"));
     filter_->setMaximumWidth(Typography::scaled(FilterField::widest));
     connect(filter_, &QLineEdit::textChanged, this,

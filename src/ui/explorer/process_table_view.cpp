@@ -25,12 +25,12 @@ namespace vantor {
 
 namespace {
 
-constexpr double rowSpacing = 8;
-constexpr double barHeight = 5;
+constexpr double processTableRowSpacing = 8;
+constexpr double processTableBarHeight = 5;
 constexpr double currentOpacity = 0.08;
 constexpr double currentCorner = 6;
 
-constexpr TextStyle nameStyle{Typography::caption};
+constexpr TextStyle processTableNameStyle{Typography::caption};
 constexpr TextStyle figureStyle{Typography::caption};
 
 /// In steps of half a point of the bar: less cannot be seen, and need not be painted.
@@ -68,8 +68,9 @@ void ProcessTableView::show(std::span<const ProcessRow> rows) {
     for (std::size_t i = 0; i < std::max(before, rows_.size()); ++i) {
         const bool isSame = i < before && i < rows_.size() && rows_[i] == old[i];
         if (isSame) continue;
-        update(rowArea(i).toAlignedRect().adjusted(0, -static_cast<int>(rowSpacing / 2), 0,
-                                                   static_cast<int>(rowSpacing / 2)));
+        update(rowArea(i).toAlignedRect().adjusted(0, -static_cast<int>(processTableRowSpacing / 2),
+                                                   0,
+                                                   static_cast<int>(processTableRowSpacing / 2)));
         announceRow(static_cast<int>(i));
     }
     if (before != rows_.size()) announceRowCount();
@@ -80,7 +81,7 @@ double ProcessTableView::rowHeight() const {
     const QFont systemFont = QApplication::font();
     if (rowHeight_ && systemFont == rowHeightFont_) return *rowHeight_;
     rowHeightFont_ = systemFont;
-    const double text = QFontMetricsF(Typography::font(nameStyle), this).height();
+    const double text = QFontMetricsF(Typography::font(processTableNameStyle), this).height();
     const double figures = QFontMetricsF(Typography::font(figureStyle), this).height();
     rowHeight_ = std::ceil(std::max(text, figures));
     return *rowHeight_;
@@ -88,21 +89,25 @@ double ProcessTableView::rowHeight() const {
 
 /// The header takes the place of a row before the first one.
 QRectF ProcessTableView::rowArea(std::size_t index) const {
-    const double step = rowHeight() + rowSpacing;
-    return {0, step * static_cast<double>(index + 1) + rowSpacing / 2, static_cast<double>(width()),
-            rowHeight()};
+    const double step = rowHeight() + processTableRowSpacing;
+    return {0, step * static_cast<double>(index + 1) + processTableRowSpacing / 2,
+            static_cast<double>(width()), rowHeight()};
 }
 
 std::optional<std::size_t> ProcessTableView::rowAt(QPointF place) const {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        if (rowArea(i).adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2).contains(place)) return i;
+        if (rowArea(i)
+                .adjusted(0, -processTableRowSpacing / 2, 0, processTableRowSpacing / 2)
+                .contains(place))
+            return i;
     }
     return std::nullopt;
 }
 
 QSize ProcessTableView::sizeHint() const {
     const QRectF last = rowArea(ProcessExplorer::mostRows - 1);
-    return {Typography::scaled(560), static_cast<int>(std::ceil(last.bottom() + rowSpacing / 2))};
+    return {Typography::scaled(560),
+            static_cast<int>(std::ceil(last.bottom() + processTableRowSpacing / 2))};
 }
 
 QSize ProcessTableView::minimumSizeHint() const {
@@ -255,8 +260,8 @@ void ProcessTableView::paintHeader(ViewPainter& painter) const {
 
 void ProcessTableView::paintCurrent(ViewPainter& painter, const QRectF& area) const {
     const ColorScheme scheme = painter.scheme();
-    const QRectF ground =
-        Pixels::snapped(painter, area.adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2));
+    const QRectF ground = Pixels::snapped(
+        painter, area.adjusted(0, -processTableRowSpacing / 2, 0, processTableRowSpacing / 2));
     QPainterPath shape;
     shape.addRoundedRect(ground, currentCorner, currentCorner);
     vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), currentOpacity),
@@ -278,15 +283,17 @@ void ProcessTableView::paintRow(ViewPainter& painter, std::size_t index) const {
     Symbols::draw(painter, painter.leading(icon), symbol_, VantorTheme::secondaryLabel(scheme));
     constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
     painter.primary();
-    painter.line(nameStyle, at(columns.name), Qt::AlignLeft | Qt::AlignVCenter, row.name);
+    painter.line(processTableNameStyle, at(columns.name), Qt::AlignLeft | Qt::AlignVCenter,
+                 row.name);
     painter.figures(figureStyle, at(columns.cpuText), trailing, row.cpuText);
     painter.figures(figureStyle, at(columns.memoryText), trailing, row.memoryText);
     painter.secondary();
     painter.figures(figureStyle, at(columns.pid), trailing, QString::number(row.pid));
     if (columns.cpuBar.width() <= 0) return;
-    paintUsageBar(painter, at(columns.cpuBar), {row.cpuShare, VantorTheme::cyan(), barHeight});
+    paintUsageBar(painter, at(columns.cpuBar),
+                  {row.cpuShare, VantorTheme::cyan(), processTableBarHeight});
     paintUsageBar(painter, at(columns.memoryBar),
-                  {row.memoryShare, VantorTheme::pink(), barHeight});
+                  {row.memoryShare, VantorTheme::pink(), processTableBarHeight});
 }
 
 }  // namespace vantor

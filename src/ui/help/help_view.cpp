@@ -14,13 +14,13 @@ namespace vantor {
 
 namespace {
 
-constexpr int padding = 28;
+constexpr int helpViewPadding = 28;
 constexpr int widestText = 760;
-constexpr int titleGap = 6;
+constexpr int helpViewTitleGap = 6;
 constexpr int sectionGap = 22;
 constexpr double summarySize = 15;
-constexpr double idealWidth = 700;
-constexpr double idealHeight = 620;
+constexpr double helpViewIdealWidth = 700;
+constexpr double helpViewIdealHeight = 620;
 
 }  // namespace
 
@@ -31,7 +31,7 @@ HelpSectionView::HelpSectionView(const HelpSection& section, QWidget* parent)
                                      TextLineView::Tone::secondary)) {
     auto* column = makeLayout<QVBoxLayout>(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(titleGap);
+    column->setSpacing(helpViewTitleGap);
     column->addWidget(title_);
     column->addWidget(text_);
 }
@@ -39,7 +39,7 @@ HelpSectionView::HelpSectionView(const HelpSection& section, QWidget* parent)
 HelpView::HelpView(const ProcessInfo& versions, const PlatformWords& words, QWidget* parent)
     : GroundView(parent) {
     auto* content = makeChild<QWidget>(this);
-    content->setContentsMargins(padding, padding, padding, padding);
+    content->setContentsMargins(helpViewPadding, helpViewPadding, helpViewPadding, helpViewPadding);
     auto* limit = std::make_unique<WidthLimitLayout>(widestText, content).release();
     limit->addWidget(makeColumn(words, content));
     if (versions.isOperatingSystemAtLeast(13, 0, 0)) {
@@ -71,7 +71,7 @@ QWidget* HelpView::makeColumn(const PlatformWords& words, QWidget* content) {
 }
 
 QSize HelpView::sizeHint() const {
-    return QSize(Typography::scaled(idealWidth), Typography::scaled(idealHeight))
+    return QSize(Typography::scaled(helpViewIdealWidth), Typography::scaled(helpViewIdealHeight))
         .expandedTo(minimumSizeHint());
 }
 

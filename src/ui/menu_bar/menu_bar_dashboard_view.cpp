@@ -14,9 +14,9 @@ namespace vantor {
 
 namespace {
 
-constexpr int padding = 16;
-constexpr int rowSpacing = 10;
-constexpr int tileSpacing = 10;
+constexpr int menuBarPadding = 16;
+constexpr int menuBarRowSpacing = 10;
+constexpr int menuBarTileSpacing = 10;
 constexpr int actionSpacing = 6;
 constexpr double panelWidth = 330;
 constexpr int panelHeight = 250;
@@ -27,8 +27,8 @@ MenuBarDashboardView::MenuBarDashboardView(Environment environment,
                                            std::function<void()> onOpenDashboard, QWidget* parent)
     : GroundView(parent), environment_(std::move(environment)) {
     auto* column = makeLayout<QVBoxLayout>(this);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(rowSpacing);
+    column->setContentsMargins(menuBarPadding, menuBarPadding, menuBarPadding, menuBarPadding);
+    column->setSpacing(menuBarRowSpacing);
     addHeader(*column);
     addFigures(*column, MenuBarDashboard::of({}, false));
     column->addStretch();
@@ -54,7 +54,7 @@ void MenuBarDashboardView::addFigures(QVBoxLayout& column, const MenuBarDashboar
     upload_ = makeChild<SpeedTileView>(this, waiting.upload, SpeedTileView::Ground::none);
     const auto addPair = [&](QWidget* leading, QWidget* trailing) {
         auto* row = makeInnerLayout<QHBoxLayout>();
-        row->setSpacing(tileSpacing);
+        row->setSpacing(menuBarTileSpacing);
         row->addWidget(leading, 1);
         row->addWidget(trailing, 1);
         column.addLayout(row);

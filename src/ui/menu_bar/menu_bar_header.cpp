@@ -13,11 +13,11 @@ namespace vantor {
 
 namespace {
 
-constexpr SymbolTile::Shape tileShape{.side = 22, .corner = 7, .symbol = 14};
-constexpr double titleSpacing = 8;
+constexpr SymbolTile::Shape menuBarHeaderTileShape{.side = 22, .corner = 7, .symbol = 14};
+constexpr double menuBarHeaderTitleSpacing = 8;
 constexpr double dotSide = 8;
 
-constexpr TextStyle titleStyle{Typography::headline, QFont::Bold};
+constexpr TextStyle menuBarHeaderTitleStyle{Typography::headline, QFont::Bold};
 
 }  // namespace
 
@@ -26,21 +26,21 @@ MenuBarTitleView::MenuBarTitleView(QWidget* parent) : PaintedView(parent) {
 }
 
 QSize MenuBarTitleView::sizeHint() const {
-    const QFontMetricsF metrics(Typography::font(titleStyle), this);
-    const double side = Typography::scaled(tileShape.side);
-    return {static_cast<int>(
-                std::ceil(side + titleSpacing + metrics.horizontalAdvance(accessibleLabel()) + 1)),
+    const QFontMetricsF metrics(Typography::font(menuBarHeaderTitleStyle), this);
+    const double side = Typography::scaled(menuBarHeaderTileShape.side);
+    return {static_cast<int>(std::ceil(side + menuBarHeaderTitleSpacing +
+                                       metrics.horizontalAdvance(accessibleLabel()) + 1)),
             static_cast<int>(std::ceil(std::max(side, metrics.height())))};
 }
 
 void MenuBarTitleView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    const double side = Typography::scaled(tileShape.side);
-    const double text = side + titleSpacing;
+    const double side = Typography::scaled(menuBarHeaderTileShape.side);
+    const double text = side + menuBarHeaderTitleSpacing;
     SymbolTile::paintProduct(painter, painter.leading({0, (height() - side) / 2, side, side}),
-                             tileShape);
+                             menuBarHeaderTileShape);
     painter.primary();
-    painter.line(titleStyle, {text, 0, width() - text, static_cast<double>(height())},
+    painter.line(menuBarHeaderTitleStyle, {text, 0, width() - text, static_cast<double>(height())},
                  Qt::AlignLeft | Qt::AlignVCenter, accessibleLabel());
 }
 

@@ -14,15 +14,15 @@ namespace vantor {
 
 namespace {
 
-constexpr double groundOpacity = 0.06;
-constexpr double horizontalPadding = 12;
-constexpr double verticalPadding = 9;
+constexpr double menuMetricGroundOpacity = 0.06;
+constexpr double menuMetricHorizontalPadding = 12;
+constexpr double menuMetricVerticalPadding = 9;
 constexpr double valueSize = 20;
-constexpr double barHeight = 4;
-constexpr double barGap = 5;
+constexpr double menuMetricBarHeight = 4;
+constexpr double menuMetricBarGap = 5;
 
-constexpr TextStyle titleStyle{Typography::caption};
-constexpr TextStyle valueStyle{valueSize, QFont::Bold};
+constexpr TextStyle menuMetricTitleStyle{Typography::caption};
+constexpr TextStyle menuMetricValueStyle{valueSize, QFont::Bold};
 
 }  // namespace
 
@@ -50,32 +50,36 @@ std::optional<double> MenuMetricView::accessibleFraction() const {
 }
 
 QSize MenuMetricView::sizeHint() const {
-    const QFontMetricsF title(Typography::font(titleStyle), this);
-    const QFontMetricsF value(Typography::font(valueStyle), this);
+    const QFontMetricsF title(Typography::font(menuMetricTitleStyle), this);
+    const QFontMetricsF value(Typography::font(menuMetricValueStyle), this);
     // Room for the widest value, so that a tile does not grow with its load.
     const double text = std::max({title.horizontalAdvance(metric_.title),
                                   Typography::digitTextWidth(QStringLiteral("100%"), value),
                                   Typography::digitTextWidth(metric_.value, value)});
-    return {static_cast<int>(std::ceil(2 * horizontalPadding + text)),
-            static_cast<int>(std::ceil(2 * verticalPadding + title.height() + value.height() +
-                                       barGap + barHeight))};
+    return {static_cast<int>(std::ceil(2 * menuMetricHorizontalPadding + text)),
+            static_cast<int>(std::ceil(2 * menuMetricVerticalPadding + title.height() +
+                                       value.height() + menuMetricBarGap + menuMetricBarHeight))};
 }
 
 void MenuMetricView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    CardChrome::paintTile(painter, rect(), painter.scheme(), groundOpacity);
-    const double across = width() - 2 * horizontalPadding;
-    const double titleHeight = painter.lineHeight(titleStyle);
-    const double valueHeight = painter.lineHeight(valueStyle);
+    CardChrome::paintTile(painter, rect(), painter.scheme(), menuMetricGroundOpacity);
+    const double across = width() - 2 * menuMetricHorizontalPadding;
+    const double titleHeight = painter.lineHeight(menuMetricTitleStyle);
+    const double valueHeight = painter.lineHeight(menuMetricValueStyle);
     painter.secondary();
-    painter.line(titleStyle, {horizontalPadding, verticalPadding, across, titleHeight},
+    painter.line(menuMetricTitleStyle,
+                 {menuMetricHorizontalPadding, menuMetricVerticalPadding, across, titleHeight},
                  Qt::AlignLeft, metric_.title);
     painter.primary();
-    const double valueTop = verticalPadding + titleHeight;
-    painter.figures(valueStyle, {horizontalPadding, valueTop, across, valueHeight}, Qt::AlignLeft,
+    const double valueTop = menuMetricVerticalPadding + titleHeight;
+    painter.figures(menuMetricValueStyle,
+                    {menuMetricHorizontalPadding, valueTop, across, valueHeight}, Qt::AlignLeft,
                     metric_.value);
-    paintUsageBar(painter, {horizontalPadding, valueTop + valueHeight + barGap, across, barHeight},
-                  UsageBar{metric_.fraction, metric_.color, barHeight});
+    paintUsageBar(painter,
+                  {menuMetricHorizontalPadding, valueTop + valueHeight + menuMetricBarGap, across,
+                   menuMetricBarHeight},
+                  UsageBar{metric_.fraction, metric_.color, menuMetricBarHeight});
 }
 
 }  // namespace vantor

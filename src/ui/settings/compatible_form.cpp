@@ -16,8 +16,8 @@ namespace vantor {
 
 namespace {
 
-constexpr int rowSpacing = 16;  // between a label and its content
-constexpr int titleGap = 7;
+constexpr int compatibleFormRowSpacing = 16;  // between a label and its content
+constexpr int compatibleFormTitleGap = 7;
 constexpr double groupCorner = 14;
 constexpr int groupInset = 14;
 constexpr int largestOutset = 3;
@@ -25,7 +25,7 @@ constexpr int rowPadding = 6;
 constexpr int leastRowHeight = 34;
 constexpr int plainGap = 8;
 constexpr double labelWidth = 190;  // of the plain form: as much as the longest label has
-constexpr double borderOpacity = 0.08;
+constexpr double compatibleFormBorderOpacity = 0.08;
 
 }  // namespace
 
@@ -59,7 +59,8 @@ void FormRowsView::paintEvent(QPaintEvent*) {
     if (style_ == FormStyle::plain) return;
     QPainter painter(this);
     const ColorScheme scheme = colorScheme(*this);
-    const QColor line = VantorTheme::faded(VantorTheme::primaryLabel(scheme), borderOpacity);
+    const QColor line =
+        VantorTheme::faded(VantorTheme::primaryLabel(scheme), compatibleFormBorderOpacity);
     CardChrome::paint(painter, rect(), scheme, line, groupCorner);
     const double thin = Pixels::snappedLineWidth(painter, 1);
     for (std::size_t i = 1; i < rows_.size(); ++i) {
@@ -75,7 +76,7 @@ CompatibleFormSection::CompatibleFormSection(FormStyle style, const QString& tit
       rows_(makeChild<FormRowsView>(this, style)) {
     auto* column = makeLayout<QVBoxLayout>(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(titleGap);
+    column->setSpacing(compatibleFormTitleGap);
     auto* titleRow = makeInnerLayout<QHBoxLayout>();
     titleRow->setContentsMargins(largestOutset, 0, largestOutset, 0);
     titleRow->addWidget(title_);
@@ -100,7 +101,7 @@ CompatibleLabeledContent::CompatibleLabeledContent(FormStyle style, const QStrin
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(label_);
-    row->addSpacing(rowSpacing);
+    row->addSpacing(compatibleFormRowSpacing);
     if (style == FormStyle::grouped) row->addStretch();
     row->addWidget(content);
     if (style == FormStyle::plain) row->addStretch();

@@ -18,11 +18,11 @@ namespace vantor {
 namespace {
 
 constexpr QSize smallest(480, 480);
-constexpr double idealWidth = 520;
-constexpr double idealHeight = 560;
+constexpr double settingsIdealWidth = 520;
+constexpr double settingsIdealHeight = 560;
 constexpr double widestForm = 680;
 
-QString text(std::string_view words) {
+QString wordsOf(std::string_view words) {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
 }
 
@@ -131,10 +131,10 @@ void SettingsView::addData(QFormLayout& form) {
     CompatibleFormSection& section = addSection(form, "Data");
     const PlatformWords& words = environment_.machine->words();
     addValue(section, QStringLiteral("Network privacy"), QStringLiteral("No public IP lookup"));
-    addValue(
-        section, QStringLiteral("Process source"),
-        QStringLiteral("Native %1 %2").arg(text(words.systemName), text(words.processInterface)));
-    addValue(section, QStringLiteral("GPU telemetry"), text(words.graphicsTelemetry));
+    addValue(section, QStringLiteral("Process source"),
+             QStringLiteral("Native %1 %2")
+                 .arg(wordsOf(words.systemName), wordsOf(words.processInterface)));
+    addValue(section, QStringLiteral("GPU telemetry"), wordsOf(words.graphicsTelemetry));
     auto* row = makeChild<QWidget>(&section);
     auto* line = makeLayout<QHBoxLayout>(row);
     line->setContentsMargins(0, 0, 0, 0);
@@ -198,7 +198,7 @@ QSize SettingsView::minimumSizeHint() const {
 }
 
 QSize SettingsView::sizeHint() const {
-    return QSize(Typography::scaled(idealWidth), Typography::scaled(idealHeight))
+    return QSize(Typography::scaled(settingsIdealWidth), Typography::scaled(settingsIdealHeight))
         .expandedTo(minimumSizeHint());
 }
 

@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-namespace vantor {
+namespace vantor::address_text_test {
 namespace {
 
 using Bytes = std::array<std::uint8_t, 16>;
@@ -92,4 +92,4 @@ TEST(AddressText, OfIPv4IsTheLibrarys) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::address_text_test

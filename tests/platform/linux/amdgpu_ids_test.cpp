@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vantor {
+namespace vantor::amdgpu_ids_test {
 namespace {
 
 const std::string list =
@@ -43,4 +43,4 @@ TEST(AMDGPUIDs, SayNothingWhenCutOrDamaged) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::amdgpu_ids_test

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::arc_stats_test {
 namespace {
 
 struct Row {
@@ -56,4 +56,4 @@ TEST(ArcStats, GiveBackWhatIsAboveTheMinimum) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::arc_stats_test

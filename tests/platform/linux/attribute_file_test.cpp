@@ -9,7 +9,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::attribute_file_test {
 namespace {
 
 class AttributeFile : public testing::Test {
@@ -57,4 +57,4 @@ TEST(AttributeText, ADeviceThatWentAwayIsGone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::attribute_file_test

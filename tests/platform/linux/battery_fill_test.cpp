@@ -16,6 +16,9 @@ static void PrintTo(const BatteryFill& fill, std::ostream* out) {
     fill.rate ? *out << *fill.rate : *out << "no rate";
 }
 
+}  // namespace vantor
+
+namespace vantor::battery_fill_test {
 namespace {
 
 using Batteries = std::vector<PowerSupplyTexts>;
@@ -177,4 +180,4 @@ TEST(BatteryFillOf, NoBatteryIsAbsent) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::battery_fill_test

@@ -8,7 +8,7 @@
 #include "sampling/named_row.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::block_device_test {
 namespace {
 
 const std::string pci = "devices/pci0000:00/0000:00:17.0/";
@@ -220,4 +220,4 @@ TEST_F(WithoutDeviceNumber, AnUnknownSourceIsInternalAndHasNoLabel) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::block_device_test

@@ -7,7 +7,7 @@
 
 #include "support/fake_graphics.h"
 
-namespace vantor {
+namespace vantor::card_rest_test {
 namespace {
 
 TEST(AutosuspendDelay, IsToldInMilliseconds) {
@@ -152,4 +152,4 @@ TEST_F(IdleGraphicsCard, WhoseDriverIsNotAskedNeedsNoRest) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::card_rest_test

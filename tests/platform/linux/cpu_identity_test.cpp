@@ -8,7 +8,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::cpu_identity_test {
 namespace {
 
 using namespace std::string_literals;
@@ -226,4 +226,4 @@ TEST_F(NominalFrequency, IsAbsentWhereNothingNamesOne) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_identity_test

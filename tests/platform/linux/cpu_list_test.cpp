@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::cpu_list_test {
 namespace {
 
 using Numbers = std::vector<std::uint32_t>;
@@ -45,4 +45,4 @@ TEST_P(CPUList, IsParsed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::cpu_list_test

@@ -7,7 +7,7 @@
 
 #include "support/fake_graphics.h"
 
-namespace vantor {
+namespace vantor::drm_clients_test {
 namespace {
 
 constexpr std::uint64_t millisecond = 1'000'000;
@@ -232,4 +232,4 @@ TEST(GraphicsNodeOfALink, IsTheNameInTheFolderOfGraphics) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::drm_clients_test

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::drm_fdinfo_test {
 namespace {
 
 const std::string i915 =
@@ -125,4 +125,4 @@ TEST(DRMFdInfo, MayBeCutAnywhere) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::drm_fdinfo_test

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vantor {
+namespace vantor::engine_use_test {
 namespace {
 
 constexpr std::uint64_t second = 1'000'000'000;
@@ -120,4 +120,4 @@ TEST_F(EngineUse, IsUnknownWhenNoTimeHasGoneBy) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::engine_use_test

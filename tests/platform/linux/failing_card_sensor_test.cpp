@@ -14,7 +14,7 @@
 #include "support/silent_pipe.h"
 
 /// Sensors of graphics cards that fail as the kernel's do, and who stands in for them.
-namespace vantor {
+namespace vantor::failing_card_sensor_test {
 namespace {
 
 using testing::ElementsAre;
@@ -157,4 +157,4 @@ TEST_F(SilentCardSensor, OfOneMonitorIsStoodInForByAnother) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::failing_card_sensor_test

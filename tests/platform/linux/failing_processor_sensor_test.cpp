@@ -16,7 +16,7 @@
 #include "support/silent_pipe.h"
 
 /// Sensors of the processor that fail as the kernel's do, and who stands in for them.
-namespace vantor {
+namespace vantor::failing_processor_sensor_test {
 namespace {
 
 constexpr auto none = std::nullopt;
@@ -176,4 +176,4 @@ TEST_F(SilentProcessorSensor, IsStoodInForByAZoneBesideAZoneWithoutAType) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::failing_processor_sensor_test

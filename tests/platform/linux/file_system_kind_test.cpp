@@ -14,6 +14,9 @@ static void PrintTo(FileSystemKind kind, std::ostream* out) {
     *out << names[static_cast<int>(kind)];
 }
 
+}  // namespace vantor
+
+namespace vantor::file_system_kind_test {
 namespace {
 
 struct Row {
@@ -82,4 +85,4 @@ TEST(FileSystemKind, OnlyDisksAndTheKernelAnswerForCertain) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::file_system_kind_test

@@ -7,7 +7,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::graphics_names_test {
 namespace {
 
 GraphicsIdentity pci(std::uint16_t vendor, std::uint16_t device) {
@@ -109,4 +109,4 @@ TEST(GraphicsNameLists, ThatCannotBeReadAreNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::graphics_names_test

@@ -9,7 +9,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::kernel_facts_test {
 namespace {
 
 struct Row {
@@ -72,4 +72,4 @@ TEST(KernelFacts, AreAbsentWhereTheFilesAreMissingOrDamaged) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::kernel_facts_test

@@ -10,7 +10,7 @@
 #include "platform/linux/file_descriptor.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::kernel_file_test {
 namespace {
 
 class KernelFileTest : public testing::Test {
@@ -151,4 +151,4 @@ TEST(FileDescriptor, ClosesItsOldOneWhenItTakesAnother) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::kernel_file_test

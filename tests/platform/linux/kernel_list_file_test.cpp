@@ -8,7 +8,7 @@
 #include "platform/linux/kernel_file.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::kernel_list_file_test {
 namespace {
 
 TEST(KernelListFile, GivesTheContentOfEachMoment) {
@@ -74,4 +74,4 @@ TEST(LiveKernelListFile, HasEveryPieceOfARealList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::kernel_list_file_test

@@ -6,7 +6,7 @@
 #include <set>
 #include <vector>
 
-namespace vantor {
+namespace vantor::link_numbers_test {
 namespace {
 
 std::vector<LinkSource::Link> links(const std::vector<std::uint32_t>& indices) {
@@ -70,4 +70,4 @@ TEST(LinkNumbers, ALinkWithoutAnIndexHasNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::link_numbers_test

@@ -11,7 +11,7 @@
 #include "platform/linux/linux_network_interfaces.h"
 #include "support/played_kernel.h"
 
-namespace vantor {
+namespace vantor::link_source_test {
 namespace {
 
 using testing::ElementsAre;
@@ -122,4 +122,4 @@ TEST_F(LinkSourceTest, AMalformedMessageFailsTheList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::link_source_test

@@ -7,7 +7,7 @@
 
 #include "support/fake_graphics.h"
 
-namespace vantor {
+namespace vantor::linux_accelerators_test {
 namespace {
 
 using testing::ElementsAre;
@@ -189,4 +189,4 @@ TEST(AcceleratorObjects, ThatAreNoneAnswerNothing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_accelerators_test

@@ -6,7 +6,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_dynamic_store_test {
 namespace {
 
 constexpr auto ipv4Key = "State:/Network/Global/IPv4";
@@ -65,4 +65,4 @@ TEST_F(LinuxDynamicStoreTest, HasNoneUntilThereAreRoutes) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_dynamic_store_test

@@ -9,7 +9,7 @@
 #include "platform/linux/linux_machine.h"
 #include "support/fake_graphics.h"
 
-namespace vantor {
+namespace vantor::linux_graphics_devices_test {
 namespace {
 
 using testing::ElementsAre;
@@ -191,4 +191,4 @@ TEST(LiveGraphics, ThisMachinesCardsAreTold) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_graphics_devices_test

@@ -10,7 +10,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "probes/hid_temperature_reader.h"
 
-namespace vantor {
+namespace vantor::linux_hid_event_system_test {
 namespace {
 
 using testing::ElementsAre;
@@ -67,4 +67,4 @@ TEST_F(LinuxHIDEventSystemTest, OtherKindsOfSensorsOrEventsHaveNone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_hid_event_system_test

@@ -9,7 +9,7 @@
 #include "probes/memory_reader.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_host_memory_test {
 namespace {
 
 using Layout = HostMemory::Layout;
@@ -174,4 +174,4 @@ TEST_F(LinuxHostMemoryTest, IsWhatTheReaderReads) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_host_memory_test

@@ -10,7 +10,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_host_processors_test {
 namespace {
 
 using testing::ElementsAre;
@@ -172,4 +172,4 @@ TEST_F(LinuxHostProcessorsTest, GrowthGoesOnAfterADamagedReading) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_host_processors_test

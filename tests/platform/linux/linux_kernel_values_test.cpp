@@ -11,7 +11,7 @@
 #include "probes/sysctl.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_kernel_values_test {
 namespace {
 
 class LinuxKernelValuesTest : public testing::Test {
@@ -92,4 +92,4 @@ TEST(LinuxKernelValues, KnowNothingOfAMachineWithoutFiles) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_kernel_values_test

@@ -9,7 +9,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_load_averages_test {
 namespace {
 
 struct Row {
@@ -64,4 +64,4 @@ TEST(LinuxLoadAverages, FailWithoutTheirFile) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_load_averages_test

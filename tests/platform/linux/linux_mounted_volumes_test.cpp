@@ -13,7 +13,7 @@
 #include "support/fake_file_systems.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_mounted_volumes_test {
 namespace {
 
 using testing::ElementsAre;
@@ -238,4 +238,4 @@ TEST_F(LinuxMountedVolumesTest, ReadsATableOfManyPagesToItsEnd) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_mounted_volumes_test

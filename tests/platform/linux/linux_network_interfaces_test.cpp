@@ -13,7 +13,7 @@
 
 #include "platform/interface_message.h"
 
-namespace vantor {
+namespace vantor::linux_network_interfaces_test {
 namespace {
 
 using testing::ElementsAre;
@@ -289,4 +289,4 @@ TEST_F(LinuxNetworkInterfacesTest, TextsThatDoNotFitAreNoAnswer) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_network_interfaces_test

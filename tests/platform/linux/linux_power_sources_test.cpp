@@ -15,7 +15,7 @@
 #include "probes/power_reader.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_power_sources_test {
 namespace {
 
 using testing::AnyOf;
@@ -231,4 +231,4 @@ TEST_F(LinuxPowerSourcesTest, OtherEntriesOfTheFolderDoNotMatter) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_power_sources_test

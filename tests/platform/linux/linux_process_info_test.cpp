@@ -10,7 +10,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::linux_process_info_test {
 namespace {
 
 TEST(LinuxProcessInfo, CountsWhatIsPresentAndWhatIsOnline) {
@@ -142,4 +142,4 @@ TEST(LinuxProcessInfo, HasEveryVersionOfAnotherSystem) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_process_info_test

@@ -10,7 +10,7 @@
 #include "platform/linux/process_tree.h"
 
 /// Who is listed: births, deaths, and those that may not be looked at.
-namespace vantor {
+namespace vantor::linux_process_table_listing_test {
 namespace {
 
 using testing::ElementsAre;
@@ -152,4 +152,4 @@ TEST_F(LinuxProcessTableListingTest, AnEmptyProcIsNoFailureOfAnybodyElse) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_process_table_listing_test

@@ -6,7 +6,7 @@
 #include "platform/linux/process_tree.h"
 
 /// What processes are called, and when that may have changed.
-namespace vantor {
+namespace vantor::linux_process_table_names_test {
 namespace {
 
 class LinuxProcessTableNamesTest : public testing::Test, protected ProcessTree {
@@ -145,4 +145,4 @@ TEST_F(LinuxProcessTableNamesTest, WithoutClocksAnybodyMayHaveANewPath) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_process_table_names_test

@@ -13,7 +13,7 @@
 #include "platform/linux/process_tree.h"
 
 /// What the facts of processes are made of, and when a file is opened for them.
-namespace vantor {
+namespace vantor::linux_process_table_test {
 namespace {
 
 using Info = ProcessTable::TaskAllInfo;
@@ -294,4 +294,4 @@ TEST_F(LinuxProcessTableTest, OneThatIsNotInTheListingMayBeAskedForAllTheSame) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_process_table_test

@@ -13,7 +13,7 @@
 #include "platform/smc_record.h"
 #include "probes/hardware_temperature_reader.h"
 
-namespace vantor {
+namespace vantor::linux_system_controller_test {
 namespace {
 
 constexpr auto none = std::nullopt;
@@ -160,4 +160,4 @@ TEST_F(LinuxTemperature, KeepsNoFileOfAMachineThatHasGone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::linux_system_controller_test

@@ -12,7 +12,7 @@
 #include "platform/linux/linux_machine.h"
 #include "probes/memory_reader.h"
 
-namespace vantor {
+namespace vantor::live_memory_test {
 namespace {
 
 std::string outputOf(const char* command) {
@@ -88,4 +88,4 @@ TEST(LiveMemory, AddsUp) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_memory_test

@@ -18,7 +18,7 @@
 #include "probes/network_reader.h"
 
 /// The interfaces of this machine, by the reader's road and by others.
-namespace vantor {
+namespace vantor::live_network_test {
 namespace {
 
 using Lines = std::set<std::string>;
@@ -110,4 +110,4 @@ TEST(LiveNetwork, HasTheCountersThatTheKernelsFilesShow) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_network_test

@@ -21,7 +21,7 @@
 #include "support/live_child.h"
 
 /// Sweeps over a machine on which processes come and go all the time.
-namespace vantor {
+namespace vantor::live_process_churn_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -132,4 +132,4 @@ TEST(LiveProcessChurn, ThreeThousandBirthsAndDeathsMakeNoWrongShareAndLeaveNothi
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_process_churn_test

@@ -15,7 +15,7 @@
 #include "support/live_child.h"
 
 /// Children of this test with names that are made to mislead.
-namespace vantor {
+namespace vantor::live_process_names_test {
 namespace {
 
 struct NameRow {
@@ -155,4 +155,4 @@ TEST_F(LiveExecutable, ThatWasDeletedKeepsItsName) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_process_names_test

@@ -19,7 +19,7 @@
 #include "support/private_mounts.h"
 
 /// In a pid namespace of their own, tests may choose identifiers, and hide processes.
-namespace vantor {
+namespace vantor::live_process_namespace_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -169,4 +169,4 @@ TEST(LiveProcessNamespace, InTheProcOfAnotherNamespaceSharesAreNotMixedUp) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_process_namespace_test

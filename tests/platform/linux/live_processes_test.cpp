@@ -17,7 +17,7 @@
 #include "support/burner.h"
 
 /// Shares and sizes against what children of this test know of themselves.
-namespace vantor {
+namespace vantor::live_processes_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -188,4 +188,4 @@ TEST(LiveProcesses, TheResidentSizeFollowsAChildThatGrows) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_processes_test

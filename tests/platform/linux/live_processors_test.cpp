@@ -12,7 +12,7 @@
 #include "platform/linux/linux_machine.h"
 #include "probes/cpu_reader.h"
 
-namespace vantor {
+namespace vantor::live_processors_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -132,4 +132,4 @@ TEST(LiveProcessors, HaveAnIdentity) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_processors_test

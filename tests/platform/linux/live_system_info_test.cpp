@@ -7,7 +7,7 @@
 #include "platform/linux/linux_machine.h"
 #include "probes/system_info_reader.h"
 
-namespace vantor {
+namespace vantor::live_system_info_test {
 namespace {
 
 double uptime() {
@@ -40,4 +40,4 @@ TEST(LiveSystemInfo, NamesThisMachine) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_system_info_test

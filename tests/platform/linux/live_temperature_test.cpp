@@ -6,7 +6,7 @@
 #include "platform/linux/processor_sensors.h"
 #include "probes/hardware_temperature_reader.h"
 
-namespace vantor {
+namespace vantor::live_temperature_test {
 namespace {
 
 TEST(LiveTemperature, IsPlausibleOrAbsent) {
@@ -23,4 +23,4 @@ TEST(LiveTemperature, IsPlausibleOrAbsent) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_temperature_test

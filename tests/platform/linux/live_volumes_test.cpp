@@ -16,7 +16,7 @@
 #include "support/private_mounts.h"
 
 /// The volumes of this very machine beside what df says of them.
-namespace vantor {
+namespace vantor::live_volumes_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -195,4 +195,4 @@ TEST(LiveVolumes, ADiskOfOurOwnIsListedOnceAndAsItIs) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::live_volumes_test

@@ -7,7 +7,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::low_power_mode_test {
 namespace {
 
 struct Row {
@@ -102,4 +102,4 @@ TEST(LowPowerMode, FindsTheLowestProfile) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::low_power_mode_test

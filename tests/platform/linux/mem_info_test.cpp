@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::mem_info_test {
 namespace {
 
 TEST(MemInfo, ReadsWhatTheSharesAreMadeOf) {
@@ -105,4 +105,4 @@ TEST(MemInfo, IsAbsentWhenCutInsideALine) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mem_info_test

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace vantor {
+namespace vantor::memory_shares_test {
 namespace {
 
 constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
@@ -168,4 +168,4 @@ TEST(MemoryShares, AreAbsentWhereItIsNotSaidHowMuchIsFree) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::memory_shares_test

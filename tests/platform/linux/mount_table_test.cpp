@@ -8,7 +8,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::mount_table_test {
 namespace {
 
 using testing::IsEmpty;
@@ -160,4 +160,4 @@ TEST_P(MountText, IsUnescaped) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mount_table_test

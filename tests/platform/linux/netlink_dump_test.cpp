@@ -12,7 +12,7 @@
 
 #include "support/played_kernel.h"
 
-namespace vantor {
+namespace vantor::netlink_dump_test {
 namespace {
 
 using testing::ElementsAre;
@@ -196,4 +196,4 @@ TEST(NetlinkSocket, OfTheKernelIsClosedInNewPrograms) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::netlink_dump_test

@@ -7,7 +7,7 @@
 
 #include "support/netlink_bytes.h"
 
-namespace vantor {
+namespace vantor::netlink_messages_test {
 namespace {
 
 using Step = NetlinkMessages::Step;
@@ -234,4 +234,4 @@ TEST(AddressMessage, CutIsMalformed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::netlink_messages_test

@@ -14,7 +14,7 @@
 
 /// Links that come, go, change their names and start their counters again, in a namespace where
 /// nothing else goes on: no rate may be shown that nobody sent at.
-namespace vantor {
+namespace vantor::network_changes_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -242,4 +242,4 @@ TEST_F(NetworkChanges, NoRateEverShowsWhileLinksChangeAllTheTime) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::network_changes_test

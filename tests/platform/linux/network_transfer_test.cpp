@@ -16,7 +16,7 @@
 /// What the reader shows of a transfer between two network namespaces, beside what was sent: the
 /// number of datagrams times their size with all headers, by the sender's own count and clock. None
 /// of it comes from the kernel's counters.
-namespace vantor {
+namespace vantor::network_transfer_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -151,4 +151,4 @@ TEST(NetworkTransfer, ShowsWhatGoesOverTheWireAtBothEnds) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::network_transfer_test

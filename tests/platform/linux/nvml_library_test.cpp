@@ -9,7 +9,7 @@
 #include "support/fake_graphics.h"
 #include "support/fake_nvml.h"
 
-namespace vantor {
+namespace vantor::nvml_library_test {
 namespace {
 
 using testing::ElementsAre;
@@ -255,4 +255,4 @@ TEST(UselessNVML, ThatFindsNoDeviceByItsPlaceIsNotUsed) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::nvml_library_test

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::os_release_test {
 namespace {
 
 struct Row {
@@ -71,4 +71,4 @@ TEST(OSRelease, AZeroByteIsNoPartOfAName) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::os_release_test

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::pci_address_test {
 namespace {
 
 struct Row {
@@ -77,4 +77,4 @@ TEST(PCIDeviceList, IsNothingWhenItIsDamaged) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::pci_address_test

@@ -6,7 +6,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::pci_ids_test {
 namespace {
 
 const std::string list =
@@ -86,4 +86,4 @@ TEST(PCIIDs, SkipLinesThatAreTooLong) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::pci_ids_test

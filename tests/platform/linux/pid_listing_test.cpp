@@ -13,7 +13,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::pid_listing_test {
 namespace {
 
 using testing::ElementsAre;
@@ -166,4 +166,4 @@ TEST(PIDListing, OfThisMachineHoldsThisProcess) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::pid_listing_test

@@ -10,7 +10,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::power_supply_test {
 namespace {
 
 using testing::IsEmpty;
@@ -304,4 +304,4 @@ TEST(PowerSupplies, ABatteryWithoutAModelIsNamedByItsFolder) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::power_supply_test

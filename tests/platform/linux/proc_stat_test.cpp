@@ -6,7 +6,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::proc_stat_test {
 namespace {
 
 using testing::ElementsAre;
@@ -124,4 +124,4 @@ TEST_P(DamagedProcessorLines, AreNotTakenForTheWholeList) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::proc_stat_test

@@ -11,7 +11,7 @@
 
 #include "platform/linux/process_tree.h"
 
-namespace vantor {
+namespace vantor::process_census_test {
 namespace {
 
 using testing::Contains;
@@ -271,4 +271,4 @@ TEST(LiveProcessCensus, TheThreadThatAsksIsNoProcess) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_census_test

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-namespace vantor {
+namespace vantor::process_stat_test {
 namespace {
 
 /// A line as the kernel writes it, with the name and the fields that matter to choose.
@@ -162,4 +162,4 @@ TEST(ResidentPages, AreAbsentInAMalformedText) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::process_stat_test

@@ -7,7 +7,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::processor_sensor_names_test {
 namespace {
 
 using Part = ProcessorSensorRole::Part;
@@ -96,4 +96,4 @@ TEST(TemperatureInputs, HaveANumber) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::processor_sensor_names_test

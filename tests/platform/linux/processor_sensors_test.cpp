@@ -18,7 +18,7 @@
 #include "platform/linux/sensor_tree.h"
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::processor_sensors_test {
 namespace {
 
 using testing::ElementsAre;
@@ -315,4 +315,4 @@ TEST_F(ProcessorSensorsTest, SeveralThreadsMayAskWhileSensorsAreSought) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::processor_sensors_test

@@ -11,7 +11,7 @@
 #include "probes/cpu_reader.h"
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::recorded_proc_stat_test {
 namespace {
 
 using testing::DoubleEq;
@@ -160,4 +160,4 @@ TEST_F(RecordedProcStat, TwoReadsWithinOneTickGiveNothing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::recorded_proc_stat_test

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vantor {
+namespace vantor::route_tables_test {
 namespace {
 
 using Name = std::optional<std::string_view>;
@@ -150,4 +150,4 @@ TEST(IPv6Routes, MalformedAndCutLinesArePassedOver) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::route_tables_test

@@ -6,7 +6,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::runtime_status_test {
 namespace {
 
 TEST(RuntimeStatusText, SaysAwakeOnlyWhenActiveOrNotManaged) {
@@ -54,4 +54,4 @@ TEST_F(RuntimeStatusFile, ThatIsHugeMeansHandsOff) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::runtime_status_test

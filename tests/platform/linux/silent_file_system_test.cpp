@@ -22,7 +22,7 @@
 #include "support/private_mounts.h"
 
 /// A real file system that answers nobody, like one whose server is dead.
-namespace vantor {
+namespace vantor::silent_file_system_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -144,4 +144,4 @@ TEST(LiveVolumes, AFileSystemThatNeverAnswersIsNotTouched) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::silent_file_system_test

@@ -10,7 +10,7 @@
 #include "support/fake_graphics.h"
 #include "support/opened_files.h"
 
-namespace vantor {
+namespace vantor::sleeping_graphics_card_test {
 namespace {
 
 using testing::ElementsAre;
@@ -176,4 +176,4 @@ TEST(GraphicsCardThatFallsAsleepDuringAPass, HasNoFiguresOfThatPass) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::sleeping_graphics_card_test

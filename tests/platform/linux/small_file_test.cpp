@@ -7,7 +7,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::small_file_test {
 namespace {
 
 class SmallFileTest : public testing::Test {
@@ -52,4 +52,4 @@ TEST_F(SmallFileTest, IsAbsentWhenItIsAFolder) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::small_file_test

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::steady_counter_test {
 namespace {
 
 struct Row {
@@ -44,4 +44,4 @@ TEST_P(SteadyCounterTest, NeverStepsBack) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::steady_counter_test

@@ -9,7 +9,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::thermal_zones_test {
 namespace {
 
 struct Text {
@@ -153,4 +153,4 @@ TEST_F(ThermalZonesTest, ATripPointWithoutATemperatureHidesNoLaterOne) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::thermal_zones_test

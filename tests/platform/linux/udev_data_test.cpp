@@ -7,7 +7,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::udev_data_test {
 namespace {
 
 struct Row : NamedRow {
@@ -42,4 +42,4 @@ TEST_P(UdevData, TellsTheLabel) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::udev_data_test

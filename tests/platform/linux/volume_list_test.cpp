@@ -8,7 +8,7 @@
 
 #include "sampling/named_row.h"
 
-namespace vantor {
+namespace vantor::volume_list_test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -280,4 +280,4 @@ TEST(VolumeListOf, ThousandsOfMountsIsMadeInNoTime) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::volume_list_test

@@ -8,7 +8,7 @@
 
 #include "support/fake_kernel_tree.h"
 
-namespace vantor {
+namespace vantor::zram_devices_test {
 namespace {
 
 struct Row {
@@ -84,4 +84,4 @@ TEST_F(ZramDevicesTest, AreAddedUpWithoutAWrap) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::zram_devices_test

@@ -9,7 +9,7 @@
 #include <set>
 #include <string>
 
-namespace vantor {
+namespace vantor::frameworks_test {
 namespace {
 
 using testing::Contains;
@@ -187,4 +187,4 @@ TEST_F(FrameworksTest, ClosesALibraryOnce) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::frameworks_test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantor {
+namespace vantor::interface_entry_test {
 namespace {
 
 using Family = NetworkInterfaces::Family;
@@ -57,4 +57,4 @@ TEST(InterfaceEntry, LeavesOtherAddressesAlone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::interface_entry_test

@@ -19,7 +19,7 @@
 #include "probes/process_reader.h"
 #include "probes/sysctl.h"
 
-namespace vantor {
+namespace vantor::kernel_calls_test {
 namespace {
 
 using testing::ElementsAre;
@@ -196,4 +196,4 @@ TEST(MacLoadAverages, AreAsManyAsThereIsRoomFor) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::kernel_calls_test

@@ -7,7 +7,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_accelerators_test {
 namespace {
 
 using testing::Optional;
@@ -105,4 +105,4 @@ TEST_F(MacAcceleratorsTest, KeepsNothingOfManyReads) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_accelerators_test

@@ -7,7 +7,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_dynamic_store_test {
 namespace {
 
 constexpr auto ipv4Key = "State:/Network/Global/IPv4";
@@ -76,4 +76,4 @@ TEST_F(MacDynamicStoreTest, KeepsNothingOfManyReads) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_dynamic_store_test

@@ -9,7 +9,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_foundation_info_test {
 namespace {
 
 using testing::Optional;
@@ -128,4 +128,4 @@ TEST_F(MacFoundationInfoTest, KeepsNothingOfManyReads) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_foundation_info_test

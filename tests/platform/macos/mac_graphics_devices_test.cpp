@@ -9,7 +9,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_graphics_devices_test {
 namespace {
 
 using testing::IsEmpty;
@@ -174,4 +174,4 @@ TEST_F(MacGraphicsDevicesTest, KeepsNothingOfManyReads) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_graphics_devices_test

@@ -10,7 +10,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_hid_event_system_test {
 namespace {
 
 using testing::IsEmpty;
@@ -177,4 +177,4 @@ TEST(MacHIDEventSystemLibrary, IsOpenedByTheSystem) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_hid_event_system_test

@@ -7,7 +7,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_mounted_volumes_test {
 namespace {
 
 using testing::ElementsAre;
@@ -202,4 +202,4 @@ TEST_F(MacMountedVolumesTest, KeepsTheVolumesOfTheLastReadAlone) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_mounted_volumes_test

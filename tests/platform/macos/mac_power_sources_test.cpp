@@ -7,7 +7,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::mac_power_sources_test {
 namespace {
 
 using testing::Eq;
@@ -108,4 +108,4 @@ TEST_F(MacPowerSourcesTest, KeepsNothingOfManyReads) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_power_sources_test

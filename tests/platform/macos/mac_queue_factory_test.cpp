@@ -10,7 +10,7 @@
 
 #include "platform/macos/played_dispatcher.h"
 
-namespace vantor {
+namespace vantor::mac_queue_factory_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -104,4 +104,4 @@ TEST(MacQueueFactory, ReleasesEveryQueueOnce) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_queue_factory_test

@@ -22,7 +22,7 @@
 #include "probes/power_reader.h"
 #include "probes/storage_reader.h"
 
-namespace vantor {
+namespace vantor::mac_readers_test {
 namespace {
 
 using testing::Optional;
@@ -200,4 +200,4 @@ TEST_F(MacReadersTest, ReadsTheEventSystemsTemperature) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_readers_test

@@ -10,7 +10,7 @@
 #include "platform/macos/frameworks_test_support.h"
 #include "platform/smc_record.h"
 
-namespace vantor {
+namespace vantor::mac_system_controller_test {
 namespace {
 
 class MacSystemControllerTest : public FakeDarwinTest {
@@ -128,4 +128,4 @@ TEST_F(MacSystemControllerTest, AnswersSeveralThreadsAtOnce) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::mac_system_controller_test

@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-namespace vantor {
+namespace vantor::product_version_test {
 namespace {
 
 using Numbers = std::array<int, 3>;
@@ -41,4 +41,4 @@ TEST(ProductVersion, IsComparedNumberByNumber) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::product_version_test

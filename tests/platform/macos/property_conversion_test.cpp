@@ -10,7 +10,7 @@
 
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::property_conversion_test {
 namespace {
 
 using testing::Eq;
@@ -272,4 +272,4 @@ TEST_F(PropertyConversionTest, SurvivesEachCallFailing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::property_conversion_test

@@ -8,7 +8,7 @@
 #include "platform/macos/autorelease_pool.h"
 #include "platform/macos/frameworks_test_support.h"
 
-namespace vantor {
+namespace vantor::retained_reference_test {
 namespace {
 
 class RetainedReferenceTest : public FakeDarwinTest {
@@ -102,4 +102,4 @@ TEST_F(AutoreleasePoolTest, IsNoneWhereHalfOfItIsMissing) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::retained_reference_test

@@ -19,7 +19,7 @@
 #include "support/temporary_folder.h"
 
 /// What the disk may refuse at any step: the old file is there as it was, and nothing else.
-namespace vantor {
+namespace vantor::failing_file_writes_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -268,4 +268,4 @@ TEST(FileError, IsInWordsAndWellFormedWhateverTheNameAndTheReason) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::failing_file_writes_test

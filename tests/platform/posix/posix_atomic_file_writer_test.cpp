@@ -13,7 +13,7 @@
 #include "platform/posix/played_file_calls.h"
 #include "support/temporary_folder.h"
 
-namespace vantor {
+namespace vantor::posix_atomic_file_writer_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -262,4 +262,4 @@ TEST_P(AtomicFileWriting, NeedsNotListTheFolder) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::posix_atomic_file_writer_test

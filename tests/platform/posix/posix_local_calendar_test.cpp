@@ -10,7 +10,7 @@
 
 #include "model/snapshot_file_name.h"
 
-namespace vantor {
+namespace vantor::posix_local_calendar_test {
 namespace {
 
 using namespace std::chrono;
@@ -72,4 +72,4 @@ TEST(LocalCalendar, HasADayForTheEarliestMoment) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::posix_local_calendar_test

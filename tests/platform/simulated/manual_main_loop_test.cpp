@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-namespace vantor {
+namespace vantor::manual_main_loop_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -117,4 +117,4 @@ TEST(WoundClock, MovesOnlyWhenWoundAndNeverStartsAtZero) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::manual_main_loop_test

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vantor {
+namespace vantor::manual_serial_queue_test {
 namespace {
 
 using testing::ElementsAre;
@@ -84,4 +84,4 @@ TEST(ManualSerialQueue, MayOutliveItsFactory) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::manual_serial_queue_test

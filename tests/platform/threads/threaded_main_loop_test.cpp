@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-namespace vantor {
+namespace vantor::threaded_main_loop_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -135,4 +135,4 @@ TEST_F(ThreadedMainLoopTest, RunsATimerAmongPostedTasks) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::threaded_main_loop_test

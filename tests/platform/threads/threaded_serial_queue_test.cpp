@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-namespace vantor {
+namespace vantor::threaded_serial_queue_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -140,4 +140,4 @@ TEST(ThreadRole, IsTakenOnceOnEachNewThreadBeforeItsFirstTask) {
 }
 
 }  // namespace
-}  // namespace vantor
+}  // namespace vantor::threaded_serial_queue_test
