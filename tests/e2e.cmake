@@ -17,14 +17,15 @@ add_executable(vantor_e2e_tests
     e2e/wayland_test.cpp
     e2e/window_test.cpp
     e2e/windows_test.cpp)
-target_include_directories(vantor_e2e_tests PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+vantor_set_up_test_target(vantor_e2e_tests)
+target_precompile_headers(vantor_e2e_tests REUSE_FROM vantor_widget_test_headers)
 # The system's own Python first: that is the one whose packages the scripts install.
 find_program(VANTOR_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
 find_program(VANTOR_PYTHON python3)
 target_compile_definitions(vantor_e2e_tests PRIVATE
-    VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_PROGRAM="$<TARGET_FILE:vantor>"
+    VANTOR_PROGRAM="$<TARGET_FILE:vantor>"
     VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_PYTHON="${VANTOR_PYTHON}")
-target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui vantor_warnings Qt6::DBus GTest::gmock GTest::gtest)
+target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui Qt6::DBus)
 add_dependencies(vantor_e2e_tests instance_program vantor)
-gtest_discover_tests(vantor_e2e_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS e2e)
+vantor_discover_tests(vantor_e2e_tests e2e)

@@ -1,7 +1,6 @@
 # Whole machines recorded as text, see machines/README.md.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     vantor_add_tests(machines_tests LABEL core SOURCES
-        documents/document_subjects.cpp
         documents/machine_snapshots_test.cpp
         machines/damaged_machines_test.cpp
         machines/machine_document.cpp
@@ -9,11 +8,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         machines/recorded_graphics_test.cpp
         machines/recorded_sensors_test.cpp
         machines/sleeping_card_test.cpp
-        support/line_difference.cpp
-        support/opened_files.cpp
-        support/recorded_calls.cpp
-        support/recorded_machine.cpp
-        support/recorded_tree.cpp)
+        support/line_difference.cpp)
     vantor_add_failing_reads(machines_tests)
 
     # Takes what is said of the recorded machines now for what is meant to be said. To be reviewed
@@ -26,12 +21,10 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
 
     # Exported documents, checked by a validator and a reader that are not ours.
     add_executable(export_machines_program
-        documents/document_subjects.cpp
-        documents/export_machines_program.cpp
-        support/recorded_calls.cpp
-        support/recorded_machine.cpp
-        support/recorded_tree.cpp)
+        documents/export_machines_program.cpp)
     vantor_set_up_test_target(export_machines_program)
+    target_precompile_headers(export_machines_program REUSE_FROM vantor_test_headers)
+    target_link_libraries(export_machines_program PRIVATE vantor_test_support)
     add_dependencies(core_tests export_machines_program)
     # The system's own Python first: that is the one whose packages the scripts install.
     find_program(VANTOR_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)

@@ -138,13 +138,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/zram_devices_test.cpp
         platform/posix/failing_file_writes_test.cpp
         platform/posix/posix_atomic_file_writer_test.cpp
-        platform/posix/posix_local_calendar_test.cpp
-        support/burner.cpp
-        support/fake_graphics.cpp
-        support/fake_kernel_tree.cpp
-        support/live_child.cpp
-        support/opened_files.cpp
-        support/private_mounts.cpp)
+        platform/posix/posix_local_calendar_test.cpp)
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.
     foreach(variant "" _OLD _USELESS _NO_SHUTDOWN _NO_HANDLE _NO_UTILIZATION)
@@ -165,12 +159,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/linux_power_sources_test.cpp
         platform/linux/process_census_test.cpp
         platform/linux/processor_sensors_test.cpp
-        platform/linux/silent_file_system_test.cpp
-        support/burner.cpp
-        support/fake_kernel_tree.cpp
-        support/live_child.cpp
-        support/opened_files.cpp
-        support/private_mounts.cpp)
+        platform/linux/silent_file_system_test.cpp)
     vantor_add_failing_reads(linux_thread_tests)
     # A program of its own: its process leaves the network namespace that it was started in.
     vantor_add_tests(network_namespace_tests LABEL core SOURCES

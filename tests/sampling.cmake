@@ -22,15 +22,14 @@ vantor_add_tests(sampling_thread_tests LABEL core SOURCES
     sampling/snapshot_export_thread_test.cpp)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     target_sources(sampling_thread_tests PRIVATE
-        sampling/hanging_volumes_test.cpp
-        support/fake_kernel_tree.cpp)
+        sampling/hanging_volumes_test.cpp)
 endif()
 
 # Programs that end while a thread of theirs hangs for ever, or is at work.
 foreach(end hanging_end hanging_volumes_end busy_end)
     add_executable(${end}_program sampling/${end}_program.cpp)
-    target_include_directories(${end}_program PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-    target_link_libraries(${end}_program PRIVATE vantor_core vantor_warnings)
+    vantor_set_up_test_target(${end}_program)
+    target_precompile_headers(${end}_program REUSE_FROM vantor_test_headers)
     add_dependencies(sampling_thread_tests ${end}_program)
     string(TOUPPER ${end} END)
     target_compile_definitions(sampling_thread_tests PRIVATE
@@ -45,6 +44,5 @@ if(NOT VANTOR_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
         sampling/gpu_allocation_test.cpp
         sampling/network_allocation_test.cpp
         sampling/process_allocation_test.cpp
-        sampling/slow_state_allocation_test.cpp
-        support/fake_kernel_tree.cpp)
+        sampling/slow_state_allocation_test.cpp)
 endif()

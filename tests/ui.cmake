@@ -1,6 +1,11 @@
 # Against which the program's own drawings are compared.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Svg)
 
+add_library(vantor_widget_test_headers OBJECT support/precompiled.cpp)
+vantor_set_up_test_target(vantor_widget_test_headers)
+target_link_libraries(vantor_widget_test_headers PRIVATE vantor_ui)
+target_precompile_headers(vantor_widget_test_headers PRIVATE support/precompiled_widgets.h)
+
 # What tests of widgets share: the main that makes the toolkit's application, and looking at pixels.
 add_library(vantor_widget_testing STATIC
     ui/main.cpp
@@ -8,8 +13,10 @@ add_library(vantor_widget_testing STATIC
     ui/rendering.cpp)
 target_include_directories(vantor_widget_testing PUBLIC ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(vantor_widget_testing PRIVATE
-    VANTOR_TESTS_DIR="${CMAKE_SOURCE_DIR}/tests" VANTOR_BUILD_DIR="${CMAKE_BINARY_DIR}")
+    VANTOR_BUILD_DIR="${CMAKE_BINARY_DIR}")
 target_link_libraries(vantor_widget_testing PUBLIC vantor_ui GTest::gmock PRIVATE vantor_warnings)
+vantor_set_up_test_target(vantor_widget_testing)
+target_precompile_headers(vantor_widget_testing REUSE_FROM vantor_widget_test_headers)
 
 vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/accessibility_test.cpp
@@ -60,12 +67,12 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/vantor_style_test.cpp
     ui/vector_drawing_test.cpp)
 
-add_executable(quitting_program app/quitting_program.cpp)
-target_link_libraries(quitting_program PRIVATE vantor_app vantor_warnings)
-add_executable(ending_program app/ending_program.cpp)
-target_link_libraries(ending_program PRIVATE vantor_app vantor_warnings)
-add_executable(instance_program app/instance_program.cpp)
-target_link_libraries(instance_program PRIVATE vantor_app vantor_warnings)
+foreach(program ending_program instance_program quitting_program)
+    add_executable(${program} app/${program}.cpp)
+    vantor_set_up_test_target(${program})
+    target_link_libraries(${program} PRIVATE vantor_app)
+    target_precompile_headers(${program} REUSE_FROM vantor_widget_test_headers)
+endforeach()
 
 vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURCES
     app/app_delegate_test.cpp

@@ -1,14 +1,17 @@
 # What the scripts share: installing what is missing, and saying what happens. Sourced, not run.
 
+mkdir -p build
 say() { printf '\n== %s\n' "$*"; }
 fail() {
     printf '\nvantor: %s\n' "$*" >&2
     exit 1
 }
 
+. scripts/lib/timing.sh
+
 build_packages="g++ cmake ninja-build nlohmann-json3-dev qt6-base-dev"
 screen_packages="xvfb x11-utils imagemagick fonts-inter fonts-dejavu-core"
-test_packages="qt6-svg-dev libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox trayer weston qt6-wayland procps iproute2 dbus-daemon at-spi2-core python3-jsonschema"
+test_packages="mold qt6-svg-dev libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox trayer weston qt6-wayland procps iproute2 dbus-daemon at-spi2-core python3-jsonschema"
 clang_packages="clang libclang-rt-14-dev"
 macos_packages="cmake ninja-build nlohmann-json3-dev binutils file llvm-14"
 lint_packages="git clang-format clang-tidy"
@@ -41,7 +44,7 @@ install_missing() {
         is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
-    say "Installing ${missing[*]}"
+    stage install "Installing ${missing[*]}"
     as_root env DEBIAN_FRONTEND=noninteractive apt-get update -q ||
         fail "the list of packages could not be fetched"
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends \
@@ -54,12 +57,17 @@ need_command() {
 
 # build PRESET [TARGET...]: configures where needed and builds, showing progress.
 build() {
-    local preset=$1
+    local preset=$1 status
     shift
     need_command cmake
     need_command ninja ninja-build
-    say "Configuring ($preset)"
-    cmake --preset "$preset" || fail "configuring the $preset build failed"
-    say "Building ($preset)"
+    stage "configure-$preset" "Configuring ($preset)"
+    cmake --preset "$preset" >build/configure.log 2>&1
+    status=$?
+    [ $status = 0 ] || cat build/configure.log
+    [ $status = 0 ] || fail "configuring the $preset build failed"
+    # What is up to date is not worth a time.
+    stage "build-$preset${1:+-$1}" "Building ($preset)"
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the $preset build failed"
+    end_stage
 }

@@ -199,7 +199,9 @@ Outcome runProgram(const QString& probe, const QString& home) {
     }
     QElapsedTimer watch;
     watch.start();
-    run.ended = program.waitForFinished(20'000) && program.exitStatus() == QProcess::NormalExit;
+    // Nothing is waited for when its end was noticed while its line was.
+    const bool isGone = program.state() == QProcess::NotRunning || program.waitForFinished(20'000);
+    run.ended = isGone && program.exitStatus() == QProcess::NormalExit;
     run.millisecondsToEnd = watch.elapsed();
     run.status = program.exitCode();
     run.errors = program.readAllStandardError();

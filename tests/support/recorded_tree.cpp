@@ -35,7 +35,7 @@ void requireInside(const fs::path& folder, const fs::path& root) {
     if (end != top.end()) throw std::runtime_error(folder.string() + " leaves the recording");
 }
 
-void write(const fs::path& path, std::string_view content) {
+void writeRecorded(const fs::path& path, std::string_view content) {
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     file.close();
@@ -56,7 +56,7 @@ void lay(const fs::path& from, const fs::path& to, const fs::path& root) {
             fs::create_directory(target);
         } else {
             if (fs::is_symlink(fs::symlink_status(target))) fs::remove(target);
-            write(target, readRecordedFile(entry.path()));
+            writeRecorded(target, readRecordedFile(entry.path()));
         }
     }
 }
@@ -82,9 +82,9 @@ void makeTopologies(const fs::path& table, const fs::path& sys) {
         }
         const fs::path folder = sys / "devices/system/cpu" / ("cpu" + id) / "topology";
         fs::create_directories(folder);
-        if (package != "-") write(folder / "physical_package_id", package + '\n');
-        if (die != "-") write(folder / "die_id", die + '\n');
-        if (core != "-") write(folder / "core_id", core + '\n');
+        if (package != "-") writeRecorded(folder / "physical_package_id", package + '\n');
+        if (die != "-") writeRecorded(folder / "die_id", die + '\n');
+        if (core != "-") writeRecorded(folder / "core_id", core + '\n');
     }
 }
 

@@ -1,0 +1,5 @@
+// Belongs to the library that the precompiled headers are made for.
+#pragma once
+
+#include "../../cmake/precompiled_toolkit.h"
+#include "support/precompiled.h"
