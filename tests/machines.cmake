@@ -29,6 +29,15 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     # The system's own Python first: that is the one whose packages the scripts install.
     find_program(VANTOR_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
     find_program(VANTOR_PYTHON python3)
+    # It builds for itself: once is enough.
+    if(NOT VANTOR_SANITIZE)
+        add_test(NAME ExportedDocuments.AreTheSameWhateverCompilerAndOptimisationBuiltTheWriter
+            COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/documents/compare_compilers.sh
+                ${CMAKE_SOURCE_DIR}
+                ${CMAKE_CURRENT_BINARY_DIR}/compared_documents)
+        set_tests_properties(ExportedDocuments.AreTheSameWhateverCompilerAndOptimisationBuiltTheWriter
+            PROPERTIES TIMEOUT 300 LABELS core)
+    endif()
     if(VANTOR_PYTHON)
         add_test(NAME ExportedDocuments.FitTheirSchemaAndReadBackTheSame
             COMMAND ${VANTOR_PYTHON} ${CMAKE_CURRENT_SOURCE_DIR}/documents/validate_documents.py

@@ -3,8 +3,6 @@
 #include <nlohmann/json_fwd.hpp>
 
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
@@ -25,11 +23,5 @@ std::optional<nlohmann::json> encode(const Record& record);
 /// not fit its own. Unknown keys are ignored.
 template <class Record>
 std::optional<Record> decode(const nlohmann::json& value);
-
-/// UTC with whole seconds, e.g. 2026-11-14T17:53:42Z.
-std::string encodeTimestamp(Timestamp timestamp);
-
-/// The reverse of encodeTimestamp; absent for any other form or an impossible date.
-std::optional<Timestamp> decodeTimestamp(std::string_view text);
 
 }  // namespace vantor

@@ -1,149 +1,177 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <numeric>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
 #include <utility>
 
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
 
-/// The fields of every record with their written names, in declaration order: one list that both
-/// the encoder and the decoder walk, so that neither can forget a field of the other.
+/// The fields of every record with their written names: one table a record, from which whatever
+/// walks a record is made. A new field is written here and nowhere else.
 ///
-/// forEachField(record, visit) calls visit("name", record.name) for each field.
+/// Pure functions of constants, any thread.
 namespace vantor {
 
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, CPUStats>
-void forEachField(R& r, V&& visit) {
-    visit("model", r.model);
-    visit("totalUsage", r.totalUsage);
-    visit("userUsage", r.userUsage);
-    visit("systemUsage", r.systemUsage);
-    visit("idleUsage", r.idleUsage);
-    visit("perCoreUsage", r.perCoreUsage);
-    visit("logicalCoreCount", r.logicalCoreCount);
-    visit("physicalCoreCount", r.physicalCoreCount);
-    visit("loadAverage", r.loadAverage);
-    visit("nominalFrequencyHz", r.nominalFrequencyHz);
-    visit("temperatureCelsius", r.temperatureCelsius);
+template <class Record, class Value>
+struct Field {
+    const char* name;
+    Value Record::*member;
+};
+template <class Record, class Value>
+Field(const char*, Value Record::*) -> Field<Record, Value>;
+
+/// A tuple of `Field`s in declaration order.
+template <class Record>
+inline constexpr auto fieldsOf = nullptr;
+
+template <>
+inline constexpr auto fieldsOf<CPUStats> =
+    std::tuple{Field{"model", &CPUStats::model},
+               Field{"totalUsage", &CPUStats::totalUsage},
+               Field{"userUsage", &CPUStats::userUsage},
+               Field{"systemUsage", &CPUStats::systemUsage},
+               Field{"idleUsage", &CPUStats::idleUsage},
+               Field{"perCoreUsage", &CPUStats::perCoreUsage},
+               Field{"logicalCoreCount", &CPUStats::logicalCoreCount},
+               Field{"physicalCoreCount", &CPUStats::physicalCoreCount},
+               Field{"loadAverage", &CPUStats::loadAverage},
+               Field{"nominalFrequencyHz", &CPUStats::nominalFrequencyHz},
+               Field{"temperatureCelsius", &CPUStats::temperatureCelsius}};
+
+template <>
+inline constexpr auto fieldsOf<MemoryStats> =
+    std::tuple{Field{"totalBytes", &MemoryStats::totalBytes},
+               Field{"usedBytes", &MemoryStats::usedBytes},
+               Field{"activeBytes", &MemoryStats::activeBytes},
+               Field{"wiredBytes", &MemoryStats::wiredBytes},
+               Field{"compressedBytes", &MemoryStats::compressedBytes},
+               Field{"cachedBytes", &MemoryStats::cachedBytes},
+               Field{"availableBytes", &MemoryStats::availableBytes}};
+
+template <>
+inline constexpr auto fieldsOf<NetworkInterfaceStats> =
+    std::tuple{Field{"name", &NetworkInterfaceStats::name},
+               Field{"ipv4Address", &NetworkInterfaceStats::ipv4Address},
+               Field{"ipv6Address", &NetworkInterfaceStats::ipv6Address},
+               Field{"receivedBytes", &NetworkInterfaceStats::receivedBytes},
+               Field{"sentBytes", &NetworkInterfaceStats::sentBytes},
+               Field{"downloadBytesPerSecond", &NetworkInterfaceStats::downloadBytesPerSecond},
+               Field{"uploadBytesPerSecond", &NetworkInterfaceStats::uploadBytesPerSecond},
+               Field{"isPointToPoint", &NetworkInterfaceStats::isPointToPoint}};
+
+template <>
+inline constexpr auto fieldsOf<NetworkStats> =
+    std::tuple{Field{"hostname", &NetworkStats::hostname},
+               Field{"primaryInterfaceName", &NetworkStats::primaryInterfaceName},
+               Field{"primaryIPv4Address", &NetworkStats::primaryIPv4Address},
+               Field{"primaryIPv6Address", &NetworkStats::primaryIPv6Address},
+               Field{"downloadBytesPerSecond", &NetworkStats::downloadBytesPerSecond},
+               Field{"uploadBytesPerSecond", &NetworkStats::uploadBytesPerSecond},
+               Field{"interfaces", &NetworkStats::interfaces}};
+
+template <>
+inline constexpr auto fieldsOf<GPUStats> =
+    std::tuple{Field{"id", &GPUStats::id},
+               Field{"name", &GPUStats::name},
+               Field{"isUnifiedMemory", &GPUStats::isUnifiedMemory},
+               Field{"utilization", &GPUStats::utilization},
+               Field{"temperatureCelsius", &GPUStats::temperatureCelsius},
+               Field{"vramUsedBytes", &GPUStats::vramUsedBytes},
+               Field{"vramTotalBytes", &GPUStats::vramTotalBytes},
+               Field{"recommendedWorkingSetBytes", &GPUStats::recommendedWorkingSetBytes}};
+
+template <>
+inline constexpr auto fieldsOf<VolumeStats> =
+    std::tuple{Field{"name", &VolumeStats::name},
+               Field{"path", &VolumeStats::path},
+               Field{"totalBytes", &VolumeStats::totalBytes},
+               Field{"availableBytes", &VolumeStats::availableBytes},
+               Field{"isInternal", &VolumeStats::isInternal},
+               Field{"isRemovable", &VolumeStats::isRemovable},
+               Field{"isReadOnly", &VolumeStats::isReadOnly}};
+
+template <>
+inline constexpr auto fieldsOf<ProcessStats> = std::tuple{
+    Field{"pid", &ProcessStats::pid}, Field{"name", &ProcessStats::name},
+    Field{"command", &ProcessStats::command}, Field{"cpuPercent", &ProcessStats::cpuPercent},
+    Field{"residentMemoryBytes", &ProcessStats::residentMemoryBytes}};
+
+template <>
+inline constexpr auto fieldsOf<ProcessSample> =
+    std::tuple{Field{"all", &ProcessSample::all}, Field{"sortedByCPU", &ProcessSample::sortedByCPU},
+               Field{"sortedByMemory", &ProcessSample::sortedByMemory}};
+
+template <>
+inline constexpr auto fieldsOf<SystemInfoStats> =
+    std::tuple{Field{"hostName", &SystemInfoStats::hostName},
+               Field{"hardwareModel", &SystemInfoStats::hardwareModel},
+               Field{"operatingSystem", &SystemInfoStats::operatingSystem},
+               Field{"kernelVersion", &SystemInfoStats::kernelVersion},
+               Field{"architecture", &SystemInfoStats::architecture},
+               Field{"isRunningUnderRosetta", &SystemInfoStats::isRunningUnderRosetta},
+               Field{"uptimeSeconds", &SystemInfoStats::uptimeSeconds},
+               Field{"thermalState", &SystemInfoStats::thermalState},
+               Field{"lowPowerModeEnabled", &SystemInfoStats::lowPowerModeEnabled}};
+
+template <>
+inline constexpr auto fieldsOf<PowerStats> =
+    std::tuple{Field{"name", &PowerStats::name},
+               Field{"chargeFraction", &PowerStats::chargeFraction},
+               Field{"isCharging", &PowerStats::isCharging},
+               Field{"isConnectedToAC", &PowerStats::isConnectedToAC},
+               Field{"timeRemainingMinutes", &PowerStats::timeRemainingMinutes},
+               Field{"cycleCount", &PowerStats::cycleCount}};
+
+template <>
+inline constexpr auto fieldsOf<SystemSnapshot> = std::tuple{
+    Field{"timestamp", &SystemSnapshot::timestamp}, Field{"cpu", &SystemSnapshot::cpu},
+    Field{"memory", &SystemSnapshot::memory},       Field{"network", &SystemSnapshot::network},
+    Field{"gpus", &SystemSnapshot::gpus},           Field{"volumes", &SystemSnapshot::volumes},
+    Field{"processes", &SystemSnapshot::processes}, Field{"system", &SystemSnapshot::system},
+    Field{"power", &SystemSnapshot::power}};
+
+template <class Record>
+inline constexpr std::size_t fieldCount =
+    std::tuple_size_v<std::remove_const_t<decltype(fieldsOf<Record>)>>;
+
+/// Positions in `fieldsOf`, in the order of the names' bytes.
+template <class Record>
+inline constexpr auto fieldsByName = [] {
+    const auto names =
+        std::apply([](const auto&... field) { return std::array{std::string_view(field.name)...}; },
+                   fieldsOf<Record>);
+    std::array<std::size_t, fieldCount<Record>> order{};
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(), [&](auto a, auto b) { return names[a] < names[b]; });
+    return order;
+}();
+
+/// Calls visit("name", record.name) for each field in declaration order while it returns true.
+/// Returns whether it always did.
+template <class Record, class Visit>
+bool forEachField(Record& record, Visit&& visit) {
+    return std::apply(
+        [&](const auto&... field) { return (visit(field.name, record.*(field.member)) && ...); },
+        fieldsOf<std::remove_const_t<Record>>);
 }
 
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, MemoryStats>
-void forEachField(R& r, V&& visit) {
-    visit("totalBytes", r.totalBytes);
-    visit("usedBytes", r.usedBytes);
-    visit("activeBytes", r.activeBytes);
-    visit("wiredBytes", r.wiredBytes);
-    visit("compressedBytes", r.compressedBytes);
-    visit("cachedBytes", r.cachedBytes);
-    visit("availableBytes", r.availableBytes);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, NetworkInterfaceStats>
-void forEachField(R& r, V&& visit) {
-    visit("name", r.name);
-    visit("ipv4Address", r.ipv4Address);
-    visit("ipv6Address", r.ipv6Address);
-    visit("receivedBytes", r.receivedBytes);
-    visit("sentBytes", r.sentBytes);
-    visit("downloadBytesPerSecond", r.downloadBytesPerSecond);
-    visit("uploadBytesPerSecond", r.uploadBytesPerSecond);
-    visit("isPointToPoint", r.isPointToPoint);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, NetworkStats>
-void forEachField(R& r, V&& visit) {
-    visit("hostname", r.hostname);
-    visit("primaryInterfaceName", r.primaryInterfaceName);
-    visit("primaryIPv4Address", r.primaryIPv4Address);
-    visit("primaryIPv6Address", r.primaryIPv6Address);
-    visit("downloadBytesPerSecond", r.downloadBytesPerSecond);
-    visit("uploadBytesPerSecond", r.uploadBytesPerSecond);
-    visit("interfaces", r.interfaces);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, GPUStats>
-void forEachField(R& r, V&& visit) {
-    visit("id", r.id);
-    visit("name", r.name);
-    visit("isUnifiedMemory", r.isUnifiedMemory);
-    visit("utilization", r.utilization);
-    visit("temperatureCelsius", r.temperatureCelsius);
-    visit("vramUsedBytes", r.vramUsedBytes);
-    visit("vramTotalBytes", r.vramTotalBytes);
-    visit("recommendedWorkingSetBytes", r.recommendedWorkingSetBytes);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, VolumeStats>
-void forEachField(R& r, V&& visit) {
-    visit("name", r.name);
-    visit("path", r.path);
-    visit("totalBytes", r.totalBytes);
-    visit("availableBytes", r.availableBytes);
-    visit("isInternal", r.isInternal);
-    visit("isRemovable", r.isRemovable);
-    visit("isReadOnly", r.isReadOnly);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, ProcessStats>
-void forEachField(R& r, V&& visit) {
-    visit("pid", r.pid);
-    visit("name", r.name);
-    visit("command", r.command);
-    visit("cpuPercent", r.cpuPercent);
-    visit("residentMemoryBytes", r.residentMemoryBytes);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, ProcessSample>
-void forEachField(R& r, V&& visit) {
-    visit("all", r.all);
-    visit("sortedByCPU", r.sortedByCPU);
-    visit("sortedByMemory", r.sortedByMemory);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, SystemInfoStats>
-void forEachField(R& r, V&& visit) {
-    visit("hostName", r.hostName);
-    visit("hardwareModel", r.hardwareModel);
-    visit("operatingSystem", r.operatingSystem);
-    visit("kernelVersion", r.kernelVersion);
-    visit("architecture", r.architecture);
-    visit("isRunningUnderRosetta", r.isRunningUnderRosetta);
-    visit("uptimeSeconds", r.uptimeSeconds);
-    visit("thermalState", r.thermalState);
-    visit("lowPowerModeEnabled", r.lowPowerModeEnabled);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, PowerStats>
-void forEachField(R& r, V&& visit) {
-    visit("name", r.name);
-    visit("chargeFraction", r.chargeFraction);
-    visit("isCharging", r.isCharging);
-    visit("isConnectedToAC", r.isConnectedToAC);
-    visit("timeRemainingMinutes", r.timeRemainingMinutes);
-    visit("cycleCount", r.cycleCount);
-}
-
-template <class R, class V>
-requires std::same_as<std::remove_const_t<R>, SystemSnapshot>
-void forEachField(R& r, V&& visit) {
-    visit("timestamp", r.timestamp);
-    visit("cpu", r.cpu);
-    visit("memory", r.memory);
-    visit("network", r.network);
-    visit("gpus", r.gpus);
-    visit("volumes", r.volumes);
-    visit("processes", r.processes);
-    visit("system", r.system);
-    visit("power", r.power);
+/// The same in the order of the names.
+template <class Record, class Visit>
+bool forEachFieldByName(Record& record, Visit&& visit) {
+    using Plain = std::remove_const_t<Record>;
+    const auto visitOne = [&](const auto& field) {
+        return visit(field.name, record.*(field.member));
+    };
+    return [&]<std::size_t... rank>(std::index_sequence<rank...>) {
+        return (visitOne(std::get<fieldsByName<Plain>[rank]>(fieldsOf<Plain>)) && ...);
+    }
+    (std::make_index_sequence<fieldCount<Plain>>());
 }
 
 }  // namespace vantor

@@ -1,27 +1,23 @@
 #include "model/snapshot_document.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <numeric>
 #include <optional>
 #include <string_view>
 #include <type_traits>
 
 #include "model/number_text.h"
-#include "model/record_coding.h"
 #include "model/record_fields.h"
+#include "model/timestamp_text.h"
 #include "model/utf8.h"
 
 namespace vantor {
 
 namespace {
-
-constexpr std::size_t mostFields = 16;
 
 template <class T>
 constexpr bool isOptional = false;
@@ -31,23 +27,6 @@ template <class T>
 constexpr bool isList = false;
 template <class T>
 constexpr bool isList<std::vector<T>> = true;
-
-/// The numbers of a record's fields, counted as they are declared, in the order of their names.
-struct FieldOrder {
-    std::array<std::uint8_t, mostFields> fields{};
-    std::size_t count = 0;
-};
-
-template <class Record>
-FieldOrder orderOf(const Record& record) {
-    std::array<std::string_view, mostFields> names;
-    FieldOrder order;
-    forEachField(record, [&](const char* name, const auto&) { names[order.count++] = name; });
-    const auto end = order.fields.begin() + static_cast<std::ptrdiff_t>(order.count);
-    std::iota(order.fields.begin(), end, std::uint8_t{0});
-    std::sort(order.fields.begin(), end, [&](auto a, auto b) { return names[a] < names[b]; });
-    return order;
-}
 
 /// Where a value stands, from the value upwards; only looked at when it cannot be written.
 struct Place {
@@ -95,18 +74,12 @@ class DocumentWriter {
   private:
     template <class Record>
     bool writeRecord(const Record& record, const Place* place) {
-        static const FieldOrder order = orderOf(record);
         bool isFirst = true;
         open('{');
-        for (std::size_t rank = 0; rank < order.count; ++rank) {
-            std::size_t field = 0;
-            bool wentWell = true;
-            forEachField(record, [&](const char* name, const auto& value) {
-                if (field++ == order.fields[rank])
-                    wentWell = writeMember(name, value, place, isFirst);
-            });
-            if (!wentWell) return false;
-        }
+        const bool wentWell = forEachFieldByName(record, [&](const char* name, const auto& value) {
+            return writeMember(name, value, place, isFirst);
+        });
+        if (!wentWell) return false;
         close('}');
         return true;
     }

@@ -13,6 +13,7 @@
 #include "model/record_coding.h"
 #include "model/record_fields.h"
 #include "model/snapshot_document.h"
+#include "model/timestamp_text.h"
 #include "support/temporary_folder.h"
 
 #include "documents/document_subjects.h"
@@ -71,6 +72,7 @@ void dump(const T& value, const std::string& place, std::ostream& out) {
     } else {
         forEachField(value, [&](const char* name, const auto& field) {
             dump(field, place + '/' + name, out);
+            return true;
         });
     }
 }

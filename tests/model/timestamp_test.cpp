@@ -3,7 +3,7 @@
 #include <ostream>
 #include <string>
 
-#include "model/record_coding.h"
+#include "model/timestamp_text.h"
 
 namespace vantor::timestamp_test {
 namespace {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/system_snapshot.h"
+
+namespace vantor {
+
+/// UTC with whole seconds, e.g. 2026-11-14T17:53:42Z.
+std::string encodeTimestamp(Timestamp timestamp);
+
+/// The reverse of encodeTimestamp; absent for any other form or an impossible date.
+std::optional<Timestamp> decodeTimestamp(std::string_view text);
+
+}  // namespace vantor
