@@ -88,6 +88,7 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/qt_main_loop_test.cpp
     app/qt_menu_bar_extras_test.cpp
     app/qt_save_dialogs_test.cpp
+    app/readable_texts_test.cpp
     app/single_instance_test.cpp
     app/stored_settings_test.cpp
     app/termination_signals_test.cpp

@@ -8,21 +8,8 @@
 #include <QWidget>
 
 #include "ui/components/make_child.h"
-#include "ui/theme.h"
 
 namespace vantor {
-
-namespace {
-
-/// Flat on the window's ground, as tall as its text needs.
-QString flatStyle() {
-    return QStringLiteral(
-        "QMenuBar { background: transparent; border: none; padding: 4px 14px 0 14px; }"
-        "QMenuBar::item { background: transparent; padding: 4px 8px; border-radius: 6px; }"
-        "QMenuBar::item:selected { background: rgba(128, 128, 128, 60); }");
-}
-
-}  // namespace
 
 AppCommands::AppCommands(Actions actions, bool sharesMenuBar)
     : about_(add(QStringLiteral("About Vantor"), {}, actions.about)),
@@ -68,7 +55,6 @@ QAction* AppCommands::closing(QWidget* window) {
 
 QMenuBar* AppCommands::makeMenuBar(QWidget* window) {
     auto* bar = makeChild<QMenuBar>(window);
-    bar->setStyleSheet(flatStyle());
     fill(*bar, closing(window));
     return bar;
 }

@@ -4,6 +4,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QStyleOption>
 
 #include <memory>
 #include <optional>
@@ -106,6 +107,27 @@ class SymbolEngine : public QIconEngine {
     Symbol symbol_;
 };
 
+constexpr int menuBarSideMargin = 14;
+constexpr int menuBarLineMargin = 2;
+constexpr QSize menuBarItemPadding(8, 4);
+constexpr double menuBarItemCorner = 6;
+constexpr QColor menuBarItemMark(128, 128, 128, 60);
+
+void drawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& painter, const QStyle& style) {
+    if (item.state & (QStyle::State_Selected | QStyle::State_Sunken)) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(menuBarItemMark);
+        painter.drawRoundedRect(QRectF(item.rect), menuBarItemCorner, menuBarItemCorner);
+        painter.restore();
+    }
+    int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine;
+    if (!style.styleHint(QStyle::SH_UnderlineShortcut, &item)) flags |= Qt::TextHideMnemonic;
+    style.drawItemText(&painter, item.rect, flags, item.palette, item.state & QStyle::State_Enabled,
+                       item.text, QPalette::WindowText);
+}
+
 }  // namespace
 
 VantorStyle::VantorStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -121,6 +143,44 @@ QIcon VantorStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
     Symbol symbol = symbolOf(icon);
     if (symbol.name.isEmpty()) return QProxyStyle::standardIcon(icon, option, widget);
     return QIcon(std::make_unique<SymbolEngine>(std::move(symbol)).release());  // takes ownership
+}
+
+void VantorStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuBarEmptyArea) return;
+    if (element == CE_MenuBarItem && item) {
+        drawMenuBarItem(*item, *painter, *this);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void VantorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+    if (element == PE_PanelMenuBar) return;
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int VantorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const {
+    switch (metric) {
+        case PM_MenuBarHMargin:
+            return menuBarSideMargin;
+        case PM_MenuBarVMargin:
+            return menuBarLineMargin;
+        case PM_MenuBarItemSpacing:
+        case PM_MenuBarPanelWidth:
+            return 0;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QSize VantorStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const {
+    if (type == CT_MenuBarItem) return contents + 2 * menuBarItemPadding;
+    return QProxyStyle::sizeFromContents(type, option, contents, widget);
 }
 
 }  // namespace vantor

@@ -5,8 +5,9 @@
 namespace vantor {
 
 /// What the toolkit's own dialogs, menus and boxes look like: plain buttons without pictures, and
-/// the program's symbols where the toolkit has old drawings. Symbols take their colour from the
-/// program's palette whenever they are drawn.
+/// the program's symbols where the toolkit has old drawings; a menu bar lies flat on the window's
+/// background. All colours are looked up whenever something is drawn: a style sheet would keep
+/// those of the palette that was in force when it was applied.
 class VantorStyle : public QProxyStyle {
   public:
     VantorStyle();
@@ -15,6 +16,14 @@ class VantorStyle : public QProxyStyle {
                   QStyleHintReturn* returnData) const override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
 };
 
 }  // namespace vantor
