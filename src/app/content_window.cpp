@@ -10,18 +10,19 @@
 
 namespace vantor {
 
-ContentWindow::ContentWindow(const QString& title, std::unique_ptr<QWidget> content, QSize size,
-                             QSize smallest)
+ContentWindow::ContentWindow(const QString& title, std::unique_ptr<QWidget> content)
     : QWidget(nullptr, Qt::Window), content_(content.get()) {
     setWindowTitle(title);
     setWindowIcon(productIcon());
+    const QSize smallest = content->minimumSizeHint();
+    const QSize ideal = content->sizeHint();
     setMinimumSize(smallest);
     setAttribute(Qt::WA_NoSystemBackground);  // the content paints every pixel
     auto* layout = makeLayout<QVBoxLayout>(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content.release());
     const QSize room = screen()->availableSize() - QSize(16, 48);  // less a frame
-    resize(size.boundedTo(room).expandedTo(smallest));
+    resize(ideal.boundedTo(room).expandedTo(smallest));
 }
 
 void ContentWindow::open() {

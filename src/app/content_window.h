@@ -8,12 +8,11 @@
 
 namespace vantor {
 
-/// A window around one view: opens in the middle of its screen at the content's own size, and is
-/// kept when it is closed.
+/// A window around one view: opens in the middle of its screen at the size that the content asks
+/// for, as far as the screen has room, and is kept when it is closed.
 class ContentWindow : public QWidget {
   public:
-    ContentWindow(const QString& title, std::unique_ptr<QWidget> content, QSize size,
-                  QSize smallest);
+    ContentWindow(const QString& title, std::unique_ptr<QWidget> content);
 
     QWidget& content() { return *content_; }
 

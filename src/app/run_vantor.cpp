@@ -1,7 +1,11 @@
 #include "app/run_vantor.h"
 
 #include <QApplication>
+#include <QtGlobal>
 
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -23,13 +27,28 @@ namespace {
 // Long enough for any probe that works, and well within what people take for "at once".
 constexpr std::chrono::milliseconds quitPatience{250};
 
+/// The toolkit aborts where it finds no display: that is no fault of the program to be reported,
+/// but a thing to be said in a sentence.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type == QtFatalMsg) {
+        std::fputs("vantor: no display could be opened; please start it from a desktop session.\n",
+                   stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+    if (type == QtCriticalMsg) std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+}
+
 }  // namespace
 
 int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     // One look everywhere: the desktop's own style knows nothing of our two schemes.
     QApplication::setStyle(std::make_unique<VantorStyle>().release());  // takes ownership
     const QString activationToken = activationTokenOfEnvironment();
-    QApplication application(argc, argv);
+    // The toolkit's own arguments would change the look, and some have it run code of others.
+    int ownArguments = std::min(argc, 1);
+    const auto formerHandler = qInstallMessageHandler(endWithoutDisplay);
+    QApplication application(ownArguments, argv);
+    qInstallMessageHandler(formerHandler);
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("vantor"));

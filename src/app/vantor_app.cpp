@@ -21,7 +21,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QSize settingsSize{520, 560};
 // A desktop's panel that is restarted is back by then.
 constexpr auto trayPatience = 5s;
 // All providers have answered once by then, and what the start needed is free.
@@ -104,10 +103,8 @@ void VantorApp::openSettings() {
     if (!settingsWindow_) {
         auto view = std::make_unique<SettingsView>(SettingsView::Environment{
             settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); }});
-        const QSize smallest = view->minimumSizeHint();
         settingsWindow_ =
-            std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view),
-                                            settingsSize.expandedTo(smallest), smallest);
+            std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view));
         commands_.addTo(settingsWindow_.get());
     }
     settingsWindow_->open();

@@ -5,12 +5,9 @@
 namespace vantor {
 
 void VantorHelpWindow::show() {
-    constexpr QSize usual{700, 620};
     if (!window_) {
         auto view = std::make_unique<HelpView>(machine_->processInfo(), machine_->words());
-        const QSize smallest = view->minimumSizeHint();
-        window_ = std::make_unique<ContentWindow>(QStringLiteral("Vantor Help"), std::move(view),
-                                                  usual, smallest);
+        window_ = std::make_unique<ContentWindow>(QStringLiteral("Vantor Help"), std::move(view));
         prepare_(*window_);
     }
     window_->open();

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include <chrono>
@@ -18,6 +19,7 @@
 #include "sampling/played_export_platform.h"
 #include "ui/cards/cpu_card.h"
 #include "ui/dashboard/dashboard_header.h"
+#include "ui/explorer/process_explorer_view.h"
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 
@@ -186,13 +188,19 @@ struct Outcome {
     QByteArray errors;
 };
 
-Outcome runProgram(const QString& probe, const QString& home) {
+Outcome runProgram(const QStringList& arguments, const QString& home, bool hasDisplay = true) {
     QProcess program;
     QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
     surroundings.insert(QStringLiteral("XDG_CONFIG_HOME"), home);
-    surroundings.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    for (const char* const display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        surroundings.remove(QString::fromLatin1(display));
+    if (hasDisplay)
+        surroundings.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    // Or one that another test started would be the first program of this session.
+    surroundings.insert(QStringLiteral("XDG_RUNTIME_DIR"), home);
+    surroundings.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
     program.setProcessEnvironment(surroundings);
-    program.start(QStringLiteral(VANTOR_QUITTING_PROGRAM), {probe});
+    program.start(QStringLiteral(VANTOR_QUITTING_PROGRAM), arguments);
     Outcome run;
     while (!program.canReadLine()) {
         if (!program.waitForReadyRead(20'000)) break;
@@ -210,17 +218,80 @@ Outcome runProgram(const QString& probe, const QString& home) {
 }
 
 TEST_F(VantorAppTest, TheProgramQuitsAtOnceWhileAProbeHangsForEver) {
-    const Outcome run = runProgram(QStringLiteral("hanging"), folder.path());
+    const Outcome run = runProgram({QStringLiteral("hanging")}, folder.path());
     ASSERT_TRUE(run.ended) << run.errors.toStdString();
     EXPECT_EQ(run.status, 7) << run.errors.toStdString();
     EXPECT_LT(run.millisecondsToEnd, 1000);
 }
 
 TEST_F(VantorAppTest, TheProgramQuitsOrderlyWhenAllProbesAnswer) {
-    const Outcome run = runProgram(QStringLiteral("answering"), folder.path());
+    const Outcome run = runProgram({QStringLiteral("answering")}, folder.path());
     ASSERT_TRUE(run.ended) << run.errors.toStdString();
     EXPECT_EQ(run.status, 7) << run.errors.toStdString();
     EXPECT_LT(run.millisecondsToEnd, 1000);
+}
+
+TEST_F(VantorAppTest, WithoutADisplayItSaysSoInASentenceAndEndsInsteadOfAborting) {
+    const Outcome run = runProgram({QStringLiteral("answering")}, folder.path(), false);
+    ASSERT_TRUE(run.ended) << run.errors.toStdString();
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors.toStdString(),
+              "vantor: no display could be opened; please start it from a desktop session.\n");
+}
+
+TEST_F(VantorAppTest, ArgumentsOfTheToolkitAreNotHandedOn) {
+    const Outcome run = runProgram({QStringLiteral("answering"), QStringLiteral("-platform"),
+                                    QStringLiteral("there is none of this name")},
+                                   folder.path());
+    ASSERT_TRUE(run.ended) << run.errors.toStdString();
+    EXPECT_EQ(run.status, 7) << run.errors.toStdString();
+}
+
+TEST_F(VantorAppTest, SettingsAndHelpOpenLargeEnoughForALargeFont) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    const auto program = start();
+    program->openSettings();
+    program->openHelp();
+    settleEvents();
+    const QSize room = program->settingsWindow()->screen()->availableSize();
+    for (ContentWindow* const window : {program->settingsWindow(), program->helpWindow()}) {
+        const QSize wanted = window->content().sizeHint().boundedTo(room - QSize(16, 48));
+        EXPECT_GE(window->width(), wanted.width()) << utf8(window->windowTitle());
+        EXPECT_GE(window->height(), wanted.height()) << utf8(window->windowTitle());
+        EXPECT_GT(window->width(), 700) << utf8(window->windowTitle());
+    }
+    QApplication::setFont(usual);
+}
+
+/// Ctrl+F is the way to search: what is found has to be on the screen, too.
+class SearchingAtSize : public VantorAppTest, public testing::WithParamInterface<QSize> {};
+
+INSTANTIATE_TEST_SUITE_P(Windows, SearchingAtSize,
+                         testing::Values(QSize(1280, 820), QSize(1920, 1000), QSize(720, 560)));
+
+TEST_P(SearchingAtSize, ShowsTheRowsThatAreFoundOrThatThereAreNone) {
+    const auto program = start();
+    program->openDashboard();
+    DashboardWindow& window = *program->dashboardWindow();
+    window.resize(GetParam());
+    for (int pid = 100; pid < 120; ++pid)
+        machine->processTable().add(pid, "/usr/bin/program" + std::to_string(pid));
+    ASSERT_TRUE(runUntil([&] {
+        machine->clock()->wind(20ms);
+        return !window.dashboard().explorer().table().accessibleRowLabel(0).isEmpty();
+    }));
+    ProcessExplorerView& view = window.dashboard().explorer();
+    view.focusFilter();
+    settleEvents();
+    const auto isOnScreen = [&](QWidget& widget, const QRect& area) {
+        return widget.visibleRegion().boundingRect().contains(area);
+    };
+    EXPECT_TRUE(isOnScreen(view.filter(), view.filter().rect()));
+    for (int row = 0; row < 3; ++row)
+        EXPECT_TRUE(isOnScreen(view.table(), view.table().accessibleRowArea(row))) << row;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScrollArea>
 #include <QShortcut>
@@ -217,6 +218,21 @@ TEST_F(ProcessExplorerViewTest, ARowsHelpIsTheFullCommand) {
     hover(view.table(), view.table().accessibleRowArea(3).center());
     EXPECT_EQ(utf8(QToolTip::text()), "/usr/bin/terminal");
     QToolTip::hideText();
+}
+
+TEST_F(ProcessExplorerViewTest, ARowsHelpGoesWhenAnotherProcessTakesItsPlace) {
+    showProcesses();
+    open();
+    hover(view.table(), view.table().accessibleRowArea(3).center());
+    ASSERT_EQ(utf8(QToolTip::text()), "/usr/bin/terminal");
+    type("edit");
+    wait(150ms);
+    // The toolkit takes it away a moment later.
+    QElapsedTimer patience;
+    patience.start();
+    while (QToolTip::isVisible() && !patience.hasExpired(5000))
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    EXPECT_FALSE(QToolTip::isVisible()) << utf8(QToolTip::text());
 }
 
 TEST_F(ProcessExplorerViewTest, HostileNamesAreDrawnOnOneLine) {

@@ -54,6 +54,7 @@ std::array<MetricRow, 3> GPUCard::rows() const {
     const GPUStats& gpu = isKnown ? gpus.front() : none;
     return {MetricRow{QStringLiteral("Temperature"),
                       text(CardTexts::temperature(gpu.temperatureCelsius)), VantorTheme::orange()},
+            // Without a dot its label would stand out of the column of the other two.
             MetricRow{QStringLiteral("VRAM Used"), text(CardTexts::bytes(gpu.vramUsedBytes)),
                       VantorTheme::purple()},
             MetricRow{QStringLiteral("VRAM Total"), text(CardTexts::bytes(gpu.vramTotalBytes)),

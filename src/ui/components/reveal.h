@@ -5,7 +5,8 @@
 
 namespace vantor {
 
-/// Scrolls what `widget` lies in, if anything, until `area` of it can be seen.
+/// Scrolls what `widget` lies in, if anything, until `area` of it can be seen: the upper
+/// part, where it is taller than the room that there is.
 inline void reveal(QWidget& widget, const QRect& area) {
     constexpr int margin = 24;
     for (QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {

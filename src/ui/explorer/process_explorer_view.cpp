@@ -82,7 +82,8 @@ void ProcessExplorerView::addShortcuts() {
 void ProcessExplorerView::focusFilter() {
     filter_->setFocus(Qt::ShortcutFocusReason);
     filter_->selectAll();
-    reveal(*filter_, filter_->rect());
+    // Whoever searches wants to see the rows that are found as well.
+    reveal(*this, rect());
 }
 
 void ProcessExplorerView::setQuery(const QString& query) {

@@ -74,6 +74,18 @@ void ProcessTableView::show(std::span<const ProcessRow> rows) {
         announceRow(static_cast<int>(i));
     }
     if (before != rows_.size()) announceRowCount();
+    endHelpOfMovedRow(old);
+}
+
+/// What the pointer rests on is another process then.
+void ProcessTableView::endHelpOfMovedRow(const std::vector<Row>& before) {
+    if (!helpPID_) return;
+    const auto placeIn = [this](const std::vector<Row>& rows) {
+        return std::ranges::find(rows, *helpPID_, &Row::pid) - rows.begin();
+    };
+    if (placeIn(before) == placeIn(rows_)) return;
+    helpPID_.reset();
+    QToolTip::hideText();
 }
 
 /// Asked for each row at each tick, it is worked out once for each font.
@@ -228,9 +240,11 @@ bool ProcessTableView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     if (const auto row = rowAt(help->pos())) {
+        helpPID_ = rows_[*row].pid;
         QToolTip::showText(help->globalPos(), toolTipText(rows_[*row].command), this,
                            rowArea(*row).toAlignedRect());
     } else {
+        helpPID_.reset();
         QToolTip::hideText();
     }
     return true;

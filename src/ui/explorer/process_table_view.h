@@ -65,6 +65,7 @@ class ProcessTableView : public PaintedView {
     };
 
     static Row makeRow(const ProcessRow& row);
+    void endHelpOfMovedRow(const std::vector<Row>& before);
     double rowHeight() const;
     QRectF rowArea(std::size_t index) const;
     std::optional<std::size_t> rowAt(QPointF place) const;
@@ -76,6 +77,7 @@ class ProcessTableView : public PaintedView {
     QString symbol_;
     std::vector<Row> rows_;
     std::optional<std::int32_t> currentPID_;
+    std::optional<std::int32_t> helpPID_;  ///< whose command the tool tip says, while it is shown
     FocusRing ring_;
     mutable std::optional<double> rowHeight_;
     mutable QFont rowHeightFont_;  ///< the system's, when the height was worked out
