@@ -80,7 +80,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/failing_card_sensor_test.cpp
         platform/linux/failing_processor_sensor_test.cpp
         platform/linux/file_system_kind_test.cpp
+        platform/linux/file_systems_test.cpp
         platform/linux/graphics_names_test.cpp
+        platform/linux/hidden_block_device_test.cpp
         platform/linux/kernel_facts_test.cpp
         platform/linux/kernel_file_test.cpp
         platform/linux/kernel_list_file_test.cpp
@@ -129,6 +131,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/recorded_proc_stat_test.cpp
         platform/linux/route_tables_test.cpp
         platform/linux/runtime_status_test.cpp
+        platform/linux/silent_battery_test.cpp
         platform/linux/sleeping_graphics_card_test.cpp
         platform/linux/small_file_test.cpp
         platform/linux/steady_counter_test.cpp

@@ -1,5 +1,6 @@
 #include "platform/linux/battery_fill.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -49,22 +50,29 @@ Quantity presentVoltage(const PowerSupplyTexts& battery) {
     return present ? present : positive(battery.voltageDesign);
 }
 
+/// Electronics that have lost count say that a full battery holds nothing.
+std::optional<BatteryFill> fillIn(const PowerSupplyTexts::Text& now,
+                                  const PowerSupplyTexts::Text& full) {
+    const auto present = parseQuantity(now);
+    const auto most = positive(full);
+    if (!present || *present < 0 || !most) return std::nullopt;
+    return BatteryFill{*present, *most, std::nullopt};
+}
+
 std::optional<BatteryFill> energyIn(const PowerSupplyTexts& battery) {
-    const auto now = parseQuantity(battery.energyNow);
-    const auto full = parseQuantity(battery.energyFull);
-    if (!now || !full) return std::nullopt;
-    auto rate = magnitude(battery.powerNow);
-    if (!rate) rate = times(magnitude(battery.currentNow), presentVoltage(battery));
-    return BatteryFill{*now, *full, rate};
+    auto fill = fillIn(battery.energyNow, battery.energyFull);
+    if (!fill) return std::nullopt;
+    fill->rate = magnitude(battery.powerNow);
+    if (!fill->rate) fill->rate = times(magnitude(battery.currentNow), presentVoltage(battery));
+    return fill;
 }
 
 std::optional<BatteryFill> chargeIn(const PowerSupplyTexts& battery) {
-    const auto now = parseQuantity(battery.chargeNow);
-    const auto full = parseQuantity(battery.chargeFull);
-    if (!now || !full) return std::nullopt;
-    auto rate = magnitude(battery.currentNow);
-    if (!rate) rate = divided(magnitude(battery.powerNow), presentVoltage(battery));
-    return BatteryFill{*now, *full, rate};
+    auto fill = fillIn(battery.chargeNow, battery.chargeFull);
+    if (!fill) return std::nullopt;
+    fill->rate = magnitude(battery.currentNow);
+    if (!fill->rate) fill->rate = divided(magnitude(battery.powerNow), presentVoltage(battery));
+    return fill;
 }
 
 std::optional<BatteryFill> energyOrConvertedCharge(const PowerSupplyTexts& battery) {
@@ -79,15 +87,15 @@ std::optional<BatteryFill> energyOrConvertedCharge(const PowerSupplyTexts& batte
 }
 
 std::optional<BatteryFill> percentIn(const PowerSupplyTexts& battery) {
+    constexpr std::int64_t largestPercent = largestQuantity / 100;
     auto percent = parseQuantity(battery.capacity);
-    if (!percent) {
+    if (!percent || *percent < 0 || *percent > largestPercent) {
         auto fill = energyIn(battery);
         if (!fill) fill = chargeIn(battery);
-        if (!fill || fill->now < 0 || fill->full < 1) return std::nullopt;
-        percent =
-            std::llround(100.0 * static_cast<double>(fill->now) / static_cast<double>(fill->full));
+        if (!fill) return std::nullopt;
+        const double share = static_cast<double>(fill->now) / static_cast<double>(fill->full);
+        percent = std::min<std::int64_t>(std::llround(100 * share), largestPercent);
     }
-    if (*percent < 0 || *percent > largestQuantity / 100) return std::nullopt;
     return BatteryFill{*percent, 100, std::nullopt};
 }
 
@@ -96,11 +104,13 @@ bool isAtWork(const PowerSupplyTexts& battery) {
     return battery.status == "Charging" || battery.status == "Discharging";
 }
 
+/// Absent when one of those that say how full they are does not say it by that measure.
 template <class Measure>
 std::optional<BatteryFill> sumOf(std::span<const PowerSupplyTexts> batteries, Measure measure) {
     BatteryFill sum;
     bool someoneAtWorkIsSilent = false;
     for (const PowerSupplyTexts& battery : batteries) {
+        if (!saysHowFull(battery)) continue;
         const auto fill = measure(battery);
         if (!fill) return std::nullopt;
         sum.now += fill->now;
@@ -124,10 +134,19 @@ std::optional<std::int64_t> parseQuantity(const PowerSupplyTexts::Text& text) {
     return value;
 }
 
+bool saysEnergy(const PowerSupplyTexts& battery) {
+    return energyIn(battery).has_value();
+}
+
+bool saysHowFull(const PowerSupplyTexts& battery) {
+    return percentIn(battery).has_value();
+}
+
 std::optional<BatteryFill> fillOf(std::span<const PowerSupplyTexts> batteries) {
-    if (batteries.empty()) return std::nullopt;
+    const auto telling = std::count_if(batteries.begin(), batteries.end(), saysHowFull);
+    if (telling == 0) return std::nullopt;
     if (const auto energy = sumOf(batteries, energyIn)) return energy;
-    if (batteries.size() > 1) {
+    if (telling > 1) {
         if (const auto energy = sumOf(batteries, energyOrConvertedCharge)) return energy;
     }
     if (const auto charge = sumOf(batteries, chargeIn)) return charge;

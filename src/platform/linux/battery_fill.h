@@ -22,8 +22,15 @@ struct BatteryFill {
 /// any battery could have. Pure.
 std::optional<std::int64_t> parseQuantity(const PowerSupplyTexts::Text& text);
 
-/// By energy where all batteries have it, or charge and voltage; else by charge; else by the mean
-/// of the percentages. Absent when one of them does not say. Pure.
+/// Whether it says its energy now and when full. Pure.
+bool saysEnergy(const PowerSupplyTexts& battery);
+
+/// Whether it says how full it is, in whatever way. Pure.
+bool saysHowFull(const PowerSupplyTexts& battery);
+
+/// Of those batteries that say how full they are: by energy where all have it, or charge and
+/// voltage; else by charge; else by the mean of the percentages. Absent when none of them says.
+/// Pure.
 std::optional<BatteryFill> fillOf(std::span<const PowerSupplyTexts> batteries);
 
 }  // namespace vantor

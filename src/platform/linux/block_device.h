@@ -16,7 +16,8 @@ struct BlockDeviceFacts {
 };
 
 /// Through stacks of devices (device mapper, RAID) down to the disks: internal when all of them
-/// are, removable when one is. What has no device that sysfs knows is internal.
+/// are, removable when one is. What has no device that sysfs knows is internal, and so is one that
+/// this program is not shown, unless its place says otherwise.
 BlockDeviceFacts readBlockDevice(const LinuxRoots& roots, const Mount& mount);
 
 }  // namespace vantor

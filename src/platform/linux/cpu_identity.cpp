@@ -67,6 +67,17 @@ std::filesystem::path processorFolder(const LinuxRoots& roots, std::uint32_t id)
     return roots.sys / "devices/system/cpu" / ("cpu" + std::to_string(id));
 }
 
+/// A number of hertz in a file of the first processor online that counts in `unit`s of them.
+std::optional<std::uint64_t> readFrequencyHz(const LinuxRoots& roots, const char* file,
+                                             std::int64_t unit) {
+    constexpr std::int64_t terahertz = 1'000'000'000'000;
+    const auto online = readCPUList(roots, "online");
+    const auto number =
+        online ? readInteger(processorFolder(roots, online->front()) / file) : std::nullopt;
+    if (!number || *number <= 0 || *number >= terahertz / unit) return std::nullopt;
+    return static_cast<std::uint64_t>(*number * unit);
+}
+
 }  // namespace
 
 std::optional<std::string> findInCPUInfo(std::string_view text, std::string_view key) {
@@ -135,15 +146,10 @@ std::optional<std::int32_t> countPhysicalCores(const LinuxRoots& roots) {
 }
 
 std::optional<std::uint64_t> readNominalFrequencyHz(const LinuxRoots& roots) {
-    if (const auto online = readCPUList(roots, "online")) {
-        const auto file = processorFolder(roots, online->front()) / "cpufreq/base_frequency";
-        const auto kilohertz = readInteger(file);
-        if (kilohertz && *kilohertz > 0 && *kilohertz < 1'000'000'000) {
-            return static_cast<std::uint64_t>(*kilohertz) * 1000;
-        }
-    }
+    if (const auto hertz = readFrequencyHz(roots, "cpufreq/base_frequency", 1000)) return hertz;
     const auto name = readProcessorName(roots);
-    return name ? frequencyInName(*name) : std::nullopt;
+    if (const auto hertz = name ? frequencyInName(*name) : std::nullopt) return hertz;
+    return readFrequencyHz(roots, "acpi_cppc/nominal_freq", 1'000'000);
 }
 
 }  // namespace vantor

@@ -26,7 +26,8 @@ std::optional<std::int32_t> countPresentProcessors(const LinuxRoots& roots);
 std::optional<std::int32_t> countPhysicalCores(const LinuxRoots& roots);
 
 /// base_frequency of the first processor online (the intel_pstate driver has one), else the
-/// "@ n GHz" of the processor's name.
+/// "@ n GHz" of the processor's name, else what the firmware tells the system
+/// (acpi_cppc/nominal_freq).
 std::optional<std::uint64_t> readNominalFrequencyHz(const LinuxRoots& roots);
 
 /// The value of the first "key : value" line of a cpuinfo text with that key. Pure.

@@ -27,6 +27,15 @@ std::optional<std::uint64_t> mountOf(int file) {
     return std::nullopt;
 }
 
+/// Figures that contradict each other are left as they are, as is a file system of which nothing
+/// would be left.
+std::uint64_t blocksForEveryone(const struct statvfs& answer) {
+    if (answer.f_bavail > answer.f_bfree || answer.f_bfree > answer.f_blocks)
+        return answer.f_blocks;
+    const std::uint64_t reserved = answer.f_bfree - answer.f_bavail;
+    return reserved < answer.f_blocks ? answer.f_blocks - reserved : answer.f_blocks;
+}
+
 class LiveFileSystems : public FileSystems {
   public:
     std::optional<Space> space(const std::string& path) override {
@@ -39,12 +48,21 @@ class LiveFileSystems : public FileSystems {
             result = ::fstatvfs(place.get(), &answer);
         } while (result != 0 && errno == EINTR);
         if (result != 0) return std::nullopt;
-        return Space{answer.f_frsize, answer.f_blocks, answer.f_bavail,
-                     (answer.f_flag & ST_RDONLY) != 0, mountOf(place.get())};
+        Space space = spaceIn(answer);
+        space.mountID = mountOf(place.get());
+        return space;
     }
 };
 
 }  // namespace
+
+FileSystems::Space spaceIn(const struct statvfs& answer) {
+    return {answer.f_frsize,
+            blocksForEveryone(answer),
+            answer.f_bavail,
+            (answer.f_flag & ST_RDONLY) != 0,
+            {}};
+}
 
 std::shared_ptr<FileSystems> makeLiveFileSystems() {
     return std::make_shared<LiveFileSystems>();

@@ -5,15 +5,17 @@
 #include <optional>
 #include <string>
 
+struct statvfs;
+
 namespace vantor {
 
 /// What a mounted file system says of itself. Any call may hang for as long as the file system
 /// does. One thread at a time.
 class FileSystems {
   public:
-    /// The figures of statvfs.
     struct Space {
         std::uint64_t fragmentSize = 0;  ///< bytes of one block
+        /// Used and available ones, without those that are kept for the privileged.
         std::uint64_t blocks = 0;
         std::uint64_t availableBlocks = 0;  ///< to a user without privileges
         bool isReadOnly = false;
@@ -27,6 +29,10 @@ class FileSystems {
     /// Absent when the call fails.
     virtual std::optional<Space> space(const std::string& path) = 0;
 };
+
+/// The figures of an answer that says nothing of the mount. What is used of them, what is available
+/// and the share of both are df's. Pure.
+FileSystems::Space spaceIn(const struct statvfs& answer);
 
 std::shared_ptr<FileSystems> makeLiveFileSystems();
 

@@ -1,5 +1,7 @@
 #include "platform/linux/linux_kernel_values.h"
 
+#include <sys/utsname.h>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -35,6 +37,14 @@ KernelBytes toBytes(const std::optional<std::string>& text) {
     return bytes;
 }
 
+/// The file may be out of bounds for a program that is confined; the call is not.
+std::optional<std::string> nameRunningKernel(const LinuxRoots& roots) {
+    if (auto release = readKernelRelease(roots)) return release;
+    utsname name{};
+    if (::uname(&name) != 0 || name.release[0] == '\0') return std::nullopt;
+    return std::string(name.release);
+}
+
 struct KernelValueEntry {
     std::string_view name;
     KernelBytes (*read)(const LinuxRoots&);
@@ -60,7 +70,7 @@ constexpr std::array entries{
     KernelValueEntry{"kern.maxproc",
                      [](const LinuxRoots& roots) { return toBytes(readProcessLimit(roots)); }},
     KernelValueEntry{"kern.osversion",
-                     [](const LinuxRoots& roots) { return toBytes(readKernelRelease(roots)); }},
+                     [](const LinuxRoots& roots) { return toBytes(nameRunningKernel(roots)); }},
 };
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace vantor {
 ///   hw.memsize                64-bit   bytes of memory: MemTotal
 ///   hw.tbfrequency            64-bit   units of process times in a second: they are nanoseconds
 ///   kern.maxproc              32-bit   processes there can be: pid_max
-///   kern.osversion            text     release of the kernel
+///   kern.osversion            text     release of the kernel, by uname where its file is missing
 ///
 /// Any other name is ENOENT, as is one whose file is missing or malformed.
 class LinuxKernelValues : public KernelValues {

@@ -91,7 +91,7 @@ void readBattery(SupplyFiles& files, PowerSupplyTexts& texts) {
     texts.status = files.read("status");
     texts.energyNow = files.read("energy_now");
     texts.energyFull = files.read("energy_full");
-    const bool hasEnergy = texts.energyNow && texts.energyFull;
+    const bool hasEnergy = saysEnergy(texts);
     if (!hasEnergy) {
         texts.chargeNow = files.read("charge_now");
         texts.chargeFull = files.read("charge_full");
@@ -126,7 +126,7 @@ std::optional<PowerSupplyTexts> readSupply(int parent, const std::string& name) 
     if (texts.present == "0") return texts;
     readBattery(files, texts);
     // A battery that was pulled out meanwhile is not one that cannot be read.
-    if (!fillOf({&texts, 1}) && !files.isStillThere()) return std::nullopt;
+    if (!saysHowFull(texts) && !files.isStillThere()) return std::nullopt;
     return texts;
 }
 

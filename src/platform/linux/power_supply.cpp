@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 #include "platform/linux/battery_fill.h"
@@ -74,23 +75,32 @@ std::string nameOf(Supplies batteries) {
     return name;
 }
 
+/// A worn-out battery that says nothing does not stand for the machine beside one that does.
+std::vector<PowerSupplyTexts> thoseThatSayHowFull(Supplies batteries) {
+    std::vector<PowerSupplyTexts> telling;
+    std::copy_if(batteries.begin(), batteries.end(), std::back_inserter(telling), saysHowFull);
+    if (telling.empty()) telling.assign(batteries.begin(), batteries.end());
+    return telling;
+}
+
 PropertyDictionary describe(const char* type, Supplies all, Supplies batteries) {
+    const auto telling = thoseThatSayHowFull(batteries);
     PropertyDictionary description;
     description.push_back({"Type", type});
-    description.push_back({"Name", nameOf(batteries)});
+    description.push_back({"Name", nameOf(telling)});
     description.push_back(
         {"Power Source State", isOnAC(all, batteries) ? "AC Power" : "Battery Power"});
     const bool isCharging = std::any_of(batteries.begin(), batteries.end(),
                                         [](const auto& b) { return b.status == "Charging"; });
     description.push_back({"Is Charging", isCharging});
-    const auto fill = fillOf(batteries);
+    const auto fill = fillOf(telling);
     if (fill) {
         description.push_back({"Current Capacity", fill->now});
         description.push_back({"Max Capacity", fill->full});
     }
-    describeTimes(description, batteries, fill, isCharging);
+    describeTimes(description, telling, fill, isCharging);
     std::int64_t cycles = 0;
-    for (const PowerSupplyTexts& battery : batteries)
+    for (const PowerSupplyTexts& battery : telling)
         cycles = std::max(cycles, parseQuantity(battery.cycleCount).value_or(0));
     if (cycles > 0) description.push_back({"Cycle Count", cycles});
     return description;

@@ -43,8 +43,8 @@ struct PowerSupplyTexts {
 };
 
 /// The power sources with the keys of PowerSources::Info. All batteries of the machine together are
-/// one, the first; each UPS is another. A supply without a type gives a source without a
-/// description, for it may be a battery. Pure.
+/// one, the first, which has the figures of those that say how full they are; each UPS is another.
+/// A supply without a type gives a source without a description, for it may be a battery. Pure.
 std::vector<std::optional<PropertyDictionary>> describePowerSupplies(
     std::span<const PowerSupplyTexts> supplies);
 

@@ -1,6 +1,7 @@
 #include "platform/linux/processor_sensor_names.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <string>
 #include <system_error>
@@ -27,6 +28,9 @@ std::optional<ProcessorSensorRole> numbered(std::string_view label, std::string_
     return ProcessorSensorRole{part, part == Part::core ? *number : 0};
 }
 
+constexpr std::array<std::string_view, 6> processorZonePrefixes{
+    "cpu", "bigcore", "big-core", "littlecore", "little-core", "cluster"};
+
 bool isAMDMonitor(std::string_view driver) {
     return driver == "k10temp" || driver == "zenpower";
 }
@@ -34,7 +38,7 @@ bool isAMDMonitor(std::string_view driver) {
 }  // namespace
 
 bool isProcessorMonitor(std::string_view driver) {
-    return driver == "coretemp" || isAMDMonitor(driver);
+    return driver == "coretemp" || driver == "via_cputemp" || isAMDMonitor(driver);
 }
 
 std::optional<ProcessorSensorRole> processorSensorRole(std::string_view driver,
@@ -43,6 +47,7 @@ std::optional<ProcessorSensorRole> processorSensorRole(std::string_view driver,
         if (const auto package = numbered(label, "Package id ", Part::package)) return package;
         return numbered(label, "Core ", Part::core);
     }
+    if (driver == "via_cputemp") return numbered(label, "Core ", Part::core);
     if (!isAMDMonitor(driver)) return std::nullopt;
     if (label == "Tdie") return ProcessorSensorRole{Part::package, 0};
     // Without a label where the chip has but one sensor and the kernel is old.
@@ -54,8 +59,10 @@ bool isProcessorZone(std::string_view type) {
     if (type == "x86_pkg_temp") return true;
     std::string name(type);
     std::replace(name.begin(), name.end(), '_', '-');
-    if (name == "soc-thermal") return true;
-    return name.starts_with("cpu") && name.ends_with("-thermal");
+    if (name == "soc-thermal" || name == "package-thermal") return true;
+    if (!name.ends_with("-thermal")) return false;
+    const auto begins = [&name](std::string_view prefix) { return name.starts_with(prefix); };
+    return std::any_of(processorZonePrefixes.begin(), processorZonePrefixes.end(), begins);
 }
 
 std::optional<unsigned> temperatureInputNumber(std::string_view fileName) {

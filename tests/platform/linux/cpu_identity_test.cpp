@@ -198,6 +198,9 @@ class NominalFrequency : public CPUIdentity {
     void baseFrequency(std::string_view kilohertz) {
         tree.sys("devices/system/cpu/cpu2/cpufreq/base_frequency", kilohertz);
     }
+    void firmwareFrequency(std::string_view megahertz) {
+        tree.sys("devices/system/cpu/cpu2/acpi_cppc/nominal_freq", megahertz);
+    }
 };
 
 TEST_F(NominalFrequency, IsTheBaseFrequencyOfTheFirstProcessorOnline) {
@@ -216,6 +219,24 @@ TEST_F(NominalFrequency, IsTheOneOfTheNameWhereTheBaseFrequencyIsNonsense) {
     for (const char* nonsense : {"0\n", "-1\n", "1000000000\n", "fast\n", "", "24 00\n"}) {
         baseFrequency(nonsense);
         EXPECT_EQ(readNominalFrequencyHz(roots), 2'600'000'000U) << nonsense;
+    }
+}
+
+TEST_F(NominalFrequency, IsTheOneOfTheFirmwareWhereNothingElseNamesOne) {
+    firmwareFrequency("3000\n");
+    EXPECT_EQ(readNominalFrequencyHz(roots), 3'000'000'000U);
+    tree.proc("cpuinfo", "model name\t: Ryzen 9 16-Core Processor\n");
+    EXPECT_EQ(readNominalFrequencyHz(roots), 3'000'000'000U);
+    tree.proc("cpuinfo", x86Info);
+    EXPECT_EQ(readNominalFrequencyHz(roots), 2'600'000'000U);
+    baseFrequency("2400000\n");
+    EXPECT_EQ(readNominalFrequencyHz(roots), 2'400'000'000U);
+}
+
+TEST_F(NominalFrequency, IsAbsentWhereTheFirmwareTalksNonsense) {
+    for (const char* nonsense : {"0\n", "-1\n", "1000000\n", "fast\n", "", "30 00\n"}) {
+        firmwareFrequency(nonsense);
+        EXPECT_EQ(readNominalFrequencyHz(roots), std::nullopt) << nonsense;
     }
 }
 

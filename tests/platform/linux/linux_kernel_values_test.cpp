@@ -1,6 +1,7 @@
 #include "platform/linux/linux_kernel_values.h"
 
 #include <gtest/gtest.h>
+#include <sys/utsname.h>
 
 #include <array>
 #include <cerrno>
@@ -84,11 +85,20 @@ TEST(LinuxKernelValues, KnowNothingOfAMachineWithoutFiles) {
     const FakeKernelTree tree;
     LinuxKernelValues values(tree.roots());
     std::size_t size = 0;
-    for (const char* name :
-         {"machdep.cpu.brand_string", "hw.model", "hw.logicalcpu", "hw.physicalcpu",
-          "hw.cpufrequency", "hw.memsize", "kern.maxproc", "kern.osversion"}) {
+    for (const char* name : {"machdep.cpu.brand_string", "hw.model", "hw.logicalcpu",
+                             "hw.physicalcpu", "hw.cpufrequency", "hw.memsize", "kern.maxproc"}) {
         EXPECT_EQ(values.sysctlbyname(name, {}, size), ENOENT) << name;
     }
+}
+
+TEST(LinuxKernelValues, NameTheRunningKernelWhereItsFileMayNotBeRead) {
+    utsname running{};
+    ASSERT_EQ(::uname(&running), 0);
+    const FakeKernelTree tree;
+    LinuxKernelValues values(tree.roots());
+    EXPECT_EQ(Sysctl(values).string("kern.osversion"), running.release);
+    tree.proc("sys/kernel/osrelease", "\n");
+    EXPECT_EQ(Sysctl(values).string("kern.osversion"), running.release);
 }
 
 }  // namespace

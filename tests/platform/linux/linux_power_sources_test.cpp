@@ -98,6 +98,30 @@ TEST_F(LinuxPowerSourcesTest, TwoBatteriesInTheOrderOfTheirNames) {
               PowerReadResult::update(PowerStats{"45N1127 + Outer", 0.5, false, false, 150, 321}));
 }
 
+TEST_F(LinuxPowerSourcesTest, OneOfTwoBatteriesThatSaysNothing) {
+    supply("BAT0", {{"type", "Battery"}, {"status", "Discharging"}, {"capacity", "64"}});
+    supply("BAT1", {{"type", "Battery"}, {"present", "1"}, {"status", "Unknown"}});
+    EXPECT_EQ(answer(), "64");
+}
+
+TEST_F(LinuxPowerSourcesTest, ABatteryWhoseFullEnergyIsZeroSaysPercent) {
+    supply("BAT0", {{"type", "Battery"},
+                    {"status", "Discharging"},
+                    {"energy_now", "0"},
+                    {"energy_full", "0"},
+                    {"capacity", "64"}});
+    EXPECT_EQ(answer(), "64");
+}
+
+TEST_F(LinuxPowerSourcesTest, ABatteryWhoseFullChargeIsZeroSaysPercent) {
+    supply("BAT0", {{"type", "Battery"},
+                    {"status", "Discharging"},
+                    {"charge_now", "0"},
+                    {"charge_full", "0"},
+                    {"capacity", "64"}});
+    EXPECT_EQ(answer(), "64");
+}
+
 TEST_F(LinuxPowerSourcesTest, AMachineWithoutTheFolderHasNoPowerSource) {
     EXPECT_EQ(answer(), "none");
 }

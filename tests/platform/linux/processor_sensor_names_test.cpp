@@ -49,6 +49,8 @@ INSTANTIATE_TEST_SUITE_P(
                     SensorRow{{"AMDOther"}, "k10temp", "Tsomething", none},
                     SensorRow{{"AMDByAnotherDriver"}, "zenpower", "Tdie", package},
                     SensorRow{{"AMDCoreDieByAnotherDriver"}, "zenpower", "Tccd3", core(3)},
+                    SensorRow{{"ThirdMakersCore"}, "via_cputemp", "Core 3", core(3)},
+                    SensorRow{{"ThirdMakersNoLabel"}, "via_cputemp", "", none},
                     SensorRow{{"LabelOfTheOtherMaker"}, "coretemp", "Tdie", none},
                     SensorRow{{"LabelOfTheOtherMaker2"}, "k10temp", "Package id 0", none},
                     SensorRow{{"Disk"}, "drivetemp", "", none},
@@ -66,8 +68,8 @@ TEST_P(ProcessorSensorName, HasItsRole) {
     }
 }
 
-TEST(ProcessorMonitors, AreThreeDrivers) {
-    for (const char* driver : {"coretemp", "k10temp", "zenpower"})
+TEST(ProcessorMonitors, AreFourDrivers) {
+    for (const char* driver : {"coretemp", "via_cputemp", "k10temp", "zenpower"})
         EXPECT_TRUE(isProcessorMonitor(driver)) << driver;
     for (const char* driver : {"", "coretemp2", "Coretemp", "drivetemp", "nvme", "amdgpu",
                                "nouveau", "i915", "xe", "acpitz", "nct6775", "iwlwifi_1", "BAT0"})
@@ -82,6 +84,17 @@ TEST(ProcessorZones, AreThoseAtTheProcessor) {
     for (const char* type : {"", "acpitz", "gpu-thermal", "gpu_thermal", "INT3400 Thermal",
                              "iwlwifi_1", "pch_skylake", "TCPU", "B0D4", "battery", "cpu",
                              "cpu-thermal2", "thermal", "x86_pkg_temp2", "ddr-thermal"})
+        EXPECT_FALSE(isProcessorZone(type)) << type;
+}
+
+// Boards with an RK3588 and their like: none of the zones is named after a "cpu".
+TEST(ProcessorZones, AreThoseOfClustersOfBigAndLittleCores) {
+    for (const char* type : {"package-thermal", "package_thermal", "bigcore0-thermal",
+                             "bigcore2-thermal", "bigcore-thermal", "littlecore-thermal",
+                             "little-core-thermal", "little_core_thermal", "cluster0-thermal"})
+        EXPECT_TRUE(isProcessorZone(type)) << type;
+    for (const char* type : {"center-thermal", "npu-thermal", "package", "bigcore0", "cluster0",
+                             "mypackage-thermal", "sub-cluster-thermal"})
         EXPECT_FALSE(isProcessorZone(type)) << type;
 }
 

@@ -1,0 +1,73 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/linux/power_supply.h"
+
+/// Batteries that are there and say nothing of how full they are, as worn-out ones do.
+namespace vantor::silent_battery_test {
+namespace {
+
+using testing::SizeIs;
+using Supplies = std::vector<PowerSupplyTexts>;
+
+PropertyDictionary describe(const Supplies& supplies) {
+    const auto sources = describePowerSupplies(supplies);
+    EXPECT_THAT(sources, SizeIs(1));
+    if (sources.empty() || !sources.front()) return {};
+    return *sources.front();
+}
+
+std::string text(const PropertyDictionary& description, const char* key) {
+    const std::string* const value = findText(description, key);
+    return value ? *value : "none";
+}
+
+PowerSupplyTexts wornOut(const char* folder, const char* status) {
+    PowerSupplyTexts texts;
+    texts.folder = folder;
+    texts.type = "Battery";
+    texts.status = status;
+    return texts;
+}
+
+PowerSupplyTexts battery(const char* folder, const char* status) {
+    PowerSupplyTexts texts = wornOut(folder, status);
+    texts.energyNow = "40000000";
+    texts.energyFull = "50000000";
+    texts.powerNow = "10000000";
+    return texts;
+}
+
+TEST(SilentBatteries, DoNotHideTheOthers) {
+    const auto good = [] {
+        PowerSupplyTexts texts = battery("BAT0", "Discharging");
+        texts.timeToEmpty = "7260";
+        return texts;
+    }();
+    const auto worn = wornOut("BAT1", "Unknown");
+    for (const Supplies& both : {Supplies{good, worn}, Supplies{worn, good}}) {
+        const auto description = describe(both);
+        EXPECT_EQ(text(description, "Name"), "BAT0");
+        EXPECT_EQ(findInteger(description, "Current Capacity"), 40000000);
+        EXPECT_EQ(findInteger(description, "Max Capacity"), 50000000);
+        EXPECT_EQ(findInteger(description, "Time to Empty"), 121) << "as if it were alone";
+    }
+}
+
+TEST(SilentBatteries, SayWhetherTheyFeedTheMachine) {
+    const auto description = describe({battery("BAT0", "Full"), wornOut("BAT1", "Discharging")});
+    EXPECT_EQ(text(description, "Power Source State"), "Battery Power");
+}
+
+TEST(SilentBatteries, AloneAreOneSourceWithoutCapacities) {
+    const auto description = describe({wornOut("BAT0", "Full"), wornOut("BAT1", "Unknown")});
+    EXPECT_EQ(text(description, "Type"), "InternalBattery");
+    EXPECT_EQ(text(description, "Name"), "BAT0 + BAT1");
+    EXPECT_EQ(find(description, "Current Capacity"), nullptr);
+}
+
+}  // namespace
+}  // namespace vantor::silent_battery_test
