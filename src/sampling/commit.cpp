@@ -86,8 +86,9 @@ bool applySlowSections(PendingUpdate& update, DashboardState& state, std::size_t
         ++state.revisions.processes;
         changed = true;
     }
-    state.answered.gpus |= update.gpus.has_value();
-    state.answered.volumes |= update.volumes.has_value();
+    // That there is nothing is news too, once.
+    if (update.gpus && !std::exchange(state.answered.gpus, true)) changed = true;
+    if (update.volumes && !std::exchange(state.answered.volumes, true)) changed = true;
     if (update.gpus && applyGPUs(std::move(*update.gpus), state, limit)) changed = true;
     if (update.volumes && *update.volumes != state.snapshot.volumes) {
         state.snapshot.volumes = std::move(*update.volumes);

@@ -217,7 +217,7 @@ void SystemMonitor::stopCoordinator(bool invalidatePendingResults) {
     ++generation_;
     cancelTask(pendingCommitTask_);
     pendingUpdate_ = PendingUpdate{};
-    sampler().resetDeltaBaselines();
+    if (sampler_) sampler_->resetDeltaBaselines();
 }
 
 }  // namespace vantor

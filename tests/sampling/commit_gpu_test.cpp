@@ -48,9 +48,11 @@ TEST(GPUCommit, UtilizationOfALaterDeviceDoesNotMoveTheGraph) {
     EXPECT_THAT(state.histories.gpu, IsEmpty());
 }
 
-TEST(GPUCommit, FirstEmptyListChangesNothing) {
+TEST(GPUCommit, FirstEmptyListTouchesNoRevision) {
     DashboardState state;
+    EXPECT_TRUE(applyGPUs({}, state)) << "it is known now that there is none";
     EXPECT_FALSE(applyGPUs({}, state));
+    EXPECT_EQ(state.revisions.gpu, 0u);
     EXPECT_EQ(state.gpuHistoryDeviceID, std::nullopt);
 }
 

@@ -197,17 +197,19 @@ TEST(Commit, VolumesCountOnlyWhenTheyDiffer) {
     EXPECT_EQ(state.revisions.storage, 2u);
 }
 
-TEST(Commit, AnEmptyListChangesNothingButIsAnAnswer) {
+TEST(Commit, AnEmptyFirstListIsAnAnswerOnce) {
     DashboardState state;
     PendingUpdate update;
     update.gpus = std::vector<GPUStats>{};
-    EXPECT_FALSE(apply(update, state));
+    EXPECT_TRUE(apply(update, state));
     EXPECT_TRUE(state.answered.gpus);
     EXPECT_FALSE(state.answered.volumes);
+    EXPECT_FALSE(apply(update, state));
     update = {};
     update.volumes = std::vector<VolumeStats>{};
-    EXPECT_FALSE(apply(update, state));
+    EXPECT_TRUE(apply(update, state));
     EXPECT_TRUE(state.answered.volumes);
+    EXPECT_FALSE(apply(update, state));
     EXPECT_EQ(state.revisions, Revisions{});
 }
 

@@ -171,12 +171,49 @@ TEST(SystemMonitor, PublishesNothingWhenNothingChanged) {
     EXPECT_EQ(world.publications, 1);
 }
 
+TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoVolumes) {
+    WoundWorld world;
+    world.monitor->receiveVolumes(std::vector<VolumeStats>{}, 0);
+    world.advance(30ms);
+    EXPECT_EQ(world.publications, 1);
+    EXPECT_TRUE(world.state().answered.volumes);
+    EXPECT_FALSE(world.state().answered.gpus);
+    world.monitor->receiveVolumes(std::vector<VolumeStats>{}, 0);
+    world.advance(30ms);
+    EXPECT_EQ(world.publications, 1);
+    EXPECT_EQ(world.revisions(), Revisions{});
+}
+
+TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoGraphicsDevices) {
+    WoundWorld world;
+    world.monitor->receiveGPUs(std::vector<GPUStats>{}, 0);
+    world.advance(30ms);
+    EXPECT_EQ(world.publications, 1);
+    EXPECT_TRUE(world.state().answered.gpus);
+    EXPECT_FALSE(world.state().answered.volumes);
+    world.monitor->receiveGPUs(std::vector<GPUStats>{}, 0);
+    world.advance(30ms);
+    EXPECT_EQ(world.publications, 1);
+    EXPECT_EQ(world.revisions(), Revisions{});
+}
+
 TEST(SystemMonitor, StampsTheSnapshotWithTheTimeOfTheCommit) {
     WoundWorld world;
     world.advance(5s);
     world.receiveCPU(cpuReading(0.1));
     world.advance(30ms);
     EXPECT_EQ(world.state().snapshot.timestamp, world.machine->wallClock().now());
+}
+
+TEST(SystemMonitor, APauseBeforeAnyReadingMakesNoQueues) {
+    WoundWorld world;
+    world.monitor->togglePause();
+    world.settle();
+    EXPECT_THAT(world.queues->labels(), IsEmpty());
+    EXPECT_THAT(world.takeSubmissions(), IsEmpty());
+    world.monitor->togglePause();
+    world.settle();
+    EXPECT_THAT(world.queues->labels(), SizeIs(allProviders.size()));
 }
 
 TEST(SystemMonitor, BatteryThatGoesCountsInTheSystemSection) {
