@@ -126,9 +126,11 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/pid_listing_test.cpp
         platform/linux/power_supply_test.cpp
         platform/linux/proc_stat_test.cpp
+        platform/linux/process_arguments_test.cpp
         platform/linux/process_stat_test.cpp
         platform/linux/processor_sensor_names_test.cpp
         platform/linux/recorded_proc_stat_test.cpp
+        platform/linux/route_source_test.cpp
         platform/linux/route_tables_test.cpp
         platform/linux/runtime_status_test.cpp
         platform/linux/silent_battery_test.cpp

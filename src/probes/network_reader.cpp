@@ -5,8 +5,8 @@
 #include <cmath>
 #include <vector>
 
-#include "model/utf8.h"
 #include "probes/interface_order.h"
+#include "probes/kernel_text.h"
 
 namespace vantor {
 
@@ -28,15 +28,13 @@ void assignAddress(std::optional<std::string>& to, const std::string& address) {
         to.reset();
     } else {
         to = address;
+        makeUTF8(*to);  // a scope is an interface's name
     }
 }
 
-/// Kernels let names be any bytes; a record's texts are UTF-8.
 void assignName(std::string& to, std::string_view name) {
     to = name;
-    if (isUTF8(name)) return;
-    const auto isForeign = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
-    std::replace_if(to.begin(), to.end(), isForeign, '?');
+    makeUTF8(to);
 }
 
 }  // namespace
@@ -158,6 +156,7 @@ const std::string& NetworkReader::hostName(double uptime) {
     if (!cachedHostname_ || uptime - lastHostnameLookupUptime_ >= hostnameLifetime) {
         if (!cachedHostname_) cachedHostname_.emplace();
         machine_->processInfo().hostName(*cachedHostname_);
+        makeUTF8(*cachedHostname_);
         lastHostnameLookupUptime_ = uptime;
     }
     return *cachedHostname_;

@@ -20,6 +20,8 @@ constexpr std::size_t mostListEntries =
     static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()) / sizeof(std::int32_t);
 constexpr int listAttempts = 3;
 constexpr double refreshPeriod = 10.0;
+// Questions are put every ten seconds or a little later: the next one is still within the minute.
+constexpr double certainRefreshPeriod = 50.0;
 
 std::int64_t findMaximumPIDCapacity(Machine& machine) {
     const auto maximum = Sysctl(machine.kernelValues()).int32("kern.maxproc");
@@ -37,6 +39,11 @@ double findTimebaseFrequency(Machine& machine) {
 /// Soon, and not for all new processes at once.
 double firstRefreshPeriod(std::int32_t pid) {
     return (pid % 16) * 0.5 + 2.0;
+}
+
+/// Those whose questions are put together are looked up in different parts of the minute.
+double firstCertainRefreshPeriod(std::int32_t pid) {
+    return pid / 16 % 5 * refreshPeriod;
 }
 
 }  // namespace
@@ -118,8 +125,13 @@ const ProcessMetadata& ProcessReader::metadata(std::int32_t pid, const ProcessId
     if (!known) known = &storage_.metadataByPID[pid];
     known->identity = identity;
     known->nextRefreshUptime = now + (isSame ? refreshPeriod : firstRefreshPeriod(pid));
-    const bool isSettled = isSame && !machine_->processTable().mayHaveNewPath(pid);
-    if (!isSettled) names_.lookUp(pid, *known);
+    if (!isSame) known->nextCertainRefreshUptime = now + firstCertainRefreshPeriod(pid);
+    // Who sleeps starts no other program, but its executable may be renamed.
+    const bool isSettled = isSame && now < known->nextCertainRefreshUptime &&
+                           !machine_->processTable().mayHaveNewPath(pid);
+    if (isSettled) return *known;
+    if (isSame) known->nextCertainRefreshUptime = now + certainRefreshPeriod;
+    names_.lookUp(pid, *known);
     return *known;
 }
 

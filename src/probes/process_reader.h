@@ -17,7 +17,7 @@ namespace vantor {
 /// One thread at a time: the sampler calls it on the process provider's queue only. A process is
 /// told from another that got its identifier by its start time. Names and paths are looked up when
 /// a process is first seen, soon again, and then every ten seconds, because that is the expensive
-/// part.
+/// part; where the system knows that nothing is new, once a minute.
 class ProcessReader {
   public:
     explicit ProcessReader(std::shared_ptr<Machine> machine);

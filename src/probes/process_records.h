@@ -24,7 +24,8 @@ struct ProcessMetadata {
     ProcessIdentity identity;
     SharedText name;
     SharedText command;
-    double nextRefreshUptime = 0;  ///< from then on both are looked up again
+    double nextRefreshUptime = 0;  ///< from then on both are looked up again, if they may differ
+    double nextCertainRefreshUptime = 0;  ///< from then on, even if the system says they do not
 };
 
 /// One process as read this call.

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "model/utf8.h"
 #include "platform/program_architecture.h"
+#include "probes/kernel_text.h"
 #include "probes/sysctl.h"
 
 namespace vantor {
@@ -22,14 +22,6 @@ std::string_view thermalStateText(int state) {
             return "Critical";
         default:
             return "Unknown";
-    }
-}
-
-/// Any bytes can be made a host's name; a record holds UTF-8 only.
-void makeUTF8(std::string& text) {
-    if (isUTF8(text)) return;
-    for (char& letter : text) {
-        if (static_cast<unsigned char>(letter) >= 0x80) letter = '?';
     }
 }
 

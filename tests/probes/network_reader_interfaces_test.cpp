@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "probes/network_reader_fixture.h"
+#include "probes/system_info_reader.h"
 
 /// Which interfaces there are, and with what addresses.
 namespace vantor::network_reader_interfaces_test {
@@ -188,6 +189,27 @@ TEST_F(NetworkReaderTest, NamesThatAreNoTextAreMadeOne) {
     ASSERT_NE(stats, nullptr);
     EXPECT_THAT(names(stats), ElementsAre("br?", "en0"));
     EXPECT_THAT(stats->primaryInterfaceName, Optional(StrEq("br?")));
+}
+
+TEST_F(NetworkReaderTest, AScopeThatIsNoTextIsMadeOne) {
+    remove("en0");
+    add("v\xff").addresses = {{Family::ipv6, "fe80::1%v\xff"}};
+    read();
+    const NetworkStats* stats = read();
+    ASSERT_NE(stats, nullptr);
+    EXPECT_THAT(stats->interfaces.front().ipv6Address, Optional(StrEq("fe80::1%v?")));
+    EXPECT_THAT(stats->primaryIPv6Address, Optional(StrEq("fe80::1%v?")));
+}
+
+TEST_F(NetworkReaderTest, AHostNameThatIsNoTextIsMadeOne) {
+    machine->processInfo().host =
+        "b\xff"
+        "d\xc3";
+    read();
+    const NetworkStats* stats = read();
+    ASSERT_NE(stats, nullptr);
+    EXPECT_EQ(stats->hostname, "b?d?");
+    EXPECT_EQ(stats->hostname, SystemInfoReader(machine).read().hostName);
 }
 
 }  // namespace

@@ -114,17 +114,56 @@ TEST_F(ProcessReaderNamesTest, AFailedListingForgetsNoName) {
     EXPECT_EQ(lookupsAt(1), 0);
 }
 
-TEST_F(ProcessReaderNamesTest, ASystemThatKnowsThatNothingIsNewIsNotAsked) {
-    table.add(16, "/bin/a");
+TEST_F(ProcessReaderNamesTest, ASystemThatKnowsThatNothingIsNewIsAskedOnceAMinute) {
+    table.add(16, "/bin/a").mayHaveNewPath = false;
     EXPECT_EQ(lookupsAt(0), 1);
-    table.find(16)->mayHaveNewPath = false;
-    table.find(16)->path = "/bin/b";
     EXPECT_EQ(lookupsAt(2), 0);
-    EXPECT_EQ(rowOf(sample, 16).name.string(), "a");
-    table.find(16)->mayHaveNewPath = true;
+    EXPECT_EQ(lookupsAt(12), 1);
+    for (const double seconds : {22, 32, 42, 52})
+        EXPECT_EQ(lookupsAt(seconds), 0) << seconds;
+    EXPECT_EQ(lookupsAt(62), 1);
+}
+
+TEST_F(ProcessReaderNamesTest, TheExecutableOfASleeperThatIsRenamedIsSeenWithinAMinute) {
+    for (const std::int32_t pid : {16, 17, 47, 63, 64, 80, 4096, 32767})
+        table.add(pid, "/bin/a").mayHaveNewPath = false;
+    for (const double renamed : {0.0, 61.0, 200.0}) {
+        SCOPED_TRACE(renamed);
+        const std::string name = "b" + std::to_string(static_cast<int>(renamed));
+        lookupsAt(renamed);
+        for (auto& process : table.processes)
+            process.path = "/bin/" + name;
+        for (int second = 1; second <= 60; ++second)
+            lookupsAt(renamed + second);
+        for (const ProcessStats& process : sample.all)
+            EXPECT_EQ(process.name.string(), name) << process.pid;
+    }
+}
+
+TEST_F(ProcessReaderNamesTest, SleepersSeenTogetherAreNotAskedForTogether) {
+    for (std::int32_t pid = 160; pid < 320; ++pid)
+        table.add(pid, "/bin/a").mayHaveNewPath = false;
+    EXPECT_EQ(lookupsAt(0), 160);
+    int all = 0;
+    for (double seconds = 0.5; seconds <= 60; seconds += 0.5) {
+        const int lookups = lookupsAt(seconds);
+        EXPECT_LE(lookups, 4) << seconds;
+        all += lookups;
+    }
+    EXPECT_GE(all, 160);
+}
+
+TEST_F(ProcessReaderNamesTest, ASleeperThatRanIsLookedUpAtTheNextQuestion) {
+    table.add(32, "/bin/a");
+    EXPECT_EQ(lookupsAt(0), 1);
+    table.find(32)->mayHaveNewPath = false;
+    table.find(32)->path = "/bin/b";
+    EXPECT_EQ(lookupsAt(2), 0);
+    EXPECT_EQ(rowOf(sample, 32).name.string(), "a");
+    table.find(32)->mayHaveNewPath = true;
     EXPECT_EQ(lookupsAt(11.75), 0) << "the question was put, so ten seconds go by";
     EXPECT_EQ(lookupsAt(12), 1);
-    EXPECT_EQ(rowOf(sample, 16).name.string(), "b");
+    EXPECT_EQ(rowOf(sample, 32).name.string(), "b");
 }
 
 TEST_F(ProcessReaderNamesTest, AReusedIdentifierIsAlwaysLookedUp) {

@@ -77,6 +77,15 @@ inline Bytes linkName(std::string_view name) {
     return attribute(IFLA_IFNAME, bytesOf(name) + Bytes(1));
 }
 
+/// Of a default route in the main table.
+inline rtmsg routeHeader(int family) {
+    rtmsg header{};
+    header.rtm_family = static_cast<std::uint8_t>(family);
+    header.rtm_table = RT_TABLE_MAIN;
+    header.rtm_type = RTN_UNICAST;
+    return header;
+}
+
 inline Bytes addressHeader(int family, unsigned index, int scope = RT_SCOPE_UNIVERSE) {
     ifaddrmsg header{};
     header.ifa_family = static_cast<std::uint8_t>(family);

@@ -11,7 +11,9 @@ namespace vantor {
 /// CPU clocks by script, and a time that is wound by hand.
 class ScriptedProcessClocks : public ProcessClocks {
   public:
-    std::map<std::int32_t, std::uint64_t> values;  ///< nanoseconds; whoever is missing has no clock
+    /// Nanoseconds; whoever is missing has no clock. 0 is the program that asks: not by its own
+    /// number, which a made-up process may have too.
+    std::map<std::int32_t, std::uint64_t> values{{0, 1}};
     std::map<std::int32_t, int> reads;
     double seconds = 1000;
 

@@ -5,8 +5,8 @@
 namespace vantor {
 
 LinuxCalls LinuxCalls::live() {
-    return {makeLiveFileSystems(), makeLiveLinkSource(), makeLiveProcessClocks(),
-            makeNVMLLibrary()};
+    return {makeLiveFileSystems(), makeLiveLinkSource(), makeLiveProcessClocks(), makeNVMLLibrary(),
+            makeLiveRouteSource()};
 }
 
 }  // namespace vantor

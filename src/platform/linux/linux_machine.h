@@ -33,7 +33,7 @@ class LinuxMachine : public Machine {
         : graphicsCards_(std::make_shared<GraphicsCards>(roots, calls)),
           processorSensors_(std::make_shared<ProcessorSensors>(roots)),
           accelerators_(graphicsCards_),
-          dynamicStore_(roots),
+          dynamicStore_(roots, calls.routes),
           graphicsDevices_(graphicsCards_),
           hidEventSystem_(processorSensors_),
           hostMemory_(roots),

@@ -9,6 +9,7 @@
 #include <charconv>
 #include <climits>
 
+#include "platform/linux/process_arguments.h"
 #include "platform/linux/process_stat.h"
 #include "platform/time_units.h"
 
@@ -55,6 +56,11 @@ bool isShortage(int error) {
     return error == EMFILE || error == ENFILE || error == ENOMEM;
 }
 
+/// Of what belongs to another user.
+bool isRefusal(int error) {
+    return error == EACCES || error == EPERM;
+}
+
 /// Not all on the same pass: processes seen for the first time together come due one after another.
 double firstResidentPeriod(std::int32_t pid) {
     return residentPeriod * (1 + pid % 16) / 16;
@@ -65,7 +71,7 @@ double firstResidentPeriod(std::int32_t pid) {
 LinuxProcessTable::LinuxProcessTable(const LinuxRoots& roots, std::shared_ptr<ProcessClocks> clocks)
     : proc_(::open(roots.proc.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
       clocks_(std::move(clocks)),
-      clocksFit_(isOwnProc(proc_)),
+      clocksFit_(isOwnProc(proc_) && clocks_->read(0).has_value()),
       census_(roots, clocksFit_ ? clocks_ : nullptr),
       buffer_(fileBufferSize),
       pageSize_(positive(::sysconf(_SC_PAGESIZE), 4096)),
@@ -227,6 +233,7 @@ int LinuxProcessTable::path(std::int32_t pid, std::span<char> buffer) {
     if (buffer.empty()) return 0;
     const ssize_t count =
         ::readlinkat(proc_.get(), ProcessPath(pid, "exe").c_str(), buffer.data(), buffer.size());
+    if (count < 0 && isRefusal(errno)) return claimedPath(pid, buffer);
     // A link that fills the buffer may be cut, and half a path names another file.
     if (count < 1 || static_cast<std::size_t>(count) == buffer.size()) return 0;
     constexpr std::string_view deleted = " (deleted)";
@@ -235,18 +242,46 @@ int LinuxProcessTable::path(std::int32_t pid, std::span<char> buffer) {
     return static_cast<int>(path.size());
 }
 
-int LinuxProcessTable::name(std::int32_t pid, std::span<char> buffer) {
-    std::string_view name;
-    if (const auto comm = readFile(pid, "comm")) {
-        name = *comm;
-        if (name.ends_with('\n')) name.remove_suffix(1);
-    } else if (const auto text = readFile(pid, "stat")) {  // kernels before 2.6.33 have no comm
-        const auto stat = ProcessStat::parse(*text);
-        if (stat) name = stat->name;
+int LinuxProcessTable::claimedPath(std::int32_t pid, std::span<char> buffer) {
+    const auto arguments = readFile(pid, "cmdline");
+    const auto claim = arguments ? firstArgument(*arguments) : std::nullopt;
+    if (!claim || !claim->starts_with('/') || claim->size() >= buffer.size()) return 0;
+    std::copy(claim->begin(), claim->end(), buffer.begin());
+    const std::string_view path(buffer.data(), claim->size());  // the next file takes its place
+    return wholeName(path, kernelName(pid)) ? static_cast<int>(path.size()) : 0;
+}
+
+/// Within the buffer of files; empty when there is none.
+std::string_view LinuxProcessTable::kernelName(std::int32_t pid) {
+    if (auto comm = readFile(pid, "comm")) {
+        if (comm->ends_with('\n')) comm->remove_suffix(1);
+        return *comm;
     }
+    const auto text = readFile(pid, "stat");  // kernels before 2.6.33 have no comm
+    const auto stat = text ? ProcessStat::parse(*text) : std::nullopt;
+    return stat ? stat->name : std::string_view{};
+}
+
+int LinuxProcessTable::name(std::int32_t pid, std::span<char> buffer) {
+    const std::string_view name = kernelName(pid);
     const std::size_t count = std::min(name.size(), buffer.size());
     std::copy_n(name.begin(), count, buffer.begin());
+    if (count == name.size() && mayBeCut(name)) return completedName(pid, buffer, count);
     return static_cast<int>(count);
+}
+
+/// The kernel's name is in the buffer, `count` bytes of it.
+int LinuxProcessTable::completedName(std::int32_t pid, std::span<char> buffer, std::size_t count) {
+    char letter = 0;
+    const bool isRefused =
+        ::readlinkat(proc_.get(), ProcessPath(pid, "exe").c_str(), &letter, 1) < 0 &&
+        isRefusal(errno);
+    const auto arguments = isRefused ? readFile(pid, "cmdline") : std::nullopt;
+    const auto claim = arguments ? firstArgument(*arguments) : std::nullopt;
+    const auto whole = claim ? wholeName(*claim, {buffer.data(), count}) : std::nullopt;
+    if (!whole || whole->size() > buffer.size()) return static_cast<int>(count);
+    std::copy(whole->begin(), whole->end(), buffer.begin());
+    return static_cast<int>(whole->size());
 }
 
 }  // namespace vantor

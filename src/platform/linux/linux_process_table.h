@@ -30,6 +30,8 @@ class LinuxProcessTable : public ProcessTable {
     /// The count makes a listing, which the next call with a buffer hands over.
     int listAllPIDs(std::span<std::int32_t> buffer) override;
     int taskAllInfo(std::int32_t pid, TaskAllInfo& info) override;
+    /// Where the executable's link is for another user to read, what the process says of itself
+    /// stands in for it, as far as it agrees with the kernel's name.
     int path(std::int32_t pid, std::span<char> buffer) override;
     int name(std::int32_t pid, std::span<char> buffer) override;
     bool mayHaveNewPath(std::int32_t pid) override;
@@ -55,11 +57,14 @@ class LinuxProcessTable : public ProcessTable {
     bool update(Known& known, std::optional<std::uint64_t> clock, std::uint64_t& counted);
     bool readStat(Known& known, std::uint64_t& counted);  // by the kernel's ticks, in nanoseconds
     bool readResident(Known& known);
+    std::string_view kernelName(std::int32_t pid);
+    int claimedPath(std::int32_t pid, std::span<char> buffer);
+    int completedName(std::int32_t pid, std::span<char> buffer, std::size_t count);
     std::optional<std::string_view> readFile(std::int32_t pid, std::string_view file);
 
     FileDescriptor proc_;
     std::shared_ptr<ProcessClocks> clocks_;
-    bool clocksFit_;  // /proc is that of the namespace in which the clocks count
+    bool clocksFit_;  // /proc is that of the namespace in which the clocks count, and they answer
     ProcessCensus census_;
     bool isListingFresh_ = false;
     double now_ = 0;

@@ -68,6 +68,22 @@ bool readCounters(MessageBytes value, LinkSource::Link& link) {
     return true;
 }
 
+std::uint32_t numberIn(MessageBytes value) {
+    return readAt<std::uint32_t>(value).value_or(0);
+}
+
+/// The interface of the first hop that is alive; 0 when there is none.
+std::uint32_t firstHop(MessageBytes rest) {
+    while (const auto hop = readAt<rtnexthop>(rest)) {
+        if (hop->rtnh_len < sizeof(rtnexthop) || hop->rtnh_len > rest.size()) return 0;
+        if ((hop->rtnh_flags & RTNH_F_DEAD) == 0) {
+            return static_cast<std::uint32_t>(hop->rtnh_ifindex);
+        }
+        rest = past(rest, hop->rtnh_len);
+    }
+    return 0;
+}
+
 }  // namespace
 
 NetlinkMessages::Step NetlinkMessages::next(NetlinkMessage& message) {
@@ -127,6 +143,28 @@ AddressVerdict parseAddress(MessageBytes payload, LinkSource::Address& address) 
     if (bytes.empty()) return AddressVerdict::notOurs;
     std::memcpy(address.bytes.data(), bytes.data(), bytes.size());
     return AddressVerdict::address;
+}
+
+bool parseRoute(MessageBytes payload, RouteSource::Route& route) {
+    const auto header = readAt<rtmsg>(payload);
+    if (!header) return false;
+    route = {};
+    route.family = header->rtm_family;
+    route.table = header->rtm_table;
+    constexpr unsigned unusable = RTNH_F_DEAD | RTM_F_CLONED;
+    const bool isUsable = header->rtm_type == RTN_UNICAST && (header->rtm_flags & unusable) == 0;
+    route.isDefault = isUsable && header->rtm_dst_len == 0;
+    return forEachAttribute(past(payload, sizeof(rtmsg)), [&](int type, MessageBytes value) {
+        if (type == RTA_TABLE) {
+            route.table = numberIn(value);
+        } else if (type == RTA_PRIORITY) {
+            route.metric = numberIn(value);
+        } else if (type == RTA_OIF) {
+            route.index = numberIn(value);
+        } else if (type == RTA_MULTIPATH) {
+            route.index = firstHop(value);
+        }
+    });
 }
 
 }  // namespace vantor

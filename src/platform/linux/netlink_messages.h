@@ -5,6 +5,7 @@
 #include <span>
 
 #include "platform/linux/link_source.h"
+#include "platform/linux/route_source.h"
 
 namespace vantor {
 
@@ -41,5 +42,9 @@ enum class AddressVerdict { address, notOurs, malformed };
 /// IFA_ADDRESS, which on a point-to-point link is the other end. `notOurs` is another family, or an
 /// address without its bytes. Pure; replaces all of `address`.
 AddressVerdict parseAddress(std::span<const std::byte> payload, LinkSource::Address& address);
+
+/// Reads the payload of an RTM_NEWROUTE; of several next hops the first that is alive counts. False
+/// when it is cut or malformed. Pure; replaces all of `route`.
+bool parseRoute(std::span<const std::byte> payload, RouteSource::Route& route);
 
 }  // namespace vantor

@@ -22,9 +22,11 @@ constexpr clockid_t clockOf(std::int32_t pid) {
 class LiveProcessClocks : public ProcessClocks {
   public:
     std::optional<std::uint64_t> read(std::int32_t pid) override {
+        // To the kernel 0 is the caller as well, but by another way than all others.
+        const clockid_t clock = clockOf(pid == 0 ? ::getpid() : pid);
         struct timespec time = {};
         // The library would first look whether it can answer without the kernel, which it cannot.
-        if (::syscall(SYS_clock_gettime, clockOf(pid), &time) != 0) return std::nullopt;
+        if (::syscall(SYS_clock_gettime, clock, &time) != 0) return std::nullopt;
         return static_cast<std::uint64_t>(time.tv_sec) * nanosecondsPerSecond +
                static_cast<std::uint64_t>(time.tv_nsec);
     }

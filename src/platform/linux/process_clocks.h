@@ -14,7 +14,8 @@ class ProcessClocks {
     virtual ~ProcessClocks() = default;
 
     /// Nanoseconds; absent when there is no such process (a thread that leads none included) or no
-    /// such clock. A clock id is a bare pid: it follows one that is used again.
+    /// such clock. A clock id is a bare pid: it follows one that is used again. 0 is this program
+    /// itself: where that has none, none of the answers says anything.
     virtual std::optional<std::uint64_t> read(std::int32_t pid) = 0;
 
     /// Seconds on the monotonic clock.

@@ -64,5 +64,39 @@ TEST_F(LinuxDynamicStoreTest, HasNoneUntilThereAreRoutes) {
     EXPECT_EQ(primary(ipv4Key), "eth0");
 }
 
+/// Routes by script.
+struct PlayedRoutes : RouteSource {
+    bool ipv6DefaultInterface(std::string& name) override {
+        name = interface;
+        return answers;
+    }
+    std::string interface;
+    bool answers = true;
+};
+
+class DynamicStoreWithRoutes : public LinuxDynamicStoreTest {
+  protected:
+    DynamicStoreWithRoutes() { store = LinuxDynamicStore(tree.roots(), routes); }
+
+    std::shared_ptr<PlayedRoutes> routes = std::make_shared<PlayedRoutes>();
+};
+
+TEST_F(DynamicStoreWithRoutes, DoesNotLookAtTheFileWhereOtherTablesAre) {
+    tree.proc("net/route", route4("eth0"));
+    tree.proc("net/ipv6_route", route6("vrf0"));
+    routes->interface = "wlan0";
+    EXPECT_EQ(primary(ipv4Key), "eth0");
+    EXPECT_EQ(primary(ipv6Key), "wlan0");
+    routes->interface = "";
+    EXPECT_EQ(primary(ipv6Key), "(none)");
+}
+
+TEST_F(DynamicStoreWithRoutes, LooksAtTheFileWhenTheKernelDoesNotAnswer) {
+    tree.proc("net/ipv6_route", route6("wlan0"));
+    routes->interface = "left over";
+    routes->answers = false;
+    EXPECT_EQ(primary(ipv6Key), "wlan0");
+}
+
 }  // namespace
 }  // namespace vantor::linux_dynamic_store_test

@@ -66,6 +66,15 @@ TEST_F(LinuxProcessTableListingTest, ListsInAscendingOrder) {
     EXPECT_THAT(listed(), ElementsAre(5, 40, 900));
 }
 
+TEST_F(LinuxProcessTableListingTest, ClocksThatDoNotAnswerForUsAreNotTrustedWithBirths) {
+    clocks->values.clear();
+    processes = table();
+    EXPECT_THAT(passAfter(0.5), ElementsAre(5, 40, 900));
+    add(1001, {});
+    sayLastPID(1001);
+    EXPECT_THAT(passAfter(0.5), ElementsAre(5, 40, 900, 1001));
+}
+
 TEST_F(LinuxProcessTableListingTest, TheListingIsTheOneThatWasCounted) {
     std::array<std::int32_t, 8> buffer{};
     EXPECT_EQ(processes.listAllPIDs({}), 3);

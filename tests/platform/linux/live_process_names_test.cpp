@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
+#include <sys/types.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -152,6 +153,79 @@ TEST_F(LiveExecutable, ThatWasDeletedKeepsItsName) {
     const ProcessStats stats = read(child.pid());
     EXPECT_EQ(stats.name.string(), "deleted");
     EXPECT_EQ(stats.command.string(), path);
+}
+
+/// While it lives, this program has an ordinary user's rights and no more.
+class OrdinaryUser {
+  public:
+    OrdinaryUser() : isOne_(::geteuid() == 0 && ::seteuid(nobody) == 0) {}
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+    ~OrdinaryUser() {
+        if (!isOne_ || ::seteuid(0) != 0) return;
+        ::prctl(PR_SET_DUMPABLE, 1);  // which the change took away
+    }
+
+    bool isOne() const { return isOne_; }
+
+  private:
+    static constexpr uid_t nobody = 65534;
+    bool isOne_;
+};
+
+constexpr auto longName = "a-program-with-a-rather-long-name";
+constexpr auto cutName = "a-program-with-";
+
+class ProcessOfAnotherUser : public LiveExecutable {
+  protected:
+    /// What an ordinary user sees of the superuser's process of that (long) name.
+    static ProcessStats see(const std::string& path, const std::string& firstArgument) {
+        const LiveChild child([&] {
+            ::execl(path.c_str(), firstArgument.c_str(), "1000", nullptr);
+            ::_exit(1);
+        });
+        EXPECT_TRUE(runs(child, path));
+        const OrdinaryUser user;
+        return user.isOne() ? read(child.pid()) : ProcessStats{};
+    }
+
+    void SetUp() override {
+        if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be somebody else";
+        LiveExecutable::SetUp();
+    }
+};
+
+TEST_F(ProcessOfAnotherUser, IsShownUnderItsWholeNameWithItsPath) {
+    const std::string path = copy(longName);
+    const ProcessStats stats = see(path, path);
+    EXPECT_EQ(stats.name.string(), longName);
+    EXPECT_EQ(stats.command.string(), path);
+}
+
+TEST_F(ProcessOfAnotherUser, WithAShortNameIsShownWithItsPath) {
+    const std::string path = copy("short");
+    const ProcessStats stats = see(path, path);
+    EXPECT_EQ(stats.name.string(), "short");
+    EXPECT_EQ(stats.command.string(), path);
+}
+
+TEST_F(ProcessOfAnotherUser, StartedByARelativePathIsShownUnderItsWholeName) {
+    const ProcessStats stats = see(copy(longName), std::string("./") + longName);
+    EXPECT_EQ(stats.name.string(), longName);
+    EXPECT_EQ(stats.command.string(), longName);
+}
+
+TEST_F(ProcessOfAnotherUser, ThatClaimsAnotherNameIsShownUnderTheKernels) {
+    const std::string path = copy(longName);
+    for (const std::string& claim :
+         {std::string("/usr/bin/innocent"), std::string("innocent"),
+          std::string(cutName) + "\x1b[2J", "/" + std::string(cutName) + "\n", std::string(),
+          "/" + std::string(longName) + "/", "/" + std::string(5000, 'a') + "/" + longName}) {
+        SCOPED_TRACE(claim.substr(0, 40));
+        const ProcessStats stats = see(path, claim);
+        EXPECT_EQ(stats.name.string(), cutName);
+        EXPECT_EQ(stats.command.string(), cutName);
+    }
 }
 
 }  // namespace

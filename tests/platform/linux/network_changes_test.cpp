@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <fstream>
 #include <thread>
 
 #include "platform/linux/linux_machine.h"
@@ -191,6 +192,42 @@ TEST_F(NetworkChanges, TheDefaultRoutesLinkIsThePrimaryOneByItsMetric) {
     const NetworkStats* stats = read();
     ASSERT_NE(stats, nullptr);
     EXPECT_EQ(stats->primaryInterfaceName, "b0");
+}
+
+bool enableIPv6(const std::string& name) {
+    std::ofstream("/proc/sys/net/ipv6/conf/" + name + "/disable_ipv6") << 0;
+    return ip("-6 link set " + name + " up");
+}
+
+// Policy routing, a tunnel or a VRF keeps default routes of its own.
+TEST_F(NetworkChanges, ADefaultRouteOfAnotherTableMakesNoPrimaryLink) {
+    ASSERT_TRUE(makePair("a0", "a1", "10.1.0.1"));
+    ASSERT_TRUE(makePair("b0", "b1", "10.2.0.1"));
+    if (!enableIPv6("a0") || !enableIPv6("b0") || !ip("-6 addr add fd01::1/64 dev a0 nodad") ||
+        !ip("-6 addr add fd02::1/64 dev b0 nodad")) {
+        GTEST_SKIP() << "there is no IPv6 here";
+    }
+    ASSERT_TRUE(ip("-6 route add default via fd01::99 dev a0 table 100 metric 1"));
+    ASSERT_TRUE(ip("-6 route add default via fd02::99 dev b0 metric 1024"));
+    read();
+    const NetworkStats* stats = read();
+    ASSERT_NE(stats, nullptr);
+    EXPECT_EQ(stats->primaryInterfaceName, "b0");
+    ASSERT_TRUE(ip("-6 route add default via fd01::99 dev a0 metric 512"));
+    const auto primary = [&] {
+        const auto* const value = machine->dynamicStore().copyValue("State:/Network/Global/IPv6");
+        const auto* const name =
+            value ? findText(*value->dictionary(), "PrimaryInterface") : nullptr;
+        return name ? *name : std::string("(none)");
+    };
+    EXPECT_EQ(primary(), "a0") << "the lower metric of the same table";
+    ASSERT_TRUE(ip("-6 route del default via fd01::99 dev a0 metric 512"));
+    ASSERT_TRUE(ip("-6 route add unreachable default metric 3"));
+    EXPECT_EQ(primary(), "b0") << "a refusal leads nowhere";
+    ASSERT_TRUE(ip("-6 route del default via fd02::99 dev b0 metric 1024"));
+    EXPECT_EQ(primary(), "(none)");
+    ASSERT_TRUE(ip("-6 route add default nexthop via fd02::98 dev b0 nexthop via fd01::98 dev a0"));
+    EXPECT_EQ(primary(), "b0") << "the first of several hops";
 }
 
 /// A process of its own that makes, exchanges and removes links as fast as it can.
