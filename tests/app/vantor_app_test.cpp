@@ -292,6 +292,11 @@ TEST_P(SearchingAtSize, ShowsTheRowsThatAreFoundOrThatThereAreNone) {
     EXPECT_TRUE(isOnScreen(view.filter(), view.filter().rect()));
     for (int row = 0; row < 3; ++row)
         EXPECT_TRUE(isOnScreen(view.table(), view.table().accessibleRowArea(row))) << row;
+    view.filter().setText(QStringLiteral("nothing has this name"));
+    ASSERT_TRUE(runUntil([&] { return view.emptyState().isVisible(); }));
+    // Its words stand in its middle.
+    const QPoint middle = view.emptyState().rect().center();
+    EXPECT_TRUE(isOnScreen(view.emptyState(), QRect(middle - QPoint(60, 40), QSize(120, 80))));
 }
 
 }  // namespace
