@@ -10,7 +10,7 @@ in_words() {
     if [ "$1" -lt 100 ]; then printf '%d s' "$1"; else printf '%d min %02d s' $(($1 / 60)) $(($1 % 60)); fi
 }
 
-# usual_time KEY: what the last run of this checkout took, or, before there was one, two idle cores.
+# usual_time KEY: what the last run of this checkout took, or, before there was one, a machine of two cores.
 usual_time() {
     local known
     known=$(awk -v key="$1" '$1 == key { print $2; exit }' build/stage_times scripts/usual_times 2>/dev/null)
