@@ -8,7 +8,10 @@
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
+#include <fstream>
 #include <new>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -57,9 +60,20 @@ Burner::Burner(int threads) : threads_(std::min(threads, mostThreads)) {
 
 double Burner::spent() const {
     std::int64_t all = 0;
-    for (const auto& time : books_->nanoseconds)
-        all += time;
+    for (int i = 0; i < threads_; ++i)
+        all += books_->nanoseconds[static_cast<std::size_t>(i)];
     return static_cast<double>(all) * 1e-9;
+}
+
+double Burner::charged() const {
+    double nanoseconds = 0;
+    const std::string tasks = "/proc/" + std::to_string(pid()) + "/task";
+    for (const auto& task : std::filesystem::directory_iterator(tasks)) {
+        double ran = 0;
+        std::ifstream(task.path() / "schedstat") >> ran;
+        nanoseconds += ran;
+    }
+    return nanoseconds * 1e-9;
 }
 
 }  // namespace vantor

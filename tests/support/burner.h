@@ -21,6 +21,10 @@ class Burner {
     /// The processor seconds that the threads have got so far, each by its own clock.
     double spent() const;
 
+    /// What the kernel charged to them up to its last tick, from /proc/PID/task/*/schedstat. Time
+    /// that a hypervisor took from a virtual machine's processor is in it, and not in `spent()`.
+    double charged() const;
+
   private:
     struct Books;
     struct Unmap {

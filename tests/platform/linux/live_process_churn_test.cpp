@@ -30,6 +30,11 @@ using Clock = std::chrono::steady_clock;
 constexpr int birthsInAll = 3000;
 constexpr std::size_t livingAtATime = 200;
 
+/// The kernel charges time at ticks, and a virtual machine's processor may stand still meanwhile:
+/// what the first pass does not see yet comes with a later one, in seconds per processor. Over all
+/// passes together, no more than what was there can have been given out.
+constexpr double latestCharge = 0.5;
+
 /// A number that this process and its children share.
 class SharedCount {
   public:
@@ -79,9 +84,8 @@ std::ptrdiff_t openDescriptors() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
 
-/// No share can be larger than what the processors did in `seconds`, at the least, between the two
-/// passes; the clock of another process may be a tick late at the first of them.
-void expectPossible(const ProcessSample& sample, double most) {
+/// Returns the sum of the shares.
+double expectPossible(const ProcessSample& sample) {
     double all = 0;
     std::int32_t last = 0;
     for (const ProcessStats& process : sample.all) {
@@ -93,9 +97,9 @@ void expectPossible(const ProcessSample& sample, double most) {
         EXPECT_FALSE(process.command.string().empty());
         all += process.cpuPercent;
     }
-    EXPECT_LE(all, most);
     EXPECT_EQ(sample.sortedByCPU.size(), std::min<std::size_t>(18, sample.all.size()));
     EXPECT_EQ(sample.sortedByMemory.size(), std::min<std::size_t>(18, sample.all.size()));
+    return all;
 }
 
 TEST(LiveProcessChurn, ThreeThousandBirthsAndDeathsMakeNoWrongShareAndLeaveNothingBehind) {
@@ -107,18 +111,20 @@ TEST(LiveProcessChurn, ThreeThousandBirthsAndDeathsMakeNoWrongShareAndLeaveNothi
     int sweeps = 0;
     {
         const LiveChild breeder([&births] { breed(*births); });
-        auto lastBegin = Clock::now(), lastEnd = lastBegin;
+        const auto start = Clock::now();
         reader.read();
-        const auto limit = lastBegin + 90s;
+        auto lastEnd = Clock::now();
+        const auto limit = start + 90s;
+        double spent = 0;
         while (*births <= birthsInAll && Clock::now() < limit) {
             std::this_thread::sleep_for(20ms);
             const auto begin = Clock::now();
             const ProcessSample sample = reader.read();
             const auto end = Clock::now();
-            const double longest = std::chrono::duration<double>(end - lastBegin).count();
-            const double shortest = std::chrono::duration<double>(begin - lastEnd).count();
-            expectPossible(sample, processors * 100 * (longest + 0.01) / shortest);
-            lastBegin = begin;
+            const double shares = expectPossible(sample);
+            spent += shares / 100 * std::chrono::duration<double>(begin - lastEnd).count();
+            const double passed = std::chrono::duration<double>(end - start).count();
+            ASSERT_LE(spent, processors * (passed + latestCharge)) << "after sweep " << sweeps;
             lastEnd = end;
             ++sweeps;
         }
