@@ -91,7 +91,9 @@ void expectShareOfBurner(int threads, double full, double tolerance) {
         EXPECT_LE(share.read, share.highest + 0.01);
     }
     std::printf("read %.2f %%, given %.2f %%\n", share.read, share.given);
-    if (share.given >= 0.97 * full) EXPECT_NEAR(share.read, full, tolerance);
+    if (share.given >= 0.97 * full) {
+        EXPECT_NEAR(share.read, full, tolerance);
+    }
 }
 
 TEST(LiveProcesses, AChildThatBurnsOneCoreHasAShareOfAHundred) {
