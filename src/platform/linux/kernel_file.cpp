@@ -3,7 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 
 namespace vantor {
@@ -12,7 +12,8 @@ namespace {
 
 // A page: most such files are far smaller, and every kept file has its buffer.
 constexpr std::size_t kernelFileFirstBufferSize = std::size_t{4} * 1024;
-constexpr std::size_t kernelFileLargestBufferSize = std::size_t{16} * 1024 * 1024;
+// An attribute is a page at most, and no kernel's page is larger.
+constexpr std::size_t largestAttribute = std::size_t{64} * 1024;
 
 ssize_t readFromStart(int fd, std::vector<char>& buffer) {
     ssize_t count = 0;
@@ -36,7 +37,7 @@ std::optional<std::string_view> KernelFile::read() {
     // A full buffer may hide more. The kernel makes the text anew for each read from the start, so
     // reading on would join the end of one moment to the start of another: read it all again.
     while (count >= 0 && static_cast<std::size_t>(count) == buffer_.size() &&
-           buffer_.size() < kernelFileLargestBufferSize) {
+           buffer_.size() < kernelFileLargestSize) {
         buffer_.resize(buffer_.size() * 2);
         count = readFromStart(file_.get(), buffer_);
     }
@@ -47,18 +48,21 @@ std::optional<std::string_view> KernelFile::read() {
     return std::string_view(buffer_.data(), static_cast<std::size_t>(count));
 }
 
-std::optional<std::string> readKernelFile(const std::filesystem::path& path) {
+std::optional<std::string> readKernelFile(const std::filesystem::path& path, std::size_t most) {
     const FileDescriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
     if (!file) return std::nullopt;
     std::string content;
-    std::array<char, kernelFileFirstBufferSize> buffer{};
-    while (content.size() < kernelFileLargestBufferSize) {
-        const ssize_t count = ::read(file.get(), buffer.data(), buffer.size());
+    std::size_t size = 0;
+    while (size < most) {
+        if (size == content.size())
+            content.resize(std::min(std::max(2 * size, kernelFileFirstBufferSize), most));
+        const ssize_t count = ::read(file.get(), content.data() + size, content.size() - size);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;
         if (count == 0) break;
-        content.append(buffer.data(), static_cast<std::size_t>(count));
+        size += static_cast<std::size_t>(count);
     }
+    content.resize(size);
     return content;
 }
 
@@ -70,7 +74,7 @@ std::optional<std::string_view> trimmedText(std::string_view content) {
 }
 
 std::optional<std::string> readKernelText(const std::filesystem::path& path) {
-    const auto content = readKernelFile(path);
+    const auto content = readKernelFile(path, largestAttribute);
     const auto text = content ? trimmedText(*content) : std::nullopt;
     return text ? std::optional<std::string>(*text) : std::nullopt;
 }

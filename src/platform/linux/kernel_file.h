@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -30,14 +31,18 @@ class KernelFile {
     std::vector<char> buffer_;
 };
 
-/// The whole content of a file that is read once; absent when it cannot be read.
-std::optional<std::string> readKernelFile(const std::filesystem::path& path);
+/// As much as is read of any file, in bytes.
+constexpr std::size_t kernelFileLargestSize = std::size_t{16} * 1024 * 1024;
+
+/// The content of a file that is read once, its first `most` bytes; absent when it cannot be read.
+std::optional<std::string> readKernelFile(const std::filesystem::path& path,
+                                          std::size_t most = kernelFileLargestSize);
 
 /// The content without the blanks and line ends around it (device-tree texts end with a zero byte,
 /// which goes too); absent when nothing is left. Pure; the text lies within `content`.
 std::optional<std::string_view> trimmedText(std::string_view content);
 
-/// The whole file's, trimmed.
+/// That of an attribute, which is a page at most (64 KiB), trimmed.
 std::optional<std::string> readKernelText(const std::filesystem::path& path);
 
 }  // namespace vantor

@@ -27,6 +27,14 @@ TEST(ReadKernelFile, ReadsListsThatComeAPageAtATimeToTheirEnd) {
     EXPECT_NE(maps->find("[stack]"), std::string::npos) << "near the end of the list";
 }
 
+TEST_F(KernelFileTest, OfAnAttributeWithoutAnEndAPageAtMostIsRead) {
+    tree.proc("stat", std::string(std::size_t{1} << 20, 'x'));
+    const auto text = readKernelText(tree.roots().proc / "stat");
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->size(), 65536u);
+    EXPECT_EQ(readKernelFile(tree.roots().proc / "stat", 5000), std::string(5000, 'x'));
+}
+
 TEST_F(KernelFileTest, IsReadFromItsStartEachTime) {
     tree.proc("stat", "first");
     EXPECT_EQ(file.read(), "first");
