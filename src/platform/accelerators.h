@@ -21,10 +21,10 @@ class Accelerators {
     virtual ~Accelerators() = default;
 
     /// An iterator over the services; absent when nothing could be looked up, which then needs no
-    /// release. No service at all is an iterator without services.
+    /// release. Where there is no service, 0 or an iterator without services.
     virtual std::optional<Object> matchingServices() = 0;
 
-    /// The next service, 0 behind the last.
+    /// The next service, 0 behind the last. Of the iterator 0 there is none.
     virtual Object iteratorNext(Object iterator) = 0;
 
     /// Of a service: "PerformanceStatistics" (a dictionary of numbers, nested as the driver likes)

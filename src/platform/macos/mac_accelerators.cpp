@@ -25,11 +25,11 @@ std::optional<Accelerators::Object> MacAccelerators::matchingServices() {
     // Takes the dictionary, also when it fails.
     if (ioKit.serviceGetMatchingServices(frameworks_->mainPort, matching, &iterator) != 0)
         return std::nullopt;
-    return iterator != 0 ? std::optional(iterator) : std::nullopt;
+    return iterator;  // 0 where there is none, which is no failure
 }
 
 Accelerators::Object MacAccelerators::iteratorNext(Object iterator) {
-    return canLookUp_ ? frameworks_->ioKit.iteratorNext(iterator) : 0;
+    return canLookUp_ && iterator != 0 ? frameworks_->ioKit.iteratorNext(iterator) : 0;
 }
 
 const PropertyValue* MacAccelerators::property(Object service, std::string_view key) {

@@ -7,6 +7,13 @@
 
 namespace vantor {
 
+namespace {
+
+// More than anybody has mounted: an enumeration that says nothing else has come to no end.
+constexpr int mostUnreadable = 1000;
+
+}  // namespace
+
 MacMountedVolumes::MacMountedVolumes(std::shared_ptr<const Frameworks> frameworks)
     : frameworks_(std::move(frameworks)), conversion_(frameworks_->coreFoundation) {
     const CoreFoundationTable& cf = frameworks_->coreFoundation;
@@ -19,20 +26,39 @@ MacMountedVolumes::MacMountedVolumes(std::shared_ptr<const Frameworks> framework
 
 std::optional<std::vector<MountedVolumes::Volume>> MacMountedVolumes::mountedVolumes() {
     const AutoreleasePool pool(frameworks_->objectiveC);
-    found_.clear();
+    std::vector<Found> before = std::exchange(found_, {});
     if (!canEnumerate_) return std::nullopt;
     const CoreFoundationTable& cf = frameworks_->coreFoundation;
     const RetainedReference enumerator = conversion_.own(
         cf.urlEnumeratorCreateForMountedVolumes(nullptr, cfURLEnumeratorSkipInvisibles, nullptr));
     if (!enumerator) return std::nullopt;
     std::vector<Volume> volumes;
-    while (true) {
+    int unreadable = 0;
+    while (unreadable < mostUnreadable) {
         CFTypeRef url = nullptr;
         CFTypeRef error = nullptr;
         const CFIndex result = cf.urlEnumeratorGetNextURL(enumerator.get(), &url, &error);
-        if (result == cfURLEnumeratorEnd) return volumes;
+        if (result == cfURLEnumeratorEnd) {
+            if (unreadable > 0) addMissing(std::move(before), volumes);
+            return volumes;
+        }
         if (result == cfURLEnumeratorError) conversion_.own(error).reset();
-        if (result != cfURLEnumeratorSuccess || !add(url, volumes)) return std::nullopt;
+        if (result != cfURLEnumeratorSuccess || !add(url, volumes)) ++unreadable;
+    }
+    found_.clear();
+    return std::nullopt;
+}
+
+/// An entry that cannot be read may be any of those that were there before. They are asked once
+/// more: what has gone does not answer, and is not in the next enumeration's former one.
+void MacMountedVolumes::addMissing(std::vector<Found> before, std::vector<Volume>& volumes) {
+    for (Found& former : before) {
+        const bool isThere = std::any_of(found_.begin(), found_.end(),
+                                         [&](const Found& f) { return f.path == former.path; });
+        if (isThere || former.wasMissing) continue;
+        volumes.push_back({former.path, former.lastPathComponent});
+        former.wasMissing = true;
+        found_.push_back(std::move(former));
     }
 }
 
@@ -45,7 +71,8 @@ bool MacMountedVolumes::add(CFTypeRef url, std::vector<Volume>& volumes) {
     auto pathText = conversion_.text(path.get());
     if (!pathText || pathText->empty()) return false;
     volumes.push_back({*pathText, conversion_.text(name.get()).value_or("")});
-    found_.push_back({std::move(*pathText), conversion_.share(url)});
+    found_.push_back(
+        {std::move(*pathText), volumes.back().lastPathComponent, conversion_.share(url), false});
     return true;
 }
 

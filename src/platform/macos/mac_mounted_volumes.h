@@ -21,7 +21,8 @@ class MacMountedVolumes : public MountedVolumes {
   public:
     explicit MacMountedVolumes(std::shared_ptr<const Frameworks> frameworks);
 
-    /// Absent, too, when the enumeration broke off.
+    /// An entry that cannot be read costs itself alone; a volume of the last enumeration that may
+    /// be behind it is listed once more. Absent, too, when the enumeration comes to no end.
     std::optional<std::vector<Volume>> mountedVolumes() override;
     /// Unknown for a volume that is not of the last enumeration.
     Classification classification(const Volume& volume) override;
@@ -30,11 +31,14 @@ class MacMountedVolumes : public MountedVolumes {
   private:
     struct Found {
         std::string path;
+        std::string lastPathComponent;
         RetainedReference url;
+        bool wasMissing;  ///< and was listed all the same
     };
 
     /// Adds the volume behind a URL; false when its path cannot be told.
     bool add(CFTypeRef url, std::vector<Volume>& volumes);
+    void addMissing(std::vector<Found> before, std::vector<Volume>& volumes);
     /// The dictionary of those values of the volume that there are. Keys may be null.
     RetainedReference resourceValues(const Volume& volume,
                                      std::initializer_list<CFTypeRef> keys) const;

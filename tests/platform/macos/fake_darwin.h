@@ -69,7 +69,8 @@ class FakeDarwin {
     bool openFails = false;
     bool enumerationFails = false;
     std::vector<Volume> volumes;
-    std::optional<std::size_t> enumerationBreaksAt;
+    bool enumerationHasNoEnd = false;         ///< but one error after the other
+    std::set<std::size_t> unreadableEntries;  ///< places in it, of an error each
     std::vector<Ref> devices;
     std::optional<Ref> otherDeviceList;  ///< in place of the list of the devices
     std::optional<std::size_t> defaultDevice;

@@ -45,7 +45,8 @@ void fillLookups(IOKitTable& table) {
         if (consume(matching, mainPort) != "IOAccelerator")
             call->objects.complain("other services than accelerators");
         if (call->lookupFails || call->fails()) return failed;
-        *iterator = call->openPort(PortKind::iterator);
+        // The system hands out no iterator over nothing.
+        *iterator = call->accelerators.empty() ? 0 : call->openPort(PortKind::iterator);
         return 0;
     };
     table.iteratorNext = [](MachPort name) -> MachPort {

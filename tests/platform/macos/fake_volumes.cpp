@@ -15,11 +15,13 @@ CFIndex nextURL(CFTypeRef object, CFTypeRef* url, CFTypeRef* error) {
     const Ref enumerator =
         call->objects.check(object, Kind::enumerator, "CFURLEnumeratorGetNextURL");
     if (!enumerator) return 2;
-    if (call->enumerationBreaksAt == enumerator->next || call->fails()) {
+    const bool isUnreadable = call->unreadableEntries.contains(enumerator->next);
+    if (call->enumerationHasNoEnd || isUnreadable || call->fails()) {
+        if (isUnreadable) ++enumerator->next;
         if (error) *error = &call->objects.create(Kind::error);
         return 3;
     }
-    if (enumerator->next == enumerator->entries.size()) return 2;
+    if (enumerator->next >= enumerator->entries.size()) return 2;
     *url = enumerator->entries[enumerator->next++].first;
     return 1;
 }

@@ -71,6 +71,7 @@ TEST_F(MacAcceleratorsTest, TellsWhatTheDriversPublish) {
 TEST_F(MacAcceleratorsTest, TellsNoServiceFromNoLookup) {
     MacAccelerators accelerators(darwin.frameworks());
     darwin.accelerators.clear();
+    EXPECT_EQ(accelerators.matchingServices(), 0u);
     EXPECT_EQ(readAll(accelerators), 0);
     darwin.lookupFails = true;
     EXPECT_EQ(accelerators.matchingServices(), std::nullopt);

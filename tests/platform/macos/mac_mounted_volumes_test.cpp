@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/macos/frameworks_test_support.h"
 
@@ -29,6 +31,15 @@ class MacMountedVolumesTest : public FakeDarwinTest {
              {"NSURLVolumeIsRemovableKey", objects.boolean(false)},
              {"NSURLVolumeIsReadOnlyKey", objects.boolean(true)}},
             false});
+    }
+
+    static std::vector<std::string> pathsOf(
+        const std::optional<std::vector<MountedVolumes::Volume>>& list) {
+        if (!list) return {"no answer"};
+        std::vector<std::string> paths;
+        for (const auto& volume : *list)
+            paths.push_back(volume.path);
+        return paths;
     }
 
     static void readAll(MacMountedVolumes& volumes) {
@@ -91,14 +102,35 @@ TEST_F(MacMountedVolumesTest, TellsNoVolumeFromNoAnswer) {
     EXPECT_EQ(volumes.mountedVolumes(), std::nullopt);
 }
 
-TEST_F(MacMountedVolumesTest, HasNoAnswerWhereTheEnumerationBreaksOff) {
+TEST_F(MacMountedVolumesTest, LoseOneEntryThatCannotBeReadAndNoOther) {
+    add("/", "/");
+    add("/Volumes/Broken", "Broken");
+    add("/Volumes/Stick", "Stick");
+    darwin.unreadableEntries = {1, 3};
+    MacMountedVolumes volumes(darwin.frameworks());
+    for (int pass = 0; pass < 3; ++pass)
+        EXPECT_THAT(pathsOf(volumes.mountedVolumes()), ElementsAre("/", "/Volumes/Stick"));
+}
+
+TEST_F(MacMountedVolumesTest, AskAVolumeOnceMoreWhoseEntryCannotBeReadForAMoment) {
     add("/", "/");
     add("/Volumes/Stick", "Stick");
     MacMountedVolumes volumes(darwin.frameworks());
-    for (const std::size_t place : {0u, 1u, 2u}) {
-        darwin.enumerationBreaksAt = place;
-        EXPECT_EQ(volumes.mountedVolumes(), std::nullopt);
-    }
+    volumes.mountedVolumes();
+    darwin.unreadableEntries = {1};
+    const auto list = volumes.mountedVolumes();
+    EXPECT_THAT(pathsOf(list), ElementsAre("/", "/Volumes/Stick"));
+    EXPECT_THAT(volumes.details(list->back()).totalCapacity, Optional(994'662'584'320));
+    EXPECT_THAT(pathsOf(volumes.mountedVolumes()), ElementsAre("/")) << "it stays unreadable";
+    darwin.unreadableEntries.clear();
+    EXPECT_THAT(pathsOf(volumes.mountedVolumes()), ElementsAre("/", "/Volumes/Stick"));
+}
+
+TEST_F(MacMountedVolumesTest, HaveNoAnswerWhereTheEnumerationComesToNoEnd) {
+    add("/", "/");
+    darwin.enumerationHasNoEnd = true;
+    MacMountedVolumes volumes(darwin.frameworks());
+    EXPECT_EQ(volumes.mountedVolumes(), std::nullopt);
 }
 
 TEST_F(MacMountedVolumesTest, KnowsNothingOfAVolumeThatIsNotListedAnyMore) {
@@ -153,11 +185,11 @@ TEST_F(MacMountedVolumesTest, ListsNoVolumeWithoutAPath) {
     add("/", "/");
     add("", "");
     MacMountedVolumes volumes(darwin.frameworks());
-    EXPECT_EQ(volumes.mountedVolumes(), std::nullopt);
+    EXPECT_THAT(pathsOf(volumes.mountedVolumes()), ElementsAre("/"));
     darwin.volumes.back().path = nullptr;
-    EXPECT_EQ(volumes.mountedVolumes(), std::nullopt);
+    EXPECT_THAT(pathsOf(volumes.mountedVolumes()), ElementsAre("/"));
     darwin.volumes.back().path = objects.integer(3);
-    EXPECT_EQ(volumes.mountedVolumes(), std::nullopt);
+    EXPECT_THAT(pathsOf(volumes.mountedVolumes()), ElementsAre("/"));
     darwin.volumes.back().path = objects.text("/Volumes/Stick");
     darwin.volumes.back().lastPathComponent = nullptr;
     const auto list = volumes.mountedVolumes();
