@@ -48,7 +48,6 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/process_storage_test.cpp
     probes/smc_temperature_reader_test.cpp
     probes/smc_value_test.cpp
-    probes/standard_order_test.cpp
     probes/storage_reader_test.cpp
     probes/sysctl_test.cpp
     probes/system_info_reader_test.cpp)
@@ -83,6 +82,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/file_systems_test.cpp
         platform/linux/graphics_names_test.cpp
         platform/linux/hidden_block_device_test.cpp
+        platform/linux/icu_name_order_test.cpp
         platform/linux/kernel_facts_test.cpp
         platform/linux/kernel_file_test.cpp
         platform/linux/kernel_list_file_test.cpp
@@ -190,6 +190,7 @@ vantor_add_tests(macos_platform_tests LABEL core SOURCES
     platform/macos/mac_graphics_devices_test.cpp
     platform/macos/mac_hid_event_system_test.cpp
     platform/macos/mac_mounted_volumes_test.cpp
+    platform/macos/mac_name_order_test.cpp
     platform/macos/mac_power_sources_test.cpp
     platform/macos/mac_readers_test.cpp
     platform/macos/mac_system_controller_test.cpp
@@ -217,6 +218,18 @@ if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
     target_link_libraries(vantor_macos_kernel PUBLIC vantor_macos_logic PRIVATE vantor_warnings)
     target_link_libraries(macos_kernel_tests PRIVATE vantor_macos_kernel)
 endif()
+
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    add_test(NAME LiveReadings.AreTrueForAnOrdinaryUserToo
+        COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/linux/as_ordinary_user.sh
+            $<TARGET_FILE:linux_tests> *Live*)
+    set_tests_properties(LiveReadings.AreTrueForAnOrdinaryUserToo PROPERTIES
+        TIMEOUT 120 SKIP_RETURN_CODE 77 LABELS core)
+endif()
+
+add_test(NAME MacBundle.WantsTheNewerOfOurOldestSystemAndTheToolkits
+    COMMAND ${CMAKE_COMMAND} -P ${CMAKE_CURRENT_SOURCE_DIR}/platform/macos/least_system_test.cmake)
+set_tests_properties(MacBundle.WantsTheNewerOfOurOldestSystemAndTheToolkits PROPERTIES LABELS core)
 
 # The console program on the machine that the tests run on.
 add_test(NAME VantorProbe.HasAnAnswerOfWhatMustAnswer COMMAND vantor_probe)

@@ -58,4 +58,20 @@ std::string repairedUTF8(std::string_view bytes) {
     return std::string(validUTF8(bytes, mended));
 }
 
+std::string distinctUTF8(std::string_view bytes) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string result;
+    while (!bytes.empty()) {
+        const Sequence sequence = leadingSequence(bytes);
+        for (const char byte : bytes.substr(0, sequence.length)) {
+            const auto value = static_cast<unsigned char>(byte);
+            if (!sequence.isWhole) result += "\\x";
+            if (!sequence.isWhole) result += digits[value >> 4U];
+            result += sequence.isWhole ? byte : digits[value & 0xFU];
+        }
+        bytes.remove_prefix(sequence.length);
+    }
+    return result;
+}
+
 }  // namespace vantor

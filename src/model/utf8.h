@@ -15,4 +15,8 @@ std::string_view validUTF8(std::string_view bytes, std::string& mended);
 /// The same as a text of its own.
 std::string repairedUTF8(std::string_view bytes);
 
+/// For texts that tell things apart: with each byte that belongs to no character as `\xE9`, so that
+/// different bytes stay different.
+std::string distinctUTF8(std::string_view bytes);
+
 }  // namespace vantor

@@ -7,6 +7,7 @@
 #include "platform/atomic_file_writer.h"
 #include "platform/local_calendar.h"
 #include "platform/machine.h"
+#include "platform/name_order.h"
 #include "platform/serial_queue.h"
 
 /// What the build's operating system supplies; each folder of adapters defines these once.
@@ -18,6 +19,9 @@ std::shared_ptr<Machine> makeNativeMachine();
 /// Its disks, and the time zone of its user.
 std::shared_ptr<AtomicFileWriter> makeNativeFileWriter();
 std::shared_ptr<LocalCalendar> makeNativeLocalCalendar();
+
+/// That of the user's language.
+std::unique_ptr<NameOrder> makeNativeNameOrder();
 
 /// Has the allocator take as little memory as a program needs whose threads hardly ever ask at the
 /// same time. Before the first other thread.

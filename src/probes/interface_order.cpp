@@ -1,21 +1,32 @@
 #include "probes/interface_order.h"
 
-#include "probes/standard_order.h"
+#include <algorithm>
 
 namespace vantor {
 
-bool comesFirst(const NetworkInterfaceStats& a, const NetworkInterfaceStats& b,
-                const std::string* primaryName) {
-    if (primaryName) {
-        const bool aIsPrimary = a.name == *primaryName;
-        if (aIsPrimary != (b.name == *primaryName)) return aIsPrimary;
+bool InterfaceOrder::comesFirst(const Place& a, const Place& b) {
+    if (a.isPrimary != b.isPrimary) return a.isPrimary;
+    if (a.hasAddress != b.hasAddress) return a.hasAddress;
+    if (a.traffic != b.traffic) return a.traffic > b.traffic;
+    if (a.nameRank != b.nameRank) return a.nameRank < b.nameRank;
+    return a.row < b.row;
+}
+
+void InterfaceOrder::sort(std::vector<NetworkInterfaceStats>& rows,
+                          const std::string* primaryName) {
+    ranks_.learn(rows);
+    places_.clear();
+    for (const NetworkInterfaceStats& row : rows) {
+        places_.push_back({primaryName && row.name == *primaryName,
+                           row.ipv4Address.has_value() || row.ipv6Address.has_value(),
+                           row.downloadBytesPerSecond + row.uploadBytesPerSecond,
+                           ranks_.of(row.name), places_.size()});
     }
-    const bool aHasAddress = a.ipv4Address || a.ipv6Address;
-    if (aHasAddress != (b.ipv4Address || b.ipv6Address)) return aHasAddress;
-    const double aSum = a.downloadBytesPerSecond + a.uploadBytesPerSecond;
-    const double bSum = b.downloadBytesPerSecond + b.uploadBytesPerSecond;
-    if (aSum != bSum) return aSum > bSum;
-    return compareStandard(a.name, b.name) < 0;
+    std::sort(places_.begin(), places_.end(), comesFirst);
+    others_.resize(rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        std::swap(others_[i], rows[places_[i].row]);
+    rows.swap(others_);
 }
 
 }  // namespace vantor

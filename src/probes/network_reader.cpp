@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-#include "probes/interface_order.h"
+#include "platform/native_machine.h"
 #include "probes/kernel_text.h"
 
 namespace vantor {
@@ -39,6 +39,9 @@ void assignName(std::string& to, std::string_view name) {
 
 }  // namespace
 
+NetworkReader::NetworkReader(std::shared_ptr<Machine> machine)
+    : machine_(std::move(machine)), order_(makeNativeNameOrder()) {}
+
 const NetworkStats* NetworkReader::read(bool includePointToPointInterfaces, double uptime) {
     NetworkInterfaces& interfaces = machine_->networkInterfaces();
     if (!dumpReader_.read64BitInterfaceCounters(interfaces)) return nullptr;
@@ -47,10 +50,7 @@ const NetworkStats* NetworkReader::read(bool includePointToPointInterfaces, doub
         [this](const std::string& name) { return !accumulators_.map().find(name); });
     makeRows(includePointToPointInterfaces, uptime);
     const std::string* const primaryName = primaryInterfaceName(uptime);
-    // Names are unique and decide last, so the order is total and stability means nothing.
-    std::sort(
-        stats_.interfaces.begin(), stats_.interfaces.end(),
-        [primaryName](const auto& a, const auto& b) { return comesFirst(a, b, primaryName); });
+    order_.sort(stats_.interfaces, primaryName);
     const NetworkInterfaceStats* const primary = primaryRow(primaryName);
     if (primary && !measuredRateInterfaceBuffer_.find(primary->name)) return nullptr;
     stats_.hostname = hostName(uptime);

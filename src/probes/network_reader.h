@@ -12,6 +12,7 @@
 #include "platform/machine.h"
 #include "probes/interface_accumulators.h"
 #include "probes/interface_dump_reader.h"
+#include "probes/interface_order.h"
 #include "probes/name_map.h"
 
 namespace vantor {
@@ -23,7 +24,7 @@ namespace vantor {
 /// allocates nothing.
 class NetworkReader {
   public:
-    explicit NetworkReader(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
+    explicit NetworkReader(std::shared_ptr<Machine> machine);
 
     /// One sample; `uptime` is the monotonic uptime in seconds. Null when there is none this time:
     /// on the first read after creation or reset, when the platform does not answer, and when the
@@ -68,6 +69,7 @@ class NetworkReader {
     double lastPrimaryInterfaceLookupUptime_ = never;
     InterfaceDumpReader dumpReader_;
     InterfaceAccumulators accumulators_;
+    InterfaceOrder order_;
     NameMap<std::monostate> measuredRateInterfaceBuffer_;
     NetworkStats stats_;
 };

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "model/utf8.h"
-#include "probes/standard_order.h"
+#include "platform/native_machine.h"
 
 namespace vantor {
 
@@ -17,19 +17,22 @@ std::string displayName(const MountedVolumes::Volume& volume,
     return repairedUTF8(name.empty() ? volume.path : name);
 }
 
-bool volumeComesFirst(const VolumeStats& a, const VolumeStats& b) {
+bool volumeComesFirst(const VolumeStats& a, const VolumeStats& b, const NameRanks& ranks) {
     const bool aIsRoot = a.path == "/";
     const bool bIsRoot = b.path == "/";
     if (aIsRoot != bIsRoot) return aIsRoot;
     if (a.isInternal != b.isInternal) return a.isInternal;
-    return compareStandard(a.name, b.name) < 0;
+    return ranks.of(a.name) < ranks.of(b.name);
 }
 
 }  // namespace
 
+StorageReader::StorageReader(std::shared_ptr<Machine> machine)
+    : StorageReader(std::move(machine), makeNativeNameOrder()) {}
+
 void StorageReader::examine(const MountedVolumes::Volume& volume, Findings& findings) {
     MountedVolumes& platform = machine_->mountedVolumes();
-    std::string path = repairedUTF8(volume.path);
+    std::string path = distinctUTF8(volume.path);
     const auto [isLocal, isBrowsable] = platform.classification(volume);
     if (!isLocal || !isBrowsable) {
         findings.classificationWasUnknown = true;
@@ -61,7 +64,11 @@ std::optional<std::vector<VolumeStats>> StorageReader::read() {
         (findings.volumes.empty() && findings.classificationWasUnknown)) {
         return std::nullopt;
     }
-    std::stable_sort(findings.volumes.begin(), findings.volumes.end(), volumeComesFirst);
+    ranks_.learn(findings.volumes);
+    std::stable_sort(findings.volumes.begin(), findings.volumes.end(),
+                     [this](const VolumeStats& a, const VolumeStats& b) {
+                         return volumeComesFirst(a, b, ranks_);
+                     });
     lastEligiblePaths_.clear();
     for (const VolumeStats& volume : findings.volumes)
         lastEligiblePaths_.insert(volume.path);

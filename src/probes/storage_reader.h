@@ -4,10 +4,12 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "model/volume_stats.h"
 #include "platform/machine.h"
+#include "probes/name_ranks.h"
 
 namespace vantor {
 
@@ -15,7 +17,10 @@ namespace vantor {
 /// ones, then by name. One thread at a time.
 class StorageReader {
   public:
-    explicit StorageReader(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
+    /// With names in the order of the user's language, or in another one.
+    explicit StorageReader(std::shared_ptr<Machine> machine);
+    StorageReader(std::shared_ptr<Machine> machine, std::unique_ptr<NameOrder> names)
+        : machine_(std::move(machine)), ranks_(std::move(names)) {}
 
     /// Absent when no trustworthy list could be made this time, so that a volume does not flicker
     /// out of sight because a query failed for a moment.
@@ -33,6 +38,7 @@ class StorageReader {
     void examine(const MountedVolumes::Volume& volume, Findings& findings);
 
     std::shared_ptr<Machine> machine_;
+    NameRanks ranks_;
     std::set<std::string> lastEligiblePaths_;  ///< of the last list that was returned
 };
 

@@ -55,6 +55,17 @@ TEST(RepairedUTF8, ReplacesEachRunThatBeginsNoCharacter) {
     EXPECT_EQ(repairedUTF8("a\xFF\xC3\xA9\xE2\x82z"), "a\uFFFD\xC3\xA9\uFFFDz");
 }
 
+TEST(DistinctUTF8, ShowsTheBytesThatBelongToNoCharacter) {
+    EXPECT_EQ(distinctUTF8("a\xFF\xC3\xA9\xE2\x82z"), "a\\xFF\xC3\xA9\\xE2\\x82z");
+    EXPECT_NE(distinctUTF8("Caf\xE9"), distinctUTF8("Caf\xE8"));
+}
+
+TEST_P(UTF8, StaysAsItIsWhereItIsRightAndIsSoWhereNot) {
+    const std::string text = distinctUTF8(GetParam().bytes);
+    EXPECT_TRUE(isUTF8(text));
+    EXPECT_EQ(text == GetParam().bytes, GetParam().valid);
+}
+
 TEST_P(UTF8, IsLeftAloneWhereItIsRightAndMendedWhereNot) {
     std::string mended = "of before";
     const std::string_view result = validUTF8(GetParam().bytes, mended);

@@ -3,10 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cstdint>
 #include <limits>
+#include <memory>
+#include <span>
 #include <string>
 #include <vector>
+
+#include "platform/native_machine.h"
 
 namespace vantor::interface_order_test {
 namespace {
@@ -26,9 +30,7 @@ NetworkInterfaceStats row(const std::string& name, bool hasAddress = true, doubl
 std::vector<std::string> sorted(std::vector<NetworkInterfaceStats> rows,
                                 const char* primary = nullptr) {
     const std::string name = primary ? primary : "";
-    std::sort(rows.begin(), rows.end(), [&](const auto& a, const auto& b) {
-        return comesFirst(a, b, primary ? &name : nullptr);
-    });
+    InterfaceOrder(makeNativeNameOrder()).sort(rows, primary ? &name : nullptr);
     std::vector<std::string> names;
     for (const auto& r : rows)
         names.push_back(r.name);
@@ -58,6 +60,54 @@ TEST(InterfaceOrder, MoreTrafficInBothDirectionsTogetherComesFirst) {
 TEST(InterfaceOrder, EqualTrafficIsByNameWithNumbersByValue) {
     EXPECT_THAT(sorted({row("en10", true, 1, 2), row("en2", true, 2, 1), row("EN1", true, 3, 0)}),
                 ElementsAre("EN1", "en2", "en10"));
+}
+
+/// Names by their length, which no language has.
+class ByLength : public NameOrder {
+  public:
+    explicit ByLength(int& questions) : questions_(questions) {}
+
+    std::vector<std::uint32_t> ranks(std::span<const std::string> names) override {
+        ++questions_;
+        std::vector<std::uint32_t> ranks;
+        for (const std::string& name : names)
+            ranks.push_back(static_cast<std::uint32_t>(name.size()));
+        return ranks;
+    }
+
+  private:
+    int& questions_;
+};
+
+TEST(InterfaceOrder, AsksForTheOrderOfNamesOnlyWhenThereIsANewOne) {
+    int questions = 0;
+    InterfaceOrder order(std::make_unique<ByLength>(questions));
+    std::vector<NetworkInterfaceStats> rows{row("aaa"), row("bb"), row("c")};
+    for (int pass = 0; pass < 3; ++pass)
+        order.sort(rows, nullptr);
+    EXPECT_EQ(rows.front().name, "c");
+    EXPECT_EQ(rows.back().name, "aaa");
+    EXPECT_EQ(questions, 1);
+    rows.pop_back();
+    order.sort(rows, nullptr);
+    EXPECT_EQ(questions, 1) << "one that went changes nothing";
+    rows.push_back(row("eth0"));
+    order.sort(rows, nullptr);
+    EXPECT_EQ(questions, 2);
+    EXPECT_EQ(rows.back().name, "eth0");
+}
+
+TEST(InterfaceOrder, ForgetsNamesWhenTheyAreManyMoreThanThoseThatAreThere) {
+    int questions = 0;
+    InterfaceOrder order(std::make_unique<ByLength>(questions));
+    std::vector<NetworkInterfaceStats> rows;
+    for (int i = 0; i < 500; ++i)
+        rows.push_back(row("veth" + std::to_string(i)));
+    order.sort(rows, nullptr);
+    rows.resize(10);
+    order.sort(rows, nullptr);
+    order.sort(rows, nullptr);
+    EXPECT_EQ(questions, 2);
 }
 
 TEST(InterfaceOrder, SumsPastTheLargestNumberAreEqual) {

@@ -223,12 +223,25 @@ TEST_P(VolumeName, IsTheBestThereIs) {
     EXPECT_EQ(list->front().name, GetParam().shown);
 }
 
-TEST_F(StorageReaderTest, APathThatIsNotUTF8IsShownRepairedAndStillRecognised) {
+TEST_F(StorageReaderTest, APathThatIsNotUTF8IsShownWithItsBytesAndStillRecognised) {
     volumes.add("/", "Root");
     volumes.add("/mnt/Caf\xE9", {});
-    ASSERT_THAT(paths(), ElementsAre("/", "/mnt/Caf\xEF\xBF\xBD"));
+    ASSERT_THAT(paths(), ElementsAre("/", "/mnt/Caf\\xE9"));
     volumes.at("/mnt/Caf\xE9").classification = {};
     EXPECT_THAT(paths(), ElementsAre("absent"));
+}
+
+TEST_F(StorageReaderTest, TwoPathsThatDifferOnlyInBytesThatAreNoTextStayTwo) {
+    volumes.add("/", "Root");
+    volumes.add("/mnt/Caf\xE9", {});
+    volumes.add("/mnt/Caf\xE8", {});
+    ASSERT_THAT(paths(), ElementsAre("/", "/mnt/Caf\\xE9", "/mnt/Caf\\xE8"));
+}
+
+TEST_F(StorageReaderTest, AccentedNamesAreWhereTheirLettersAre) {
+    for (const char* name : {"Zeta", "\u00C9lan", "Foto", "Eden"})
+        volumes.add(std::string("/") + name, name);
+    EXPECT_THAT(paths(), ElementsAre("/Eden", "/\u00C9lan", "/Foto", "/Zeta"));
 }
 
 TEST_F(StorageReaderTest, TheRootComesFirstEvenWhenItsNameSortsLast) {

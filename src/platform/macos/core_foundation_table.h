@@ -26,6 +26,13 @@ inline constexpr CFIndex cfURLEnumeratorEnd = 2;
 inline constexpr CFIndex cfURLEnumeratorError = 3;
 inline constexpr unsigned long cfURLEnumeratorSkipInvisibles = 1UL << 1;
 
+// kCFCompare…
+inline constexpr unsigned long cfCompareCaseInsensitive = 1;
+inline constexpr unsigned long cfCompareNonliteral = 16;
+inline constexpr unsigned long cfCompareLocalized = 32;
+inline constexpr unsigned long cfCompareNumerically = 64;
+inline constexpr unsigned long cfCompareWidthInsensitive = 256;
+
 /// The functions and constants of Core Foundation that are used, each null where it was not found.
 /// Members are named after the functions, without their prefix. What "create" and "copy" give is
 /// the caller's to release; what "get" gives is borrowed from the object that it came from.
@@ -46,6 +53,11 @@ struct CoreFoundationTable {
     CFIndex (*stringGetBytes)(CFTypeRef, CFRange, std::uint32_t encoding, std::uint8_t lossByte,
                               CFBoolean isExternalRepresentation, std::uint8_t* buffer,
                               CFIndex bufferSize, CFIndex* used) = nullptr;
+
+    /// -1, 0 or 1. The locale may be null: then nothing is localized.
+    CFIndex (*stringCompare)(CFTypeRef, CFTypeRef other, CFRange, unsigned long options,
+                             CFTypeRef locale) = nullptr;
+    CFTypeRef (*localeCopyCurrent)() = nullptr;
 
     CFTypeID (*numberGetTypeID)() = nullptr;
     CFTypeRef (*numberCreate)(CFTypeRef allocator, CFIndex type, const void* value) = nullptr;

@@ -22,6 +22,8 @@ void findObjects(const LoadedFramework& library, CoreFoundationTable& table) {
     library.findFunction("CFStringCreateWithBytes", table.stringCreateWithBytes);
     library.findFunction("CFStringGetLength", table.stringGetLength);
     library.findFunction("CFStringGetBytes", table.stringGetBytes);
+    library.findFunction("CFStringCompareWithOptionsAndLocale", table.stringCompare);
+    library.findFunction("CFLocaleCopyCurrent", table.localeCopyCurrent);
     library.findFunction("CFNumberGetTypeID", table.numberGetTypeID);
     library.findFunction("CFNumberCreate", table.numberCreate);
     library.findFunction("CFNumberIsFloatType", table.numberIsFloatType);

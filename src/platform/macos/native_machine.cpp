@@ -5,6 +5,7 @@
 #include "platform/macos/autorelease_pool.h"
 #include "platform/macos/frameworks.h"
 #include "platform/macos/mac_machine.h"
+#include "platform/macos/mac_name_order.h"
 #include "platform/macos/mac_queue_factory.h"
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/posix/posix_local_calendar.h"
@@ -21,6 +22,10 @@ std::shared_ptr<AtomicFileWriter> makeNativeFileWriter() {
 
 std::shared_ptr<LocalCalendar> makeNativeLocalCalendar() {
     return std::make_shared<PosixLocalCalendar>();
+}
+
+std::unique_ptr<NameOrder> makeNativeNameOrder() {
+    return std::make_unique<MacNameOrder>(loadFrameworks());
 }
 
 std::shared_ptr<BackgroundQueueFactory> makeNativeQueueFactory(

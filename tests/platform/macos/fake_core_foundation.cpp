@@ -109,6 +109,28 @@ CFBoolean getNumber(CFTypeRef object, CFIndex type, void* value) {
     return 0;
 }
 
+/// Without regard to case or exactly; the language is left out.
+CFIndex compareStrings(CFTypeRef a, CFTypeRef b, CFRange range, unsigned long options,
+                       CFTypeRef locale) {
+    const FakeCall call;
+    constexpr auto name = "CFStringCompareWithOptionsAndLocale";
+    const Ref x = call->objects.check(a, Kind::text, name);
+    const Ref y = call->objects.check(b, Kind::text, name);
+    if (!x || !y || (locale && !call->objects.check(locale, Kind::text, name))) return 0;
+    if (range.location != 0 || range.length != static_cast<CFIndex>(x->units.size()))
+        call->objects.complain("a comparison of a part");
+    std::u16string first = x->units, second = y->units;
+    if (options == 369) {
+        for (std::u16string* const units : {&first, &second}) {
+            for (char16_t& unit : *units)
+                unit = unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+        }
+    } else if (options != 112) {
+        call->objects.complain("a comparison with odd options");
+    }
+    return first < second ? -1 : first > second ? 1 : 0;
+}
+
 void fillBasics(CoreFoundationTable& table) {
     table.retain = [](CFTypeRef object) {
         const FakeCall call;
@@ -159,6 +181,11 @@ void fillTextsAndNumbers(CoreFoundationTable& table) {
         return text ? static_cast<CFIndex>(text->units.size()) : 0;
     };
     table.stringGetBytes = getBytes;
+    table.stringCompare = compareStrings;
+    table.localeCopyCurrent = []() -> CFTypeRef {
+        const FakeCall call;
+        return call->fails() ? nullptr : &call->objects.create(Kind::text);
+    };
     table.numberGetTypeID = typeIDFunction<Kind::number>;
     table.numberCreate = [](CFTypeRef allocator, CFIndex type, const void* value) -> CFTypeRef {
         const FakeCall call;
