@@ -35,7 +35,9 @@ void requireSound(const vantor::Mount& mount) {
     require(mount.mountPoint.starts_with('/') && !mount.type.empty() && !mount.root.empty());
     require(vantor::unescapeMountText(mount.mountPoint).size() <= mount.mountPoint.size());
     const FileSystemKind kind = vantor::kindOf(mount);
-    if (mount.type.starts_with("fuse.")) require(kind != FileSystemKind::pseudo);
+    const bool isByAProgram =
+        mount.type == "fuse" || mount.type == "fuseblk" || mount.type.starts_with("fuse.");
+    if (isByAProgram) require(vantor::mayHang(kind));
     if (mount.major != 0) require(kind != FileSystemKind::pseudo);
 }
 
@@ -61,8 +63,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(paths.insert(mount.mountPoint).second);
         if (!listed.isLocal || !listed.isBrowsable) continue;
         require(devices.emplace(mount.major, mount.minor).second);
-        require(mount.isRoot() || kindOf(mount) == FileSystemKind::local);
+        require(mount.isRoot() || isOnDisks(kindOf(mount)));
         require(kindOf(mount) != FileSystemKind::network);
+        require(listed.mayHang || !mayHang(kindOf(mount)));
     }
     return 0;
 }

@@ -161,10 +161,14 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     endforeach()
     # Those of them with threads.
     vantor_add_tests(linux_thread_tests LABEL core SOURCES
+        platform/linux/hanging_volume_test.cpp
         platform/linux/linux_power_sources_test.cpp
+        platform/linux/patient_file_systems_test.cpp
         platform/linux/process_census_test.cpp
         platform/linux/processor_sensors_test.cpp
-        platform/linux/silent_file_system_test.cpp)
+        platform/linux/served_volumes_test.cpp
+        platform/linux/silent_file_system_test.cpp
+        support/served_folder.cpp)
     vantor_add_failing_reads(linux_thread_tests)
     # A program of its own: its process leaves the network namespace that it was started in.
     vantor_add_tests(network_namespace_tests LABEL core SOURCES

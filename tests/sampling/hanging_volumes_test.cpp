@@ -3,11 +3,16 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/linux/linux_mounted_volumes.h"
+#include "platform/linux/patient_file_systems.h"
 #include "platform/threads/threaded_main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
 #include "sampling/wound_world.h"
@@ -21,17 +26,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class HangingVolumes : public testing::Test {
+class MonitoredVolumes : public testing::Test {
   protected:
-    HangingVolumes() {
-        tree.proc("self/mountinfo", "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n");
-        fileSystems->spaces["/"] = {1, 1000, 600, false, {}};
-        fileSystems->onSpace = [hangs = hangs, isStuck = isStuck](const std::string&) {
-            if (!*hangs) return;
-            *isStuck = true;
-            while (true)
-                ::pause();
-        };
+    MonitoredVolumes(std::shared_ptr<FileSystems> fileSystems, const std::string& table)
+        : machine(std::make_shared<MachineWithVolumes>(
+              simulated,
+              std::make_shared<LinuxMountedVolumes>(tree.roots(), std::move(fileSystems)))) {
+        tree.proc("self/mountinfo", table);
         simulated->hostProcessors().growth = {30, 10, 60, 0};
         simulated->powerSources().onCopyInfo = [reads = powerReads] { ++*reads; };
         settings->setRefreshInterval(0.5);
@@ -56,20 +57,46 @@ class HangingVolumes : public testing::Test {
 
     const DashboardState& state() const { return monitor->dashboardState(); }
 
+    /// What is listed as available, in bytes; absent when it is not listed.
+    std::optional<std::uint64_t> available(const std::string& path) const {
+        for (const VolumeStats& volume : state().snapshot.volumes) {
+            if (volume.path == path) return volume.availableBytes;
+        }
+        return std::nullopt;
+    }
+
     FakeKernelTree tree;
-    std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
-    std::shared_ptr<std::atomic<bool>> isStuck = std::make_shared<std::atomic<bool>>(false);
     std::shared_ptr<std::atomic<int>> powerReads = std::make_shared<std::atomic<int>>(0);
-    std::shared_ptr<FakeFileSystems> fileSystems = std::make_shared<FakeFileSystems>();
     std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
     std::shared_ptr<SimulatedMachine> simulated = SimulatedMachine::laptop(clock);
-    std::shared_ptr<Machine> machine = std::make_shared<MachineWithVolumes>(
-        simulated, std::make_shared<LinuxMountedVolumes>(tree.roots(), fileSystems));
+    std::shared_ptr<Machine> machine;
     std::shared_ptr<AppSettings> settings = makeSettings();
     std::shared_ptr<ThreadedMainLoop> loop = std::make_shared<ThreadedMainLoop>();
     std::shared_ptr<ThreadedSerialQueueFactory> queues =
         std::make_shared<ThreadedSerialQueueFactory>();
     std::shared_ptr<SystemMonitor> monitor;
+};
+
+const std::string disk = "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n";
+
+class HangingVolumes : public MonitoredVolumes {
+  protected:
+    HangingVolumes() : HangingVolumes(std::make_shared<FakeFileSystems>()) {}
+
+    std::shared_ptr<std::atomic<bool>> hangs = std::make_shared<std::atomic<bool>>(false);
+    std::shared_ptr<std::atomic<bool>> isStuck = std::make_shared<std::atomic<bool>>(false);
+
+  private:
+    explicit HangingVolumes(const std::shared_ptr<FakeFileSystems>& fileSystems)
+        : MonitoredVolumes(fileSystems, disk) {
+        fileSystems->spaces["/"] = {1, 1000, 600, false, {}};
+        fileSystems->onSpace = [hangs = hangs, isStuck = isStuck](const std::string&) {
+            if (!*hangs) return;
+            *isStuck = true;
+            while (true)
+                ::pause();
+        };
+    }
 };
 
 TEST_F(HangingVolumes, LeaveTheLastListAndAllOtherReadingsAlone) {
@@ -102,6 +129,70 @@ TEST_F(HangingVolumes, LeaveTheLastListAndAllOtherReadingsAlone) {
     queues.reset();
     loop.reset();
     EXPECT_LT(std::chrono::steady_clock::now() - before, 500ms);
+}
+
+class HangingServedVolume : public MonitoredVolumes {
+  protected:
+    HangingServedVolume() : HangingServedVolume(std::make_shared<HangingFileSystems>()) {}
+    ~HangingServedVolume() override { fileSystems->goOnForGood(); }
+
+    void say(const std::string& path, std::uint64_t space) {
+        fileSystems->say(path, FileSystems::Space{1, 1000, space, false, {}});
+    }
+
+    std::shared_ptr<HangingFileSystems> fileSystems;
+
+  private:
+    explicit HangingServedVolume(const std::shared_ptr<HangingFileSystems>& hanging)
+        : MonitoredVolumes(std::make_shared<PatientFileSystems>(hanging, 20ms),
+                           disk + "2 1 8:17 / /stick rw - fuseblk /dev/sdb1 rw\n"),
+          fileSystems(hanging) {
+        say("/", 600);
+        say("/stick", 50);
+    }
+};
+
+TEST_F(HangingServedVolume, LeavesTheListAliveForTheOthers) {
+    std::vector<std::uint64_t> next{300, 400, 500};
+    bool wasListed = false;
+    bool wasAlwaysListed = true;
+    int questions = 0;
+    monitor->start();
+    const bool wentOn = runUntil([&] {
+        if (!wasListed) {
+            wasListed = available("/") == 600U && available("/stick") == 50U;
+            if (!wasListed) return false;
+            fileSystems->hang("/stick");
+            questions = fileSystems->questions("/stick");
+        } else if (available("/") != next.back()) {
+            return false;
+        } else {
+            next.pop_back();
+        }
+        wasAlwaysListed = wasAlwaysListed && available("/stick") == 50U;
+        if (next.empty()) return true;
+        say("/", next.back());
+        monitor->forceRefresh();
+        return false;
+    });
+    EXPECT_TRUE(wasListed);
+    EXPECT_TRUE(wentOn) << "the list stood still";
+    EXPECT_TRUE(wasAlwaysListed);
+    EXPECT_LE(fileSystems->questions("/stick"), questions + 1);
+}
+
+TEST_F(HangingServedVolume, FromTheStartLeavesTheOthersListed) {
+    fileSystems->hang("/stick");
+    monitor->start();
+    EXPECT_TRUE(runUntil([&] { return available("/") == 600U; }));
+    EXPECT_EQ(available("/stick"), std::nullopt);
+
+    const auto before = std::chrono::steady_clock::now();
+    monitor.reset();
+    EXPECT_TRUE(queues->waitForThreads(10s)) << "a queue waits for the volume that hangs";
+    queues.reset();
+    loop.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - before, 10s);
 }
 
 }  // namespace

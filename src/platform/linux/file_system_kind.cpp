@@ -31,8 +31,15 @@ constexpr std::array hostShares{
     "9p"sv, "drvfs"sv, "fuse.vmhgfs-fuse"sv, "prl_fs"sv, "vboxsf"sv, "virtiofs"sv, "vmhgfs"sv};
 
 /// After "fuse.": drivers of disks.
-constexpr std::array localPrograms{"apfs"sv,     "bcachefs"sv, "exfat"sv, "ext2"sv,    "fuse2fs"sv,
-                                   "fuseext2"sv, "hfsfuse"sv,  "ntfs"sv,  "ntfs-3g"sv, "zfs"sv};
+constexpr std::array diskPrograms{"apfs"sv,    "apfs-fuse"sv,  "bcachefs"sv,   "exfat"sv,
+                                  "ext2"sv,    "fuse-ext2"sv,  "fuse2fs"sv,    "fuseext2"sv,
+                                  "hfsfuse"sv, "lklfuse"sv,    "lowntfs-3g"sv, "ntfs"sv,
+                                  "ntfs-3g"sv, "exfat-fuse"sv, "zfs"sv,        "zfs-fuse"sv};
+
+/// After "fuse.": folders of this machine put together to one, and encrypted ones. Not those that
+/// show a folder as it is or an image's one file: the disk beneath is listed itself.
+constexpr std::array folderPrograms{"cryfs"sv,  "encfs"sv,    "gocryptfs"sv, "mergerfs"sv,
+                                    "mhddfs"sv, "securefs"sv, "unionfs"sv,   "unionfs-fuse"sv};
 
 /// After "fuse.".
 constexpr std::array pseudoPrograms{"gvfs-fuse-daemon"sv, "gvfsd-fuse"sv, "lxcfs"sv, "portal"sv,
@@ -52,13 +59,17 @@ FileSystemKind kindOf(const Mount& mount) {
     const std::string_view type = mount.type;
     if (isAmong(networkTypes, type)) return FileSystemKind::network;
     if (isAmong(hostShares, type)) return FileSystemKind::hostShare;
+    if (type == "fuseblk" || type.starts_with("fuseblk.")) return FileSystemKind::served;
+    // Served by the kernel, but from a folder that may lie anywhere.
+    if (type == "ecryptfs") return FileSystemKind::served;
     constexpr std::string_view served = "fuse.";
     if (type == "fuse") return FileSystemKind::userSpace;
     if (type.starts_with(served)) {
         const std::string_view program = type.substr(served.size());
         if (isAmong(networkPrograms, program)) return FileSystemKind::network;
         if (isAmong(pseudoPrograms, program)) return FileSystemKind::userSpacePseudo;
-        if (isAmong(localPrograms, program)) return FileSystemKind::local;
+        if (isAmong(diskPrograms, program)) return FileSystemKind::served;
+        if (isAmong(folderPrograms, program)) return FileSystemKind::served;
         return FileSystemKind::userSpace;
     }
     const bool isLocal = mount.major != 0 || isAmong(localWithoutDevice, type);

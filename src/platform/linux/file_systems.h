@@ -4,12 +4,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 struct statvfs;
 
 namespace vantor {
 
-/// What a mounted file system says of itself. Any call may hang for as long as the file system
+/// What mounted file systems say of themselves. A question may hang for as long as the file system
 /// does. One thread at a time.
 class FileSystems {
   public:
@@ -24,7 +25,16 @@ class FileSystems {
         std::optional<std::uint64_t> mountID;
     };
 
+    /// A mounted file system that may hang, as others can be counted on not to.
+    struct Place {
+        std::string path;
+        std::string mount;  ///< tells it from what was mounted at the same path before
+    };
+
     virtual ~FileSystems() = default;
+
+    /// Before the file systems of a list are asked: those of them that may hang.
+    virtual void beginPass(const std::vector<Place>&) {}
 
     /// Absent when the call fails.
     virtual std::optional<Space> space(const std::string& path) = 0;
@@ -34,6 +44,7 @@ class FileSystems {
 /// and the share of both are df's. Pure.
 FileSystems::Space spaceIn(const struct statvfs& answer);
 
+/// Any thread, several at once.
 std::shared_ptr<FileSystems> makeLiveFileSystems();
 
 }  // namespace vantor

@@ -16,6 +16,16 @@ std::optional<std::int64_t> bytes(std::uint64_t blocks, std::uint64_t blockSize)
     return static_cast<std::int64_t>(blocks * blockSize);
 }
 
+/// Numbers of mounts and devices are given away again as soon as they are free.
+std::string identityOf(const Mount& mount) {
+    std::string identity = std::to_string(mount.id);
+    for (const std::uint32_t number : {mount.major, mount.minor})
+        identity.append(" ").append(std::to_string(number));
+    for (const std::string_view text : {mount.root, mount.type, mount.source})
+        identity.append(" ").append(text);
+    return identity;
+}
+
 /// The kernel writes it first.
 bool saysReadOnly(std::string_view options) {
     return options == "ro" || options.starts_with("ro,");
@@ -30,14 +40,19 @@ void LinuxMountedVolumes::take(std::string table) {
     parseMountTable(table_, mounts_);
     listed_ = listMounts(mounts_);
     paths_.clear();
-    for (const ListedMount& each : listed_)
+    mayHang_.clear();
+    for (const ListedMount& each : listed_) {
         paths_.push_back(unescapeMountText(mounts_[each.index].mountPoint));
+        if (each.isLocal && each.isBrowsable && each.mayHang)
+            mayHang_.push_back({paths_.back(), identityOf(mounts_[each.index])});
+    }
 }
 
 std::optional<std::vector<MountedVolumes::Volume>> LinuxMountedVolumes::mountedVolumes() {
     auto text = readKernelFile(roots_.proc / "self/mountinfo");
     take(text ? std::move(*text) : std::string());
     if (!text) return std::nullopt;
+    fileSystems_->beginPass(mayHang_);
     std::vector<Volume> volumes;
     volumes.reserve(paths_.size());
     for (const std::string& path : paths_)

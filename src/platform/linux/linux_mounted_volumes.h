@@ -25,6 +25,7 @@ class LinuxMountedVolumes : public MountedVolumes {
     Classification classification(const Volume& volume) override;
 
     /// Touches the file system of a local and browsable volume only; of others nothing is known.
+    /// Those that may hang are told to the file systems when the volumes are enumerated.
     Details details(const Volume& volume) override;
 
   private:
@@ -36,7 +37,8 @@ class LinuxMountedVolumes : public MountedVolumes {
     std::string table_;
     std::vector<Mount> mounts_;  // parts of table_
     std::vector<ListedMount> listed_;
-    std::vector<std::string> paths_;  // of listed_
+    std::vector<std::string> paths_;           // of listed_
+    std::vector<FileSystems::Place> mayHang_;  // those of them that are asked
     std::size_t lastFound_ = 0;
 };
 

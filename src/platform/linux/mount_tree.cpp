@@ -48,6 +48,7 @@ MountTree::Arrival MountTree::follow(std::string_view path) const {
             if (arrival.mount && !mounts_[*arrival.mount].isRoot() &&
                 mayHang(kinds_[*arrival.mount])) {
                 arrival.mayHangOnTheWay = true;
+                if (!isOnDisks(kinds_[*arrival.mount])) arrival.leavesTheDisks = true;
             }
             arrival.mount = child;
             current = mounts_[*child].id;

@@ -23,6 +23,8 @@ class MountTree {
         /// Some file system on the way (other than the one of "/") is asked over the network or by
         /// way of a program, so that following the path may hang.
         bool mayHangOnTheWay = false;
+        /// One of these is not on the disks of this machine.
+        bool leavesTheDisks = false;
     };
 
     /// Follows the path, written as in the table, like the kernel does: into whatever is mounted on

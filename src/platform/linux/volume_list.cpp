@@ -70,39 +70,43 @@ bool isHidden(const Mount& mount) {
     return isPrivate(mount.mountPoint) || isSystemImage(mount) || isPartOfAnother(mount);
 }
 
-ListedMount classify(const Mount& mount, FileSystemKind kind, bool mayHangOnTheWay) {
+ListedMount classify(const Mount& mount, FileSystemKind kind, const MountTree::Arrival& arrival) {
     ListedMount listed;
+    listed.mayHang = mayHang(kind) || arrival.mayHangOnTheWay;
     if (mount.isRoot()) {
         listed.isLocal = kind != FileSystemKind::network;
         listed.isBrowsable = true;
         return listed;
     }
     const bool isPseudo = kind == FileSystemKind::pseudo || kind == FileSystemKind::userSpacePseudo;
-    listed.isLocal = (isPseudo || kind == FileSystemKind::local) && !mayHangOnTheWay;
+    listed.isLocal = (isPseudo || isOnDisks(kind)) && !arrival.leavesTheDisks;
     listed.isBrowsable = !isPseudo;
     return listed;
 }
 
 /// The mount that stands for its file system comes first.
-auto preference(const Mount& mount) {
-    return std::tuple(!mount.isRoot(), mount.root != "/", mount.mountPoint.size());
+auto preference(const Mount& mount, bool mayHang) {
+    return std::tuple(!mount.isRoot(), mayHang, mount.root != "/", mount.mountPoint.size());
 }
 
 /// Leaves one mount of each file system that people see. Two mounts with one device number are
 /// mounts of one file system.
 void removeDuplicates(std::span<const Mount> mounts, std::vector<ListedMount>& listed) {
-    std::vector<std::size_t> seen;
+    std::vector<ListedMount> seen;
     for (const ListedMount& each : listed) {
-        if (each.isLocal && each.isBrowsable) seen.push_back(each.index);
+        if (each.isLocal && each.isBrowsable) seen.push_back(each);
     }
-    const auto device = [&](std::size_t i) { return std::pair(mounts[i].major, mounts[i].minor); };
-    std::sort(seen.begin(), seen.end(), [&](std::size_t a, std::size_t b) {
-        return std::tuple(device(a), preference(mounts[a]), a) <
-               std::tuple(device(b), preference(mounts[b]), b);
-    });
+    const auto device = [&](const ListedMount& m) {
+        return std::pair(mounts[m.index].major, mounts[m.index].minor);
+    };
+    const auto rank = [&](const ListedMount& m) {
+        return std::tuple(device(m), preference(mounts[m.index], m.mayHang), m.index);
+    };
+    std::sort(seen.begin(), seen.end(),
+              [&](const ListedMount& a, const ListedMount& b) { return rank(a) < rank(b); });
     std::vector<std::size_t> duplicates;
     for (std::size_t i = 1; i < seen.size(); ++i) {
-        if (device(seen[i]) == device(seen[i - 1])) duplicates.push_back(seen[i]);
+        if (device(seen[i]) == device(seen[i - 1])) duplicates.push_back(seen[i].index);
     }
     std::sort(duplicates.begin(), duplicates.end());
     std::erase_if(listed, [&](const ListedMount& each) {
@@ -124,7 +128,7 @@ std::vector<ListedMount> listMounts(std::span<const Mount> mounts) {
         if (isHidden(mounts[i])) continue;
         const auto arrival = tree.follow(mounts[i].mountPoint);
         if (arrival.mount != i) continue;
-        ListedMount each = classify(mounts[i], kinds[i], arrival.mayHangOnTheWay);
+        ListedMount each = classify(mounts[i], kinds[i], arrival);
         each.index = i;
         listed.push_back(each);
     }

@@ -8,12 +8,13 @@
 
 namespace vantor {
 
-/// A mount that is not hidden. What is local and browsable may be looked into without hanging on
-/// another machine or a program.
+/// A mount that is not hidden. What is local and browsable may be looked into; it hangs on another
+/// machine or a program only where it is said to.
 struct ListedMount {
     std::size_t index = 0;  ///< in the table
     bool isLocal = false;
     bool isBrowsable = false;
+    bool mayHang = false;  ///< or what its path leads through
 
     bool operator==(const ListedMount&) const = default;
 };

@@ -9,7 +9,7 @@
 namespace vantor {
 
 static void PrintTo(FileSystemKind kind, std::ostream* out) {
-    constexpr const char* names[] = {"local",   "pseudo",    "hostShare",
+    constexpr const char* names[] = {"local",   "served",    "pseudo",         "hostShare",
                                      "network", "userSpace", "userSpacePseudo"};
     *out << names[static_cast<int>(kind)];
 }
@@ -49,12 +49,22 @@ std::vector<Row> rows() {
         all.push_back({type, 8, network});
     for (const char* type : {"9p", "virtiofs", "vboxsf", "fuse.vmhgfs-fuse"})
         all.push_back({type, 0, hostShare});
-    for (const char* type : {"fuse", "fuse.encfs", "fuse.never_heard_of", "fuse."})
+    for (const char* type : {"fuse", "fuse.bindfs", "fuse.ifuse", "fuse.dislocker",
+                             "fuse.veracrypt", "fuse.never_heard_of", "fuse."}) {
         all.push_back({type, 0, userSpace});
-    for (const char* type : {"btrfs", "zfs", "bcachefs", "ubifs", "fuse.ntfs-3g", "fuse.exfat"})
+    }
+    for (const char* type :
+         {"fuse.ntfs-3g", "fuse.lowntfs-3g", "fuse.exfat", "fuse.ext2", "fuse.fuse2fs",
+          "fuse.zfs-fuse", "fuse.mergerfs", "fuse.unionfs", "fuse.unionfs-fuse", "fuse.mhddfs",
+          "fuse.gocryptfs", "fuse.encfs", "fuse.cryfs", "fuse.securefs", "ecryptfs"}) {
+        all.push_back({type, 0, served});
+    }
+    for (const char* type : {"fuseblk", "fuseblk.ntfs-3g"})
+        all.push_back({type, 8, served});
+    for (const char* type : {"btrfs", "zfs", "bcachefs", "ubifs"})
         all.push_back({type, 0, local});
-    for (const char* type : {"ext4", "xfs", "vfat", "exfat", "ntfs3", "fuseblk", "iso9660",
-                             "squashfs", "f2fs", "btrfs", "never_heard_of"}) {
+    for (const char* type : {"ext4", "xfs", "vfat", "exfat", "ntfs3", "iso9660", "squashfs", "f2fs",
+                             "btrfs", "never_heard_of"}) {
         all.push_back({type, 8, local});
     }
     return all;
@@ -80,8 +90,16 @@ TEST(FileSystemKind, OnlyDisksAndTheKernelAnswerForCertain) {
     using enum FileSystemKind;
     EXPECT_FALSE(mayHang(local));
     EXPECT_FALSE(mayHang(pseudo));
-    for (const FileSystemKind kind : {hostShare, network, userSpace, userSpacePseudo})
+    for (const FileSystemKind kind : {served, hostShare, network, userSpace, userSpacePseudo})
         EXPECT_TRUE(mayHang(kind));
+}
+
+TEST(FileSystemKind, OnlyWhatIsServedFromDisksIsOnThemToo) {
+    using enum FileSystemKind;
+    EXPECT_TRUE(isOnDisks(local));
+    EXPECT_TRUE(isOnDisks(served));
+    for (const FileSystemKind kind : {pseudo, hostShare, network, userSpace, userSpacePseudo})
+        EXPECT_FALSE(isOnDisks(kind));
 }
 
 }  // namespace

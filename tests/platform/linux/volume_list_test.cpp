@@ -14,6 +14,9 @@ namespace {
 using Lines = std::vector<std::string>;
 
 const std::string root = "1 0 8:1 / / rw - ext4 /dev/sda1 rw";
+const std::string nfs = "2 1 0:9 / /srv rw - nfs4 server:/srv rw";
+const std::string vault = "3 1 0:10 / /vault rw - fuse.vault vault rw";
+const std::string pool = "4 1 0:11 / /pool rw - fuse.mergerfs a:b rw";
 
 std::string joined(const Lines& lines) {
     std::string text;
@@ -23,7 +26,7 @@ std::string joined(const Lines& lines) {
 }
 
 /// The mount points of the volumes, in order; those that are not local in "<>", those that are not
-/// browsable in "()".
+/// browsable in "()", and among the others those that may hang in "[]".
 Lines list(const std::string& text) {
     std::vector<Mount> mounts;
     parseMountTable(text, mounts);
@@ -32,6 +35,7 @@ Lines list(const std::string& text) {
         std::string path = unescapeMountText(mounts[each.index].mountPoint);
         if (!each.isLocal) path = "<" + path + ">";
         if (!each.isBrowsable) path = "(" + path + ")";
+        if (each.isLocal && each.isBrowsable && each.mayHang) path = "[" + path + "]";
         listed.push_back(path);
     }
     return listed;
@@ -61,18 +65,17 @@ INSTANTIATE_TEST_SUITE_P(
             {root, "2 1 0:4 / /proc rw - proc proc rw", "3 1 0:5 / /tmp rw - tmpfs tmpfs rw"},
             {"/", "(/proc)", "(/tmp)"}},
         Row{{"Network"},
-            {root, "2 1 0:9 / /srv rw - nfs4 server:/srv rw",
-             "3 1 0:10 / /smb rw - cifs //server/share rw"},
+            {root, nfs, "3 1 0:10 / /smb rw - cifs //server/share rw"},
             {"/", "</srv>", "</smb>"}},
         Row{{"HostShare"}, {root, "2 1 0:9 / /host rw - virtiofs host rw"}, {"/", "</host>"}},
         Row{{"UserSpace"},
-            {root, "2 1 0:9 / /remote rw - fuse.sshfs me@there: rw",
-             "3 1 0:10 / /vault rw - fuse.vault vault rw",
+            {root, "2 1 0:9 / /remote rw - fuse.sshfs me@there: rw", vault,
              "4 1 0:11 / /var/lib/lxcfs rw - fuse.lxcfs lxcfs rw"},
             {"/", "</remote>", "</vault>", "(/var/lib/lxcfs)"}},
         Row{{"Stick"},
             {root, "2 1 8:17 / /media/me/STICK rw - fuseblk /dev/sdb1 rw"},
-            {"/", "/media/me/STICK"}},
+            {"/", "[/media/me/STICK]"}},
+        Row{{"Pool"}, {root, pool}, {"/", "[/pool]"}},
         Row{{"Disc"},
             {root, "2 1 11:0 / /media/me/Disc ro - iso9660 /dev/sr0 ro"},
             {"/", "/media/me/Disc"}},
@@ -91,10 +94,12 @@ INSTANTIATE_TEST_SUITE_P(
             {"1 0 0:50 / / rw - overlay overlay rw,lowerdir=/a",
              "2 1 0:51 / /merged rw - overlay overlay rw"},
             {"/", "(/merged)"}},
-        Row{{"HostShare"}, {"1 0 0:50 / / rw - virtiofs root rw"}, {"/"}},
-        Row{{"Plan9Share"}, {"1 0 0:50 / / rw - 9p root rw"}, {"/"}},
+        Row{{"HostShare"}, {"1 0 0:50 / / rw - virtiofs root rw"}, {"[/]"}},
         Row{{"Memory"}, {"1 0 0:50 / / rw - tmpfs tmpfs rw"}, {"/"}},
-        Row{{"UserSpace"}, {"1 0 0:50 / / rw - fuse.fuse-overlayfs x rw"}, {"/"}},
+        Row{{"UserSpace"}, {"1 0 0:50 / / rw - fuse.fuse-overlayfs x rw"}, {"[/]"}},
+        Row{{"DisksOnAServedRoot"},
+            {"1 0 8:1 / / rw - fuseblk /dev/sda1 rw", "2 1 8:2 / /home rw - ext4 /dev/sda2 rw"},
+            {"[/]", "/home"}},
         Row{{"Network"}, {"1 0 0:50 / / rw - nfs server:/root rw"}, {"</>"}},
         Row{{"NetworkProgram"}, {"1 0 0:50 / / rw - fuse.sshfs me@there: rw"}, {"</>"}},
         Row{{"DisksOnANetworkRoot"},
@@ -237,25 +242,36 @@ INSTANTIATE_TEST_SUITE_P(
             {"/"}}),
     rowName<Row>);
 
-INSTANTIATE_TEST_SUITE_P(Reached, VolumeList,
-                         testing::Values(Row{{"ThroughTheNetwork"},
-                                             {root, "2 1 0:9 / /srv rw - nfs4 server:/srv rw",
-                                              "3 2 8:17 / /srv/stick rw - ext4 /dev/sdb1 rw"},
-                                             {"/", "</srv>", "</srv/stick>"}},
-                                         Row{{"ThroughAProgram"},
-                                             {root, "2 1 0:9 / /vault rw - fuse.vault vault rw",
-                                              "3 2 8:17 / /vault/stick rw - ext4 /dev/sdb1 rw"},
-                                             {"/", "</vault>", "</vault/stick>"}},
-                                         Row{{"ThroughAnAutomount"},
-                                             {root, "2 1 0:9 / /boot rw - autofs systemd-1 rw",
-                                              "3 2 8:2 / /boot rw - vfat /dev/sda2 rw"},
-                                             {"/", "/boot"}},
-                                         Row{{"ElsewhereToo"},
-                                             {root, "2 1 0:9 / /s rw - nfs server:/s rw",
-                                              "3 2 8:17 / /s/d rw - ext4 /dev/sdb1 rw",
-                                              "4 1 8:17 / /mnt/longer rw - ext4 /dev/sdb1 rw"},
-                                             {"/", "</s>", "</s/d>", "/mnt/longer"}}),
-                         rowName<Row>);
+/// A disk below the mount of that number.
+std::string diskBelow(int mount, const std::string& path) {
+    return "9 " + std::to_string(mount) + " 8:17 / " + path + " rw - ext4 /dev/sdb1 rw";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reached, VolumeList,
+    testing::Values(
+        Row{{"ThroughTheNetwork"},
+            {root, nfs, diskBelow(2, "/srv/d")},
+            {"/", "</srv>", "</srv/d>"}},
+        Row{{"ThroughAProgram"},
+            {root, vault, diskBelow(3, "/vault/d")},
+            {"/", "</vault>", "</vault/d>"}},
+        Row{{"ThroughAPool"}, {root, pool, diskBelow(4, "/pool/d")}, {"/", "[/pool]", "[/pool/d]"}},
+        Row{{"ThroughTheNetworkAndAPool"},
+            {root, nfs, "5 2 0:11 / /srv/pool rw - fuse.mergerfs a:b rw",
+             diskBelow(5, "/srv/pool/d")},
+            {"/", "</srv>", "</srv/pool>", "</srv/pool/d>"}},
+        Row{{"ThroughAnAutomount"},
+            {root, "2 1 0:9 / /boot rw - autofs systemd-1 rw",
+             "3 2 8:2 / /boot rw - vfat /dev/sda2 rw"},
+            {"/", "/boot"}},
+        Row{{"ElsewhereToo"},
+            {root, nfs, diskBelow(2, "/srv/d"), "10 1 8:17 / /mnt/longer rw - ext4 /dev/sdb1 rw"},
+            {"/", "</srv>", "</srv/d>", "/mnt/longer"}},
+        Row{{"ThroughNoPoolToo"},
+            {root, pool, diskBelow(4, "/pool/d"), "10 1 8:17 / /mnt/longer rw - ext4 /dev/sdb1 rw"},
+            {"/", "[/pool]", "/mnt/longer"}}),
+    rowName<Row>);
 
 TEST(VolumeListOf, ADamagedTableWithACircleComesToAnEnd) {
     EXPECT_THAT(list("1 0 8:1 / / rw - ext4 a rw\n2 1 8:2 / / rw - ext4 b rw\n"
