@@ -4,6 +4,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
 add_executable(vantor_e2e_tests
     e2e/assistive_client.cpp
     e2e/assistive_test.cpp
+    e2e/bus_tray_test.cpp
     e2e/desktop.cpp
     e2e/export_failures_test.cpp
     e2e/export_scene.cpp
@@ -16,7 +17,8 @@ add_executable(vantor_e2e_tests
     e2e/tray_test.cpp
     e2e/wayland_test.cpp
     e2e/window_test.cpp
-    e2e/windows_test.cpp)
+    e2e/windows_test.cpp
+    support/played_notifier_tray.cpp)
 vantor_set_up_test_target(vantor_e2e_tests)
 target_precompile_headers(vantor_e2e_tests REUSE_FROM vantor_widget_test_headers)
 # The system's own Python first: that is the one whose packages the scripts install.
@@ -26,6 +28,6 @@ target_compile_definitions(vantor_e2e_tests PRIVATE
     VANTOR_PROGRAM="$<TARGET_FILE:vantor>"
     VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_PYTHON="${VANTOR_PYTHON}")
-target_link_libraries(vantor_e2e_tests PRIVATE vantor_ui Qt6::DBus)
+target_link_libraries(vantor_e2e_tests PRIVATE vantor_app)
 add_dependencies(vantor_e2e_tests instance_program vantor)
 vantor_discover_tests(vantor_e2e_tests e2e)

@@ -95,6 +95,11 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/vantor_app_test.cpp
     app/window_geometry_test.cpp
     app/window_placement_test.cpp)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    target_sources(app_tests PRIVATE
+        app/qt_status_bar_test.cpp
+        support/played_notifier_tray.cpp)
+endif()
 target_compile_definitions(app_tests PRIVATE
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
     VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"

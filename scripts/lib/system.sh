@@ -9,7 +9,7 @@ fail() {
 
 . scripts/lib/timing.sh
 
-build_packages="g++ cmake ninja-build nlohmann-json3-dev libicu-dev qt6-base-dev"
+build_packages="g++ cmake ninja-build nlohmann-json3-dev libicu-dev libxcb1-dev qt6-base-dev"
 screen_packages="xvfb x11-utils imagemagick fonts-inter fonts-dejavu-core"
 test_packages="mold qt6-svg-dev libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox trayer weston qt6-wayland procps iproute2 dbus-daemon at-spi2-core python3-jsonschema"
 clang_packages="clang libclang-rt-14-dev"

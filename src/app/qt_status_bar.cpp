@@ -1,41 +1,57 @@
 #include "app/qt_status_bar.h"
 
-#include <QApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
-#include <QDBusVariant>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
 #include <algorithm>
-#include <chrono>
+#include <utility>
 
+#include "app/embedding_tray.h"
 #include "app/status_menu.h"
-#include "ui/components/make_child.h"
 #include "ui/product_icon.h"
 
 namespace vantor {
 
 namespace {
 
-using namespace std::chrono_literals;
+/// An icon in the tray of an X display.
+class EmbeddedItem : public StatusItem {
+  public:
+    explicit EmbeddedItem(StatusItemContent content)
+        : content_(std::move(content)), icon_(productIcon()) {
+        icon_.setToolTip(content_.title);
+        QObject::connect(&menu_, &QMenu::aboutToShow, &icon_, [this] { fill(); });
+        fill();
+        icon_.setContextMenu(&menu_);
+        QObject::connect(
+            &icon_, &QSystemTrayIcon::activated, &icon_,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                // The second of two quick presses is a press, too.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                    press();
+            });
+        icon_.show();
+    }
 
-// Old trays say nothing when they come and go.
-constexpr auto lookInterval = 2s;
-// The toolkit asks once and for all whether the session bus has a tray. When the program is
-// started together with the desktop, the desktop's panel may be a little later than we are.
-constexpr int patienceWithBus = 3000;
+  private:
+    void fill() { fillStatusMenu(menu_, content_.menu()); }
+    void press() {
+        const QRect area = icon_.geometry();
+        content_.onPress(area.isValid() ? area : areaOfPress({}));
+    }
 
-QString watcherService() {
-    return QStringLiteral("org.kde.StatusNotifierWatcher");
+    StatusItemContent content_;
+    QMenu menu_;
+    QSystemTrayIcon icon_;
+};
+
+QString lookoutName() {
+    return QStringLiteral("vantor-tray");
 }
 
 }  // namespace
 
-/// One icon; made when there is a tray to show it.
+/// One item; shown while there is a tray.
 class QtStatusBar::Item : public StatusItem {
   public:
     Item(QtStatusBar& bar, StatusItemContent content) : bar_(bar), content_(std::move(content)) {
@@ -43,106 +59,101 @@ class QtStatusBar::Item : public StatusItem {
     }
     ~Item() override { std::erase(bar_.items_, this); }
 
-    void show() {
-        if (icon_) return;
-        // The product's own tile: its light wave on a coloured ground can be seen on light panels
-        // and on dark ones, and nothing tells which the panel is.
-        icon_ = std::make_unique<QSystemTrayIcon>(productIcon());
-        icon_->setToolTip(content_.title);
-        QObject::connect(&menu_, &QMenu::aboutToShow, icon_.get(), [this] { fill(); });
-        fill();
-        icon_->setContextMenu(&menu_);
-        QObject::connect(
-            icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
-            [this](QSystemTrayIcon::ActivationReason reason) {
-                // The second of two quick presses is a press, too.
-                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
-                    content_.onPress(icon_->geometry());
-            });
-        icon_->show();
+    void show(Way way) {
+        onBus_ = nullptr;
+        shown_.reset();
+        if (way == Way::embedded) shown_ = bar_.surroundings_.embed(content_);
+        if (way != Way::bus) return;
+        auto item = std::make_unique<NotifierItem>(bar_.surroundings_.connect, content_,
+                                                   [&bar = bar_] { bar.soon_.start(); });
+        onBus_ = item.get();
+        shown_ = std::move(item);
+    }
+
+    void look() {
+        if (onBus_) onBus_->look();
+    }
+    bool has(NotifierItem::Standing standing) const {
+        return onBus_ && onBus_->standing() == standing;
     }
 
   private:
-    void fill() { fillStatusMenu(menu_, content_.menu()); }
-
     QtStatusBar& bar_;
     StatusItemContent content_;
-    QMenu menu_;
-    std::unique_ptr<QSystemTrayIcon> icon_;
+    std::unique_ptr<StatusItem> shown_;
+    NotifierItem* onBus_ = nullptr;  // where it is shown there
 };
 
-QtStatusBar::QtStatusBar() {
-    sinceStart_.start();
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (bus.isConnected()) {
-        watcher_ = std::make_unique<QDBusServiceWatcher>(watcherService(), bus,
-                                                         QDBusServiceWatcher::WatchForOwnerChange);
-        QObject::connect(watcher_.get(), &QDBusServiceWatcher::serviceOwnerChanged, &look_,
-                         [this](const QString&, const QString&, const QString& owner) {
-                             hasWatcher_ = !owner.isEmpty();
-                             look();
-                         });
-        hasWatcher_ = true;  // unless it does not answer
-    }
+QtStatusBar::Surroundings QtStatusBar::nativeSurroundings() {
+    return {[](const QString& name) {
+                return QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+            },
+            hasEmbeddingTray,
+            [](StatusItemContent content) {
+                return std::make_unique<EmbeddedItem>(std::move(content));
+            }};
+}
+
+QtStatusBar::QtStatusBar(Surroundings surroundings) : surroundings_(std::move(surroundings)) {
+    const QDBusConnection bus = surroundings_.connect(lookoutName());
+    if (bus.isConnected()) host_ = std::make_unique<NotifierHost>(bus, [this] { settle(); });
+    soon_.setSingleShot(true);
+    soon_.setInterval(0);
+    QObject::connect(&soon_, &QTimer::timeout, &soon_, [this] { settle(); });
     QObject::connect(&look_, &QTimer::timeout, &look_, [this] { look(); });
     look_.setTimerType(Qt::CoarseTimer);
-    look_.start(lookInterval);
+    look_.start(surroundings_.lookInterval);
     look();
 }
 
-QtStatusBar::~QtStatusBar() = default;
+QtStatusBar::~QtStatusBar() {
+    host_.reset();
+    QDBusConnection::disconnectFromBus(lookoutName());
+}
 
 void QtStatusBar::look() {
-    if (hasWatcher_) {
-        askBus();
+    for (Item* const item : items_)
+        item->look();
+    if (host_) {
+        host_->look();
     } else {
-        isOnBus_ = false;
         settle();
     }
 }
 
-/// The service alone shows nothing: it may be there without any panel.
-void QtStatusBar::askBus() {
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        watcherService(), QStringLiteral("/StatusNotifierWatcher"),
-        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    question << watcherService() << QStringLiteral("IsStatusNotifierHostRegistered");
-    question.setAutoStartService(false);
-    const auto call = QDBusConnection::sessionBus().asyncCall(question);
-    auto* answer = makeChild<QDBusPendingCallWatcher>(static_cast<QObject*>(&look_), call);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &look_, [this, answer] {
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        answer->deleteLater();
-        hasWatcher_ = !reply.isError();
-        isOnBus_ = hasWatcher_ && reply.value().variant().toBool();
-        settle();
-    });
+QtStatusBar::Way QtStatusBar::wayNow() const {
+    // Not from one tray into another while the first is there.
+    if (way_ == Way::embedded && surroundings_.hasEmbeddingTray()) return way_;
+    if (host_ && host_->isThere()) {
+        // The toolkit would put an icon for embedding there, too.
+        return refuser_ == host_->owners() ? Way::none : Way::bus;
+    }
+    return surroundings_.hasEmbeddingTray() ? Way::embedded : Way::none;
 }
 
-bool QtStatusBar::isThere() {
-    if (isOnBus_ && way_ != Way::embedded) return true;
-    if (way_ == Way::bus) return false;
-    const bool isX11 = QGuiApplication::platformName() == QLatin1StringView("xcb");
-    const bool mayBeLate = watcher_ && !sinceStart_.hasExpired(patienceWithBus);
-    if (!isX11 || (mayBeLate && way_ == Way::undecided)) return false;
-    way_ = Way::embedded;
-    return QSystemTrayIcon::isSystemTrayAvailable();
+/// Believes a watcher when it has taken what it was given.
+bool QtStatusBar::isThere() const {
+    if (way_ != Way::bus) return way_ == Way::embedded;
+    // An item more for a tray that has taken others is as good as there.
+    return isAvailable_ || std::ranges::none_of(items_, [](const Item* item) {
+               return item->has(NotifierItem::Standing::asked);
+           });
 }
 
 void QtStatusBar::settle() {
-    const bool isThereNow = isThere();
-    if (isThereNow) {
-        if (way_ == Way::undecided) way_ = Way::bus;
-        showItems();
+    const bool isRefused = std::ranges::any_of(
+        items_, [](const Item* item) { return item->has(NotifierItem::Standing::refused); });
+    if (isRefused) refuser_ = host_->owners();
+    const Way now = wayNow();
+    if (now != way_) {
+        way_ = now;
+        for (Item* const item : items_)
+            item->show(way_);
     }
+    const bool isThereNow = isThere();
     if (isThereNow == isAvailable_) return;
     isAvailable_ = isThereNow;
     if (onChange_) onChange_();
-}
-
-void QtStatusBar::showItems() {
-    for (Item* const item : items_)
-        item->show();
 }
 
 void QtStatusBar::listen(std::function<void()> onChange) {
@@ -151,7 +162,7 @@ void QtStatusBar::listen(std::function<void()> onChange) {
 
 std::unique_ptr<StatusItem> QtStatusBar::makeItem(StatusItemContent content) {
     auto item = std::make_unique<Item>(*this, std::move(content));
-    if (isAvailable_) item->show();
+    item->show(way_);
     return item;
 }
 

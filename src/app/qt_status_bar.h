@@ -1,21 +1,35 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QTimer>
 
+#include <chrono>
+#include <functional>
 #include <memory>
+#include <vector>
 
+#include "app/notifier_host.h"
+#include "app/notifier_item.h"
 #include "app/status_bar.h"
-
-class QDBusServiceWatcher;
 
 namespace vantor {
 
 /// The tray of Linux desktops: items of the session bus (StatusNotifierItem) where something there
-/// shows them, else icons embedded into an X11 tray.
+/// shows them, else icons embedded into an X11 tray. Which it is stays open until one of them is
+/// really there, however late that is; programs that start with the session are up before the
+/// desktop's panel.
 class QtStatusBar : public StatusBar {
   public:
-    QtStatusBar();
+    /// What it finds and makes.
+    struct Surroundings {
+        BusConnector connect;
+        std::function<bool()> hasEmbeddingTray;
+        std::function<std::unique_ptr<StatusItem>(StatusItemContent)> embed;
+        /// Old trays say nothing when they come and go.
+        std::chrono::milliseconds lookInterval = std::chrono::seconds(2);
+    };
+    static Surroundings nativeSurroundings();
+
+    explicit QtStatusBar(Surroundings surroundings = nativeSurroundings());
     ~QtStatusBar() override;
 
     bool isAvailable() const override { return isAvailable_; }
@@ -25,23 +39,21 @@ class QtStatusBar : public StatusBar {
   private:
     class Item;
 
-    /// What the toolkit shows icons by; it decides once and for all.
-    enum class Way { undecided, bus, embedded };
+    enum class Way { none, bus, embedded };
 
     void look();
-    void askBus();
     void settle();
-    bool isThere();
-    void showItems();
+    Way wayNow() const;
+    bool isThere() const;
 
+    Surroundings surroundings_;
     std::function<void()> onChange_;
-    std::unique_ptr<QDBusServiceWatcher> watcher_;
+    std::unique_ptr<NotifierHost> host_;  // none without a bus
     QTimer look_;
-    bool hasWatcher_ = false;  // the session bus knows a tray's service
-    bool isOnBus_ = false;     // and something shows its items
-    Way way_ = Way::undecided;
+    QTimer soon_;  // until it settles, in a turn of its own
+    Way way_ = Way::none;
     bool isAvailable_ = false;
-    QElapsedTimer sinceStart_;
+    int refuser_ = -1;          // which owner of the bus's service has refused an item
     std::vector<Item*> items_;  // those that live now
 };
 

@@ -21,8 +21,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A desktop's panel that is restarted is back by then.
-constexpr auto trayPatience = 5s;
 // All providers have answered once by then, and what the start needed is free.
 constexpr auto settlingTime = 4s;
 // A document is written in milliseconds; a slow stick takes a second or two to have it for good. A
@@ -42,6 +40,7 @@ VantorApp::VantorApp(Environment environment)
       monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_,
                                    std::move(environment.exportPlatform))),
       statusBar_(std::move(environment.statusBar)),
+      trayPatience_(environment.trayPatience),
       quit_(std::move(environment.quit)),
       metadata_(buildInfo_),
       delegate_(defaults_, machine_->processInfo(), [this] { openDashboard(); }),
@@ -59,6 +58,7 @@ VantorApp::VantorApp(Environment environment)
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowClosed(); });
     statusBar_->listen([this] { statusBarChanged(); });
+    if (!statusBar_->isAvailable()) waitForTray(trayPatience_.atStart);
     if (environment.desktop.reopensByActivation)
         dockReopen_ = std::make_unique<DockReopen>([this] { reopen({}); });
 }
@@ -146,19 +146,23 @@ void VantorApp::lastWindowClosed() {
     if (!isItemThere || delegate_.applicationShouldTerminateAfterLastWindowClosed()) {
         quit_();
     } else if (!statusBar_->isAvailable()) {
-        // While a tray that was there is being restarted, nothing is decided yet.
+        // While one may still come, or come back, nothing is decided yet.
         hasClosedWithoutTray_ = true;
         if (!wayBackTask_) quit_();
     }
 }
 
-/// A tray has vanished, or come back: whoever has no window open is left alone only if it returns.
+/// A tray has come, vanished, or come back: whoever has no window open is left alone only if it
+/// returns.
 void VantorApp::statusBarChanged() {
     cancelTask(wayBackTask_);
     hasClosedWithoutTray_ = false;
-    if (statusBar_->isAvailable()) return;
+    if (!statusBar_->isAvailable()) waitForTray(trayPatience_.afterLoss);
+}
+
+void VantorApp::waitForTray(std::chrono::milliseconds patience) {
     wayBackTask_ = std::make_shared<MainTask>(mainLoop_);
-    wayBackTask_->sleep(trayPatience, [this] {
+    wayBackTask_->sleep(patience, [this] {
         wayBackTask_ = nullptr;
         if (statusBar_->isAvailable() || hasVisibleWindow()) return;
         if (hasClosedWithoutTray_) {

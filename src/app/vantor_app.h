@@ -30,6 +30,16 @@
 
 namespace vantor {
 
+/// How long a program without any window waits for a tray that is not there.
+struct TrayPatience {
+    /// From the start on. On a slow disk, a program that starts with the session is up half a
+    /// minute before the desktop's panel. Whoever closes the window meanwhile wants it in the tray;
+    /// but where none comes, a program that nobody sees and nothing leads back to has to end.
+    std::chrono::milliseconds atStart = std::chrono::minutes(1);
+    /// Once there was one: a desktop's panel that is restarted is back by then.
+    std::chrono::milliseconds afterLoss = std::chrono::seconds(5);
+};
+
 /// Puts the whole program together and owns it; its two variants differ in how the dashboard's
 /// window and the menu bar item come to be. Needs the toolkit's application object; main thread.
 class VantorApp : public QObject {
@@ -41,6 +51,7 @@ class VantorApp : public QObject {
         std::function<void()> quit;
         ExportPlatform exportPlatform{};  ///< without one, Export does nothing
         DesktopWays desktop{};
+        TrayPatience trayPatience{};
     };
 
     VantorApp(const VantorApp&) = delete;
@@ -96,6 +107,7 @@ class VantorApp : public QObject {
     bool hasVisibleWindow() const;
     void lastWindowClosed();
     void statusBarChanged();
+    void waitForTray(std::chrono::milliseconds patience);
 
     std::shared_ptr<Machine> machine_;
     std::shared_ptr<MainLoop> mainLoop_;
@@ -104,6 +116,7 @@ class VantorApp : public QObject {
     std::shared_ptr<AppSettings> settings_;
     std::shared_ptr<SystemMonitor> monitor_;
     std::shared_ptr<StatusBar> statusBar_;
+    TrayPatience trayPatience_;
     std::function<void()> quit_;
     BuildInfo buildInfo_;
     AppMetadata metadata_;
@@ -115,7 +128,7 @@ class VantorApp : public QObject {
     std::unique_ptr<WindowGeometry> geometry_;  // of the dashboard's window
     std::unique_ptr<ContentWindow> settingsWindow_;
     QPointer<QMessageBox> about_;            // while it is open
-    std::shared_ptr<MainTask> wayBackTask_;  // while a tray that was there is waited for
+    std::shared_ptr<MainTask> wayBackTask_;  // while a tray is waited for
     bool hasClosedWithoutTray_ = false;
     std::unique_ptr<DockReopen> dockReopen_;  // where there is a dock
 };

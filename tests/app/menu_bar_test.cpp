@@ -9,6 +9,7 @@
 #include "app/modern_vantor_app.h"
 #include "app/played_status_bar.h"
 #include "platform/simulated/simulated_machine.h"
+#include "support/event_patience.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/menu_bar/modern_menu_bar_dashboard_host.h"
 #include "ui/rendering.h"
@@ -26,12 +27,18 @@ class MenuBarOf : public testing::TestWithParam<int> {
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
     std::shared_ptr<PlayedStatusBar> tray = std::make_shared<PlayedStatusBar>();
     int quits = 0;
+    TrayPatience patience;
     std::unique_ptr<VantorApp> app;
 
     void start() {
         machine->processInfo().version = {GetParam(), 0, 0};
-        app = makeVantorApp(
-            {machine, folder.filePath(QStringLiteral("settings.ini")), tray, [this] { ++quits; }});
+        app = makeVantorApp({machine,
+                             folder.filePath(QStringLiteral("settings.ini")),
+                             tray,
+                             [this] { ++quits; },
+                             {},
+                             {},
+                             patience});
     }
     void TearDown() override {
         app.reset();
@@ -160,12 +167,60 @@ TEST_P(MenuBarOf, AnotherWindowThatIsOpenKeepsItRunning) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_P(MenuBarOf, WithoutATrayClosingTheLastWindowQuitsWhateverTheSetting) {
+TEST_P(MenuBarOf, ClosedBeforeThereIsATrayItWaitsForOne) {
     tray->setThere(false);
     start();
     app->openDashboard();
     closeDashboard();
+    EXPECT_EQ(quits, 0) << "the desktop's panel may be later than the program";
+    tray->setThere(true);
+    EXPECT_EQ(quits, 0);
+    EXPECT_FALSE(app->dashboardWindow()->isVisible());
+    EXPECT_EQ(TrayPatience().atStart, 60s);
+    EXPECT_EQ(TrayPatience().afterLoss, 5s);
+}
+
+TEST_P(MenuBarOf, ClosedBeforeThereIsATrayItEndsWhenNoneHasCome) {
+    patience.atStart = 200ms;
+    tray->setThere(false);
+    start();
+    app->openDashboard();
+    closeDashboard();
+    EXPECT_TRUE(handleEventsUntil([this] { return quits == 1; }));
+    EXPECT_FALSE(app->dashboardWindow()->isVisible());
+}
+
+TEST_P(MenuBarOf, OpenedAgainWhileATrayIsWaitedForItStays) {
+    patience.atStart = 200ms;
+    tray->setThere(false);
+    start();
+    app->openDashboard();
+    closeDashboard();
+    quits = 0;
+    app->reopen({});
+    EXPECT_FALSE(handleEventsUntil([this] { return quits > 0; }, 300));
+    EXPECT_TRUE(app->dashboardWindow()->isVisible());
+}
+
+TEST_P(MenuBarOf, WithoutATrayClosingTheLastWindowQuitsWhateverTheSetting) {
+    patience.atStart = 0ms;
+    tray->setThere(false);
+    start();
+    app->openDashboard();
+    settleEvents();
+    closeDashboard();
     EXPECT_EQ(quits, 1);
+}
+
+TEST_P(MenuBarOf, WhenTheTrayIsGoneForGoodTheWindowComesBack) {
+    patience.afterLoss = 1ms;
+    start();
+    app->openDashboard();
+    closeDashboard();
+    ASSERT_FALSE(app->dashboardWindow()->isVisible());
+    tray->setThere(false);
+    EXPECT_TRUE(handleEventsUntil([this] { return app->dashboardWindow()->isVisible(); }));
+    EXPECT_EQ(quits, 0);
 }
 
 TEST_P(MenuBarOf, OpenDashboardClosesThePanel) {

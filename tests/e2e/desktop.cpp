@@ -1,5 +1,6 @@
 #include "e2e/desktop.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -30,6 +31,8 @@ bool eventually(const std::function<bool()>& isSo, int milliseconds) {
     clock.start();
     while (!isSo()) {
         if (clock.elapsed() > milliseconds) return false;
+        // What the test plays on a bus is asked, too.
+        QCoreApplication::processEvents();
         QThread::msleep(25);
     }
     return true;

@@ -1,21 +1,19 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
+#include <cstdlib>
 
-#include <algorithm>
-
-#include "e2e/program_fixture.h"
+#include "e2e/tray_fixture.h"
 
 /// The program and a real tray.
 namespace vantor::tray_test {
 namespace {
 
-class Tray : public ProgramOnADesktop {
+class Tray : public ProgramInATray {
   protected:
     void startWithIcon() {
         ASSERT_TRUE(desktop_.startTray());
         start();
-        ASSERT_TRUE(eventually([this] { return hasIcon(); })) << "no icon in the tray";
+        ASSERT_TRUE(eventually([this] { return hasIcon(); }, patience)) << "no icon in the tray";
     }
     /// The icon's white wave.
     bool hasIcon() {
@@ -23,52 +21,62 @@ class Tray : public ProgramOnADesktop {
                countColor(desktop_.picture(), Desktop::trayArea(screen), QColor(0x7a, 0x94, 0xff)) >
                    0;
     }
-    void write(const QByteArray& settings) {
-        QFile file(desktop_.settingsFile());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(settings);
-    }
-    void closeWindow() { desktop_.key(QStringLiteral("alt+F4")); }
-    bool isHidden() { return program_->window().isEmpty(); }
     void pressIcon() { desktop_.clickAt(Desktop::trayArea(screen).center() + QPoint(6, 0)); }
-
-    /// A window of the popover's width, its border included.
-    bool hasPopover() {
-        const QString ids = desktop_.run(QStringLiteral("xdotool"),
-                                         {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                          QStringLiteral("--class"), QStringLiteral("vantor")});
-        const auto all = ids.split(u'\n', Qt::SkipEmptyParts);
-        return std::ranges::any_of(all, [this](const QString& id) {
-            return desktop_.run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), id})
-                .contains(QStringLiteral("Width: 332\n"));
-        });
-    }
 };
 
 TEST_F(Tray, ClosedIntoTheTrayItIsOpenedAgainFromItsPanel) {
     startWithIcon();
-    closeWindow();
-    ASSERT_TRUE(eventually([this] { return isHidden(); }));
-    EXPECT_TRUE(program_->isRunning());
+    closeIntoTheTray();
     pressIcon();
-    ASSERT_TRUE(eventually([this] { return hasPopover(); })) << "the panel did not open";
+    ASSERT_TRUE(eventually([this] { return hasDrawnPopover(); }, patience))
+        << "the panel did not open";
     desktop_.key(QStringLiteral("Return"));
-    EXPECT_TRUE(eventually([this] { return !isHidden(); })) << "the dashboard did not come back";
+    EXPECT_TRUE(eventually([this] { return !isHidden(); }, patience))
+        << "the dashboard did not come back";
+}
+
+TEST_F(Tray, ThePanelOpensUnderItsIcon) {
+    startWithIcon();
+    pressIcon();
+    ASSERT_TRUE(eventually([this] { return hasDrawnPopover(); }, patience))
+        << "the panel did not open";
+    const QRect icon = Desktop::trayArea(screen);
+    EXPECT_LE(std::abs(popover().top() - icon.bottom()), 20);
+    EXPECT_GE(popover().right(), icon.left());
+}
+
+TEST_F(Tray, ClosedAsSoonAsItIsThereItIsInTheTray) {
+    ASSERT_FALSE(desktop_.startSessionBus().isEmpty());  // which has no tray
+    ASSERT_TRUE(desktop_.startTray());
+    program_.emplace(desktop_);
+    ASSERT_TRUE(eventually([this] { return program_->isActive(); }, patience));
+    closeIntoTheTray();
+    EXPECT_TRUE(eventually([this] { return hasIcon(); }, patience));
+    EXPECT_TRUE(program_->isRunning());
+}
+
+TEST_F(Tray, ClosedBeforeThereIsATrayItIsInTheTrayThatComes) {
+    start();
+    closeIntoTheTray();
+    ASSERT_TRUE(desktop_.startTray());
+    ASSERT_TRUE(eventually([this] { return hasIcon(); }, patience));
+    EXPECT_TRUE(isHidden());
+    pressIcon();
+    EXPECT_TRUE(eventually([this] { return hasDrawnPopover(); }, patience));
 }
 
 TEST_F(Tray, ThePanelClosesWithEscapeAndWithAClickElsewhere) {
     startWithIcon();
-    closeWindow();
-    ASSERT_TRUE(eventually([this] { return isHidden(); }));
+    closeIntoTheTray();
     for (const bool byKey : {true, false}) {
         pressIcon();
-        ASSERT_TRUE(eventually([this] { return hasPopover(); })) << byKey;
+        ASSERT_TRUE(eventually([this] { return hasDrawnPopover(); }, patience)) << byKey;
         if (byKey) {
             desktop_.key(QStringLiteral("Escape"));
         } else {
             desktop_.clickAt({300, 600});
         }
-        EXPECT_TRUE(eventually([this] { return !hasPopover(); })) << byKey;
+        EXPECT_TRUE(eventually([this] { return !hasPopover(); }, patience)) << byKey;
         EXPECT_TRUE(program_->isRunning());
     }
 }
@@ -79,7 +87,7 @@ TEST_F(Tray, SwitchedOffClosingTheWindowEndsTheProgram) {
     start();
     EXPECT_FALSE(hasIcon());
     closeWindow();
-    ASSERT_TRUE(program_->waitForEnd(2000));
+    ASSERT_TRUE(program_->waitForEnd(patience));
     EXPECT_EQ(program_->exitStatus(), 0);
 }
 
@@ -87,39 +95,35 @@ TEST_F(Tray, ATrayThatAppearsLateGetsTheIcon) {
     start();
     EXPECT_FALSE(hasIcon());
     ASSERT_TRUE(desktop_.startTray());
-    EXPECT_TRUE(eventually([this] { return hasIcon(); }));
+    EXPECT_TRUE(eventually([this] { return hasIcon(); }, patience));
 }
 
 TEST_F(Tray, ATrayThatIsRestartedHasTheIconAgain) {
     startWithIcon();
-    closeWindow();
-    ASSERT_TRUE(eventually([this] { return isHidden(); }));
+    closeIntoTheTray();
     desktop_.stopTray();
-    ASSERT_TRUE(eventually([this] { return !hasIcon(); }));
     ASSERT_TRUE(desktop_.startTray());
-    EXPECT_TRUE(eventually([this] { return hasIcon(); }));
+    EXPECT_TRUE(eventually([this] { return hasIcon(); }, patience));
     EXPECT_TRUE(isHidden()) << "it was away too short to matter";
 }
 
 TEST_F(Tray, WithATrayThatIsGoneForGoodTheWindowComesBack) {
     startWithIcon();
-    closeWindow();
-    ASSERT_TRUE(eventually([this] { return isHidden(); }));
+    closeIntoTheTray();
     desktop_.stopTray();
-    EXPECT_TRUE(eventually([this] { return !isHidden(); }, 15'000));
+    EXPECT_TRUE(eventually([this] { return program_->isActive(); }, patience));
     closeWindow();
-    EXPECT_TRUE(program_->waitForEnd(5000)) << "now nothing would lead back to it";
+    EXPECT_TRUE(program_->waitForEnd(patience)) << "now nothing would lead back to it";
 }
 
 TEST_F(Tray, QuitInThePanelEndsTheProgram) {
     startWithIcon();
-    closeWindow();
-    ASSERT_TRUE(eventually([this] { return isHidden(); }));
+    closeIntoTheTray();
     pressIcon();
-    ASSERT_TRUE(eventually([this] { return hasPopover(); }));
+    ASSERT_TRUE(eventually([this] { return hasDrawnPopover(); }, patience));
     desktop_.key(QStringLiteral("shift+Tab"));
     desktop_.key(QStringLiteral("Return"));
-    ASSERT_TRUE(program_->waitForEnd(3000));
+    ASSERT_TRUE(program_->waitForEnd(patience));
     EXPECT_EQ(program_->exitStatus(), 0);
 }
 

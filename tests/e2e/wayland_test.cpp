@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+#include "support/event_patience.h"
+#include "support/played_notifier_tray.h"
+
 #include "e2e/assistive_client.h"
 #include "e2e/desktop.h"
 
@@ -90,6 +93,18 @@ TEST_F(OnWayland, StartsAndShowsLiveFigures) {
     EXPECT_TRUE(eventually([&] { return load(client).endsWith(u'%'); }, 30'000))
         << load(client).toStdString();
     EXPECT_FALSE(program_.waitForFinished(0)) << program_.exitCode();
+}
+
+TEST_F(OnWayland, ATrayThatComesLateHasTheItem) {
+    const AssistiveClient client(address_);
+    start();
+    ASSERT_TRUE(eventually([&] { return load(client).endsWith(u'%'); }, 30'000));
+    PlayedNotifierTray tray(address_);
+    ASSERT_TRUE(handleEventsUntil([&] { return !tray.items().isEmpty(); }));
+    EXPECT_EQ(tray.property(QStringLiteral("Title")).toString(), QStringLiteral("Vantor"));
+    EXPECT_TRUE(tray.choose(QStringLiteral("Quit")));
+    ASSERT_TRUE(program_.waitForFinished(patience));
+    EXPECT_EQ(program_.exitCode(), 0);
 }
 
 }  // namespace

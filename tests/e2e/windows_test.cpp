@@ -68,8 +68,8 @@ TEST_F(Windows, TheMainWindowIsClosedByItsKeyWhileAnotherOneKeepsTheProgram) {
     EXPECT_TRUE(eventually([this] { return !hasWindow("Vantor Help"); }));
     ASSERT_TRUE(eventually([this] { return isInFront("Vantor"); }));
     desktop_.key(QStringLiteral("ctrl+w"));
-    EXPECT_TRUE(program_->waitForEnd(3000)) << "without a tray the last window was the way back";
-    EXPECT_EQ(program_->exitStatus(), 0);
+    EXPECT_TRUE(eventually([this] { return !hasWindow("Vantor"); }));
+    EXPECT_TRUE(program_->isRunning()) << "a tray may still come";
 }
 
 TEST_F(Windows, QuitHasItsKey) {
