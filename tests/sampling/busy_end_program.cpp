@@ -15,7 +15,7 @@ std::array<std::atomic<int>, 8> answers{};
 /// Waits until each provider has answered often once more.
 void waitForMoreAnswers() {
     for (std::atomic<int>& count : answers) {
-        const int enough = count + 100;
+        const int enough = count + 20;
         while (count < enough)
             std::this_thread::yield();
     }
