@@ -92,11 +92,10 @@ bool isOf(const QString& entry, const QString& name) {
     return entry == name || entry.startsWith(name + u'/') || entry.startsWith(name + u'@');
 }
 
-QString nextName() {
-    static int count = 0;
+QString nameOf(int number) {
     return QStringLiteral("org.kde.StatusNotifierItem-%1-%2")
         .arg(QCoreApplication::applicationPid())
-        .arg(++count);
+        .arg(number);
 }
 
 }  // namespace
@@ -212,11 +211,11 @@ QString NotifierItem::watcherPath() {
     return QStringLiteral("/StatusNotifierWatcher");
 }
 
-NotifierItem::NotifierItem(const BusConnector& connect, StatusItemContent content,
+NotifierItem::NotifierItem(const BusConnector& connect, int number, StatusItemContent content,
                            std::function<void()> onDecided)
     : content_(std::move(content)),
       onDecided_(std::move(onDecided)),
-      name_(nextName()),
+      name_(nameOf(number)),
       bus_(connect(name_)),
       menu_(menuPath, [this] { return content_.menu(); }) {
     qDBusRegisterMetaType<BusPixmap>();

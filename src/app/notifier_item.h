@@ -51,9 +51,10 @@ class NotifierItem : public StatusItem {
     static QString watcherService();
     static QString watcherPath();
 
+    /// No two items of one process have the same number, one after the other neither.
     /// `onDecided` is called when the watcher has decided, never from within this call; it may not
     /// end the item.
-    NotifierItem(const BusConnector& connect, StatusItemContent content,
+    NotifierItem(const BusConnector& connect, int number, StatusItemContent content,
                  std::function<void()> onDecided);
     NotifierItem(const NotifierItem&) = delete;
     NotifierItem& operator=(const NotifierItem&) = delete;

@@ -64,7 +64,8 @@ class QtStatusBar::Item : public StatusItem {
         shown_.reset();
         if (way == Way::embedded) shown_ = bar_.surroundings_.embed(content_);
         if (way != Way::bus) return;
-        auto item = std::make_unique<NotifierItem>(bar_.surroundings_.connect, content_,
+        auto item = std::make_unique<NotifierItem>(bar_.surroundings_.connect,
+                                                   ++bar_.itemsMade_, content_,
                                                    [&bar = bar_] { bar.soon_.start(); });
         onBus_ = item.get();
         shown_ = std::move(item);

@@ -54,6 +54,7 @@ class QtStatusBar : public StatusBar {
     Way way_ = Way::none;
     bool isAvailable_ = false;
     int refuser_ = -1;          // which owner of the bus's service has refused an item
+    int itemsMade_ = 0;         // for the bus
     std::vector<Item*> items_;  // those that live now
 };
 

@@ -16,7 +16,7 @@ std::string_view validUTF8(std::string_view bytes, std::string& mended);
 std::string repairedUTF8(std::string_view bytes);
 
 /// For texts that tell things apart: with each byte that belongs to no character as `\xE9`, so that
-/// different bytes stay different.
+/// different bytes stay different. A text that spells such a byte out itself is not told from it.
 std::string distinctUTF8(std::string_view bytes);
 
 }  // namespace vantor

@@ -28,7 +28,7 @@ bool volumeComesFirst(const VolumeStats& a, const VolumeStats& b, const NameRank
 }  // namespace
 
 StorageReader::StorageReader(std::shared_ptr<Machine> machine)
-    : StorageReader(std::move(machine), makeNativeNameOrder()) {}
+    : machine_(std::move(machine)), ranks_(makeNativeNameOrder()) {}
 
 void StorageReader::examine(const MountedVolumes::Volume& volume, Findings& findings) {
     MountedVolumes& platform = machine_->mountedVolumes();

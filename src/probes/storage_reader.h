@@ -4,7 +4,6 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "model/volume_stats.h"
@@ -17,10 +16,7 @@ namespace vantor {
 /// ones, then by name. One thread at a time.
 class StorageReader {
   public:
-    /// With names in the order of the user's language, or in another one.
     explicit StorageReader(std::shared_ptr<Machine> machine);
-    StorageReader(std::shared_ptr<Machine> machine, std::unique_ptr<NameOrder> names)
-        : machine_(std::move(machine)), ranks_(std::move(names)) {}
 
     /// Absent when no trustworthy list could be made this time, so that a volume does not flicker
     /// out of sight because a query failed for a moment.

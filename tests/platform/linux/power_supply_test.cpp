@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/linux/only_power_source.h"
 #include "sampling/named_row.h"
 
 namespace vantor::power_supply_test {
@@ -42,27 +43,14 @@ PowerSupplyTexts with(PowerSupplyTexts texts, Change change) {
     return texts;
 }
 
-/// The only source.
-PropertyDictionary describe(const Supplies& supplies) {
-    const auto sources = describePowerSupplies(supplies);
-    EXPECT_THAT(sources, SizeIs(1));
-    if (sources.empty() || !sources.front()) return {};
-    return *sources.front();
-}
-
-std::string text(const PropertyDictionary& description, const char* key) {
-    const std::string* const value = findText(description, key);
-    return value ? *value : "none";
-}
-
 TEST(PowerSupplies, ABatteryIsDescribed) {
-    const auto description = describe({with(battery(), [](auto& b) {
+    const auto description = describeOnlySource({with(battery(), [](auto& b) {
         b.modelName = " DELL 1VX1H ";
         b.cycleCount = "321";
     })});
-    EXPECT_EQ(text(description, "Type"), "InternalBattery");
-    EXPECT_EQ(text(description, "Name"), "DELL 1VX1H");
-    EXPECT_EQ(text(description, "Power Source State"), "Battery Power");
+    EXPECT_EQ(textIn(description, "Type"), "InternalBattery");
+    EXPECT_EQ(textIn(description, "Name"), "DELL 1VX1H");
+    EXPECT_EQ(textIn(description, "Power Source State"), "Battery Power");
     EXPECT_EQ(findInteger(description, "Current Capacity"), 40000000);
     EXPECT_EQ(findInteger(description, "Max Capacity"), 50000000);
     EXPECT_EQ(findBoolean(description, "Is Charging"), false);
@@ -106,23 +94,24 @@ TEST(PowerSupplies, ASupplyWithoutATypeIsASourceWithoutADescription) {
 }
 
 TEST(PowerSupplies, ABatteryThatDoesNotSayHowFullItIsHasNoCapacities) {
-    const auto description = describe({with(battery(), [](auto& b) { b.energyNow.reset(); })});
+    const auto description =
+        describeOnlySource({with(battery(), [](auto& b) { b.energyNow.reset(); })});
     EXPECT_EQ(find(description, "Current Capacity"), nullptr);
     EXPECT_EQ(find(description, "Max Capacity"), nullptr);
-    EXPECT_EQ(text(description, "Type"), "InternalBattery");
+    EXPECT_EQ(textIn(description, "Type"), "InternalBattery");
     EXPECT_EQ(findInteger(description, "Time to Empty"), -1);
 }
 
 TEST(PowerSupplies, TwoBatteriesAreOneSource) {
-    const auto description = describe({with(battery("BAT0", "Not charging"),
-                                            [](auto& b) {
-                                                b.modelName = "Inner";
-                                                b.cycleCount = "10";
-                                                b.powerNow = "0";
-                                            }),
-                                       with(battery("BAT1"), [](auto& b) { b.cycleCount = "30"; }),
-                                       charger("Mains", "0")});
-    EXPECT_EQ(text(description, "Name"), "Inner + BAT1");
+    const auto description = describeOnlySource(
+        {with(battery("BAT0", "Not charging"),
+              [](auto& b) {
+                  b.modelName = "Inner";
+                  b.cycleCount = "10";
+                  b.powerNow = "0";
+              }),
+         with(battery("BAT1"), [](auto& b) { b.cycleCount = "30"; }), charger("Mains", "0")});
+    EXPECT_EQ(textIn(description, "Name"), "Inner + BAT1");
     EXPECT_EQ(findInteger(description, "Current Capacity"), 80000000);
     EXPECT_EQ(findInteger(description, "Max Capacity"), 100000000);
     EXPECT_EQ(findInteger(description, "Time to Empty"), 480);
@@ -135,11 +124,11 @@ TEST(PowerSupplies, AUPSIsASourceOfItsOwnAfterTheBatteries) {
     const auto sources = describePowerSupplies(Supplies{ups, battery()});
     ASSERT_THAT(sources, SizeIs(2));
     ASSERT_TRUE(sources[0] && sources[1]);
-    EXPECT_EQ(text(*sources[0], "Type"), "InternalBattery");
+    EXPECT_EQ(textIn(*sources[0], "Type"), "InternalBattery");
     EXPECT_EQ(findInteger(*sources[0], "Max Capacity"), 50000000);
-    EXPECT_EQ(text(*sources[1], "Type"), "UPS");
-    EXPECT_EQ(text(*sources[1], "Name"), "ups");
-    EXPECT_EQ(text(*sources[1], "Power Source State"), "AC Power");
+    EXPECT_EQ(textIn(*sources[1], "Type"), "UPS");
+    EXPECT_EQ(textIn(*sources[1], "Name"), "ups");
+    EXPECT_EQ(textIn(*sources[1], "Power Source State"), "AC Power");
 }
 
 struct StateRow : NamedRow {
@@ -202,8 +191,8 @@ INSTANTIATE_TEST_SUITE_P(
     rowName<StateRow>);
 
 TEST_P(PowerState, FollowsFromChargersAndBatteries) {
-    const auto description = describe(GetParam().supplies);
-    EXPECT_EQ(text(description, "Power Source State"), GetParam().state);
+    const auto description = describeOnlySource(GetParam().supplies);
+    EXPECT_EQ(textIn(description, "Power Source State"), GetParam().state);
     EXPECT_EQ(findBoolean(description, "Is Charging"), GetParam().isCharging);
 }
 
@@ -281,7 +270,7 @@ INSTANTIATE_TEST_SUITE_P(
     rowName<TimeRow>);
 
 TEST_P(PowerTime, IsSaidOrComputed) {
-    const auto description = describe(GetParam().supplies);
+    const auto description = describeOnlySource(GetParam().supplies);
     EXPECT_EQ(findInteger(description, "Time to Empty"), GetParam().toEmpty);
     EXPECT_EQ(findInteger(description, "Time to Full Charge"), GetParam().toFull);
 }
@@ -290,7 +279,7 @@ TEST(PowerSupplies, CyclesThatAreNotKnownAreAbsent) {
     for (const char* count : {"0", "-1", "", "many"}) {
         SCOPED_TRACE(count);
         const auto description =
-            describe({with(battery(), [&](auto& b) { b.cycleCount = count; })});
+            describeOnlySource({with(battery(), [&](auto& b) { b.cycleCount = count; })});
         EXPECT_EQ(find(description, "Cycle Count"), nullptr);
     }
 }
@@ -298,8 +287,10 @@ TEST(PowerSupplies, CyclesThatAreNotKnownAreAbsent) {
 TEST(PowerSupplies, ABatteryWithoutAModelIsNamedByItsFolder) {
     for (const char* model : {"", "  \t"}) {
         SCOPED_TRACE(model);
-        EXPECT_EQ(text(describe({with(battery(), [&](auto& b) { b.modelName = model; })}), "Name"),
-                  "BAT0");
+        EXPECT_EQ(
+            textIn(describeOnlySource({with(battery(), [&](auto& b) { b.modelName = model; })}),
+                   "Name"),
+            "BAT0");
     }
 }
 

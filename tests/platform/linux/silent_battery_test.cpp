@@ -4,26 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/linux/only_power_source.h"
 #include "platform/linux/power_supply.h"
 
 /// Batteries that are there and say nothing of how full they are, as worn-out ones do.
 namespace vantor::silent_battery_test {
 namespace {
 
-using testing::SizeIs;
 using Supplies = std::vector<PowerSupplyTexts>;
-
-PropertyDictionary describe(const Supplies& supplies) {
-    const auto sources = describePowerSupplies(supplies);
-    EXPECT_THAT(sources, SizeIs(1));
-    if (sources.empty() || !sources.front()) return {};
-    return *sources.front();
-}
-
-std::string text(const PropertyDictionary& description, const char* key) {
-    const std::string* const value = findText(description, key);
-    return value ? *value : "none";
-}
 
 PowerSupplyTexts wornOut(const char* folder, const char* status) {
     PowerSupplyTexts texts;
@@ -49,8 +37,8 @@ TEST(SilentBatteries, DoNotHideTheOthers) {
     }();
     const auto worn = wornOut("BAT1", "Unknown");
     for (const Supplies& both : {Supplies{good, worn}, Supplies{worn, good}}) {
-        const auto description = describe(both);
-        EXPECT_EQ(text(description, "Name"), "BAT0");
+        const auto description = describeOnlySource(both);
+        EXPECT_EQ(textIn(description, "Name"), "BAT0");
         EXPECT_EQ(findInteger(description, "Current Capacity"), 40000000);
         EXPECT_EQ(findInteger(description, "Max Capacity"), 50000000);
         EXPECT_EQ(findInteger(description, "Time to Empty"), 121) << "as if it were alone";
@@ -58,14 +46,16 @@ TEST(SilentBatteries, DoNotHideTheOthers) {
 }
 
 TEST(SilentBatteries, SayWhetherTheyFeedTheMachine) {
-    const auto description = describe({battery("BAT0", "Full"), wornOut("BAT1", "Discharging")});
-    EXPECT_EQ(text(description, "Power Source State"), "Battery Power");
+    const auto description =
+        describeOnlySource({battery("BAT0", "Full"), wornOut("BAT1", "Discharging")});
+    EXPECT_EQ(textIn(description, "Power Source State"), "Battery Power");
 }
 
 TEST(SilentBatteries, AloneAreOneSourceWithoutCapacities) {
-    const auto description = describe({wornOut("BAT0", "Full"), wornOut("BAT1", "Unknown")});
-    EXPECT_EQ(text(description, "Type"), "InternalBattery");
-    EXPECT_EQ(text(description, "Name"), "BAT0 + BAT1");
+    const auto description =
+        describeOnlySource({wornOut("BAT0", "Full"), wornOut("BAT1", "Unknown")});
+    EXPECT_EQ(textIn(description, "Type"), "InternalBattery");
+    EXPECT_EQ(textIn(description, "Name"), "BAT0 + BAT1");
     EXPECT_EQ(find(description, "Current Capacity"), nullptr);
 }
 
