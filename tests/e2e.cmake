@@ -30,4 +30,9 @@ target_compile_definitions(vantor_e2e_tests PRIVATE
     VANTOR_PYTHON="${VANTOR_PYTHON}")
 target_link_libraries(vantor_e2e_tests PRIVATE vantor_app)
 add_dependencies(vantor_e2e_tests instance_program vantor)
-vantor_discover_tests(vantor_e2e_tests e2e)
+add_dependencies(vantor_all_tests vantor_e2e_tests)
+# Each test by itself: they take seconds, and so more of them can run side by side.
+include(GoogleTest)
+gtest_discover_tests(vantor_e2e_tests DISCOVERY_TIMEOUT 60
+    XML_OUTPUT_DIR ${VANTOR_TEST_RESULTS}/vantor_e2e_tests
+    PROPERTIES TIMEOUT ${VANTOR_TEST_TIMEOUT} LABELS e2e:vantor_e2e_tests)

@@ -71,3 +71,14 @@ build() {
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the $preset build failed"
     end_stage
 }
+
+# test_built PRESET OPTION...: runs ctest with these options on what is built, and counts the tests.
+test_built() {
+    local preset=$1 status
+    shift
+    rm -rf "build/$preset/test_results"
+    ctest --preset "$preset" "$@"
+    status=$?
+    scripts/lib/count-tests "$preset"
+    return $status
+}

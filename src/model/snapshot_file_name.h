@@ -3,9 +3,11 @@
 #include <string>
 
 #include "model/calendar_time.h"
-#include "model/system_snapshot.h"
+#include "model/timestamp.h"
 
 namespace vantor {
+
+struct SystemSnapshot;
 
 /// The moment that a snapshot's file is named after: when the snapshot was committed, and `now`
 /// while it is still the one that stands in until the first commit.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -11,12 +10,10 @@
 #include "model/power_stats.h"
 #include "model/process_stats.h"
 #include "model/system_info_stats.h"
+#include "model/timestamp.h"
 #include "model/volume_stats.h"
 
 namespace vantor {
-
-/// Wall-clock instants; everything else in the program measures with the monotonic uptime.
-using Timestamp = std::chrono::system_clock::time_point;
 
 /// The whole machine at one moment.
 struct SystemSnapshot {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/system_snapshot.h"
+#include "model/timestamp.h"
 
 namespace vantor {
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "model/system_snapshot.h"
+#include "model/timestamp.h"
 
 namespace vantor {
 

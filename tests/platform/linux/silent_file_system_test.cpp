@@ -49,7 +49,7 @@ std::string checkSilentFileSystem(const std::string& folder) {
     return complaints;
 }
 
-TEST(LiveVolumes, AFileSystemThatNeverAnswersIsNotTouched) {
+TEST(SilentFileSystem, IsNotTouched) {
     std::string folder = (std::filesystem::temp_directory_path() / "silent-XXXXXX").string();
     ASSERT_NE(::mkdtemp(folder.data()), nullptr);
     const ChildOutcome outcome = withPrivateMounts([&] { return checkSilentFileSystem(folder); });
