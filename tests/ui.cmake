@@ -19,47 +19,50 @@ vantor_set_up_test_target(vantor_widget_testing)
 target_precompile_headers(vantor_widget_testing REUSE_FROM vantor_widget_test_headers)
 
 vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
+    # With the monitor's records: first, so that these share batches, and a record that changes spares
+    # the others.
     ui/accessibility_test.cpp
+    ui/cpu_card_test.cpp
+    ui/cpu_card_view_test.cpp
+    ui/dashboard_view_test.cpp
+    ui/footer_test.cpp
+    ui/gpu_storage_card_test.cpp
+    ui/help_view_test.cpp
+    ui/memory_network_card_test.cpp
+    ui/menu_bar_dashboard_test.cpp
+    ui/mirrored_test.cpp
+    ui/picture_test.cpp
+    ui/process_explorer_test.cpp
+    ui/process_explorer_view_test.cpp
+    ui/process_mini_list_test.cpp
+    ui/repaint_test.cpp
+    ui/settings_look_test.cpp
+    ui/settings_view_test.cpp
+    ui/system_card_test.cpp
+    # Without.
     ui/app_metadata_test.cpp
     ui/byte_count_formatter_test.cpp
     ui/capsule_button_test.cpp
     ui/compatible_form_test.cpp
     ui/core_activity_test.cpp
-    ui/cpu_card_test.cpp
-    ui/cpu_card_view_test.cpp
     ui/dashboard_card_test.cpp
     ui/dashboard_header_test.cpp
     ui/dashboard_header_texts_test.cpp
-    ui/dashboard_view_test.cpp
-    ui/footer_test.cpp
     ui/form_controls_test.cpp
     ui/formatters_test.cpp
-    ui/gpu_storage_card_test.cpp
     ui/ground_test.cpp
-    ui/help_view_test.cpp
     ui/horizontal_fit_test.cpp
     ui/layouts_test.cpp
-    ui/memory_network_card_test.cpp
-    ui/menu_bar_dashboard_test.cpp
     ui/menu_picker_test.cpp
     ui/metric_row_test.cpp
-    ui/mirrored_test.cpp
     ui/path_data_test.cpp
-    ui/picture_test.cpp
     ui/pixels_test.cpp
-    ui/process_explorer_test.cpp
-    ui/process_explorer_view_test.cpp
-    ui/process_mini_list_test.cpp
     ui/rasters_test.cpp
-    ui/repaint_test.cpp
     ui/ring_gauge_test.cpp
     ui/scroll_view_test.cpp
-    ui/settings_look_test.cpp
-    ui/settings_view_test.cpp
     ui/small_components_test.cpp
     ui/sparkline_test.cpp
     ui/symbols_test.cpp
-    ui/system_card_test.cpp
     ui/text_shapes_test.cpp
     ui/theme_test.cpp
     ui/typography_test.cpp
@@ -75,24 +78,26 @@ foreach(program ending_program instance_program quitting_program)
 endforeach()
 
 vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURCES
+    # With the monitor's records, as above.
+    app/appearance_test.cpp
+    app/dock_reopen_test.cpp
+    app/menu_bar_test.cpp
+    app/readable_texts_test.cpp
+    app/vantor_app_test.cpp
+    # Without.
     app/app_delegate_test.cpp
     app/app_commands_test.cpp
-    app/appearance_test.cpp
     app/damaged_store_test.cpp
-    app/dock_reopen_test.cpp
     app/launch_stabilizer_test.cpp
     app/local_claim_test.cpp
-    app/menu_bar_test.cpp
     app/qt_alerts_test.cpp
     app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
     app/qt_menu_bar_extras_test.cpp
     app/qt_save_dialogs_test.cpp
-    app/readable_texts_test.cpp
     app/single_instance_test.cpp
     app/stored_settings_test.cpp
     app/termination_signals_test.cpp
-    app/vantor_app_test.cpp
     app/window_geometry_test.cpp
     app/window_placement_test.cpp)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")

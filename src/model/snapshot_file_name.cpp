@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "model/system_snapshot.h"
+
 namespace vantor {
 
 namespace {

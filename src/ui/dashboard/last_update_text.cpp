@@ -5,6 +5,8 @@
 
 #include <chrono>
 
+#include "model/system_snapshot.h"
+
 namespace vantor {
 
 namespace {
