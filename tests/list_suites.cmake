@@ -13,6 +13,7 @@ set(file "")
 
 # add(NAME SUITE VARIABLE...): a test of ctest's.
 function(add name suite)
+    string(PREPEND name "${PREFIX}")
     string(REPLACE "/" "." results "${name}")
     set(variables "GTEST_OUTPUT=xml:${RESULTS}/${program_name}/${results}.xml" ${ARGN})
     string(APPEND file
