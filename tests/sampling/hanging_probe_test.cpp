@@ -88,6 +88,7 @@ TEST(HangingProbe, InAGraphicsDriverLeavesTheOthersAndTheEndAlone) {
 
 struct EndRow : NamedRow {
     const char* path;
+    Clock::duration limit = 1s;
 };
 
 class ProgramsEnd : public testing::TestWithParam<EndRow> {};
@@ -112,16 +113,17 @@ Clock::duration timeToEnd(const char* path) {
 TEST_P(ProgramsEnd, IsCleanAndWaitsForNobody) {
     // Waiting for somebody takes long each time, a busy machine only now and then.
     auto shortest = Clock::duration::max();
-    for (int attempt = 0; attempt < 3 && shortest >= 1s && !HasFailure(); ++attempt)
+    for (int attempt = 0; attempt < 3 && shortest >= GetParam().limit && !HasFailure(); ++attempt)
         shortest = std::min(shortest, timeToEnd(GetParam().path));
-    EXPECT_LT(shortest, 1s);
+    EXPECT_LT(shortest, GetParam().limit);
 }
 
 INSTANTIATE_TEST_SUITE_P(WithAProbeThat, ProgramsEnd,
                          testing::Values(EndRow{{"Hangs"}, VANTOR_HANGING_END_PROGRAM},
                                          EndRow{{"HangsInAFileSystem"},
                                                 VANTOR_HANGING_VOLUMES_END_PROGRAM},
-                                         EndRow{{"IsAtWork"}, VANTOR_BUSY_END_PROGRAM}),
+                                         // Which waits at its end until all have answered often.
+                                         EndRow{{"IsAtWork"}, VANTOR_BUSY_END_PROGRAM, 15s}),
                          rowName<EndRow>);
 
 }  // namespace
