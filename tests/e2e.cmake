@@ -18,6 +18,7 @@ add_executable(vantor_e2e_tests
     e2e/wayland_test.cpp
     e2e/window_test.cpp
     e2e/windows_test.cpp
+    support/served_folder.cpp
     support/played_notifier_tray.cpp)
 vantor_set_up_test_target(vantor_e2e_tests)
 target_precompile_headers(vantor_e2e_tests REUSE_FROM vantor_widget_test_headers)

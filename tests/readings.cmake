@@ -143,6 +143,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/zram_devices_test.cpp
         platform/posix/failing_file_writes_test.cpp
         platform/posix/posix_atomic_file_writer_test.cpp
+        platform/posix/posix_shared_file_test.cpp
         platform/posix/posix_local_calendar_test.cpp)
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.
@@ -243,6 +244,7 @@ add_dependencies(core_tests vantor_probe)
 vantor_add_tests(settings_tests LABEL core SOURCES
     settings/app_settings_test.cpp
     settings/appearance_test.cpp
+    settings/ini_text_test.cpp
     settings/settings_loading_test.cpp)
 
 vantor_add_tests(house_tests LABEL core SOURCES
