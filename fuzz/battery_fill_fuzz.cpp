@@ -3,8 +3,8 @@
 #include "power_supply_texts.h"
 #include "require.h"
 
-/// Sums of several batteries stay far from the end of the numbers, and are known only when each of
-/// them is.
+/// Sums of several batteries stay far from the end of the numbers, and are known as soon as one of
+/// them says how full it is.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vantor;
     using fuzz::require;
@@ -17,11 +17,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(fill->full <= count * largest && fill->full >= -count * largest);
         require(!fill->rate || (*fill->rate >= 0 && *fill->rate <= count * largest));
     }
+    bool doesAnySay = false;
     for (const PowerSupplyTexts& battery : batteries) {
-        const auto alone = fillOf({&battery, 1});
-        require(alone || !fill);
+        const bool says = saysHowFull(battery);
+        require(fillOf({&battery, 1}).has_value() == says);
+        doesAnySay = doesAnySay || says;
         const auto percent = parseQuantity(battery.capacity);
         require(!percent || (*percent >= -largest && *percent <= largest));
     }
+    require(fill.has_value() == doesAnySay);
     return 0;
 }

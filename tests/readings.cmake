@@ -127,6 +127,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/power_supply_test.cpp
         platform/linux/proc_stat_test.cpp
         platform/linux/process_arguments_test.cpp
+        platform/linux/process_clocks_test.cpp
         platform/linux/process_stat_test.cpp
         platform/linux/processor_sensor_names_test.cpp
         platform/linux/recorded_proc_stat_test.cpp

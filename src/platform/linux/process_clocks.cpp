@@ -12,6 +12,9 @@ namespace vantor {
 
 namespace {
 
+// Of a larger number the clock's encoding loses the upper bits: that would be another process's.
+constexpr std::int32_t largestEncodedPID = 0xfffffff;
+
 /// The kernel's own encoding (posix-timers.h): the complemented pid above three bits, of which 2
 /// means the scheduler's clock of the whole process. clock_getcpuclockid makes the same and asks
 /// the kernel once more whether the process is there.
@@ -22,6 +25,7 @@ constexpr clockid_t clockOf(std::int32_t pid) {
 class LiveProcessClocks : public ProcessClocks {
   public:
     std::optional<std::uint64_t> read(std::int32_t pid) override {
+        if (pid < 0 || pid > largestEncodedPID) return std::nullopt;
         // To the kernel 0 is the caller as well, but by another way than all others.
         const clockid_t clock = clockOf(pid == 0 ? ::getpid() : pid);
         struct timespec time = {};

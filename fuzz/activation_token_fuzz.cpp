@@ -1,0 +1,24 @@
+#include <algorithm>
+
+#include "app/instance_claim.h"
+
+#include "require.h"
+
+/// A token is told as bytes or as letters; it goes into the environment.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vantor;
+    using fuzz::require;
+    const auto text = fuzz::textOf(data, size);
+    const bool isToken = size <= 512 && std::all_of(text.begin(), text.end(), [](char c) {
+                             return static_cast<signed char>(c) >= 0x20 && c != 0x7f;
+                         });
+    for (const QString& told : {QString::fromLatin1(text), QString::fromUtf8(text)}) {
+        require(checkedToken(told) == (isToken ? told : QString()));
+    }
+    const auto wide = QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()),
+                                         static_cast<qsizetype>(size / sizeof(char16_t)));
+    const QString checked = checkedToken(wide);
+    require(checked.isEmpty() || (checked == wide && checked.size() <= 512));
+    require(checked.toLatin1() == checked.toUtf8());
+    return 0;
+}
