@@ -1,0 +1,46 @@
+# What makes mistakes in memory harder to use: in optimised builds, which are what users run, and in the
+# core as the tests run it optimised. Each flag where compiler and linker know it; none beside a sanitizer,
+# which looks for the same mistakes in its own way. (A Mac's compiler has its own as they are.)
+set(VANTOR_HARDENING_OPTIONS "")
+set(VANTOR_HARDENING_LINK_OPTIONS "")
+if(NOT VANTOR_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    include(CheckCXXCompilerFlag)
+    include(CheckLinkerFlag)
+    set(candidates -fstack-protector-strong -fstack-clash-protection)
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+        list(APPEND candidates -fcf-protection)
+    endif()
+    foreach(flag ${candidates})
+        string(MAKE_C_IDENTIFIER "VANTOR_HAS${flag}" known)
+        check_cxx_compiler_flag(${flag} ${known})
+        if(${known})
+            list(APPEND VANTOR_HARDENING_OPTIONS ${flag})
+        endif()
+    endforeach()
+    # Some distributions have set the first themselves.
+    list(APPEND VANTOR_HARDENING_OPTIONS -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS)
+    foreach(flag -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+        string(MAKE_C_IDENTIFIER "VANTOR_LINKS${flag}" known)
+        check_linker_flag(CXX ${flag} ${known})
+        if(${known})
+            list(APPEND VANTOR_HARDENING_LINK_OPTIONS ${flag})
+        endif()
+    endforeach()
+    if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo)$")
+        # As flags of all: by CMake's own property libraries and programs would differ, and could not share
+        # what is precompiled. What is a library that is loaded says -fPIC after it.
+        string(APPEND CMAKE_CXX_FLAGS " -fPIE")
+        string(APPEND CMAKE_EXE_LINKER_FLAGS " -pie")
+        add_compile_options(${VANTOR_HARDENING_OPTIONS})
+        add_link_options(${VANTOR_HARDENING_LINK_OPTIONS})
+        set(VANTOR_HARDENED ON)
+    endif()
+endif()
+
+# Fails the build of a program that has lost any of it.
+function(vantor_check_hardening program)
+    if(VANTOR_HARDENED)
+        add_custom_command(TARGET ${program} POST_BUILD VERBATIM
+            COMMAND sh ${CMAKE_SOURCE_DIR}/scripts/lib/check-hardening $<TARGET_FILE:${program}>)
+    endif()
+endfunction()
