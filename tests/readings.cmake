@@ -52,6 +52,9 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/sysctl_test.cpp
     probes/system_info_reader_test.cpp)
 
+vantor_add_tests(sequence_tests LABEL core LIBRARIES vantor_sequences SOURCES
+    sequences/sequences_test.cpp)
+
 vantor_add_tests(platform_tests LABEL core SOURCES
     platform/property_value_test.cpp
     platform/published_test.cpp
@@ -73,6 +76,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/card_rest_test.cpp
         platform/linux/cpu_identity_test.cpp
         platform/linux/cpu_list_test.cpp
+        platform/linux/denied_attempts.cpp
         platform/linux/drm_clients_test.cpp
         platform/linux/drm_fdinfo_test.cpp
         platform/linux/engine_use_test.cpp
@@ -89,6 +93,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/link_numbers_test.cpp
         platform/linux/link_source_test.cpp
         platform/linux/linux_accelerators_test.cpp
+        platform/linux/linux_confinement_test.cpp
         platform/linux/linux_dynamic_store_test.cpp
         platform/linux/linux_graphics_devices_test.cpp
         platform/linux/linux_hid_event_system_test.cpp
@@ -143,9 +148,10 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/volume_list_test.cpp
         platform/linux/zram_devices_test.cpp
         platform/posix/failing_file_writes_test.cpp
+        platform/posix/leftover_files_test.cpp
         platform/posix/posix_atomic_file_writer_test.cpp
-        platform/posix/posix_shared_file_test.cpp
-        platform/posix/posix_local_calendar_test.cpp)
+        platform/posix/posix_local_calendar_test.cpp
+        platform/posix/posix_shared_file_test.cpp)
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.
     foreach(variant "" _OLD _USELESS _NO_SHUTDOWN _NO_HANDLE _NO_UTILIZATION)
@@ -231,6 +237,11 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
             $<TARGET_FILE:linux_tests> *Live*)
     set_tests_properties(LiveReadings.AreTrueForAnOrdinaryUserToo PROPERTIES
         TIMEOUT 120 SKIP_RETURN_CODE 77 LABELS core)
+    add_test(NAME Confinement.HoldsForAnOrdinaryUserToo
+        COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/platform/linux/as_ordinary_user.sh
+            $<TARGET_FILE:linux_tests> LinuxConfinement*)
+    set_tests_properties(Confinement.HoldsForAnOrdinaryUserToo PROPERTIES
+        TIMEOUT 120 SKIP_RETURN_CODE 77 LABELS core)
 endif()
 
 add_test(NAME MacBundle.WantsTheNewerOfOurOldestSystemAndTheToolkits
@@ -245,8 +256,12 @@ add_dependencies(core_tests vantor_probe)
 vantor_add_tests(settings_tests LABEL core SOURCES
     settings/app_settings_test.cpp
     settings/appearance_test.cpp
+    settings/damaged_defaults_test.cpp
+    settings/defaults_file_test.cpp
+    settings/full_disk_test.cpp
     settings/ini_text_test.cpp
-    settings/settings_loading_test.cpp)
+    settings/settings_loading_test.cpp
+    settings/stored_settings_test.cpp)
 
 vantor_add_tests(house_tests LABEL core SOURCES
     house/call_rules.cpp

@@ -36,6 +36,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/process_explorer_view_test.cpp
     ui/process_mini_list_test.cpp
     ui/repaint_test.cpp
+    ui/not_saved_view_test.cpp
     ui/settings_look_test.cpp
     ui/settings_view_test.cpp
     ui/system_card_test.cpp
@@ -60,8 +61,10 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/rasters_test.cpp
     ui/ring_gauge_test.cpp
     ui/scroll_view_test.cpp
+    ui/shown_text_test.cpp
     ui/small_components_test.cpp
     ui/sparkline_test.cpp
+    ui/strangers_texts_test.cpp
     ui/symbols_test.cpp
     ui/text_shapes_test.cpp
     ui/theme_test.cpp
@@ -87,23 +90,32 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     # Without.
     app/app_delegate_test.cpp
     app/app_commands_test.cpp
-    app/damaged_store_test.cpp
+    app/changing_bus_test.cpp
     app/launch_stabilizer_test.cpp
     app/local_claim_test.cpp
     app/qt_alerts_test.cpp
-    app/qt_defaults_store_test.cpp
     app/qt_main_loop_test.cpp
     app/qt_menu_bar_extras_test.cpp
     app/qt_save_dialogs_test.cpp
+    app/quit_watch_test.cpp
+    app/safe_environment_test.cpp
+    app/save_location_test.cpp
     app/single_instance_test.cpp
-    app/stored_settings_test.cpp
     app/termination_signals_test.cpp
+    app/toolkit_ini_test.cpp
+    app/user_defaults_test.cpp
     app/window_geometry_test.cpp
     app/window_placement_test.cpp)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     target_sources(app_tests PRIVATE
+        app/folder_looks_test.cpp
+        app/linux_save_dialogs_test.cpp
+        app/patient_questions_test.cpp
+        app/portal_save_dialog_test.cpp
         app/qt_status_bar_test.cpp
-        support/played_notifier_tray.cpp)
+        app/save_panel_test.cpp
+        support/played_notifier_tray.cpp
+        support/played_portal.cpp)
 endif()
 target_compile_definitions(app_tests PRIVATE
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
@@ -113,7 +125,10 @@ add_dependencies(app_tests ending_program instance_program quitting_program)
 
 # What is chosen on a Mac is compiled wherever the tests are.
 if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
-    add_library(vantor_mac_desktop OBJECT ${CMAKE_SOURCE_DIR}/src/app/mac_desktop.cpp)
+    add_library(vantor_mac_desktop OBJECT
+        ${CMAKE_SOURCE_DIR}/src/app/mac_desktop.cpp
+        ${CMAKE_SOURCE_DIR}/src/app/mac_display.cpp
+        ${CMAKE_SOURCE_DIR}/src/app/save/mac_native_save_dialogs.cpp)
     target_link_libraries(vantor_mac_desktop PRIVATE vantor_app vantor_warnings)
     add_dependencies(app_tests vantor_mac_desktop)
 endif()

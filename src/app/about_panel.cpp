@@ -8,7 +8,8 @@
 
 namespace vantor {
 
-QMessageBox* showVantorAboutPanel(const AppMetadata& metadata, QWidget* owner) {
+QMessageBox* showVantorAboutPanel(const AppMetadata& metadata, const ConfinementState& confinement,
+                                  QWidget* owner) {
     constexpr int iconSide = 64;
     auto* panel = makeChild<QMessageBox>(owner);
     panel->setAttribute(Qt::WA_DeleteOnClose);
@@ -18,8 +19,8 @@ QMessageBox* showVantorAboutPanel(const AppMetadata& metadata, QWidget* owner) {
     panel->setText(QStringLiteral("<b>Vantor</b>"));
     panel->setInformativeText(
         QStringLiteral("Version %1 (%2)\n\nBuilt by the Vantor founders. Everything it shows, it "
-                       "reads on this machine, and it stays here.")
-            .arg(metadata.version(), metadata.build()));
+                       "reads on this machine, and it stays here.\n\nConfined by the kernel: %3")
+            .arg(metadata.version(), metadata.build(), QString::fromStdString(confinement.text())));
     panel->setStandardButtons(QMessageBox::Close);
     bringToFront(*panel, {});
     return panel;

@@ -38,22 +38,34 @@ LocalClaim::LocalClaim(const QString& folder, const QString& display, OnActivate
 }
 
 ClaimOutcome LocalClaim::claim(const QString& token, const QDeadlineTimer& deadline) {
-    const QByteArray lockPath = base_ + ".lock";
-    lock_ = FileDescriptor(
-        ::open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
-    if (!lock_) return ClaimOutcome::unavailable;
     for (;;) {
-        if (::flock(lock_.get(), LOCK_EX | LOCK_NB) == 0) {
-            server_ = std::make_unique<ActivationServer>(base_ + ".socket", onActivate_);
-            return server_->isListening() ? ClaimOutcome::owned : ClaimOutcome::unavailable;
-        }
-        if (errno != EWOULDBLOCK && errno != EINTR) return ClaimOutcome::unavailable;
+        const ClaimOutcome outcome = take();
+        if (outcome != ClaimOutcome::noAnswer) return outcome;
         const Answer answer = ask(token, deadline);
         if (answer == Answer::yes) return ClaimOutcome::handedOver;
         if (answer == Answer::none || deadline.hasExpired()) return ClaimOutcome::noAnswer;
         // It is just starting or just ending.
         ::poll(nullptr, 0, std::min(retryMilliseconds, millisecondsUntil(deadline)));
     }
+}
+
+ClaimOutcome LocalClaim::take() {
+    const QByteArray lockPath = base_ + ".lock";
+    if (!lock_) {
+        lock_ = FileDescriptor(
+            ::open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+    }
+    if (!lock_) return ClaimOutcome::unavailable;
+    if (::flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {
+        const bool isTaken = errno == EWOULDBLOCK || errno == EINTR;
+        return isTaken ? ClaimOutcome::noAnswer : ClaimOutcome::unavailable;
+    }
+    server_ = std::make_unique<ActivationServer>(base_ + ".socket", onActivate_);
+    if (server_->isListening()) return ClaimOutcome::owned;
+    // Nobody is to wait for one who does not listen.
+    server_.reset();
+    lock_.reset();
+    return ClaimOutcome::unavailable;
 }
 
 LocalClaim::Answer LocalClaim::ask(const QString& token, const QDeadlineTimer& deadline) const {

@@ -20,8 +20,11 @@ class LocalClaim {
   public:
     LocalClaim(const QString& folder, const QString& display, OnActivate onActivate);
 
-    /// To be called once. Takes no longer than until `deadline`.
+    /// Takes no longer than until `deadline`.
     ClaimOutcome claim(const QString& token, const QDeadlineTimer& deadline);
+
+    /// The same, without asking anybody who is there.
+    ClaimOutcome take();
 
   private:
     enum class Answer { yes, none, gone };

@@ -9,6 +9,7 @@
 
 #include "app/front_window.h"
 #include "ui/components/make_child.h"
+#include "ui/shown_text.h"
 
 namespace vantor {
 
@@ -31,8 +32,8 @@ void showPlain(const QMessageBox& box, const QString& label, const QString& text
 
 QMessageBox* makeBox(const AlertText& text, QWidget* window) {
     auto* const box = makeChild<QMessageBox>(window);
-    const QString message = QString::fromStdString(text.message);
-    const QString information = QString::fromStdString(text.informativeText);
+    const QString message = shownText(text.message);
+    const QString information = shownText(text.informativeText);
     box->setIcon(QMessageBox::Critical);
     box->setTextFormat(Qt::PlainText);
     box->setWindowTitle(message);

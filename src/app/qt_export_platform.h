@@ -4,8 +4,8 @@
 
 namespace vantor {
 
-/// The toolkit's dialogs, and the files and the time zone of the operating system. Needs the
-/// toolkit's application object; main thread.
+/// The desktop's save dialogs, the toolkit's alerts, and the files and the time zone of the
+/// operating system. Needs the toolkit's application object; main thread.
 ExportPlatform makeQtExportPlatform();
 
 }  // namespace vantor

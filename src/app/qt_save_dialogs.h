@@ -2,19 +2,16 @@
 
 #include <QString>
 
-#include <filesystem>
 #include <memory>
 
 #include "platform/save_dialog.h"
 
 namespace vantor {
 
-/// The toolkit's name of a file, as the bytes that the system knows it by.
-std::filesystem::path pathOf(const QString& name);
-
-/// The toolkit's save dialogs: the desktop's own where it has one. They open in the folder that was
+/// The toolkit's save dialogs, for desktops whose own it shows. They open in the folder that was
 /// saved to last in this run, at first in the user's documents, and belong to the front window:
-/// without it, a dialog is over. A name without an ending gets the one of its kind.
+/// without it, a dialog is over. A name without an ending gets the one of its kind. Where the
+/// desktop has none, the toolkit's own asks the disk on the main thread.
 class QtSaveDialogs : public SaveDialogs {
   public:
     std::unique_ptr<SaveDialog> makeSaveDialog(const SaveRequest& request) override;

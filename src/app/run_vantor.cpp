@@ -10,13 +10,17 @@
 #include <memory>
 
 #include "app/desktop.h"
-#include "app/qt_defaults_store.h"
 #include "app/qt_export_platform.h"
+#include "app/quit_watch.h"
+#include "app/safe_environment.h"
+#include "app/scarcity.h"
 #include "app/session_end.h"
 #include "app/single_instance.h"
 #include "app/termination_signals.h"
+#include "app/user_defaults.h"
 #include "app/vantor_app.h"
 #include "app/window_activation.h"
+#include "platform/posix/end_watchdog.h"
 #include "ui/components/accessible_views.h"
 #include "ui/vantor_style.h"
 
@@ -27,28 +31,40 @@ namespace {
 // Long enough for any probe that works, and well within what people take for "at once".
 constexpr std::chrono::milliseconds quitPatience{250};
 
+void sayThatThereIsNoDisplay() {
+    std::fputs("vantor: no display could be opened; please start it from a desktop session.\n",
+               stderr);
+}
+
 /// The toolkit aborts where it finds no display: that is no fault of the program to be reported,
 /// but a thing to be said in a sentence.
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg) {
-        std::fputs("vantor: no display could be opened; please start it from a desktop session.\n",
-                   stderr);
+        sayThatThereIsNoDisplay();
         std::_Exit(EXIT_FAILURE);
     }
-    if (type == QtCriticalMsg) std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+    if (type == QtCriticalMsg) endWhereToolkitGivesUp(type, context, message);
 }
 
 }  // namespace
 
-int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
+int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
+              const std::shared_ptr<Confinement>& confinement) {
+    makeEnvironmentSafe();
+    if (isLocalDisplayMissing()) {
+        sayThatThereIsNoDisplay();
+        return EXIT_FAILURE;
+    }
     // One look everywhere: the desktop's own style knows nothing of our two schemes.
     QApplication::setStyle(std::make_unique<VantorStyle>().release());  // takes ownership
     const QString activationToken = activationTokenOfEnvironment();
     // The toolkit's own arguments would change the look, and some have it run code of others.
     int ownArguments = std::min(argc, 1);
-    const auto formerHandler = qInstallMessageHandler(endWithoutDisplay);
+    endInASentenceWhenItCannotGoOn();
+    EndWatchdog watchdog;  // first: the toolkit's own end may hang as well
+    qInstallMessageHandler(endWithoutDisplay);
     QApplication application(ownArguments, argv);
-    qInstallMessageHandler(formerHandler);
+    qInstallMessageHandler(endWhereToolkitGivesUp);
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("vantor"));
@@ -56,14 +72,24 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine) {
     if (instance->role() == SingleInstance::Role::second) return EXIT_SUCCESS;
     installViewAccessibility();
 
-    const auto vantor =
-        makeVantorApp({machine, QtDefaultsStore::userFile(), makeNativeStatusBar(),
-                       [] { QApplication::quit(); }, makeQtExportPlatform(), nativeDesktopWays()});
+    const auto vantor = makeVantorApp({machine,
+                                       userSettingsFile(),
+                                       makeNativeStatusBar(),
+                                       [] { QApplication::quit(); },
+                                       makeQtExportPlatform(),
+                                       nativeDesktopWays(),
+                                       {},
+                                       confinement});
     instance->setOnActivate([&](const QString& token) { vantor->reopen(token); });
+    const QuitWatch quitWatch(application, watchdog);
     const TerminationSignals terminationSignals([] { QApplication::quit(); });
     const SessionEnd sessionEnd(application, [&] { vantor->saveState(); });
+    using Listening = Confinement::Listening;
+    confinement->confineForRunning(instance->mayBeginToListen() ? Listening::mayBegin
+                                                                : Listening::isOver);
     vantor->openDashboard();
     const int status = QApplication::exec();
+    watchdog.ending();
     instance.reset();  // who starts from now on is the first
     // A probe that hangs in the kernel cannot be joined, and tearing the process down around it
     // would pull the ground from under its feet.

@@ -3,11 +3,14 @@
 #include <QDBusArgument>
 #include <QDBusError>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDBusVirtualObject>
 #include <QVariantMap>
 
 #include <algorithm>
 #include <utility>
+
+#include "ui/components/make_child.h"
 
 namespace vantor {
 
@@ -41,6 +44,13 @@ QString name() {
 
 int busPatience(const QDeadlineTimer& deadline) {
     return static_cast<int>(std::clamp<qint64>(deadline.remainingTime(), 1, 60'000));
+}
+
+QDBusMessage nameRequest(uint flags) {
+    auto request = QDBusMessage::createMethodCall(busName, QStringLiteral("/org/freedesktop/DBus"),
+                                                  busName, QStringLiteral("RequestName"));
+    request.setArguments({name(), flags});
+    return request;
 }
 
 QString tokenIn(const QVariant& platformData) {
@@ -85,32 +95,95 @@ class SessionBusClaim::Application : public QDBusVirtualObject {
 };
 
 SessionBusClaim::SessionBusClaim(const QString& address, OnActivate onActivate)
-    : connectionName_(name() + QString::number(reinterpret_cast<quintptr>(this))),
-      application_(std::make_unique<Application>(std::move(onActivate))),
-      connection_(QDBusConnection::connectToBus(address, connectionName_)) {}
+    : address_(address),
+      connectionName_(name() + QString::number(reinterpret_cast<quintptr>(this))),
+      application_(std::make_unique<Application>(std::move(onActivate))) {
+    for (QTimer* const timer : {&lost_, &retry_})
+        timer->setSingleShot(true);
+    lost_.setInterval(0);
+    retry_.setTimerType(Qt::VeryCoarseTimer);
+    QObject::connect(&lost_, &QTimer::timeout, &lost_, [this] {
+        disconnect();
+        if (isHolding_) tryLater();
+    });
+    QObject::connect(&retry_, &QTimer::timeout, &retry_, [this] { hold(); });
+}
 
 SessionBusClaim::~SessionBusClaim() {
-    if (connection_.isConnected()) connection_.unregisterObject(objectPath);
+    disconnect();
+}
+
+bool SessionBusClaim::connect() {
+    if (connection_ && connection_->isConnected()) return true;
+    disconnect();
+    connection_.emplace(QDBusConnection::connectToBus(address_, connectionName_));
+    // Before the name, so that nobody finds the one without the other.
+    const bool isJoined = connection_->isConnected() &&
+                          connection_->registerVirtualObject(objectPath, application_.get());
+    if (isJoined) {
+        connection_->connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                             QStringLiteral("org.freedesktop.DBus.Local"),
+                             QStringLiteral("Disconnected"), &lost_, SLOT(start()));
+    } else {
+        disconnect();
+    }
+    return isJoined;
+}
+
+void SessionBusClaim::disconnect() {
+    if (!connection_) return;
+    if (connection_->isConnected()) connection_->unregisterObject(objectPath);
+    connection_.reset();
+    isOwner_ = false;
+    lost_.stop();
     QDBusConnection::disconnectFromBus(connectionName_);
 }
 
-ClaimOutcome SessionBusClaim::claim(const QString& token, const QDeadlineTimer& deadline) {
-    // Before the name, so that nobody finds the one without the other.
-    if (!connection_.isConnected() ||
-        !connection_.registerVirtualObject(objectPath, application_.get())) {
-        return ClaimOutcome::unavailable;
+void SessionBusClaim::hold() {
+    isHolding_ = true;
+    if (connect()) {
+        if (!isOwner_) waitInLine();
+    } else {
+        tryLater();
     }
+}
+
+void SessionBusClaim::tryLater() {
+    retry_.start(backOff_.next());
+}
+
+void SessionBusClaim::waitInLine() {
+    constexpr uint nothingSpecial = 0;
+    auto* const answer = makeChild<QDBusPendingCallWatcher>(
+        static_cast<QObject*>(&retry_), connection_->asyncCall(nameRequest(nothingSpecial)));
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &retry_, [this, answer] {
+        const bool isInLine = !answer->isError();
+        answer->deleteLater();
+        if (isInLine) {
+            backOff_ = BackOff();
+        } else if (!retry_.isActive()) {
+            disconnect();
+            tryLater();
+        }
+    });
+}
+
+ClaimOutcome SessionBusClaim::claim(const QString& token, const QDeadlineTimer& deadline) {
+    if (!connect()) return ClaimOutcome::unavailable;
     const QVariantMap platformData =
         token.isEmpty() ? QVariantMap() : QVariantMap{{waylandKey, token}, {x11Key, token}};
     do {
         const Name found = requestName(deadline);
-        if (found == Name::ours) return ClaimOutcome::owned;
+        if (found == Name::ours) {
+            isOwner_ = true;
+            return ClaimOutcome::owned;
+        }
         if (found == Name::unknown) return ClaimOutcome::unavailable;
         auto activate = QDBusMessage::createMethodCall(name(), objectPath, interfaceName,
                                                        QStringLiteral("Activate"));
         activate.setArguments({platformData});
         activate.setAutoStartService(false);
-        const QDBusMessage reply = connection_.call(activate, QDBus::Block, busPatience(deadline));
+        const QDBusMessage reply = connection_->call(activate, QDBus::Block, busPatience(deadline));
         if (reply.type() == QDBusMessage::ReplyMessage) return ClaimOutcome::handedOver;
         const auto error = QDBusError(reply).type();
         // Otherwise it has just ended, and the name may be free now.
@@ -123,10 +196,8 @@ SessionBusClaim::Name SessionBusClaim::requestName(const QDeadlineTimer& deadlin
     constexpr uint doNotQueue = 4;
     constexpr uint isOwner = 1;
     constexpr uint exists = 3;
-    auto request = QDBusMessage::createMethodCall(busName, QStringLiteral("/org/freedesktop/DBus"),
-                                                  busName, QStringLiteral("RequestName"));
-    request.setArguments({name(), doNotQueue});
-    const QDBusMessage reply = connection_.call(request, QDBus::Block, busPatience(deadline));
+    const QDBusMessage reply =
+        connection_->call(nameRequest(doNotQueue), QDBus::Block, busPatience(deadline));
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return Name::unknown;
     const uint answer = reply.arguments().constFirst().toUInt();

@@ -3,9 +3,12 @@
 #include <QDBusConnection>
 #include <QDeadlineTimer>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
+#include <optional>
 
+#include "app/back_off.h"
 #include "app/instance_claim.h"
 
 namespace vantor {
@@ -14,7 +17,7 @@ namespace vantor {
 /// at `/com/kestrone/Vantor`. Main thread.
 class SessionBusClaim {
   public:
-    /// Connects to the bus, over a connection of its own.
+    /// Connects to the bus in claim() or hold(), over a connection of its own.
     SessionBusClaim(const QString& address, OnActivate onActivate);
     SessionBusClaim(const SessionBusClaim&) = delete;
     SessionBusClaim& operator=(const SessionBusClaim&) = delete;
@@ -24,15 +27,29 @@ class SessionBusClaim {
     /// To be called once. Takes no longer than until `deadline`, provided that the bus works.
     ClaimOutcome claim(const QString& token, const QDeadlineTimer& deadline);
 
+    /// From now on owns the name, or will when its owner leaves; and joins a bus that is not there
+    /// yet, or is lost, as soon as it is: it tries again and again, less and less often.
+    void hold();
+
   private:
     class Application;
 
     enum class Name { ours, taken, unknown };
+    bool connect();
+    void disconnect();
+    void waitInLine();
+    void tryLater();
     Name requestName(const QDeadlineTimer& deadline);
 
+    QString address_;
     QString connectionName_;
     std::unique_ptr<Application> application_;
-    QDBusConnection connection_;
+    std::optional<QDBusConnection> connection_;
+    bool isHolding_ = false;
+    bool isOwner_ = false;
+    QTimer lost_;  // as soon as the bus is: its connection cannot end while it tells so
+    BackOff backOff_;
+    QTimer retry_;
 };
 
 }  // namespace vantor

@@ -23,18 +23,32 @@ SingleInstance::Role SingleInstance::claim(const QString& token, const Surroundi
     const QDeadlineTimer deadline(surroundings.patience);
     const auto onActivate = [this](const QString& received) { activate(received); };
     auto outcome = ClaimOutcome::unavailable;
-    if (!surroundings.busAddress.isEmpty()) {
-        bus_ = std::make_unique<SessionBusClaim>(surroundings.busAddress, onActivate);
-        outcome = bus_->claim(token, deadline);
-        if (outcome != ClaimOutcome::owned) bus_.reset();
-    }
-    if (outcome == ClaimOutcome::unavailable && !surroundings.runtimeFolder.isEmpty()) {
+    if (!surroundings.runtimeFolder.isEmpty()) {
         local_ = std::make_unique<LocalClaim>(surroundings.runtimeFolder, surroundings.display,
                                               onActivate);
         outcome = local_->claim(token, deadline);
-        if (outcome != ClaimOutcome::owned) local_.reset();
+        if (outcome == ClaimOutcome::handedOver) return Role::second;
     }
-    return outcome == ClaimOutcome::handedOver ? Role::second : Role::first;
+    if (!surroundings.busAddress.isEmpty()) {
+        bus_ = std::make_unique<SessionBusClaim>(surroundings.busAddress, onActivate);
+        // One that has not answered here will not answer there.
+        if (outcome != ClaimOutcome::noAnswer &&
+            bus_->claim(token, deadline) == ClaimOutcome::handedOver) {
+            bus_.reset();
+            local_.reset();
+            return Role::second;
+        }
+        bus_->hold();
+    }
+    localRetry_.setSingleShot(true);
+    localRetry_.setTimerType(Qt::VeryCoarseTimer);
+    QObject::connect(&localRetry_, &QTimer::timeout, &localRetry_, [this] { holdLocally(); });
+    if (local_ && outcome != ClaimOutcome::owned) localRetry_.start(localBackOff_.next());
+    return Role::first;
+}
+
+void SingleInstance::holdLocally() {
+    if (local_->take() != ClaimOutcome::owned) localRetry_.start(localBackOff_.next());
 }
 
 void SingleInstance::setOnActivate(OnActivate onActivate) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <QTimer>
 
 #include <chrono>
 #include <functional>
 #include <memory>
 
+#include "app/back_off.h"
 #include "app/instance_claim.h"
 
 namespace vantor {
@@ -16,10 +18,13 @@ class SessionBusClaim;
 /// Makes the program one of a kind in its user's session: the first one goes on, a second start
 /// asks it to come forward and is to end.
 ///
-/// Where there is a session bus, its owner of the name `com.kestrone.Vantor` is the first, and
-/// answers as `org.freedesktop.Application`: one program a bus. Without one, it is who holds a lock
-/// in the user's runtime folder, and listens on a socket there: one program a display. A bus is
-/// never started for the purpose, and none is spoken to that is not on this machine.
+/// The first one holds a lock in the user's runtime folder, and listens on a socket there: one
+/// program a display, whatever becomes of any bus. Where there is a session bus, it owns the name
+/// `com.kestrone.Vantor` there, too, and answers as `org.freedesktop.Application`: one program a
+/// bus, on whatever display. A start asks for both in this order, so that two never wait for each
+/// other. A bus that goes and comes back, or comes late, is joined again, and what another program
+/// has is taken over once that one is gone. A bus is never started for the purpose, and none is
+/// spoken to that is not on this machine.
 ///
 /// A first program that does not answer within `patience`, and whatever else goes wrong, makes this
 /// one a first program as well: better two windows than none.
@@ -48,17 +53,23 @@ class SingleInstance {
 
     Role role() const { return role_; }
 
+    /// Whether another program still has what this one would listen at.
+    bool mayBeginToListen() const { return localRetry_.isActive(); }
+
     /// Whom to tell of later starts. One that came before is told of at once.
     void setOnActivate(OnActivate onActivate);
 
   private:
     void activate(const QString& token);
     Role claim(const QString& token, const Surroundings& surroundings);
+    void holdLocally();
 
     OnActivate onActivate_;
     std::unique_ptr<QString> waiting_;  // the token of who came before anybody could be told
     std::unique_ptr<SessionBusClaim> bus_;
     std::unique_ptr<LocalClaim> local_;
+    BackOff localBackOff_;
+    QTimer localRetry_;
     Role role_;
 };
 

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "platform/posix/end_watchdog.h"
+
 namespace vantor {
 
 namespace {
@@ -35,6 +37,7 @@ void handle(int number) {
     const int formerError = errno;
     std::int64_t first = 0;
     const std::int64_t time = now();
+    EndWatchdog::signalled(number);
     if (reached.firstAt.compare_exchange_strong(first, time)) {
         const char byte = 0;
         [[maybe_unused]] const auto written = ::write(reached.writeEnd.load(), &byte, 1);

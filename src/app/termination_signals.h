@@ -17,8 +17,8 @@ namespace vantor {
 ///
 /// Who insists is heard: a signal that comes a while (`sameRequest`) after the first ends the
 /// process at once, with the signal's own status, so that an end that hangs can be cut short by a
-/// second Ctrl-C. What comes sooner is the same request: a terminal that closes and a service
-/// manager both send two.
+/// second Ctrl-C; and so does the watchdog, which the first one sets off. What comes sooner is the
+/// same request: a terminal that closes and a service manager both send two.
 ///
 /// A signal that is ignored when this object is made stays ignored (nohup). Main thread; one object
 /// at a time; its end, which is not to happen within the call, puts the former handling back. Where

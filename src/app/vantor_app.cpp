@@ -8,9 +8,9 @@
 #include "app/legacy_vantor_app.h"
 #include "app/modern_vantor_app.h"
 #include "app/qt_application_appearance.h"
-#include "app/qt_defaults_store.h"
 #include "app/qt_main_loop.h"
 #include "app/termination_signals.h"
+#include "app/user_defaults.h"
 #include "app/window_activation.h"
 #include "platform/native_machine.h"
 #include "ui/settings/settings_view.h"
@@ -26,7 +26,19 @@ constexpr auto settlingTime = 4s;
 // A document is written in milliseconds; a slow stick takes a second or two to have it for good. A
 // disk that takes longer may hang, and a session that ends waits no longer for a program either.
 // The windows are gone by then, so nobody looks at one that does not answer.
-constexpr auto writePatience = 3s;
+constexpr auto writePatience = DefaultsFile::endPatience;
+
+/// What is read late takes effect late, except for what the user has changed by then: a window that
+/// shows other preferences than those that are stored would have them changed back and forth.
+std::shared_ptr<AppSettings> loadSettings(const std::shared_ptr<DefaultsFile>& defaults) {
+    defaults->waitForRead();
+    auto settings =
+        std::make_shared<AppSettings>(defaults, std::make_shared<QtApplicationAppearance>());
+    defaults->setOnLateRead([weak = std::weak_ptr(settings)] {
+        if (const auto held = weak.lock()) held->takeUpStored();
+    });
+    return settings;
+}
 
 }  // namespace
 
@@ -34,13 +46,16 @@ VantorApp::VantorApp(Environment environment)
     : machine_(std::move(environment.machine)),
       mainLoop_(std::make_shared<QtMainLoop>()),
       queues_(makeNativeQueueFactory([] { TerminationSignals::keepFromThisThread(); })),
-      defaults_(std::make_shared<QtDefaultsStore>(environment.settingsFile)),
-      settings_(
-          std::make_shared<AppSettings>(defaults_, std::make_shared<QtApplicationAppearance>())),
+      defaults_(openDefaults(environment.settingsFile, mainLoop_, queues_,
+                             "com.kestrone.Vantor.settings")),
+      frames_(openDefaults(WindowGeometry::fileBeside(environment.settingsFile), mainLoop_, queues_,
+                           "com.kestrone.Vantor.windows")),
+      settings_(loadSettings(defaults_)),
       monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_,
                                    std::move(environment.exportPlatform))),
       statusBar_(std::move(environment.statusBar)),
       trayPatience_(environment.trayPatience),
+      confinement_(std::move(environment.confinement)),
       quit_(std::move(environment.quit)),
       metadata_(buildInfo_),
       delegate_(defaults_, machine_->processInfo(), [this] { openDashboard(); }),
@@ -52,8 +67,8 @@ VantorApp::VantorApp(Environment environment)
                  [this] { monitor_->exportSnapshot(); }, [this] { openSettings(); },
                  [this] { openHelp(); }, quit_},
                 environment.desktop.hasOneMenuBar) {
-    frames_ =
-        std::make_shared<QtDefaultsStore>(WindowGeometry::fileBeside(environment.settingsFile));
+    // Read too late, they are for the next start: a window that the user looks at stays in place.
+    frames_->waitForRead();
     // Whether the last window ends the program is asked each time.
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QGuiApplication::lastWindowClosed, this, [this] { lastWindowClosed(); });
@@ -102,7 +117,8 @@ void VantorApp::openSettings() {
     if (!monitor_) return;
     if (!settingsWindow_) {
         auto view = std::make_unique<SettingsView>(SettingsView::Environment{
-            settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); }});
+            settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); },
+            std::shared_ptr<Published<std::string>>(defaults_, &defaults_->notSaved())});
         settingsWindow_ =
             std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view));
         commands_.addTo(settingsWindow_.get());
@@ -121,7 +137,8 @@ void VantorApp::openAbout() {
     }
     QWidget* owner = QApplication::activeWindow();
     if (!owner) owner = dashboardWindow();
-    about_ = showVantorAboutPanel(metadata_, owner);
+    about_ = showVantorAboutPanel(metadata_,
+                                  confinement_ ? confinement_->state() : ConfinementState{}, owner);
 }
 
 void VantorApp::reopen(const QString& activationToken) {
@@ -173,6 +190,19 @@ void VantorApp::waitForTray(std::chrono::milliseconds patience) {
     });
 }
 
+void VantorApp::finishWriting() {
+    using std::chrono::steady_clock;
+    const auto end = steady_clock::now() + writePatience;
+    defaults_->setOnLateRead({});
+    for (const auto& file : {defaults_, frames_})
+        file->tryAgain();
+    monitor_->waitForExport(writePatience);
+    for (const auto& file : {defaults_, frames_}) {
+        const auto left = end - steady_clock::now();
+        file->waitForWrite(std::chrono::duration_cast<std::chrono::milliseconds>(left));
+    }
+}
+
 bool VantorApp::shutDown(std::chrono::milliseconds patience) {
     cancelTask(wayBackTask_);
     statusBar_->listen({});
@@ -181,7 +211,7 @@ bool VantorApp::shutDown(std::chrono::milliseconds patience) {
     menuBar_.reset();
     settingsWindow_.reset();
     help_.release();
-    if (monitor_) monitor_->waitForExport(writePatience);
+    if (monitor_) finishWriting();
     monitor_.reset();
     return queues_->waitForThreads(patience);
 }

@@ -19,12 +19,14 @@
 #include "app/status_bar.h"
 #include "app/vantor_help_window.h"
 #include "app/window_geometry.h"
+#include "platform/confinement.h"
 #include "platform/export_platform.h"
 #include "platform/machine.h"
 #include "platform/main_loop.h"
 #include "platform/serial_queue.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
+#include "settings/defaults_file.h"
 #include "ui/app_metadata.h"
 #include "ui/menu_bar/menu_bar_dashboard_view.h"
 
@@ -52,6 +54,7 @@ class VantorApp : public QObject {
         ExportPlatform exportPlatform{};  ///< without one, Export does nothing
         DesktopWays desktop{};
         TrayPatience trayPatience{};
+        std::shared_ptr<const Confinement> confinement{};  ///< of this process, if there is any
     };
 
     VantorApp(const VantorApp&) = delete;
@@ -79,10 +82,10 @@ class VantorApp : public QObject {
     ContentWindow* helpWindow() { return help_.window(); }
     AppCommands& commands() { return commands_; }
 
-    /// Ends everything without waiting for any probe. A snapshot that is being written gets up to
-    /// three seconds to be there as a whole; after that, the file of before stays. False when a
-    /// probe is still running after `patience`: the program must then leave without cleaning up
-    /// under it.
+    /// Ends everything without waiting for any probe. A snapshot and preferences that are being
+    /// written get up to three seconds together to be there as a whole; after that, the files of
+    /// before stay. False when a probe or a write is still running after `patience`: the program
+    /// must then leave without cleaning up under it.
     virtual bool shutDown(std::chrono::milliseconds patience);
 
   protected:
@@ -107,16 +110,19 @@ class VantorApp : public QObject {
     bool hasVisibleWindow() const;
     void lastWindowClosed();
     void statusBarChanged();
+    void finishWriting();
     void waitForTray(std::chrono::milliseconds patience);
 
     std::shared_ptr<Machine> machine_;
     std::shared_ptr<MainLoop> mainLoop_;
     std::shared_ptr<BackgroundQueueFactory> queues_;
-    std::shared_ptr<DefaultsStore> defaults_;
+    std::shared_ptr<DefaultsFile> defaults_;
+    std::shared_ptr<DefaultsFile> frames_;  // of windows
     std::shared_ptr<AppSettings> settings_;
     std::shared_ptr<SystemMonitor> monitor_;
     std::shared_ptr<StatusBar> statusBar_;
     TrayPatience trayPatience_;
+    std::shared_ptr<const Confinement> confinement_;
     std::function<void()> quit_;
     BuildInfo buildInfo_;
     AppMetadata metadata_;
@@ -124,7 +130,6 @@ class VantorApp : public QObject {
     VantorHelpWindow help_;
     AppCommands commands_;
     std::unique_ptr<MenuBarController> menuBar_;
-    std::shared_ptr<DefaultsStore> frames_;     // of windows
     std::unique_ptr<WindowGeometry> geometry_;  // of the dashboard's window
     std::unique_ptr<ContentWindow> settingsWindow_;
     QPointer<QMessageBox> about_;            // while it is open

@@ -18,19 +18,23 @@ constexpr std::string_view appearanceKey = "appearance";
 
 constexpr double defaultRefreshInterval = 0.5;
 constexpr std::int64_t defaultHistoryLength = 90;
+constexpr bool showsMenuBarByDefault = true;
+constexpr bool includesPointToPointByDefault = false;
 
 using Value = DefaultsStore::Value;
 
-double loadDouble(const DefaultsStore& store, std::string_view key, double otherwise) {
-    const auto value = store.value(key);
-    if (!value) return otherwise;
-    if (const auto* number = std::get_if<double>(&*value)) return *number;
-    if (const auto* whole = std::get_if<std::int64_t>(&*value)) return static_cast<double>(*whole);
-    return otherwise;
+double loadRefreshInterval(const DefaultsStore& store) {
+    const auto value = store.value(refreshIntervalKey);
+    double stored = defaultRefreshInterval;
+    if (const auto* number = value ? std::get_if<double>(&*value) : nullptr) stored = *number;
+    if (const auto* whole = value ? std::get_if<std::int64_t>(&*value) : nullptr)
+        stored = static_cast<double>(*whole);
+    return AppSettings::nearestRefreshInterval(stored);
 }
 
-std::int64_t loadInteger(const DefaultsStore& store, std::string_view key, std::int64_t otherwise) {
-    const auto value = store.value(key);
+std::int64_t storedHistoryLength(const DefaultsStore& store) {
+    constexpr std::int64_t otherwise = defaultHistoryLength;
+    const auto value = store.value(historyLengthKey);
     if (!value) return otherwise;
     if (const auto* whole = std::get_if<std::int64_t>(&*value)) return *whole;
     // A store may hand a whole number back as a floating one.
@@ -41,6 +45,10 @@ std::int64_t loadInteger(const DefaultsStore& store, std::string_view key, std::
         }
     }
     return otherwise;
+}
+
+std::int64_t loadHistoryLength(const DefaultsStore& store) {
+    return AppSettings::clampHistoryLength(storedHistoryLength(store));
 }
 
 bool loadBool(const DefaultsStore& store, std::string_view key, bool otherwise) {
@@ -66,39 +74,60 @@ AppSettings::AppSettings(std::shared_ptr<DefaultsStore> defaults,
                          std::shared_ptr<ApplicationAppearance> application)
     : defaults_(std::move(defaults)),
       application_(std::move(application)),
-      refreshInterval_(nearestRefreshInterval(
-          loadDouble(*defaults_, refreshIntervalKey, defaultRefreshInterval))),
-      historyLength_(
-          clampHistoryLength(loadInteger(*defaults_, historyLengthKey, defaultHistoryLength))),
-      showMenuBar_(loadBool(*defaults_, showMenuBarKey, true)),
-      includePointToPointInterfaces_(loadBool(*defaults_, pointToPointKey, false)),
+      refreshInterval_(loadRefreshInterval(*defaults_)),
+      historyLength_(loadHistoryLength(*defaults_)),
+      showMenuBar_(loadBool(*defaults_, showMenuBarKey, showsMenuBarByDefault)),
+      includePointToPointInterfaces_(
+          loadBool(*defaults_, pointToPointKey, includesPointToPointByDefault)),
       appearance_(loadAppearance(*defaults_)) {
     applyAppearance();
 }
 
+void AppSettings::takeUpStored() {
+    const DefaultsStore& store = *defaults_;
+    takeUp(refreshInterval_, refreshIntervalKey, loadRefreshInterval(store));
+    takeUp(historyLength_, historyLengthKey, loadHistoryLength(store));
+    takeUp(showMenuBar_, showMenuBarKey, loadBool(store, showMenuBarKey, showsMenuBarByDefault));
+    takeUp(includePointToPointInterfaces_, pointToPointKey,
+           loadBool(store, pointToPointKey, includesPointToPointByDefault));
+    const Appearance before = appearance();
+    takeUp(appearance_, appearanceKey, loadAppearance(store));
+    if (appearance() != before) applyAppearance();
+}
+
+template <class T>
+void AppSettings::takeUp(Published<T>& stream, std::string_view key, T stored) {
+    if (!written_.contains(key) && stored != stream.value()) stream.set(stored);
+}
+
+void AppSettings::write(std::string_view key, const Value& value) {
+    written_.insert(key);
+    defaults_->setValue(key, value);
+}
+
 void AppSettings::setRefreshInterval(double seconds) {
     refreshInterval_.set(seconds);
-    defaults_->setValue(refreshIntervalKey, Value{refreshInterval()});
+    write(refreshIntervalKey, Value{refreshInterval()});
 }
 
 void AppSettings::setHistoryLength(std::int64_t samples) {
     historyLength_.set(samples);
-    defaults_->setValue(historyLengthKey, Value{historyLength()});
+    write(historyLengthKey, Value{historyLength()});
 }
 
 void AppSettings::setShowMenuBar(bool shown) {
     showMenuBar_.set(shown);
-    defaults_->setValue(showMenuBarKey, Value{showMenuBar()});
+    write(showMenuBarKey, Value{showMenuBar()});
 }
 
 void AppSettings::setIncludePointToPointInterfaces(bool included) {
     includePointToPointInterfaces_.set(included);
-    defaults_->setValue(pointToPointKey, Value{includePointToPointInterfaces()});
+    write(pointToPointKey, Value{includePointToPointInterfaces()});
 }
 
 void AppSettings::setAppearance(Appearance appearance) {
     appearance_.set(appearance);
-    defaults_->setValue(appearanceKey, Value{std::string(appearanceText(this->appearance()))});
+    write(appearanceKey, Value{std::string(appearanceText(this->appearance()))});
     applyAppearance();
 }
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <set>
+#include <string_view>
 
 #include "platform/published.h"
 #include "settings/appearance.h"
@@ -26,6 +28,10 @@ class AppSettings {
     /// Reads the five keys without writing anything, then applies the appearance once.
     AppSettings(std::shared_ptr<DefaultsStore> defaults,
                 std::shared_ptr<ApplicationAppearance> application);
+
+    /// Takes up what the store has come to know since: for one that was read late. What was set in
+    /// this run stays as it is. Writes nothing.
+    void takeUpStored();
 
     double refreshInterval() const { return refreshInterval_.value(); }
     std::int64_t historyLength() const { return historyLength_.value(); }
@@ -56,10 +62,14 @@ class AppSettings {
     static std::int64_t clampHistoryLength(std::int64_t samples);
 
   private:
+    template <class T>
+    void takeUp(Published<T>& stream, std::string_view key, T stored);
+    void write(std::string_view key, const DefaultsStore::Value& value);
     void applyAppearance();
 
     std::shared_ptr<DefaultsStore> defaults_;
     std::shared_ptr<ApplicationAppearance> application_;
+    std::set<std::string_view> written_;  // keys, in this run
     Published<double> refreshInterval_;
     Published<std::int64_t> historyLength_;
     Published<bool> showMenuBar_;

@@ -10,8 +10,8 @@ namespace vantor {
 
 /// The platform's store of small per-user values. Main thread.
 ///
-/// A store that cannot be read answers nothing, and one that cannot be written drops what it is
-/// given: losing a preference must not cost the program.
+/// A store that cannot be read answers nothing but what it was given, and nobody ever waits for one
+/// that cannot be written: losing a preference must not cost the program.
 class DefaultsStore {
   public:
     using Value = std::variant<bool, std::int64_t, double, std::string>;
@@ -20,7 +20,7 @@ class DefaultsStore {
 
     virtual std::optional<Value> value(std::string_view key) const = 0;
 
-    /// Is on disk, as far as that is possible, when the call returns.
+    /// Is answered from then on, and on its way to the disk when the call returns.
     virtual void setValue(std::string_view key, const Value& value) = 0;
 };
 

@@ -36,7 +36,7 @@ class DialogDesk {
     template <class Window>
     static Window* shown() {
         for (QWidget* const each : QApplication::topLevelWidgets()) {
-            auto* const window = qobject_cast<Window*>(each);
+            auto* const window = dynamic_cast<Window*>(each);
             if (window && window->isVisible()) return window;
         }
         return nullptr;

@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <QCoreApplication>
 
 #include <chrono>
@@ -7,10 +9,13 @@
 #include <string_view>
 
 #include "app/termination_signals.h"
+#include "platform/posix/end_watchdog.h"
 
 /// A program that a signal ends: orderly ("orderly": says "ending", leaves with status 3), never
 /// ("hanging": says "ending" and hangs), or not at all, with SIGHUP ignored from the start
-/// ("immune"). Says "ready" first.
+/// ("immune"). Watched for a second once its end has begun, its main thread is stuck in a read
+/// ("stuck"), where it came after it was to quit ("quitting") or had been asked to and refused
+/// ("refusing"). Says "ready" first.
 int main(int argc, char** argv) {
     const std::string_view manner = argc > 1 ? argv[1] : "";
     if (manner == "immune") std::signal(SIGHUP, SIG_IGN);
@@ -28,6 +33,14 @@ int main(int argc, char** argv) {
         QCoreApplication::exit(3);
     };
     const vantor::TerminationSignals handling(end, sameRequest);
+    if (manner == "stuck" || manner == "quitting" || manner == "refusing") {
+        vantor::EndWatchdog watchdog(std::chrono::seconds(1));
+        if (manner != "stuck") watchdog.ending();
+        if (manner == "refusing") watchdog.goesOn();
+        say("ready");
+        char byte = 0;
+        return ::read(STDIN_FILENO, &byte, 1) == 1 ? 1 : 2;
+    }
     say("ready");
     return QCoreApplication::exec();
 }

@@ -5,12 +5,13 @@
 #include <memory>
 #include <string_view>
 
-#include "app/qt_defaults_store.h"
 #include "app/qt_main_loop.h"
 #include "app/single_instance.h"
 #include "app/termination_signals.h"
+#include "app/user_defaults.h"
 #include "app/window_activation.h"
 #include "app/window_geometry.h"
+#include "platform/native_machine.h"
 
 /// A program of which there is one: says "first" and then, for each later start, "activated" and
 /// its token; or says "second" and ends. With a window, which keeps its place and has the title of
@@ -37,11 +38,14 @@ int main(int argc, char** argv) {
     window.setWindowTitle(QString::fromLocal8Bit(argc > 2 ? argv[2] : "The one"));
     window.setMinimumSize(200, 100);
     window.resize(300, 200);
-    const vantor::WindowGeometry geometry(
-        window, "Vantor.LegacyDashboard",
-        std::make_shared<vantor::QtDefaultsStore>(
-            vantor::WindowGeometry::fileBeside(vantor::QtDefaultsStore::userFile())),
-        std::make_shared<vantor::QtMainLoop>());
+    const auto mainLoop = std::make_shared<vantor::QtMainLoop>();
+    const auto frames = vantor::openDefaults(
+        vantor::WindowGeometry::fileBeside(vantor::userSettingsFile()), mainLoop,
+        vantor::makeNativeQueueFactory([] { vantor::TerminationSignals::keepFromThisThread(); }),
+        "frames");
+    frames->waitForRead();
+    auto geometry = std::make_unique<vantor::WindowGeometry>(window, "Vantor.LegacyDashboard",
+                                                             frames, mainLoop);
     instance.setOnActivate([&](const QString& received) {
         if (manner == "window") vantor::bringToFront(window, received);
         say(QStringLiteral("activated ") + received);
@@ -53,5 +57,8 @@ int main(int argc, char** argv) {
         char byte = 0;
         return std::fread(&byte, 1, 1, stdin) == 1 ? 1 : 0;
     }
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    geometry.reset();
+    frames->waitForWrite(vantor::DefaultsFile::endPatience);
+    return status;
 }

@@ -13,17 +13,14 @@ namespace vantor {
 /// A session bus of the test's own.
 class SessionBus {
   public:
-    SessionBus() {
-        process_.setStandardErrorFile(QProcess::nullDevice());
-        process_.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                        QStringLiteral("--print-address=1")});
-        if (process_.waitForReadyRead(20'000))
-            address_ = QString::fromLatin1(process_.readLine()).trimmed();
-    }
+    SessionBus() { start({}); }
+    /// At that place, where nothing else is yet.
+    explicit SessionBus(const QString& address) { start({QStringLiteral("--address=") + address}); }
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;
-    ~SessionBus() {
+    ~SessionBus() { end(); }
+
+    void end() {
         process_.kill();
         process_.waitForFinished(5000);
     }
@@ -32,6 +29,16 @@ class SessionBus {
     const QString& address() const { return address_; }
 
   private:
+    void start(const QStringList& arguments) {
+        process_.setStandardErrorFile(QProcess::nullDevice());
+        process_.start(QStringLiteral("dbus-daemon"),
+                       QStringList{QStringLiteral("--session"), QStringLiteral("--nofork"),
+                                   QStringLiteral("--print-address=1")} +
+                           arguments);
+        if (process_.waitForReadyRead(20'000))
+            address_ = QString::fromLatin1(process_.readLine()).trimmed();
+    }
+
     QProcess process_;
     QString address_;
 };

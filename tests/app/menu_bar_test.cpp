@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -258,6 +259,15 @@ TEST_P(MenuBarOf, AboutIsOnePanelThatComesForward) {
     app->openAbout();
     const auto panels = app->dashboardWindow()->findChildren<QMessageBox*>();
     EXPECT_EQ(panels.size(), 1);
+}
+
+TEST_P(MenuBarOf, AboutTellsWhatTheKernelEnforces) {
+    start();
+    app->openDashboard();
+    app->openAbout();
+    const auto* const panel = app->dashboardWindow()->findChild<QMessageBox*>();
+    EXPECT_THAT(utf8(panel->informativeText()),
+                testing::EndsWith("\n\nConfined by the kernel: no"));
 }
 
 TEST_P(MenuBarOf, QuitInThePanelAndInTheMenuQuits) {

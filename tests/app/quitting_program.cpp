@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QMetaObject>
 
@@ -5,6 +7,7 @@
 #include <future>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "app/run_vantor.h"
 #include "platform/simulated/simulated_machine.h"
@@ -16,13 +19,39 @@ void hang() {
     never.get_future().wait();
 }
 
+void getStuck() {
+    std::puts("stuck");
+    std::fflush(stdout);
+    char byte = 0;
+    [[maybe_unused]] const auto count = ::read(STDIN_FILENO, &byte, 1);
+}
+
+void quitAndGetStuck() {
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit,
+                     [] { getStuck(); });
+    QCoreApplication::quit();
+}
+
 }  // namespace
 
 /// The whole program on a machine whose first processor reading asks it to quit with status 7, and
-/// then answers ("answering") or never does ("hanging"). Says "quitting" when it asks.
+/// then answers ("answering") or never does ("hanging"). Says "quitting" when it asks. Or the
+/// reading gets its main thread stuck in a read of standard input, out of the blue ("stuck") or
+/// when it is about to quit ("quitting"); says "stuck" then.
 int main(int argc, char** argv) {
-    const bool hangs = argc > 1 && std::string_view(argv[1]) == "hanging";
+    const std::string_view manner = argc > 1 ? argv[1] : "";
+    const bool hangs = manner == "hanging";
     const auto machine = vantor::SimulatedMachine::laptop();
+    if (manner == "stuck" || manner == "quitting") {
+        machine->hostProcessors().onTotalTicks = [quits = manner == "quitting",
+                                                  asked = std::make_shared<bool>(false)] {
+            if (std::exchange(*asked, true)) return;
+            QMetaObject::invokeMethod(
+                QCoreApplication::instance(), [quits] { quits ? quitAndGetStuck() : getStuck(); },
+                Qt::QueuedConnection);
+        };
+        return vantor::runVantor(argc, argv, machine);
+    }
     machine->hostProcessors().onTotalTicks = [hangs, asked = std::make_shared<bool>(false)] {
         if (*asked) return;
         *asked = true;

@@ -123,10 +123,15 @@ TEST(SingleInstanceOnTheBus, EachBusHasItsOwn) {
     session.set("DBUS_SESSION_BUS_ADDRESS", one.address());
     Start first(session.environment());
     ASSERT_EQ(first.says(), "first");
-    Start otherBus(session.with("DBUS_SESSION_BUS_ADDRESS", other.address()));
-    EXPECT_EQ(otherBus.says(), "first");
     Start otherDisplay(session.with("DISPLAY", QStringLiteral(":77")));
     EXPECT_EQ(otherDisplay.says(), "second") << "one a bus";
+    EXPECT_EQ(first.says(), "activated");
+    Start otherBus(session.with("DBUS_SESSION_BUS_ADDRESS", other.address()));
+    EXPECT_EQ(otherBus.says(), "second") << "one a display";
+    EXPECT_EQ(first.says(), "activated");
+    session.set("DBUS_SESSION_BUS_ADDRESS", other.address());
+    Start elsewhere(session.with("DISPLAY", QStringLiteral(":77")));
+    EXPECT_EQ(elsewhere.says(), "first");
 }
 
 TEST(SingleInstanceOnTheBus, AddressesThatLeadElsewhereAreNotFollowed) {

@@ -194,5 +194,36 @@ TEST(EndingProgramTest, StartedToSurviveItsTerminalItDoes) {
     EXPECT_EQ(program.status(), 3);
 }
 
+TEST(EndingProgramTest, StuckInACallOfTheKernelItEndsWithTheSignalAfterAWhile) {
+    for (const int number : {SIGTERM, SIGINT}) {
+        EndingProgram program(QStringLiteral("stuck"));
+        ASSERT_TRUE(program.says("ready"));
+        QElapsedTimer watch;
+        watch.start();
+        program.send(number);
+        ASSERT_TRUE(program.endsWithin(20'000));
+        EXPECT_GE(watch.elapsed(), 900) << "an end gets its time";
+        EXPECT_EQ(program.manner(), QProcess::CrashExit);
+        EXPECT_EQ(program.status(), number) << "which is how the toolkit tells the signal";
+    }
+}
+
+TEST(EndingProgramTest, StuckAfterItWasToQuitItEndsWithAStatusThatTellsSo) {
+    EndingProgram program(QStringLiteral("quitting"));
+    ASSERT_TRUE(program.says("ready"));
+    ASSERT_TRUE(program.endsWithin(20'000));
+    EXPECT_EQ(program.manner(), QProcess::NormalExit);
+    EXPECT_EQ(program.status(), 1);
+}
+
+TEST(EndingProgramTest, AnEndThatWasRefusedIsNone) {
+    EndingProgram program(QStringLiteral("refusing"));
+    ASSERT_TRUE(program.says("ready"));
+    EXPECT_FALSE(program.endsWithin(1500));
+    program.send(SIGTERM);
+    ASSERT_TRUE(program.endsWithin(20'000));
+    EXPECT_EQ(program.status(), SIGTERM) << "and the next one is an end";
+}
+
 }  // namespace
 }  // namespace vantor::termination_signals_test

@@ -7,7 +7,6 @@
 
 #include <memory>
 
-#include "app/store_fixture.h"
 #include "platform/simulated/manual_main_loop.h"
 #include "platform/simulated/wound_clock.h"
 #include "support/kept_defaults.h"
@@ -313,18 +312,9 @@ TEST_F(WindowGeometryTest, SurvivesTheWindowsEnd) {
     EXPECT_EQ(stored(), "300 200 900 700 2 2 2 2 normal");
 }
 
-class WindowGeometryFileTest : public StoreTest {};
-
-TEST_F(WindowGeometryFileTest, IsAFileBesideThePreferences) {
-    EXPECT_EQ(WindowGeometry::fileBeside(file),
-              folder.filePath(QStringLiteral("vantor/windows.ini")));
-    const QString windows = WindowGeometry::fileBeside(file);
-    const std::string text = "100 -80 1280 820 1 24 1 3 maximized";
-    QtDefaultsStore(windows).setValue(windowName, text);
-    EXPECT_TRUE(contentsOf(windows).contains("Vantor.LegacyDashboard=100 -80 1280"))
-        << contentsOf(windows).toStdString();
-    QFile::copy(windows, file);
-    EXPECT_EQ(stored(windowName), Value{text});
+TEST(WindowGeometryFile, IsBesideThePreferences) {
+    EXPECT_EQ(utf8(WindowGeometry::fileBeside(QStringLiteral("/there/vantor/settings.ini"))),
+              "/there/vantor/windows.ini");
 }
 
 }  // namespace

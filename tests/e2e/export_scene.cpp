@@ -61,9 +61,10 @@ void ExportScene::confirm(const QString& file) {
 void ExportScene::confirmReplacing(const QString& file) {
     desktop_.type(file);
     desktop_.key(QStringLiteral("Return"));
-    ASSERT_TRUE(eventually([this] { return desktop_.windowsTitled(dialogTitle) == 2; }))
+    const auto question = QStringLiteral("Replace File");
+    ASSERT_TRUE(eventually([&] { return desktop_.activeTitle() == question; }))
         << "nothing is asked";
-    desktop_.key(QStringLiteral("alt+y"));
+    desktop_.key(QStringLiteral("alt+r"));
     ASSERT_TRUE(eventually([this] { return desktop_.windowsTitled(dialogTitle) == 0; }));
 }
 

@@ -1,5 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QFile>
+
+#include <optional>
+
+#include "app/instance_world.h"
+
 #include "e2e/program_fixture.h"
 
 /// Starting twice, ending by signal, and what lasts from run to run.
@@ -37,6 +45,45 @@ TEST_F(Lifecycle, ASecondStartBringsTheFirstForwardOverTheSessionBus) {
 
 TEST_F(Lifecycle, ASecondStartBringsTheFirstForwardWithoutAnyBus) {
     expectASecondStartBringsItForward();
+}
+
+TEST_F(Lifecycle, ASecondStartBringsTheFirstForwardWhileTheBusIsAwayAndOnceItIsBack) {
+    const QString address = QStringLiteral("unix:path=") + desktop_.path(QStringLiteral("bus"));
+    const QStringList onThatBus{QStringLiteral("env"),
+                                QStringLiteral("DBUS_SESSION_BUS_ADDRESS=") + address};
+    std::optional<SessionBus> bus(address);
+    ASSERT_FALSE(bus->address().isEmpty());
+    program_.emplace(desktop_, onThatBus);
+    ASSERT_TRUE(program_->waitForLiveData());
+    const auto endBus = [&] {
+        bus.reset();
+        QFile::remove(desktop_.path(QStringLiteral("bus")));
+    };
+    const auto expectOneProgram = [&](const char* when) {
+        SCOPED_TRACE(when);
+        tool({QStringLiteral("windowminimize"), program_->window()});
+        ASSERT_TRUE(eventually([this] { return isIconified(); }));
+        RunningProgram second(desktop_, onThatBus);
+        EXPECT_TRUE(second.waitForEnd(20'000)) << "the second one goes on";
+        EXPECT_EQ(second.exitStatus(), 0);
+        EXPECT_TRUE(eventually([this] { return !isIconified(); }));
+        EXPECT_EQ(desktop_.windowsTitled(QStringLiteral("Vantor")), 1);
+        EXPECT_TRUE(program_->isRunning());
+    };
+    const auto isOnTheBus = [&] {
+        const QString name = QStringLiteral("looking");
+        const auto connection = QDBusConnection::connectToBus(address, name);
+        const bool isThere =
+            connection.isConnected() &&
+            connection.interface()->isServiceRegistered(QStringLiteral("com.kestrone.Vantor"));
+        QDBusConnection::disconnectFromBus(name);
+        return isThere;
+    };
+    endBus();
+    expectOneProgram("while it is away");
+    bus.emplace(address);
+    EXPECT_TRUE(eventually(isOnTheBus, 60'000)) << "the first has not come back to it";
+    expectOneProgram("once it is back");
 }
 
 TEST_F(Lifecycle, AfterTheEndOfTheFirstAnotherOneStarts) {

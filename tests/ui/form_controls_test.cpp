@@ -213,6 +213,16 @@ TEST_F(ToggleRowTest, IsACheckBoxForAssistiveTechnology) {
     EXPECT_TRUE(element->state().checked);
 }
 
+TEST_F(ToggleRowTest, AssistiveTechnologyTurnsItLikeAUser) {
+    QAccessibleInterface* element = QAccessible::queryAccessibleInterface(&view);
+    ASSERT_NE(element, nullptr);
+    QAccessibleActionInterface* const actions = element->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(heard, (std::vector<bool>{true, false}));
+}
+
 /// Whether `widget` looks otherwise when it is reached by key, and not when it is clicked.
 bool hasRing(QWidget& widget) {
     widget.setVisible(true);

@@ -249,7 +249,8 @@ TEST_F(ProcessExplorerViewTest, HostileNamesAreDrawnOnOneLine) {
     const QRect pid = view.table().accessibleRowArea(0);
     EXPECT_GT(paintedPixels(image, QRectF(pid)), 100);
     EXPECT_EQ(view.table().rowCount(), 5u);
-    EXPECT_EQ(utf8(view.table().accessibleRowLabel(1)), "a b c , PID 2, CPU 1.0%, memory 1.5 MB");
+    EXPECT_EQ(utf8(view.table().accessibleRowLabel(1)),
+              "a\uFFFDb\uFFFDc\uFFFD, PID 2, CPU 1.0%, memory 1.5 MB");
 }
 
 TEST_F(ProcessExplorerViewTest, RowsAreToldToThoseWhoCannotSeeThem) {

@@ -48,9 +48,9 @@ TEST(TextShapes, ALineThatDoesNotFitEndsInAnEllipsisWithinItsArea) {
     EXPECT_EQ(paintedPixels(image, QRectF(91, 0, 9, 19)), 0);
 }
 
-TEST(TextShapes, ControlCharactersAreDrawnAsBlanks) {
+TEST(TextShapes, ControlCharactersAreDrawnSoThatTheyAreSeen) {
     const QString dirty = QStringLiteral("a\nb\tc\u2028d\u2029e\u0001f");
-    EXPECT_EQ(line(dirty, 400), line(QStringLiteral("a b c d e f"), 400));
+    EXPECT_EQ(line(dirty, 400), line(QStringLiteral("a\uFFFDb\uFFFDc\uFFFDd\uFFFDe\uFFFDf"), 400));
 }
 
 TEST(TextShapes, AnEmptyLineAndAnAreaWithoutWidthDrawNothing) {

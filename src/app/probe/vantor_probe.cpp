@@ -3,6 +3,7 @@
 
 #include "app/probe/area_lines.h"
 #include "app/probe/call_lines.h"
+#include "platform/confinement.h"
 #include "platform/native_machine.h"
 #include "platform/program_architecture.h"
 
@@ -13,6 +14,11 @@ int main() {
     using namespace vantor;
     std::cout << "What this machine answers (program for " << programArchitecture << ")\n";
     Report report(std::cout);
+    // As the program is: what that would take from the readers is missed below.
+    const auto confinement = makeNativeConfinement();
+    confinement->confineEarly();
+    confinement->confineForRunning(Confinement::Listening::isOver);
+    report.line("Confined by the kernel:", confinement->state().text());
     const auto machine = makeNativeMachine();
     reportCalls(*machine, report);
     report.heading("Readers, the second reading of two");

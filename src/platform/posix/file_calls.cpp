@@ -1,6 +1,7 @@
 #include "platform/posix/file_calls.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,6 +22,10 @@ int FileCalls::create(int folder, const char* name) {
 
 ssize_t FileCalls::write(int file, const void* bytes, std::size_t count) {
     return ::write(file, bytes, count);
+}
+
+int FileCalls::lock(int file) {
+    return ::flock(file, LOCK_EX | LOCK_NB);
 }
 
 int FileCalls::close(int file) {

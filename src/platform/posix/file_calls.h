@@ -29,6 +29,9 @@ class FileCalls {
     /// A new file of mode 0600 under a name that is not taken.
     virtual int create(int folder, const char* name);
     virtual ssize_t write(int file, const void* bytes, std::size_t count);
+    /// Says that a file is being written to, until its last descriptor is closed. Does not wait;
+    /// EWOULDBLOCK where another has said so.
+    virtual int lock(int file);
     /// Waits until the disk has the file's bytes.
     virtual int sync(int file);
     virtual int close(int file);

@@ -5,12 +5,14 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <system_error>
 
 #include "platform/file_descriptor.h"
 #include "platform/posix/file_error.h"
+#include "platform/posix/leftover_files.h"
 #include "platform/posix/temporary_file.h"
 
 namespace vantor {
@@ -91,7 +93,14 @@ void takeOver(const struct stat& old, FileCalls& calls, int file) {
 struct Outcome {
     int error = 0;
     bool isOfItsKind = false;  ///< that kind of temporary file cannot be had; the other one may
+    std::time_t writtenAt = 0;
 };
+
+/// By the clock of the disk, which may be another machine's.
+std::time_t timeOf(int file) {
+    struct stat now {};
+    return ::fstat(file, &now) == 0 ? now.st_mtime : 0;
+}
 
 Outcome writeBy(TemporaryFile::Kind kind, const Target& target, std::string_view bytes,
                 FileCalls& calls) {
@@ -100,9 +109,16 @@ Outcome writeBy(TemporaryFile::Kind kind, const Target& target, std::string_view
     if (const int error = file.write(bytes)) return {error};
     if (target.old) takeOver(*target.old, calls, file.descriptor());
     if (const int error = file.sync()) return {error};
+    if (const int error = file.flush()) return {error};
+    const std::time_t now = timeOf(file.descriptor());
+    if (!target.old && kind == TemporaryFile::Kind::nameless) {
+        // Without a passing name nothing can be left behind, whenever the program is killed.
+        const int error = file.takePlace(target.name);
+        if (error == 0) return {0, false, now};
+        if (error != EEXIST) return {error, true};
+    }
     if (const int error = file.giveName()) return {error, true};
-    if (const int error = file.close()) return {error};
-    return {file.replace(target.name)};
+    return {file.replace(target.name), false, now};
 }
 
 }  // namespace
@@ -116,7 +132,9 @@ int PosixAtomicFileWriter::tryToWrite(const std::filesystem::path& destination,
         outcome = writeBy(TemporaryFile::Kind::named, target, bytes, *calls_);
     if (outcome.error != 0) return outcome.error;
     // The file is in place; if the folder cannot tell the disk so now, it will do so later.
-    if (target.canSyncFolder) calls_->sync(target.folder.get());
+    if (!target.canSyncFolder) return 0;
+    calls_->sync(target.folder.get());
+    LeftoverFiles::remove(*calls_, target.folder.get(), outcome.writtenAt);
     return 0;
 }
 

@@ -1,17 +1,20 @@
 #include "platform/posix/temporary_file.h"
 
+#include <fcntl.h>
 #include <sys/random.h>
 
 #include <array>
 #include <cerrno>
 #include <cstdint>
-#include <utility>
 
 namespace vantor {
 
 namespace {
 
 constexpr int mostAttempts = 8;  // at a name that nobody else has
+constexpr std::string_view passingPrefix = ".vantor-";
+constexpr std::string_view hexDigits = "0123456789abcdef";
+constexpr std::size_t randomBytes = 12;
 
 /// Calls again until no signal comes in between; then gives the errno.
 template <class Call>
@@ -23,11 +26,11 @@ int untilUninterrupted(Call call) {
 }
 
 std::string hiddenName() {
-    std::array<std::uint8_t, 12> random{};
+    std::array<std::uint8_t, randomBytes> random{};
     if (::getentropy(random.data(), random.size()) != 0) return {};
-    std::string name = ".vantor-";
+    std::string name(passingPrefix);
     for (const std::uint8_t byte : random)
-        (name += "0123456789abcdef"[byte >> 4]) += "0123456789abcdef"[byte & 0xF];
+        (name += hexDigits[byte >> 4]) += hexDigits[byte & 0xF];
     return name;
 }
 
@@ -47,15 +50,26 @@ int underHiddenName(std::string& name, Call call) {
 }  // namespace
 
 TemporaryFile::~TemporaryFile() {
-    close();
     if (!name_.empty()) calls_.remove(folder_, name_.c_str());
+    if (file_ >= 0) calls_.close(file_);
+}
+
+bool TemporaryFile::isPassingName(std::string_view name) {
+    if (!name.starts_with(passingPrefix)) return false;
+    name.remove_prefix(passingPrefix.size());
+    return name.size() == 2 * randomBytes &&
+           name.find_first_not_of(hexDigits) == std::string_view::npos;
 }
 
 int TemporaryFile::create(Kind kind) {
-    if (kind == Kind::nameless)
-        return untilUninterrupted([&] { return file_ = calls_.createNameless(folder_); });
-    return underHiddenName(name_,
-                           [&](const char* name) { return file_ = calls_.create(folder_, name); });
+    const int error =
+        kind == Kind::nameless
+            ? untilUninterrupted([&] { return file_ = calls_.createNameless(folder_); })
+            : underHiddenName(
+                  name_, [&](const char* name) { return file_ = calls_.create(folder_, name); });
+    // Some file systems know no locks, and nothing is removed there.
+    if (error == 0) calls_.lock(file_);
+    return error;
 }
 
 int TemporaryFile::write(std::string_view bytes) {
@@ -75,18 +89,24 @@ int TemporaryFile::sync() {
     return error == EINVAL || error == ENOTSUP ? 0 : error;
 }
 
+int TemporaryFile::flush() {
+    // A network's file system may tell only at a close that the data did not arrive, at that of any
+    // descriptor; the last one keeps the lock.
+    const int other = ::fcntl(file_, F_DUPFD_CLOEXEC, 0);
+    if (other < 0) return 0;  // out of descriptors: the disk has said that it has the file
+    // Interrupted or not, the descriptor is gone.
+    const bool wentWell = calls_.close(other) == 0 || errno == EINTR;
+    return wentWell ? 0 : errno;
+}
+
+int TemporaryFile::takePlace(const std::string& name) {
+    return untilUninterrupted([&] { return calls_.link(file_, folder_, name.c_str()); });
+}
+
 int TemporaryFile::giveName() {
     if (!name_.empty()) return 0;
     return underHiddenName(name_,
                            [&](const char* name) { return calls_.link(file_, folder_, name); });
-}
-
-int TemporaryFile::close() {
-    if (file_ < 0) return 0;
-    // A network's file system may tell only now that the data did not arrive. Interrupted or not,
-    // the descriptor is gone.
-    const bool wentWell = calls_.close(std::exchange(file_, -1)) == 0 || errno == EINTR;
-    return wentWell ? 0 : errno;
 }
 
 int TemporaryFile::replace(const std::string& name) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -9,7 +8,8 @@
 namespace vantor {
 
 /// A file on its way into a folder: complete before it takes its place, and gone with this object
-/// when it never does. Failures are errno values, 0 for none. One thread.
+/// when it never does. It is locked all the while, so that nobody takes it for a leftover. Failures
+/// are errno values, 0 for none. One thread.
 class TemporaryFile {
   public:
     /// A nameless file is gone even if the program crashes before it is in place, but not every
@@ -22,6 +22,9 @@ class TemporaryFile {
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile();
 
+    /// Whether that could be the passing name of such a file.
+    static bool isPassingName(std::string_view name);
+
     int create(Kind kind);
     int descriptor() const { return file_; }
 
@@ -31,11 +34,15 @@ class TemporaryFile {
     /// Waits until the disk has what was written.
     int sync();
 
-    /// Gives a nameless file its passing name, so that it can be put in a place.
-    int giveName();
+    /// The last chance of a disk to say that it did not take everything. The file stays open and
+    /// locked.
+    int flush();
 
-    /// The last chance of a disk to say that it did not take everything.
-    int close();
+    /// Puts a nameless file straight into the place of `name`; EEXIST where another has it.
+    int takePlace(const std::string& name);
+
+    /// Gives a nameless file its passing name, so that it can replace another.
+    int giveName();
 
     /// Puts the file in the place of `name`, whatever file had it.
     int replace(const std::string& name);

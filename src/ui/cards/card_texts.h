@@ -7,6 +7,7 @@
 #include <string>
 
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 
 /// What cards say of figures that are not there.
 namespace vantor::CardTexts {
@@ -31,7 +32,7 @@ inline QString bytes(std::optional<std::uint64_t> count) {
 
 /// A text of the machine's, or `otherwise` where it says nothing.
 inline QString orElse(const std::string& text, const QString& otherwise) {
-    return text.empty() ? otherwise : QString::fromStdString(text);
+    return text.empty() ? otherwise : shownText(text);
 }
 
 }  // namespace vantor::CardTexts

@@ -7,6 +7,7 @@
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -27,7 +28,7 @@ CPUCard CPUCard::of(const DashboardState& state) {
 }
 
 DashboardCard CPUCard::frame() const {
-    const QString subtitle = isWaiting() ? QString::fromStdString(stats.model)
+    const QString subtitle = isWaiting() ? shownText(stats.model)
                                          : QStringLiteral("%1 physical • %2 logical cores")
                                                .arg(stats.physicalCoreCount)
                                                .arg(stats.logicalCoreCount);
@@ -100,7 +101,7 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
 void CPUCardView::show(const CPUCard& card) {
     if (card.revision != revision_) {
         showCard(card.frame());
-        header().setToolTip(toolTipText(QString::fromStdString(card.stats.model)));
+        header().setToolTip(toolTipText(shownText(card.stats.model)));
         figures_->show(card.gauge(), card.rows());
         loadAverage_->show(card.loadAverageText());
         history_->show(card.history, card.gauge().title);

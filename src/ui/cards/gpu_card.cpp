@@ -6,6 +6,7 @@
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -32,7 +33,7 @@ DashboardCard GPUCard::frame() const {
     if (isWaiting) {
         subtitle = QStringLiteral("Waiting for graphics data");
     } else if (!gpus.empty()) {
-        subtitle = QString::fromStdString(gpus.front().name);
+        subtitle = shownText(gpus.front().name);
     }
     return {QStringLiteral("Graphics"), subtitle, QStringLiteral("display"), VantorTheme::purple()};
 }
@@ -101,9 +102,8 @@ void GPUCardView::show(const GPUCard& card) {
     revision_ = card.revision;
     isWaiting_ = card.isWaiting;
     showCard(card.frame());
-    header().setToolTip(card.gpus.empty()
-                            ? QString()
-                            : toolTipText(QString::fromStdString(card.gpus.front().name)));
+    header().setToolTip(card.gpus.empty() ? QString()
+                                          : toolTipText(shownText(card.gpus.front().name)));
     emptyState_->setVisible(card.isEmpty());
     filled_->setVisible(!card.isEmpty());
     figures_->show(card.gauge(), card.rows());

@@ -8,6 +8,7 @@
 #include "ui/components/tool_tip_text.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -33,7 +34,7 @@ QString workingSetLabel() {
 
 GraphicsDeviceBlock GraphicsDeviceBlock::of(const GPUStats& gpu, const PlatformWords& words) {
     GraphicsDeviceBlock block;
-    block.name = QString::fromStdString(gpu.name);
+    block.name = shownText(gpu.name);
     block.kind = gpu.isUnifiedMemory ? QStringLiteral("Unified memory architecture")
                                      : QStringLiteral("Discrete graphics");
     block.utilization =

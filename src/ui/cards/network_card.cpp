@@ -8,6 +8,7 @@
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/theme.h"
 
 namespace vantor {
@@ -38,10 +39,9 @@ NetworkCard NetworkCard::of(const DashboardState& state) {
 DashboardCard NetworkCard::frame() const {
     QString subtitle = QStringLiteral("Waiting for network data");
     if (!isWaiting()) {
-        subtitle = stats.primaryInterfaceName
-                       ? QStringLiteral("Active interface: ") +
-                             QString::fromStdString(*stats.primaryInterfaceName)
-                       : QStringLiteral("No active interface");
+        subtitle = stats.primaryInterfaceName ? QStringLiteral("Active interface: ") +
+                                                    shownText(*stats.primaryInterfaceName)
+                                              : QStringLiteral("No active interface");
     }
     return {QStringLiteral("Network"), subtitle, QStringLiteral("network"), VantorTheme::green()};
 }
@@ -86,9 +86,9 @@ QString NetworkCard::interfacesHelp() const {
             lines << QStringLiteral("…");
             break;
         }
-        QStringList words{QString::fromStdString(interface.name)};
+        QStringList words{isolatedText(shownText(interface.name))};
         for (const auto& address : {interface.ipv4Address, interface.ipv6Address}) {
-            if (address) words << QString::fromStdString(*address);
+            if (address) words << shownText(*address);
         }
         lines << words.join(QStringLiteral("  "));
     }

@@ -9,6 +9,7 @@
 #include "ui/components/tool_tip_text.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -56,7 +57,7 @@ PowerBlock PowerBlock::of(const PowerStats& power, const ProcessInfo& versions) 
     const double charge = std::clamp(power.chargeFraction, 0.0, 1.0);
     block.charge = QString::number(std::llround(charge * 100)) + u'%';
     block.color = chargeColor(power);
-    QStringList lines{QString::fromStdString(power.name)};
+    QStringList lines{shownText(power.name)};
     if (power.timeRemainingMinutes) {
         lines << timeText(*power.timeRemainingMinutes) + (power.isCharging
                                                               ? QStringLiteral(" until full")

@@ -10,6 +10,7 @@
 #include "ui/components/tool_tip_text.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -56,8 +57,7 @@ void ProcessMiniListView::show(std::span<const ProcessStats> processes) {
     std::vector<Row> rows;
     rows.reserve(shown.size());
     for (const ProcessStats& process : shown) {
-        rows.push_back({QString::fromStdString(process.name),
-                        QString::fromStdString(process.command),
+        rows.push_back({shownText(process.name), shownText(process.command),
                         ProcessMiniList::value(process, metric_)});
     }
     if (rows == rows_) return;
@@ -70,7 +70,7 @@ QString ProcessMiniListView::accessibleValueText() const {
     if (rows_.empty()) return waitingText();
     QStringList texts;
     for (const Row& row : rows_)
-        texts << row.name + u' ' + row.value;
+        texts << isolatedText(row.name) + u' ' + row.value;
     return texts.join(QStringLiteral(", "));
 }
 
@@ -127,6 +127,9 @@ void ProcessMiniListView::paintEvent(QPaintEvent*) {
     const double symbol = symbolWidth * Typography::lengthScale();
     const double step = area.height() + processMiniListRowSpacing;
     for (const Row& row : rows_) {
+        // However high the letters of a name are piled, the rows beside it stay as they are.
+        painter.setClipRect(
+            area.adjusted(0, -processMiniListRowSpacing / 2, 0, processMiniListRowSpacing / 2));
         Symbols::draw(painter, painter.leading({0, area.top(), symbol, area.height()}), symbol_,
                       secondary);
         painter.primary();

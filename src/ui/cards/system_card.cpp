@@ -7,6 +7,7 @@
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/theme.h"
 
 namespace vantor {
@@ -23,8 +24,8 @@ SystemCard SystemCard::of(const DashboardState& state) {
 }
 
 DashboardCard SystemCard::frame() const {
-    const QString subtitle = isWaiting() ? QStringLiteral("Waiting for system data")
-                                         : QString::fromStdString(stats.hardwareModel);
+    const QString subtitle =
+        isWaiting() ? QStringLiteral("Waiting for system data") : shownText(stats.hardwareModel);
     return {QStringLiteral("System"), subtitle, QStringLiteral("desktopcomputer"),
             VantorTheme::orange()};
 }
@@ -75,7 +76,7 @@ void SystemCardView::show(const SystemCard& card) {
     if (card.revision == revision_) return;
     revision_ = card.revision;
     showCard(card.frame());
-    header().setToolTip(toolTipText(QString::fromStdString(card.stats.hardwareModel)));
+    header().setToolTip(toolTipText(shownText(card.stats.hardwareModel)));
     thermalState_ = card.stats.thermalState;
     const auto rows = card.rows();
     for (std::size_t i = 0; i < rows.size(); ++i) {

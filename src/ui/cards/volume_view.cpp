@@ -7,6 +7,7 @@
 #include "ui/components/usage_bar.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
+#include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -35,15 +36,15 @@ VolumeBlock VolumeBlock::of(const VolumeStats& volume) {
     VolumeBlock block;
     block.symbol =
         volume.isInternal ? QStringLiteral("internaldrive") : QStringLiteral("externaldrive");
-    block.name = QString::fromStdString(volume.name);
+    block.name = shownText(volume.name);
     if (volume.totalBytes > 0) {
         block.usedFraction = static_cast<double>(used) / static_cast<double>(volume.totalBytes);
     }
     block.accent = block.usedFraction >= fullFrom ? VantorTheme::red() : VantorTheme::blue();
     block.usedText = Formatters::bytes(used) + QStringLiteral(" used");
     block.freeText = Formatters::bytes(free) + QStringLiteral(" free");
-    block.help = QString::fromStdString(volume.path);
-    if (volume.isReadOnly) block.help += QStringLiteral(" (read only)");
+    block.help = shownText(volume.path);
+    if (volume.isReadOnly) block.help = isolatedText(block.help) + QStringLiteral(" (read only)");
     return block;
 }
 

@@ -8,6 +8,7 @@
 
 #include "ui/components/dashboard_card.h"
 #include "ui/components/painted_view.h"
+#include "ui/components/tool_tip_text.h"
 
 namespace vantor {
 
@@ -128,7 +129,7 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
     /// alone.
     QString description() const {
         const QString value = view_.accessibleValueText();
-        const QString help = view_.toolTip();
+        const QString help = readToolTip(view_.toolTip());
         if (value.isEmpty() || help.isEmpty() || value == help) {
             return value.isEmpty() ? help : value;
         }

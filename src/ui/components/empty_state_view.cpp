@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "ui/drawing/view_painter.h"
+#include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -48,7 +49,7 @@ void EmptyStateView::show(const EmptyState& state) {
 double EmptyStateView::messageHeight(double width) const {
     const QRectF room(0, 0, messageWidth(width), 1e6);
     return QFontMetricsF(Typography::font(messageStyle), this)
-        .boundingRect(room, messageFlags, Typography::onOneLine(state_.message))
+        .boundingRect(room, messageFlags, shownText(state_.message))
         .height();
 }
 
@@ -91,7 +92,7 @@ void EmptyStateView::paintEvent(QPaintEvent*) {
     painter.secondary();
     const double wide = messageWidth(across);
     painter.drawText(QRectF((across - wide) / 2, top, wide, messageHeight(across)), messageFlags,
-                     Typography::onOneLine(state_.message));
+                     shownText(state_.message));
 }
 
 }  // namespace vantor

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyle>
 
 #include <algorithm>
@@ -52,9 +53,15 @@ ToggleRowView::ToggleRowView(const QString& title, Switch place, std::function<v
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setAttribute(Qt::WA_Hover);
-    connect(this, &QAbstractButton::clicked, this, [onChange = std::move(onChange)](bool isOn) {
+    // Not clicked(): a screen reader turns it without a click.
+    connect(this, &QAbstractButton::toggled, this, [onChange = std::move(onChange)](bool isOn) {
         if (onChange) onChange(isOn);
     });
+}
+
+void ToggleRowView::show(bool isOn) {
+    const QSignalBlocker blocker(this);
+    setChecked(isOn);
 }
 
 double ToggleRowView::textHeight(double width) const {

@@ -23,7 +23,7 @@ class ToggleRowView : public QAbstractButton {
     ToggleRowView(const QString& title, Switch place, std::function<void(bool)> onChange,
                   QWidget* parent = nullptr);
 
-    void show(bool isOn) { setChecked(isOn); }
+    void show(bool isOn);
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;

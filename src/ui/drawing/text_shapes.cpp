@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/shown_text.h"
+
 namespace vantor {
 
 namespace {
@@ -99,7 +101,7 @@ bool TextShapes::layOutFigures(Face& face, const QString& text) {
 const TextShapes::Shape& TextShapes::shapeOf(const Face& face, const QString& text, int room) {
     const ShapeKey key{face.index, room, text};
     if (const Shape* const kept = shapes_.object(key)) return *kept;
-    QString line = Typography::onOneLine(text);
+    QString line = shownText(text.left(Typography::longestLine));
     if (room != uncut) line = QFontMetricsF(face.font).elidedText(line, Qt::ElideRight, room);
     auto shape = std::make_unique<Shape>();
     QTextLayout layout(line, face.font);

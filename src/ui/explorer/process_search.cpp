@@ -4,12 +4,15 @@
 #include <array>
 #include <charconv>
 
+#include "ui/shown_text.h"
+
 namespace vantor {
 
 namespace {
 
+/// Letters that are shown as they are.
 bool isPlain(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return std::ranges::all_of(text, [](char c) { return c >= 0x20 && c <= 0x7E; });
 }
 
 constexpr char lowered(char c) {
@@ -52,7 +55,10 @@ bool ProcessSearch::isIn(std::string_view text) const {
         return found != text.end();
     }
     const QString whole = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    return folded(whole, locale_).contains(folded_);
+    if (folded(whole, locale_).contains(folded_)) return true;
+    // Who types what is on the screen finds it, too.
+    const QString shown = shownText(whole);
+    return shown != whole && folded(shown, locale_).contains(folded_);
 }
 
 }  // namespace vantor

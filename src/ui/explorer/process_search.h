@@ -11,7 +11,8 @@
 namespace vantor {
 
 /// Finds processes by what a user typed: in the name or the command, whatever the case and the
-/// accents, as the user's language has them; or in the decimal identifier, as it is.
+/// accents, as the user's language has them, be they as they are or as they are shown; or in the
+/// decimal identifier, as it is.
 class ProcessSearch {
   public:
     explicit ProcessSearch(const QString& query, const QLocale& locale = QLocale());

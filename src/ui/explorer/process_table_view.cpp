@@ -17,6 +17,7 @@
 #include "ui/drawing/view_painter.h"
 #include "ui/explorer/process_columns.h"
 #include "ui/pixels.h"
+#include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
@@ -49,8 +50,8 @@ ProcessTableView::ProcessTableView(QString symbol, QWidget* parent)
 
 ProcessTableView::Row ProcessTableView::makeRow(const ProcessRow& row) {
     return {row.process.pid,
-            QString::fromStdString(row.process.name),
-            QString::fromStdString(row.process.command),
+            shownText(row.process.name),
+            shownText(row.process.command),
             row.cpuText(),
             row.memoryText(),
             visibleShare(row.cpuShare(), ProcessColumns::cpuBarWidth),
@@ -165,7 +166,7 @@ QString ProcessTableView::accessibleRowLabel(int row) const {
     if (row < 0 || index >= rows_.size()) return {};
     const Row& shown = rows_[index];
     return QStringLiteral("%1, PID %2, CPU %3, memory %4")
-        .arg(Typography::onOneLine(shown.name))
+        .arg(isolatedText(shown.name.left(Typography::longestLine)))
         .arg(shown.pid)
         .arg(shown.cpuText, shown.memoryText);
 }
@@ -255,7 +256,10 @@ void ProcessTableView::paintEvent(QPaintEvent* event) {
     if (event->rect().top() < rowArea(0).top()) paintHeader(painter);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const QRect area = rowArea(i).toAlignedRect();
-        if (event->region().intersects(area)) paintRow(painter, i);
+        if (!event->region().intersects(area)) continue;
+        painter.save();
+        paintRow(painter, i);
+        painter.restore();
     }
 }
 
@@ -288,6 +292,9 @@ void ProcessTableView::paintRow(ViewPainter& painter, std::size_t index) const {
     const QRectF area = rowArea(index);
     const ColorScheme scheme = painter.scheme();
     if (currentPID_ && row.pid == *currentPID_) paintCurrent(painter, area);
+    // However high the letters of a name are piled, the rows beside it stay as they are.
+    painter.setClipRect(
+        area.adjusted(0, -processTableRowSpacing / 2, 0, processTableRowSpacing / 2));
     const auto columns =
         ProcessColumns::make(area.width(), area.height(), Typography::lengthScale());
     const auto at = [&](const QRectF& column) { return column.translated(area.topLeft()); };

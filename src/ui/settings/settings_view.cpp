@@ -40,7 +40,10 @@ SettingsView::SettingsView(Environment environment, QWidget* parent)
     auto* whole = makeLayout<QVBoxLayout>(this);
     whole->setContentsMargins(0, 0, 0, 0);
     scroll_ = makeScrollView(content);
-    whole->addWidget(scroll_);
+    whole->setSpacing(0);
+    whole->addWidget(scroll_, 1);
+    notSaved_ = makeChild<NotSavedView>(this);
+    whole->addWidget(notSaved_);
     show(form_);
     observe();
 }
@@ -175,6 +178,12 @@ void SettingsView::observe() {
     follow(settings.includePointToPointInterfacesStream(),
            &SettingsForm::includePointToPointInterfaces);
     follow(settings.showMenuBarStream(), &SettingsForm::showMenuBar);
+    if (!environment_.notSaved) return;
+    const auto tell = [this](const std::string& reason) {
+        notSaved_->show(QString::fromStdString(reason));
+    };
+    tell(environment_.notSaved->value());
+    observations_.push_back(environment_.notSaved->observe(tell));
 }
 
 void SettingsView::show(const SettingsForm& form) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "platform/machine.h"
@@ -17,6 +18,7 @@
 #include "ui/components/toggle_row.h"
 #include "ui/drawing/ground_view.h"
 #include "ui/settings/compatible_form.h"
+#include "ui/settings/not_saved_view.h"
 #include "ui/settings/settings_form.h"
 
 class QFormLayout;
@@ -34,6 +36,8 @@ class SettingsView : public GroundView {
         std::shared_ptr<Machine> machine;
         const AppMetadata& metadata;
         std::function<void()> onExport;  ///< none: the button is disabled
+        /// Why what is chosen is not saved, empty while it is; none: nothing is said of it.
+        std::shared_ptr<Published<std::string>> notSaved{};
     };
 
     explicit SettingsView(Environment environment, QWidget* parent = nullptr);
@@ -52,6 +56,7 @@ class SettingsView : public GroundView {
     ToggleRowView& pointToPoint() { return *pointToPoint_; }
     ToggleRowView& menuBar() { return *menuBar_; }
     CapsuleButtonView& exportButton() { return *export_; }
+    NotSavedView& notSaved() { return *notSaved_; }
 
   private:
     QWidget* makeForm(QWidget* content);
@@ -82,6 +87,7 @@ class SettingsView : public GroundView {
     ToggleRowView* pointToPoint_ = nullptr;
     ToggleRowView* menuBar_ = nullptr;
     CapsuleButtonView* export_ = nullptr;
+    NotSavedView* notSaved_ = nullptr;
     std::vector<Subscription> observations_;
 };
 

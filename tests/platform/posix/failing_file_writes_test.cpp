@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/mount.h>
@@ -87,6 +88,8 @@ TEST_P(FailingFileWrite, MakesNoFileWhereNoneWas) {
     const auto calls = std::make_shared<PlayedFileCalls>();
     calls->hasNamelessFiles = isNameless;
     calls->errors[row.call] = row.error;
+    // A new file is renamed only where it could not be put straight into its place.
+    if (row.call == std::string("rename")) calls->errors["link"] = ENOENT;
     const TemporaryFolder folder;
     PosixAtomicFileWriter writer(calls);
     EXPECT_TRUE(writer.write(folder.path() / "file.json", "new"));
@@ -133,6 +136,20 @@ TEST_F(HinderedFileWrite, TriesAnotherNameWhenOneIsTaken) {
     calls->failsAtFirst = {{"create", 3}};
     expectToBeWritten();
     EXPECT_EQ(calls->made["create"], 4);
+}
+
+TEST_F(HinderedFileWrite, PutsANewFileStraightIntoItsPlace) {
+    expectToBeWritten();
+    EXPECT_EQ(calls->made["link"], 1);
+    EXPECT_EQ(calls->made["rename"], 0);
+    expectToBeWritten();
+    EXPECT_EQ(calls->made["rename"], 1) << "in the place of an old one";
+}
+
+TEST_F(HinderedFileWrite, ReplacesAFileThatCameMeanwhile) {
+    calls->onSync = [&] { writeFile(folder.path() / "file.json", "another's"); };
+    expectToBeWritten();
+    EXPECT_EQ(calls->made["rename"], 1);
 }
 
 TEST_F(HinderedFileWrite, GivesUpWhenAllNamesAreTaken) {
@@ -194,11 +211,11 @@ TEST(KilledWriter, LeavesAWholeFileWhateverItWasDoing) {
     const fs::path file = folder.path() / "file.json";
     writeFile(file, "old");
     std::string known = "old";
-    for (int attempt = 0; attempt < 40; ++attempt) {
+    for (int attempt = 0; attempt < 200; ++attempt) {
         const std::string content(100'000, static_cast<char>('a' + attempt % 26));
         const pid_t child = startWriter(file, content);
         ASSERT_GT(child, 0);
-        std::this_thread::sleep_for(std::chrono::microseconds(250 * attempt));
+        std::this_thread::sleep_for(std::chrono::microseconds(250 * (attempt % 40)));
         ::kill(child, SIGKILL);
         int status = 0;
         ASSERT_EQ(::waitpid(child, &status, 0), child);
@@ -208,6 +225,42 @@ TEST(KilledWriter, LeavesAWholeFileWhateverItWasDoing) {
         known = found;
     }
     EXPECT_NE(known, "old");
+}
+
+/// A process that writes new files until it is killed: 0, 1, 2...
+pid_t startWriterOfNewFiles(const fs::path& folder, const std::string& content) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        PosixAtomicFileWriter writer;
+        for (int i = 0; !writer.write(folder / std::to_string(i), content); ++i) {
+        }
+        ::_exit(1);
+    }
+    return child;
+}
+
+TEST(KilledWriter, LeavesNothingOfANewFileOrAllOfIt) {
+    const std::string content(100'000, 'x');
+    std::size_t files = 0;
+    for (int attempt = 0; attempt < 200; ++attempt) {
+        const TemporaryFolder folder;
+        const int nameless = FileCalls().createNameless(AT_FDCWD);
+        if (nameless < 0) GTEST_SKIP() << "no nameless files here";
+        ::close(nameless);
+        const pid_t child = startWriterOfNewFiles(folder.path(), content);
+        ASSERT_GT(child, 0);
+        std::this_thread::sleep_for(std::chrono::microseconds(250 * (attempt % 40)));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFSIGNALED(status));
+        for (const std::string& name : folder.names()) {
+            ASSERT_NE(name.front(), '.') << name;
+            ASSERT_TRUE(contentOf(folder.path() / name) == content) << name;
+            ++files;
+        }
+    }
+    EXPECT_GT(files, 0u);
 }
 
 /// Runs on a disk of 64 KiB that nobody else sees.

@@ -20,6 +20,7 @@ class PlayedFileCalls : public FileCalls {
     std::map<std::string, int> failsAtFirst;  ///< by call: how many times it is interrupted before
     std::map<std::string, int> made;          ///< by call
     std::function<void()> onSync;             ///< once
+    std::function<void(int folder, const char* from)> onRename;
 
     int createNameless(int folder) override {
         if (!hasNamelessFiles) return fail(EOPNOTSUPP);
@@ -31,6 +32,7 @@ class PlayedFileCalls : public FileCalls {
     ssize_t write(int file, const void* bytes, std::size_t count) override {
         return fails("write") ? -1 : FileCalls::write(file, bytes, std::min(count, mostPerWrite));
     }
+    int lock(int file) override { return fails("lock") ? -1 : FileCalls::lock(file); }
     int sync(int file) override {
         if (onSync) std::exchange(onSync, nullptr)();
         return fails("sync") ? -1 : FileCalls::sync(file);
@@ -49,6 +51,7 @@ class PlayedFileCalls : public FileCalls {
         return fails("link") ? -1 : FileCalls::link(file, folder, name);
     }
     int rename(int folder, const char* from, const char* to) override {
+        if (onRename) onRename(folder, from);
         return fails("rename") ? -1 : FileCalls::rename(folder, from, to);
     }
     int remove(int folder, const char* name) override {
