@@ -43,17 +43,6 @@ void forEachRun(const QString& text, Visit&& visit) {
 
 }  // namespace
 
-QString onOneLine(const QString& text) {
-    QString line = text.left(longestLine);
-    for (QChar& c : line) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-            c == QChar::ParagraphSeparator) {
-            c = u' ';
-        }
-    }
-    return line;
-}
-
 QFont font(double size, QFont::Weight weight) {
     QFont result = QApplication::font();
     const double factor = size / referenceSize;

@@ -41,10 +41,6 @@ double lengthScale();
 /// `length` in those terms, rounded to whole points.
 int scaled(double length);
 
-/// `text` as it can be drawn on one line: without line breaks and control characters, and no longer
-/// than any screen could show.
-QString onOneLine(const QString& text);
-
 /// The width of `text` with all digits as wide as the widest one.
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics);
 

@@ -44,7 +44,7 @@ TEST(SaveLocation, ATildeIsTheHomeFolder) {
 }
 
 TEST(SaveLocation, WhatCannotBeShownOnALineIsReplaced) {
-    EXPECT_EQ(utf8(shownPath("/a\nb")), "/a b");
+    EXPECT_EQ(utf8(shownPath("/a\nb")), "/a\uFFFDb");
     EXPECT_EQ(utf8(shownPath("/sch\xc3\xb6n")), "/schön");
 }
 

@@ -25,7 +25,7 @@ class Confined : public ExportScene {
     void expectOrderlyEnd() {
         ASSERT_TRUE(program_->isRunning());
         program_->terminate();
-        ASSERT_TRUE(program_->waitForEnd(5000));
+        ASSERT_TRUE(program_->waitForEnd(20'000));
         EXPECT_TRUE(program_->endedNormally());
         EXPECT_EQ(program_->exitStatus(), 0);
     }
@@ -68,7 +68,7 @@ TEST_F(Confined, NothingThatAUserDoesIsDenied) {
     desktop_.key(QStringLiteral("Escape"));
     desktop_.key(QStringLiteral("ctrl+r"));
     RunningProgram second(desktop_, strictly());
-    EXPECT_TRUE(second.waitForEnd(5000)) << "the second one goes on";
+    EXPECT_TRUE(second.waitForEnd(20'000)) << "the second one goes on";
     EXPECT_EQ(second.exitStatus(), 0);
     // Every slow reading comes round at least once.
     EXPECT_FALSE(eventually([&] { return !program_->isRunning(); }, 20'000)) << "it was ended";
@@ -105,7 +105,7 @@ TEST_P(ConfinedIn, ItStartsNoProgramAndOpensNoInternetSocket) {
     RunningProgram program(desktop, strictly(environment));
     ASSERT_TRUE(program.waitForLiveData());
     program.terminate();
-    ASSERT_TRUE(program.waitForEnd(5000));
+    ASSERT_TRUE(program.waitForEnd(20'000));
     EXPECT_TRUE(program.endedNormally());
     EXPECT_EQ(program.exitStatus(), 0);
 }

@@ -30,7 +30,7 @@ class Lifecycle : public ProgramOnADesktop {
         tool({QStringLiteral("windowminimize"), program_->window()});
         ASSERT_TRUE(eventually([this] { return isIconified(); }));
         RunningProgram second(desktop_);
-        EXPECT_TRUE(second.waitForEnd(5000)) << "the second one goes on";
+        EXPECT_TRUE(second.waitForEnd(20'000)) << "the second one goes on";
         EXPECT_EQ(second.exitStatus(), 0);
         EXPECT_TRUE(eventually([this] { return !isIconified(); }));
         EXPECT_TRUE(eventually([this] { return program_->isActive(); }));

@@ -20,8 +20,8 @@ namespace vantor::settings_faults_test {
 namespace {
 
 constexpr auto settingsTitle = "Vantor Settings";
-// Three seconds for what is to be written, and the rest of the end.
-constexpr int endPatience = 5'000;
+// Three seconds for what is to be written, the rest of the end, and a busy machine.
+constexpr int endPatience = 15'000;
 
 class SettingsFaults : public ProgramOnADesktop {
   protected:

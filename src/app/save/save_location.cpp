@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "ui/typography.h"
+#include "ui/shown_text.h"
 
 namespace vantor {
 
@@ -12,7 +12,7 @@ std::filesystem::path pathOf(const QString& name) {
 }
 
 QString shownPath(const std::filesystem::path& path) {
-    return Typography::onOneLine(QFile::decodeName(path.c_str()));
+    return shownText(QFile::decodeName(path.c_str()));
 }
 
 std::filesystem::path folderOf(const QString& typed, const std::filesystem::path& base) {

@@ -14,6 +14,7 @@
 #include "app/save/save_location.h"
 #include "platform/posix/file_error.h"
 #include "ui/components/make_child.h"
+#include "ui/components/tool_tip_text.h"
 
 namespace vantor {
 
@@ -95,7 +96,7 @@ void SavePanel::showPlaces(const std::vector<SavePlace>& places) {
         const auto icon = style()->standardIcon(QStyle::SP_DirIcon);
         auto* const item = std::make_unique<QListWidgetItem>(icon, name, places_).release();
         item->setData(Qt::UserRole, QByteArray::fromStdString(folder.native()));
-        item->setToolTip(shownPath(folder));
+        item->setToolTip(toolTipText(shownPath(folder)));
     };
     bool isLastKnown = request_.folder.empty();
     for (const SavePlace& place : places) {
