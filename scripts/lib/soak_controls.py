@@ -31,7 +31,7 @@ class Controls:
         import gi
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi, GLib
-        self.library, self.error = Atspi, GLib.Error
+        self.atspi, self.error = Atspi, GLib.Error
         Atspi.init()
         Atspi.set_timeout(10000, 10000)
         self.known = {}
@@ -102,10 +102,10 @@ class Controls:
         return self.get(window, role, begins).get_state_set().contains(state)
 
     def is_checked(self, window, role, begins):
-        return self._has_state(self.library.StateType.CHECKED, window, role, begins)
+        return self._has_state(self.atspi.StateType.CHECKED, window, role, begins)
 
     def has_focus(self, window, role, begins):
-        return self._has_state(self.library.StateType.FOCUSED, window, role, begins)
+        return self._has_state(self.atspi.StateType.FOCUSED, window, role, begins)
 
     def rows(self, window, begins):
         """The names of a list's rows."""
