@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What is being done, how long that usually takes, and how long it took. Sourced by system.sh, not run.
 
 run_started=$SECONDS

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # An X display without a screen. Sourced, not run.
 
 virtual_display_pid=
