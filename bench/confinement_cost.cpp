@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <vector>
 
-#include "platform/linux/linux_confinement.h"
+#include "platform/linux/confinement/linux_confinement.h"
 
 #include "verdict.h"
 

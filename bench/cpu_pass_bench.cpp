@@ -11,7 +11,7 @@
 #include "stat_baseline.h"
 #include "ticking_machine.h"
 
-/// One processor reading on the live machine, from the bare system calls up to the whole road.
+/// One processor reading on the live machine, from the bare system calls up to the whole pipeline.
 namespace vantor::bench {
 namespace {
 

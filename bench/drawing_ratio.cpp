@@ -46,7 +46,7 @@ int compare(ColorScheme scheme, Form form) {
     world.settings->setRefreshInterval(0.5);
     DashboardView& view = world.open(windowSize);
     QScrollBar& bar = *view.findChild<QScrollArea*>()->verticalScrollBar();
-    QImage ground(windowSize, QImage::Format_RGB32);
+    QImage background(windowSize, QImage::Format_RGB32);
 
     PassRow bare("one gradient over the same area", 1);
     PassRow whole("the whole window is painted", 1);
@@ -54,7 +54,7 @@ int compare(ColorScheme scheme, Form form) {
     PassRow paint("a tick: what changed is painted", 1);
     int step = 0;
     const auto round = [&] {
-        bare.run([&] { fillOnce(ground); });
+        bare.run([&] { fillOnce(background); });
         // Everything moves by a point, so everything is painted.
         bar.setValue(bar.value() == 0 ? 1 : 0);
         whole.run([] { QCoreApplication::sendPostedEvents(); });

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/graphics_cards.h"
-#include "platform/linux/linux_accelerators.h"
+#include "platform/linux/graphics/graphics_cards.h"
+#include "platform/linux/graphics/linux_accelerators.h"
 #include "sampling/counted_allocations.h"
 
 #include "graphics_tree.h"

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/file_descriptor.h"
 #include "platform/linux/linux_roots.h"
 
 namespace vantor::bench {

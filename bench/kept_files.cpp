@@ -8,7 +8,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "platform/linux/kernel_file.h"
+#include "platform/linux/files/kernel_file.h"
 
 namespace vantor::bench {
 

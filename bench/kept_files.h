@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/file_descriptor.h"
 
 namespace vantor::bench {
 

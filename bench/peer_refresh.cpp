@@ -15,7 +15,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/process_stat.h"
+#include "platform/linux/processes/process_stat.h"
 #include "platform/native_machine.h"
 #include "probes/process_reader.h"
 

@@ -8,7 +8,7 @@
 #include <functional>
 #include <thread>
 
-#include "platform/linux/pid_listing.h"
+#include "platform/linux/processes/pid_listing.h"
 #include "platform/native_machine.h"
 #include "probes/process_reader.h"
 

@@ -16,7 +16,7 @@
 #include <fstream>
 #include <vector>
 
-#include "app/qt_status_bar.h"
+#include "app/tray/qt_status_bar.h"
 #include "app/vantor_app.h"
 #include "platform/native_machine.h"
 #include "ui/explorer/process_explorer_view.h"

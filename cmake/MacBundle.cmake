@@ -1,5 +1,5 @@
 # Makes the program a bundle that a Mac's Finder can start: Vantor.app.
-include(${CMAKE_CURRENT_LIST_DIR}/LeastSystem.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/MinimumSystem.cmake)
 vantor_toolkit_least_system(least "${Qt6_VERSION}")
 vantor_least_system(VANTOR_LEAST_SYSTEM ${CMAKE_OSX_DEPLOYMENT_TARGET} ${least})
 set(VANTOR_INFO_PLIST ${CMAKE_BINARY_DIR}/packaging/Info.plist)

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "app/activation_server.h"
-#include "app/local_socket.h"
+#include "app/session/activation_server.h"
+#include "app/session/local_socket.h"
 
 #include "require.h"
 

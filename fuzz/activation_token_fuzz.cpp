@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "app/instance_claim.h"
+#include "app/session/instance_claim.h"
 
 #include "require.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "platform/linux/address_text.h"
+#include "platform/linux/network/address_text.h"
 
 #include "require.h"
 

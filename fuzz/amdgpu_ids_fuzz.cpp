@@ -1,4 +1,4 @@
-#include "platform/linux/amdgpu_ids.h"
+#include "platform/linux/graphics/amdgpu_ids.h"
 
 #include "require.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/arc_stats.h"
+#include "platform/linux/memory/arc_stats.h"
 
 #include "require.h"
 

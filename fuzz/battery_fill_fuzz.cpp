@@ -1,4 +1,4 @@
-#include "platform/linux/battery_fill.h"
+#include "platform/linux/power/battery_charge.h"
 
 #include "power_supply_texts.h"
 #include "require.h"
@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using fuzz::require;
     const auto batteries = fuzz::powerSuppliesIn(fuzz::textOf(data, size));
     constexpr std::int64_t largest = 1'000'000'000'000;
-    const auto fill = fillOf(batteries);
+    const auto fill = chargeOf(batteries);
     const auto count = static_cast<std::int64_t>(batteries.size());
     if (fill) {
         require(fill->now <= count * largest && fill->now >= -count * largest);
@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     bool doesAnySay = false;
     for (const PowerSupplyTexts& battery : batteries) {
         const bool says = saysHowFull(battery);
-        require(fillOf({&battery, 1}).has_value() == says);
+        require(chargeOf({&battery, 1}).has_value() == says);
         doesAnySay = doesAnySay || says;
         const auto percent = parseQuantity(battery.capacity);
         require(!percent || (*percent >= -largest && *percent <= largest));

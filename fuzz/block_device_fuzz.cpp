@@ -1,12 +1,14 @@
 #include <stdlib.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <system_error>
 
-#include "platform/linux/block_device.h"
+#include "platform/linux/storage/block_device.h"
 
 #include "require.h"
 
@@ -64,14 +66,25 @@ class Tree {
                path.find('\0') == std::string_view::npos;
     }
 
+    /// Where links are, how many folders deep, and their way to the devices.
+    struct Links {
+        std::string_view folder;
+        std::ptrdiff_t depth;
+        std::string_view toDevices;
+    };
+
     static bool leadsToDevices(std::string_view link, std::string_view target) {
-        constexpr std::string_view up = "../../devices/";
-        for (const std::string_view folder : {"sys/dev/block/", "sys/class/block/"}) {
-            if (!link.starts_with(folder) || !target.starts_with(up)) continue;
-            return link.find('/', folder.size()) == std::string_view::npos &&
-                   isPlain("sys/" + std::string(target.substr(up.size())));
-        }
-        return false;
+        constexpr std::array places{
+            Links{"sys/dev/block/", 0, "../../devices/"},
+            Links{"sys/class/block/", 0, "../../devices/"},
+            Links{"sys/devices/virtual/nvme-subsystem/", 1, "../../../"},
+            Links{"sys/devices/virtual/block/", 2, "../../../../"},
+        };
+        return std::ranges::any_of(places, [&](const Links& place) {
+            return link.starts_with(place.folder) && target.starts_with(place.toDevices) &&
+                   std::ranges::count(link.substr(place.folder.size()), '/') == place.depth &&
+                   isPlain("sys/devices/" + std::string(target.substr(place.toDevices.size())));
+        });
     }
 
     fs::path root_;

@@ -1,4 +1,4 @@
-#include "platform/linux/cpu_identity.h"
+#include "platform/linux/processor/cpu_identity.h"
 
 #include "require.h"
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "platform/linux/cpu_list.h"
+#include "platform/linux/processor/cpu_list.h"
 
 #include "require.h"
 

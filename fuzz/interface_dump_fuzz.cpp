@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/interface_message.h"
-#include "probes/interface_dump.h"
-#include "probes/interface_dump_reader.h"
+#include "platform/darwin/interface_dump.h"
+#include "platform/darwin/interface_dump_reader.h"
+#include "platform/darwin/interface_message.h"
 
 #include "require.h"
 
@@ -19,15 +19,24 @@ using Step = InterfaceDump::Step;
 
 /// Answers the question for the list with these bytes. Every seventh index has no name; two
 /// indices share each name, as when an interface comes twice.
-class Interfaces : public NetworkInterfaces {
+class Interfaces : public InterfaceCalls {
   public:
     explicit Interfaces(Bytes list) : list_(list) {}
+
+    /// How many times less room is asked for than is needed, as when interfaces come meanwhile.
+    int tooLittle = 0;
+    /// How much more is asked for than is needed.
+    std::size_t excess = 0;
 
     static bool hasName(std::uint32_t index) { return index % 7 != 6; }
 
     int sysctl(std::span<const int>, std::span<std::byte> buffer, std::size_t& size) override {
         size = list_.size();
-        if (buffer.empty()) return 0;
+        if (buffer.empty()) {
+            size = tooLittle > 0 ? (size + 1) / 2 : size + excess;
+            --tooLittle;
+            return 0;
+        }
         if (buffer.size() < size) return ENOMEM;
         std::ranges::copy(list_, buffer.begin());
         return 0;
@@ -94,5 +103,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto* const held = reader.counters().find("link" + std::to_string(last.index / 2));
     require(held && held->received == last.received && held->sent == last.sent);
     require(held->index == last.index);
+
+    // Much room that was needed once is given back, and what is read stays the same.
+    constexpr int passes = 9;
+    interfaces.excess = data[0] % 16 == 0 ? std::size_t{1} << 20 : 0;
+    for (int pass = 0; pass < passes && interfaces.excess > 0; ++pass) {
+        require(reader.read64BitInterfaceCounters(interfaces));
+        require(reader.counters().find("link" + std::to_string(last.index / 2)) != nullptr);
+    }
+    // Twice the room is tried twice; the first question may have asked for half of it.
+    interfaces.excess = 0;
+    for (int times = 1; times < 4; ++times) {
+        interfaces.tooLittle = times;
+        InterfaceDumpReader surprised;
+        require(surprised.read64BitInterfaceCounters(interfaces));
+    }
     return 0;
 }

@@ -1,4 +1,4 @@
-#include "platform/linux/route_tables.h"
+#include "platform/linux/network/route_tables.h"
 
 #include "default_route.h"
 

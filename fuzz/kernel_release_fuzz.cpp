@@ -1,4 +1,4 @@
-#include "platform/linux/kernel_facts.h"
+#include "platform/linux/system/kernel_facts.h"
 
 #include "require.h"
 

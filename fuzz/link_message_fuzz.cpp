@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/linux/netlink_messages.h"
+#include "platform/linux/network/netlink_messages.h"
 
 #include "require.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/low_power_mode.h"
+#include "platform/linux/power/low_power_mode.h"
 
 #include "require.h"
 

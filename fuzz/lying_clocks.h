@@ -4,7 +4,7 @@
 #include <map>
 #include <optional>
 
-#include "platform/linux/process_clocks.h"
+#include "platform/linux/processes/process_clocks.h"
 
 namespace vantor::fuzz {
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <fuzzer/FuzzedDataProvider.h>
 #include <unistd.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -9,6 +11,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+
+#include "platform/linux/linux_roots.h"
 
 #include "require.h"
 
@@ -34,6 +38,11 @@ class LyingProc {
     }
 
     const std::filesystem::path& root() const { return root_; }
+    LinuxRoots roots() const {
+        LinuxRoots roots;
+        roots.proc = root_;
+        return roots;
+    }
     const std::set<std::int32_t>& pids() const { return pids_; }
 
     void empty() {
@@ -72,5 +81,19 @@ class LyingProc {
     std::filesystem::path root_;
     std::set<std::int32_t> pids_;
 };
+
+/// Has a `Kernel`, which is made of such a folder and of the input's bytes, take one step after
+/// another until the bytes are used up. Returns the folder as it then is.
+template <class Kernel>
+const LyingProc& runSteps(const std::uint8_t* data, std::size_t size) {
+    constexpr int maxSteps = 40;
+    static LyingProc proc;
+    proc.empty();
+    FuzzedDataProvider input(data, size);
+    Kernel kernel(proc, input);
+    for (int i = 0; i < maxSteps && input.remaining_bytes() > 0; ++i)
+        kernel.step();
+    return proc;
+}
 
 }  // namespace vantor::fuzz

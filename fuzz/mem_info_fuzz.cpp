@@ -1,8 +1,8 @@
 #include <array>
 #include <limits>
 
-#include "platform/linux/mem_info.h"
-#include "platform/linux/memory_shares.h"
+#include "platform/linux/memory/mem_info.h"
+#include "platform/linux/memory/memory_breakdown.h"
 
 #include "require.h"
 
@@ -16,7 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr std::uint64_t none = 0, some = 1'048'576,
                             all = std::numeric_limits<std::uint64_t>::max();
     for (const std::uint64_t beside : std::array{none, some, all}) {
-        const auto shares = MemoryShares::of(*info, {beside, ArcStats{beside, beside / 4}, beside});
+        const auto shares =
+            MemoryBreakdown::of(*info, {beside, ArcStats{beside, beside / 4}, beside});
         require(shares.has_value() == info->free.has_value());
         if (!shares) return 0;
         // These sums cannot wrap: a total of kilobytes has ten bits to spare.

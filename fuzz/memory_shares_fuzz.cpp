@@ -2,7 +2,7 @@
 #include <charconv>
 #include <limits>
 
-#include "platform/linux/memory_shares.h"
+#include "platform/linux/memory/memory_breakdown.h"
 
 #include "require.h"
 
@@ -43,14 +43,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
           &MemInfo::kernelStack, &MemInfo::pageTables, &MemInfo::percpu}) {
         info.*amount = takeUnits(text);
     }
-    MemoryShares::Beside beside;
-    beside.zramBytes = takeAmount(text).value_or(0);
+    MemoryBreakdown::ExtraInputs extra;
+    extra.zramBytes = takeAmount(text).value_or(0);
     if (const Amount cache = takeAmount(text)) {
-        beside.arc = ArcStats{*cache, takeAmount(text).value_or(0)};
+        extra.arc = ArcStats{*cache, takeAmount(text).value_or(0)};
     }
-    beside.minimumFree = takeAmount(text);
+    extra.minimumFree = takeAmount(text);
 
-    const auto shares = MemoryShares::of(info, beside);
+    const auto shares = MemoryBreakdown::of(info, extra);
     require(shares.has_value() == info.free.has_value());
     if (!shares) return 0;
     require(shares->total == info.total);
@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         left -= part;
     }
     // Without a cache of ZFS, used is what is not available, whatever its parts.
-    if (!beside.arc && info.available && *info.available <= info.total) {
+    if (!extra.arc && info.available && *info.available <= info.total) {
         require(shares->active + shares->wired + shares->compressor ==
                 info.total - *info.available);
     }

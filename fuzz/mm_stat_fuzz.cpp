@@ -1,6 +1,6 @@
 #include <string>
 
-#include "platform/linux/zram_devices.h"
+#include "platform/linux/memory/zram_devices.h"
 
 #include "require.h"
 

@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/file_system_kind.h"
-#include "platform/linux/mount_table.h"
-#include "platform/linux/volume_list.h"
+#include "platform/linux/storage/file_system_kind.h"
+#include "platform/linux/storage/mount_table.h"
+#include "platform/linux/storage/volume_list.h"
 
 #include "require.h"
 

@@ -8,8 +8,8 @@
 #include <deque>
 #include <vector>
 
-#include "platform/linux/netlink_dump.h"
-#include "platform/linux/netlink_messages.h"
+#include "platform/linux/network/netlink_dump.h"
+#include "platform/linux/network/netlink_messages.h"
 
 #include "require.h"
 

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "platform/linux/nvml_library.h"
+#include "platform/linux/graphics/nvml_library.h"
 
 #include "require.h"
 

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/linux/os_release.h"
+#include "platform/linux/system/os_release.h"
 
 #include "require.h"
 

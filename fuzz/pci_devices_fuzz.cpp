@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/linux/pci_address.h"
+#include "platform/linux/graphics/pci_address.h"
 
 #include "require.h"
 

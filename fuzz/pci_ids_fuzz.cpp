@@ -1,9 +1,22 @@
 #include <algorithm>
 
-#include "platform/linux/graphics_names.h"
-#include "platform/linux/pci_ids.h"
+#include "platform/linux/graphics/graphics_names.h"
+#include "platform/linux/graphics/pci_ids.h"
 
 #include "require.h"
+
+namespace vantor {
+namespace {
+
+void requireName(const GraphicsIdentity& identity, const ListedNames& listed) {
+    const std::string name = graphicsName(identity, listed);
+    fuzz::require(!name.empty() && std::none_of(name.begin(), name.end(), [](unsigned char letter) {
+        return letter < 0x20 || letter == 0x7F;
+    }));
+}
+
+}  // namespace
+}  // namespace vantor
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vantor;
@@ -19,13 +32,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         cut.feed(text.substr(at, piece));
     require(cut.vendorName() == whole.vendorName() && cut.deviceName() == whole.deviceName());
     require(whole.deviceName().empty() || !whole.vendorName().empty());
-    require(whole.deviceName().size() <= PCIIDsSearch::longestLine);
-    GraphicsIdentity identity;
-    identity.vendor = vendor;
-    identity.device = device;
-    const std::string name = graphicsName(identity, {whole.vendorName(), whole.deviceName(), ""});
-    require(!name.empty() && std::none_of(name.begin(), name.end(), [](unsigned char letter) {
-        return letter < 0x20 || letter == 0x7F;
-    }));
+    require(whole.deviceName().size() <= PCIIDsSearch::maxLineLength);
+    const std::string any(text.substr(0, 200));
+    for (const std::uint16_t maker : {vendor, std::uint16_t{0x1234}}) {
+        const GraphicsIdentity numbered{maker, device, std::nullopt, "", ""};
+        requireName(numbered, {whole.vendorName(), whole.deviceName(), ""});
+        requireName(numbered, {any, any, ""});
+        requireName(numbered, {"", "", any});
+        requireName(numbered, {"", "", "ATI " + any});
+        requireName(numbered, {"", "", ""});
+    }
+    requireName({std::nullopt, std::nullopt, std::nullopt, any, any}, {"", "", ""});
+    requireName({std::nullopt, std::nullopt, std::nullopt, any, ""}, {"", "", ""});
     return 0;
 }

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/linux/power_supply.h"
+#include "platform/linux/power/power_supply.h"
 
 #include "power_supply_texts.h"
 #include "require.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/power_supply.h"
+#include "platform/linux/power/power_supply.h"
 
 namespace vantor::fuzz {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/proc_stat.h"
+#include "platform/linux/processor/proc_stat.h"
 
 #include "require.h"
 

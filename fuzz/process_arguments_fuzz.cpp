@@ -1,4 +1,4 @@
-#include "platform/linux/process_arguments.h"
+#include "platform/linux/processes/process_arguments.h"
 
 #include "require.h"
 

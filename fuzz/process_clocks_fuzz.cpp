@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "platform/linux/process_clocks.h"
+#include "platform/linux/processes/process_clocks.h"
 
 #include "require.h"
 

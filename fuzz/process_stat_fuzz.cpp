@@ -1,6 +1,6 @@
 #include <string>
 
-#include "platform/linux/process_stat.h"
+#include "platform/linux/processes/process_stat.h"
 
 #include "require.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/linux_process_table.h"
+#include "platform/linux/processes/linux_process_table.h"
 
 #include "lying_clocks.h"
 #include "lying_proc.h"
@@ -17,13 +17,12 @@ namespace {
 
 using fuzz::require;
 
-constexpr int mostSteps = 40;
 constexpr std::int32_t highestPID = 8;
 
 class Kernel {
   public:
     Kernel(fuzz::LyingProc& proc, FuzzedDataProvider& input)
-        : proc_(proc), input_(input), table_(roots(), clocks_) {}
+        : proc_(proc), input_(input), table_(proc.roots(), clocks_) {}
 
     void step() {
         for (int i = input_.ConsumeIntegralInRange(0, 3); i > 0; --i)
@@ -43,12 +42,6 @@ class Kernel {
     }
 
   private:
-    LinuxRoots roots() const {
-        LinuxRoots roots;
-        roots.proc = proc_.root();
-        return roots;
-    }
-
     std::string number() {
         return std::to_string(input_.ConsumeBool()
                                   ? input_.ConsumeIntegralInRange<std::uint64_t>(0, 99)
@@ -128,11 +121,6 @@ class Kernel {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vantor;
-    static fuzz::LyingProc proc;
-    proc.empty();
-    FuzzedDataProvider input(data, size);
-    Kernel kernel(proc, input);
-    for (int i = 0; i < mostSteps && input.remaining_bytes() > 0; ++i)
-        kernel.step();
+    fuzz::runSteps<Kernel>(data, size);
     return 0;
 }

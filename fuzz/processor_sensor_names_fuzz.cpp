@@ -1,6 +1,6 @@
 #include <string>
 
-#include "platform/linux/processor_sensor_names.h"
+#include "platform/linux/sensors/processor_sensor_names.h"
 
 #include "require.h"
 
@@ -20,7 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(role->part != Part::core || label.find(number) != label.npos);
         require(role->part == Part::core || role->core == 0);
     }
-    require(!isProcessorMonitor(driver) || !isProcessorZone(driver));
+    const bool isZone = isProcessorZone(driver);
+    require(!isZone || !isProcessorMonitor(driver));
     const auto number = temperatureInputNumber(text);
     require(!number || text.find(std::to_string(*number)) != text.npos);
     return 0;

@@ -1,4 +1,4 @@
-#include "platform/linux/netlink_messages.h"
+#include "platform/linux/network/netlink_messages.h"
 
 #include "require.h"
 

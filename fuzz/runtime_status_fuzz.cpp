@@ -1,7 +1,7 @@
-#include "platform/linux/amdgpu_files.h"
-#include "platform/linux/drm_listing.h"
-#include "platform/linux/drm_sweep.h"
-#include "platform/linux/runtime_status.h"
+#include "platform/linux/graphics/amdgpu_files.h"
+#include "platform/linux/graphics/drm_listing.h"
+#include "platform/linux/graphics/drm_sweep.h"
+#include "platform/linux/graphics/runtime_status.h"
 
 #include "require.h"
 

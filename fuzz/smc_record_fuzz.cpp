@@ -3,9 +3,9 @@
 #include <cmath>
 #include <span>
 
-#include "platform/smc_record.h"
-#include "probes/smc_temperature_reader.h"
-#include "probes/smc_value.h"
+#include "platform/darwin/smc_record.h"
+#include "platform/darwin/smc_temperature_reader.h"
+#include "platform/darwin/smc_value.h"
 
 #include "require.h"
 

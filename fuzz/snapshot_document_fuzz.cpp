@@ -2,8 +2,10 @@
 
 #include <bit>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "model/record_coding.h"
 #include "model/snapshot_document.h"
@@ -48,6 +50,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(document["volumes"][0]["path"] == mended);
     require(document["system"]["hostName"] == mended);
     // A snapshot whose texts were well-formed is read back as it was.
-    if (mended == text) require(decode<SystemSnapshot>(document) == snapshot);
+    if (mended == text) {
+        require(decode<SystemSnapshot>(document) == snapshot);
+        require(encode(snapshot) == document);
+    }
+
+    // A number that does not fit its field is no number of a process.
+    nlohmann::json changed = document;
+    const auto signedBits = static_cast<std::int64_t>(bits);
+    const auto isDecoded = [&](const nlohmann::json& pid) {
+        changed["processes"][0]["pid"] = pid;
+        return decode<SystemSnapshot>(changed).has_value();
+    };
+    require(isDecoded(bits) == std::in_range<std::int32_t>(bits));
+    require(isDecoded(signedBits) == std::in_range<std::int32_t>(signedBits));
+    require(!isDecoded(number) && !isDecoded(text));
     return 0;
 }

@@ -1,4 +1,4 @@
-#include "platform/linux/thermal_zones.h"
+#include "platform/linux/sensors/thermal_zones.h"
 
 #include "require.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/udev_data.h"
+#include "platform/linux/storage/udev_data.h"
 
 #include "require.h"
 

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "platform/linux/linux_process_info.h"
+#include "platform/linux/system/linux_process_info.h"
 
 #include "require.h"
 

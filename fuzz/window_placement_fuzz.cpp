@@ -1,4 +1,7 @@
-#include "app/window_placement.h"
+#include <algorithm>
+#include <vector>
+
+#include "app/window/window_placement.h"
 
 #include "require.h"
 
@@ -21,6 +24,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(fitted.position.has_value() == placement->position.has_value());
     require(fitted.size.width() >= smallest.width() && fitted.size.height() >= smallest.height());
     if (fitted.position) require(screen.intersects(QRect(*fitted.position, fitted.size)));
+    const std::vector<QRect> screens{screen, QRect(1080, 100, 800, 600)};
+    const WindowPlacement onOne = placement->fittedTo(screens, smallest);
+    require(!onOne.position || std::ranges::any_of(screens, [&](const QRect& each) {
+        return each.intersects(QRect(*onOne.position, onOne.size));
+    }));
     require(placement->fittedTo({}, smallest).position == placement->position);
     return 0;
 }

@@ -39,7 +39,7 @@ QWidget* framed(const Subject& subject, ColorScheme scheme, QWidget* parent) {
 }  // namespace
 
 GalleryView::GalleryView(ColorScheme scheme, QWidget* parent)
-    : GroundView(parent), scheme_(scheme) {
+    : BackgroundView(parent), scheme_(scheme) {
     setPalette(paletteOf(scheme));
     auto* flow = std::make_unique<FlowLayout>(spacing, this).release();
     for (const Subject& subject : subjects())

@@ -76,7 +76,7 @@ LivedMachine working(const char* name, std::shared_ptr<SimulatedMachine> machine
 }  // namespace
 
 LivedMachine::LivedMachine(QString name, std::shared_ptr<SimulatedMachine> machine,
-                           std::shared_ptr<WoundClock> clock)
+                           std::shared_ptr<FakeClock> clock)
     : name_(std::move(name)), machine_(std::move(machine)), clock_(std::move(clock)) {}
 
 void LivedMachine::live(int step) {
@@ -94,7 +94,7 @@ void LivedMachine::live(int step) {
         machine_->processTable().spend(pid, static_cast<std::uint64_t>(seconds * 1e9));
         pid += 97;
     }
-    for (auto& interface : machine_->networkInterfaces().interfaces) {
+    for (auto& interface : machine_->interfaceCalls().interfaces) {
         interface.received += static_cast<std::uint64_t>(2.4e6 * std::pow(wave(step, 3), 3));
         interface.sent += static_cast<std::uint64_t>(3e5 * std::pow(wave(step, 5), 2));
     }
@@ -106,7 +106,7 @@ void LivedMachine::live(int step) {
 }
 
 std::vector<LivedMachine> livedMachines() {
-    const auto clock = [] { return std::make_shared<WoundClock>(); };
+    const auto clock = [] { return std::make_shared<FakeClock>(); };
     std::vector<LivedMachine> machines;
     machines.push_back(working("laptop", makeAppleSiliconMac(SimulatedChip::m1, clock())));
     machines.push_back(working("desktop", SimulatedMachine::desktop(clock())));

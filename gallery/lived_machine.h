@@ -14,11 +14,11 @@ namespace vantor {
 class LivedMachine {
   public:
     LivedMachine(QString name, std::shared_ptr<SimulatedMachine> machine,
-                 std::shared_ptr<WoundClock> clock);
+                 std::shared_ptr<FakeClock> clock);
 
     const QString& name() const { return name_; }
     const std::shared_ptr<SimulatedMachine>& machine() const { return machine_; }
-    const std::shared_ptr<WoundClock>& clock() const { return clock_; }
+    const std::shared_ptr<FakeClock>& clock() const { return clock_; }
 
     /// Half a second of its life, number `step`.
     void live(int step);
@@ -26,7 +26,7 @@ class LivedMachine {
   private:
     QString name_;
     std::shared_ptr<SimulatedMachine> machine_;
-    std::shared_ptr<WoundClock> clock_;
+    std::shared_ptr<FakeClock> clock_;
 };
 
 /// The machines that there are pictures of.

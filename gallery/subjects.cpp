@@ -1,6 +1,6 @@
 #include "subjects.h"
 
-#include "platform/simulated/manual_main_loop.h"
+#include "platform/simulated/fake_main_loop.h"
 #include "ui/card_samples.h"
 #include "ui/cards/cpu_card.h"
 #include "ui/cards/gpu_card.h"
@@ -94,12 +94,12 @@ void addCard(std::vector<Subject>& all, const char* name, const Source& source) 
 class HeldExplorer : public ProcessExplorerView {
   public:
     HeldExplorer(const std::vector<ProcessStats>& processes, const char* query)
-        : HeldExplorer(processes, query, std::make_shared<WoundClock>()) {}
+        : HeldExplorer(processes, query, std::make_shared<FakeClock>()) {}
 
   private:
     HeldExplorer(const std::vector<ProcessStats>& processes, const char* query,
-                 const std::shared_ptr<WoundClock>& clock)
-        : HeldExplorer(clock, std::make_shared<ManualMainLoop>(clock)) {
+                 const std::shared_ptr<FakeClock>& clock)
+        : HeldExplorer(clock, std::make_shared<FakeMainLoop>(clock)) {
         state_.snapshot.processes = state_.processesByCPU = state_.processesByMemory = processes;
         state_.revisions.processes = 1;
         show(ProcessExplorer::of(state_));
@@ -107,10 +107,10 @@ class HeldExplorer : public ProcessExplorerView {
         clock->setNow(clock->now() + std::chrono::seconds(1));
         loop_->runDueTimer();
     }
-    HeldExplorer(const std::shared_ptr<WoundClock>&, const std::shared_ptr<ManualMainLoop>& loop)
+    HeldExplorer(const std::shared_ptr<FakeClock>&, const std::shared_ptr<FakeMainLoop>& loop)
         : ProcessExplorerView(machine().processInfo(), loop), loop_(loop) {}
 
-    std::shared_ptr<ManualMainLoop> loop_;
+    std::shared_ptr<FakeMainLoop> loop_;
     DashboardState state_;
 };
 

@@ -11,6 +11,8 @@ add_executable(vantor_e2e_tests
     e2e/assistive_client.cpp
     e2e/assistive_test.cpp
     e2e/bus_tray_test.cpp
+    e2e/confined_minute_test.cpp
+    e2e/confined_on_wayland_test.cpp
     e2e/confinement_test.cpp
     e2e/desktop.cpp
     e2e/export_failures_test.cpp
@@ -18,6 +20,7 @@ add_executable(vantor_e2e_tests
     e2e/export_scene.cpp
     e2e/export_test.cpp
     e2e/hung_volume_test.cpp
+    e2e/known_calls_test.cpp
     e2e/lifecycle_test.cpp
     e2e/main.cpp
     e2e/main_thread_files_test.cpp
@@ -30,8 +33,10 @@ add_executable(vantor_e2e_tests
     e2e/wayland_test.cpp
     e2e/window_test.cpp
     e2e/windows_test.cpp
-    support/played_notifier_tray.cpp
-    support/played_portal.cpp
+    e2e/spoken_program.cpp
+    e2e/whole_use.cpp
+    support/fake_notifier_tray.cpp
+    support/fake_portal.cpp
     support/served_folder.cpp)
 vantor_set_up_test_target(vantor_e2e_tests)
 target_precompile_headers(vantor_e2e_tests REUSE_FROM vantor_widget_test_headers)
@@ -68,12 +73,14 @@ add_executable(vantor_fault_tests
     e2e/desktop.cpp
     e2e/faults/crowds_test.cpp
     e2e/faults/fault_scene.cpp
+    e2e/faults/hung_home_test.cpp
     e2e/faults/kills_test.cpp
     e2e/faults/silence_meter.cpp
     e2e/faults/stop_and_clock_test.cpp
     e2e/faults/x_server_test.cpp
     e2e/main.cpp
-    e2e/running_program.cpp)
+    e2e/running_program.cpp
+    support/served_folder.cpp)
 vantor_set_up_test_target(vantor_fault_tests)
 target_precompile_headers(vantor_fault_tests REUSE_FROM vantor_widget_test_headers)
 target_compile_definitions(vantor_fault_tests PRIVATE
@@ -87,6 +94,6 @@ target_link_libraries(vantor_fault_tests PRIVATE vantor_app ${VANTOR_XCB})
 add_dependencies(vantor_fault_tests mount_crowd process_crowd shifted_clock still_window vantor)
 add_dependencies(vantor_all_tests vantor_fault_tests)
 gtest_discover_tests(vantor_fault_tests DISCOVERY_TIMEOUT 60
-    TEST_FILTER "XServer.*"
+    TEST_FILTER "HungHome.*:XServer.*"
     XML_OUTPUT_DIR ${VANTOR_TEST_RESULTS}/vantor_fault_tests
     PROPERTIES TIMEOUT ${VANTOR_TEST_TIMEOUT} LABELS e2e:vantor_fault_tests)

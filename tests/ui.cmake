@@ -25,6 +25,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/cpu_card_test.cpp
     ui/cpu_card_view_test.cpp
     ui/dashboard_view_test.cpp
+    ui/dashboard_view_layout_test.cpp
     ui/footer_test.cpp
     ui/gpu_storage_card_test.cpp
     ui/help_view_test.cpp
@@ -34,6 +35,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/picture_test.cpp
     ui/process_explorer_test.cpp
     ui/process_explorer_view_test.cpp
+    ui/process_table_view_test.cpp
     ui/process_mini_list_test.cpp
     ui/repaint_test.cpp
     ui/not_saved_view_test.cpp
@@ -51,7 +53,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/dashboard_header_texts_test.cpp
     ui/form_controls_test.cpp
     ui/formatters_test.cpp
-    ui/ground_test.cpp
+    ui/background_test.cpp
     ui/horizontal_fit_test.cpp
     ui/layouts_test.cpp
     ui/menu_picker_test.cpp
@@ -66,7 +68,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/sparkline_test.cpp
     ui/strangers_texts_test.cpp
     ui/symbols_test.cpp
-    ui/text_shapes_test.cpp
+    ui/glyph_run_cache_test.cpp
     ui/theme_test.cpp
     ui/typography_test.cpp
     ui/usage_bar_test.cpp
@@ -74,7 +76,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/vector_drawing_test.cpp)
 
 foreach(program ending_program instance_program quitting_program)
-    add_executable(${program} app/${program}.cpp)
+    add_executable(${program} app/session/${program}.cpp)
     vantor_set_up_test_target(${program})
     target_link_libraries(${program} PRIVATE vantor_app)
     target_precompile_headers(${program} REUSE_FROM vantor_widget_test_headers)
@@ -83,39 +85,44 @@ endforeach()
 vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURCES
     # With the monitor's records, as above.
     app/appearance_test.cpp
-    app/dock_reopen_test.cpp
-    app/menu_bar_test.cpp
+    app/window/dock_reopen_test.cpp
+    app/tray/menu_bar_test.cpp
+    app/tray/menu_bar_commands_test.cpp
     app/readable_texts_test.cpp
     app/vantor_app_test.cpp
     # Without.
     app/app_delegate_test.cpp
     app/app_commands_test.cpp
-    app/changing_bus_test.cpp
-    app/launch_stabilizer_test.cpp
-    app/local_claim_test.cpp
+    app/session/changing_bus_test.cpp
+    app/window/launch_stabilizer_test.cpp
+    app/session/local_claim_test.cpp
     app/qt_alerts_test.cpp
     app/qt_main_loop_test.cpp
-    app/qt_menu_bar_extras_test.cpp
-    app/qt_save_dialogs_test.cpp
-    app/quit_watch_test.cpp
-    app/safe_environment_test.cpp
-    app/save_location_test.cpp
-    app/single_instance_test.cpp
-    app/termination_signals_test.cpp
-    app/toolkit_ini_test.cpp
-    app/user_defaults_test.cpp
-    app/window_geometry_test.cpp
-    app/window_placement_test.cpp)
+    app/tray/qt_menu_bar_extras_test.cpp
+    app/files/qt_save_dialogs_test.cpp
+    app/session/quit_watch_test.cpp
+    app/session/hung_folders_test.cpp
+    app/session/safe_environment_test.cpp
+    app/files/save_location_test.cpp
+    app/session/single_instance_test.cpp
+    app/session/termination_signals_test.cpp
+    app/files/toolkit_ini_test.cpp
+    app/files/user_defaults_test.cpp
+    app/window/window_geometry_test.cpp
+    app/window/window_geometry_states_test.cpp
+    app/window/window_placement_test.cpp)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     target_sources(app_tests PRIVATE
-        app/folder_looks_test.cpp
-        app/linux_save_dialogs_test.cpp
-        app/patient_questions_test.cpp
-        app/portal_save_dialog_test.cpp
-        app/qt_status_bar_test.cpp
-        app/save_panel_test.cpp
-        support/played_notifier_tray.cpp
-        support/played_portal.cpp)
+        app/files/folder_looks_test.cpp
+        app/files/linux_save_dialogs_test.cpp
+        app/files/patient_questions_test.cpp
+        app/files/portal_save_dialog_test.cpp
+        app/tray/qt_status_bar_test.cpp
+        app/tray/notifier_item_test.cpp
+        app/files/save_panel_test.cpp
+        app/files/save_panel_folders_test.cpp
+        support/fake_notifier_tray.cpp
+        support/fake_portal.cpp)
 endif()
 target_compile_definitions(app_tests PRIVATE
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
@@ -128,7 +135,7 @@ if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
     add_library(vantor_mac_desktop OBJECT
         ${CMAKE_SOURCE_DIR}/src/app/mac_desktop.cpp
         ${CMAKE_SOURCE_DIR}/src/app/mac_display.cpp
-        ${CMAKE_SOURCE_DIR}/src/app/save/mac_native_save_dialogs.cpp)
+        ${CMAKE_SOURCE_DIR}/src/app/files/mac_native_save_dialogs.cpp)
     target_link_libraries(vantor_mac_desktop PRIVATE vantor_app vantor_warnings)
     add_dependencies(app_tests vantor_mac_desktop)
 endif()

@@ -36,7 +36,7 @@ class AppCommands : public QObject {
     /// The menu bar of the main window, to be put into it by the caller.
     QMenuBar* makeMenuBar(QWidget* window);
 
-    /// Lets a window without a menu bar be operated by the same keys.
+    /// Gives a window without a menu bar the same keys.
     void addTo(QWidget* window);
 
     const std::vector<QAction*>& all() const { return all_; }

@@ -8,8 +8,8 @@
 
 namespace vantor {
 
-/// What the platform asks the program when windows close and when the user starts it again. It has
-/// no state of its own. Main thread.
+/// The program's answers when windows close and when the user starts it again. Stateless. Main
+/// thread.
 class AppDelegate {
   public:
     AppDelegate(std::shared_ptr<DefaultsStore> defaults, const ProcessInfo& versions,
@@ -18,8 +18,8 @@ class AppDelegate {
           versions_(versions),
           openLegacyDashboard_(std::move(openLegacyDashboard)) {}
 
-    /// Whether nothing is left to be there for. Asks the store itself, so that what was stored
-    /// counts and not a default: a user who never chose keeps the program in the tray.
+    /// Whether the program is to end. Reads the store itself, so that what was stored counts and
+    /// not a default: a user who never chose keeps the program in the tray.
     bool applicationShouldTerminateAfterLastWindowClosed() const;
 
     /// Whether the platform is to reopen the window; older systems have it opened here.

@@ -4,7 +4,7 @@
 
 namespace vantor {
 
-/// The facts that the build has put into the program.
+/// The version facts that the build has compiled into the program.
 class BuildInfo : public BundleInfo {
   public:
     std::optional<std::string> text(std::string_view key) const override;

@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "app/legacy_dashboard_window_controller.h"
-#include "app/legacy_menu_bar_controller.h"
+#include "app/tray/legacy_menu_bar_controller.h"
 #include "app/vantor_app.h"
+#include "app/window/legacy_dashboard_window_controller.h"
 
 namespace vantor {
 
@@ -15,7 +15,7 @@ class LegacyVantorApp : public VantorApp {
     ~LegacyVantorApp() override;
 
     void openDashboard() override {
-        closePopover();  // it would stay above what it opens
+        closePopover();  // it would stay above the window that it opens
         dashboard_.open();
     }
     DashboardWindow* dashboardWindow() override { return dashboard_.window(); }

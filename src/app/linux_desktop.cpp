@@ -1,9 +1,9 @@
 #include "app/desktop.h"
-#include "app/qt_status_bar.h"
+#include "app/tray/qt_status_bar.h"
 
 namespace vantor {
 
-DesktopWays nativeDesktopWays() {
+DesktopTraits nativeDesktopTraits() {
     return {};
 }
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "app/safe_environment.h"
-#include "app/session_sockets.h"
+#include "app/session/safe_environment.h"
+#include "app/session/session_sockets.h"
 
 namespace vantor {
 

@@ -1,9 +1,9 @@
 #include "app/desktop.h"
-#include "app/qt_menu_bar_extras.h"
+#include "app/tray/qt_menu_bar_extras.h"
 
 namespace vantor {
 
-DesktopWays nativeDesktopWays() {
+DesktopTraits nativeDesktopTraits() {
     return {.hasOneMenuBar = true, .reopensByActivation = true};
 }
 

@@ -1,4 +1,4 @@
-#include "app/safe_environment.h"
+#include "app/session/safe_environment.h"
 
 namespace vantor {
 

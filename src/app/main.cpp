@@ -5,7 +5,7 @@
 #include "platform/native_machine.h"
 
 int main(int argc, char** argv) {
-    vantor::preferLittleMemory();
+    vantor::tuneMalloc();
     const std::shared_ptr<vantor::Confinement> confinement = vantor::makeNativeConfinement();
     confinement->confineEarly();
     return vantor::runVantor(argc, argv, vantor::makeNativeMachine(), confinement);

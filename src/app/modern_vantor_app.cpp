@@ -1,6 +1,6 @@
 #include "app/modern_vantor_app.h"
 
-#include "app/window_activation.h"
+#include "app/window/window_activation.h"
 #include "ui/menu_bar/modern_menu_bar_dashboard_host.h"
 
 namespace vantor {
@@ -24,7 +24,7 @@ void ModernVantorApp::openDashboard() {
 
 void ModernVantorApp::openWindow(const QString& identifier) {
     if (identifier != QStringLiteral("dashboard")) return;
-    closePopover();  // it would stay above what it opens
+    closePopover();  // it would stay above the window that it opens
     if (!window_) window_ = makeDashboardWindow(identifier);
     bringToFront(*window_, {});
 }

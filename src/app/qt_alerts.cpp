@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "app/front_window.h"
+#include "app/window/front_window.h"
 #include "ui/components/make_child.h"
 #include "ui/shown_text.h"
 
@@ -15,10 +15,10 @@ namespace vantor {
 
 namespace {
 
-constexpr int longestWord = 40;  // characters, as people count them
+constexpr int maxWordLength = 40;  // characters, as users count them
 
-/// A file's name may look like markup: it is shown as it is. The box itself would only see to that
-/// for its first text.
+/// Plain text, as a file's name may look like markup. The box itself would ensure that only for its
+/// first text.
 void showPlain(const QMessageBox& box, const QString& label, const QString& text, int weight) {
     auto* const shown = box.findChild<QLabel*>(label);
     if (!shown) return;
@@ -41,7 +41,7 @@ QMessageBox* makeBox(const AlertText& text, QWidget* window) {
     box->setInformativeText(QtAlerts::breakable(information));
     showPlain(*box, QStringLiteral("qt_msgbox_label"), message, QFont::Bold);
     showPlain(*box, QStringLiteral("qt_msgbox_informativelabel"), information, QFont::Normal);
-    // Wide enough for its title, and for sentences that are read at a glance.
+    // Wide enough for its title, and for a sentence per line.
     auto* const lines = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
     if (lines) lines->setMinimumWidth(lines->fontMetrics().averageCharWidth() * 56);
     box->setStandardButtons(QMessageBox::Ok);
@@ -57,7 +57,7 @@ QMessageBox* makeBox(const AlertText& text, QWidget* window) {
 void QtAlerts::runModal(const AlertText& text) {
     const QPointer<QMessageBox> box = makeBox(text, frontWindow());
     box->exec();
-    // Unless the window that it belongs to has taken it along.
+    // Unless its parent window has destroyed it.
     const std::unique_ptr<QMessageBox> over(box.data());
 }
 
@@ -69,7 +69,7 @@ QString QtAlerts::breakable(const QString& text) {
         const QStringView character =
             QStringView(text).sliced(start, characters.position() - start);
         length = character.front().isSpace() ? 0 : length + 1;
-        if (length > longestWord) {
+        if (length > maxWordLength) {
             result += QChar(0x200B);
             length = 1;
         }

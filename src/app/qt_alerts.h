@@ -12,8 +12,8 @@ class QtAlerts : public Alerts {
   public:
     void runModal(const AlertText& text) override;
 
-    /// The same text, with places to go on in the next line (U+200B) in words that are too long for
-    /// one, as a file's name may be. They cannot be seen.
+    /// The same text, with invisible places to break (U+200B) in words that are too long for a
+    /// line, as a file's name may be.
     static QString breakable(const QString& text);
 };
 

@@ -4,8 +4,9 @@
 
 namespace vantor {
 
-/// Dresses the whole program: the palette tells every widget which colour scheme to paint in, ours
-/// and the toolkit's own menus and dialogs alike. Needs the application object.
+/// Sets the appearance of the whole program: every widget paints in the colour scheme of its
+/// palette, our views and the toolkit's menus and dialogs alike, so that one call changes all.
+/// Needs the application object.
 class QtApplicationAppearance : public ApplicationAppearance {
   public:
     void followSystem() override;  ///< from now on, also when the desktop changes its own

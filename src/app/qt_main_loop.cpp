@@ -19,8 +19,8 @@ using Clock = std::chrono::steady_clock;
 
 const auto wakeUp = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-// Waking up costs more than most tasks: what comes so shortly before a timer waits for that. Nobody
-// sees a result that is late by so little, and those of a tick come while their commit is near.
+// Waking up costs more than most tasks: a task posted so shortly before a timer waits for it. Such
+// a delay is invisible, and the results of a tick are posted shortly before their commit.
 constexpr std::chrono::milliseconds close{35};
 
 }  // namespace
@@ -90,7 +90,7 @@ class QtMainLoop::Receiver : public QObject {
         Task task = std::move(found->second.task);
         timers_.erase(found);
         findNextTimer();
-        runPosted();  // what has waited for this timer, in order with it
+        runPosted();  // tasks that have waited for this timer, in order with it
         task();
     }
 
@@ -108,7 +108,7 @@ class QtMainLoop::Receiver : public QObject {
         inbox_->nextTimer = next;
     }
 
-    /// For those that have waited for a timer that will not come.
+    /// For tasks that have waited for a timer that was cancelled.
     void wakeForPosted() {
         const std::lock_guard lock(inbox_->mutex);
         inbox_->wake();
@@ -125,8 +125,8 @@ class QtMainLoop::Receiver : public QObject {
                 inbox_->tasks.clear();
             }
         }
-        // A task may open a dialog, whose own loop then gets here again: it goes on where this one
-        // has stopped, in the order posted, and leaves nothing to do for this one.
+        // A task may open a dialog, whose own loop then gets here again: it continues where this
+        // one has stopped, in the order posted, and leaves nothing for this one.
         while (next_ < running_.size()) {
             Task task = std::move(running_[next_++]);
             task();

@@ -9,7 +9,7 @@
 namespace vantor {
 
 /// The toolkit's event loop as the program's main loop. To be made and destroyed on the main
-/// thread; a task posted after that, by a probe that would not end, is dropped.
+/// thread; a task posted after that, by a probe that hangs, is dropped.
 class QtMainLoop : public MainLoop {
   public:
     QtMainLoop();

@@ -10,16 +10,16 @@
 #include <memory>
 
 #include "app/desktop.h"
-#include "app/qt_export_platform.h"
-#include "app/quit_watch.h"
-#include "app/safe_environment.h"
-#include "app/scarcity.h"
-#include "app/session_end.h"
-#include "app/single_instance.h"
-#include "app/termination_signals.h"
-#include "app/user_defaults.h"
+#include "app/files/qt_export_platform.h"
+#include "app/files/user_defaults.h"
+#include "app/session/quit_watch.h"
+#include "app/session/safe_environment.h"
+#include "app/session/scarcity.h"
+#include "app/session/session_end.h"
+#include "app/session/single_instance.h"
+#include "app/session/termination_signals.h"
 #include "app/vantor_app.h"
-#include "app/window_activation.h"
+#include "app/window/window_activation.h"
 #include "platform/posix/end_watchdog.h"
 #include "ui/components/accessible_views.h"
 #include "ui/vantor_style.h"
@@ -28,7 +28,7 @@ namespace vantor {
 
 namespace {
 
-// Long enough for any probe that works, and well within what people take for "at once".
+// Long enough for any probe that works, and short enough to feel immediate.
 constexpr std::chrono::milliseconds quitPatience{250};
 
 void sayThatThereIsNoDisplay() {
@@ -36,8 +36,8 @@ void sayThatThereIsNoDisplay() {
                stderr);
 }
 
-/// The toolkit aborts where it finds no display: that is no fault of the program to be reported,
-/// but a thing to be said in a sentence.
+/// The toolkit aborts where it finds no display: that is no crash to be reported, but an error
+/// message.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type == QtFatalMsg) {
         sayThatThereIsNoDisplay();
@@ -50,6 +50,8 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
 
 int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
               const std::shared_ptr<Confinement>& confinement) {
+    // They keep their place, also where that does not answer: nothing waits for them.
+    const QString settingsFile = userSettingsFile();
     makeEnvironmentSafe();
     if (isLocalDisplayMissing()) {
         sayThatThereIsNoDisplay();
@@ -73,11 +75,11 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
     installViewAccessibility();
 
     const auto vantor = makeVantorApp({machine,
-                                       userSettingsFile(),
+                                       settingsFile,
                                        makeNativeStatusBar(),
                                        [] { QApplication::quit(); },
                                        makeQtExportPlatform(),
-                                       nativeDesktopWays(),
+                                       nativeDesktopTraits(),
                                        {},
                                        confinement});
     instance->setOnActivate([&](const QString& token) { vantor->reopen(token); });
@@ -90,9 +92,9 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
     vantor->openDashboard();
     const int status = QApplication::exec();
     watchdog.ending();
-    instance.reset();  // who starts from now on is the first
-    // A probe that hangs in the kernel cannot be joined, and tearing the process down around it
-    // would pull the ground from under its feet.
+    instance.reset();  // a program started from now on is the first
+    // A probe that hangs in the kernel cannot be joined, and cleaning up would destroy what it
+    // still uses.
     if (!vantor->shutDown(quitPatience)) std::_Exit(status);
     return status;
 }

@@ -9,7 +9,7 @@
 namespace vantor {
 
 /// Runs the program until the user ends it; gives its exit status. May end the process itself when
-/// a probe hangs. What a display needs is to be left by a `confinement` that has begun.
+/// a probe hangs. A `confinement` that has begun must still allow what a display needs.
 int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
               const std::shared_ptr<Confinement>& confinement = std::make_shared<Unconfined>());
 

@@ -4,14 +4,14 @@
 
 #include <algorithm>
 
-#include "app/about_panel.h"
+#include "app/files/user_defaults.h"
 #include "app/legacy_vantor_app.h"
 #include "app/modern_vantor_app.h"
 #include "app/qt_application_appearance.h"
 #include "app/qt_main_loop.h"
-#include "app/termination_signals.h"
-#include "app/user_defaults.h"
-#include "app/window_activation.h"
+#include "app/session/termination_signals.h"
+#include "app/window/about_panel.h"
+#include "app/window/window_activation.h"
 #include "platform/native_machine.h"
 #include "ui/settings/settings_view.h"
 
@@ -21,15 +21,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// All providers have answered once by then, and what the start needed is free.
+// All providers have answered once by then, and the start's memory is free.
 constexpr auto settlingTime = 4s;
-// A document is written in milliseconds; a slow stick takes a second or two to have it for good. A
-// disk that takes longer may hang, and a session that ends waits no longer for a program either.
-// The windows are gone by then, so nobody looks at one that does not answer.
+// A document is written in milliseconds; a slow stick takes a second or two to store it. A disk
+// that takes longer may hang, and a session that ends waits no longer for a program either. The
+// windows are gone by then, so none of them freezes.
 constexpr auto writePatience = DefaultsFile::endPatience;
 
-/// What is read late takes effect late, except for what the user has changed by then: a window that
-/// shows other preferences than those that are stored would have them changed back and forth.
+/// Preferences that are read late take effect late, except for those that the user has changed by
+/// then: otherwise windows would show other values than the stored ones.
 std::shared_ptr<AppSettings> loadSettings(const std::shared_ptr<DefaultsFile>& defaults) {
     defaults->waitForRead();
     auto settings =
@@ -97,7 +97,7 @@ void VantorApp::adoptMenuBar(std::unique_ptr<MenuBarController> menuBar) {
 std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& identifier) {
     const auto onFirstLiveFrame = [this] {
         // The name that a minimised window goes by: from the first live figures on, the plain
-        // one. Whoever waits for them from outside can watch it.
+        // one. Scripts and tests can watch it from outside.
         if (DashboardWindow* const window = dashboardWindow())
             window->setWindowIconText(QStringLiteral("Vantor"));
         mainLoop_->runAfter(settlingTime, [] { giveBackUnusedMemory(); });
@@ -169,8 +169,8 @@ void VantorApp::lastWindowClosed() {
     }
 }
 
-/// A tray has come, vanished, or come back: whoever has no window open is left alone only if it
-/// returns.
+/// A tray has come, vanished, or come back. Without a window the program stays hidden only if the
+/// tray returns.
 void VantorApp::statusBarChanged() {
     cancelTask(wayBackTask_);
     hasClosedWithoutTray_ = false;

@@ -11,14 +11,14 @@
 #include "app/app_commands.h"
 #include "app/app_delegate.h"
 #include "app/build_info.h"
-#include "app/content_window.h"
-#include "app/dashboard_window.h"
 #include "app/desktop.h"
-#include "app/dock_reopen.h"
-#include "app/menu_bar_controller.h"
-#include "app/status_bar.h"
-#include "app/vantor_help_window.h"
-#include "app/window_geometry.h"
+#include "app/tray/menu_bar_controller.h"
+#include "app/tray/status_bar.h"
+#include "app/window/content_window.h"
+#include "app/window/dashboard_window.h"
+#include "app/window/dock_reopen.h"
+#include "app/window/vantor_help_window.h"
+#include "app/window/window_geometry.h"
 #include "platform/confinement.h"
 #include "platform/export_platform.h"
 #include "platform/machine.h"
@@ -32,13 +32,13 @@
 
 namespace vantor {
 
-/// How long a program without any window waits for a tray that is not there.
+/// How long a program without any window waits for a missing tray.
 struct TrayPatience {
     /// From the start on. On a slow disk, a program that starts with the session is up half a
-    /// minute before the desktop's panel. Whoever closes the window meanwhile wants it in the tray;
-    /// but where none comes, a program that nobody sees and nothing leads back to has to end.
+    /// minute before the desktop's panel. A user who closes the window meanwhile wants it in the
+    /// tray; but where none comes, the program has to end, as nothing would lead back to it.
     std::chrono::milliseconds atStart = std::chrono::minutes(1);
-    /// Once there was one: a desktop's panel that is restarted is back by then.
+    /// After a tray was lost: a desktop's panel that restarts is back by then.
     std::chrono::milliseconds afterLoss = std::chrono::seconds(5);
 };
 
@@ -52,7 +52,7 @@ class VantorApp : public QObject {
         std::shared_ptr<StatusBar> statusBar;
         std::function<void()> quit;
         ExportPlatform exportPlatform{};  ///< without one, Export does nothing
-        DesktopWays desktop{};
+        DesktopTraits desktop{};
         TrayPatience trayPatience{};
         std::shared_ptr<const Confinement> confinement{};  ///< of this process, if there is any
     };
@@ -83,9 +83,9 @@ class VantorApp : public QObject {
     AppCommands& commands() { return commands_; }
 
     /// Ends everything without waiting for any probe. A snapshot and preferences that are being
-    /// written get up to three seconds together to be there as a whole; after that, the files of
-    /// before stay. False when a probe or a write is still running after `patience`: the program
-    /// must then leave without cleaning up under it.
+    /// written get up to three seconds together to be complete; after that, the old files stay.
+    /// Returns false when a probe or a write is still running after `patience`: the program must
+    /// then leave without cleaning up.
     virtual bool shutDown(std::chrono::milliseconds patience);
 
   protected:

@@ -24,7 +24,7 @@ struct CPUStats {
 
     bool operator==(const CPUStats&) const = default;
 
-    /// What stands in until the first reading. It reads as an idle processor on purpose.
+    /// The placeholder until the first reading; deliberately an idle processor.
     static const CPUStats& empty();
 };
 

@@ -4,7 +4,7 @@
 
 namespace vantor {
 
-/// Why something could not be done, in words for whoever wanted it done: whole sentences, UTF-8.
+/// Why an operation failed, in words for the user: whole sentences, UTF-8.
 struct DescribedError {
     std::string description;
 

@@ -19,7 +19,7 @@ struct GPUStats {
 
     bool operator==(const GPUStats&) const = default;
 
-    /// What tells this row from the others across refreshes; equality compares everything.
+    /// Identifies this row across refreshes; equality compares everything.
     const std::string& identity() const { return id; }
 };
 

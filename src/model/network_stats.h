@@ -20,7 +20,7 @@ struct NetworkStats {
 
     bool operator==(const NetworkStats&) const = default;
 
-    /// What stands in until the first reading.
+    /// The placeholder until the first reading.
     static const NetworkStats& empty();
 };
 

@@ -3,12 +3,12 @@
 
 namespace vantor {
 
-std::string_view shortestText(std::span<char> room, double value) {
-    return printedShortestText(room, value);
+std::string_view shortestText(std::span<char> buffer, double value) {
+    return printedShortestText(buffer, value);
 }
 
-std::string_view fixedText(std::span<char> room, double value, int precision) {
-    return printedFixedText(room, value, precision);
+std::string_view fixedText(std::span<char> buffer, double value, int precision) {
+    return printedFixedText(buffer, value, precision);
 }
 
 }  // namespace vantor

@@ -1,8 +1,8 @@
 #include "model/cpu_stats.h"
 #include "model/network_stats.h"
+#include "model/never_destroyed.h"
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
-#include "model/undying.h"
 
 namespace vantor {
 
@@ -36,22 +36,22 @@ SystemSnapshot emptySnapshot() {
 }  // namespace
 
 const CPUStats& CPUStats::empty() {
-    static const Undying placeholder(emptyCPU());
+    static const NeverDestroyed placeholder(emptyCPU());
     return placeholder.get();
 }
 
 const NetworkStats& NetworkStats::empty() {
-    static const Undying placeholder(emptyNetwork());
+    static const NeverDestroyed placeholder(emptyNetwork());
     return placeholder.get();
 }
 
 const ProcessSample& ProcessSample::empty() {
-    static const Undying placeholder(ProcessSample{});
+    static const NeverDestroyed placeholder(ProcessSample{});
     return placeholder.get();
 }
 
 const SystemSnapshot& SystemSnapshot::empty() {
-    static const Undying placeholder(emptySnapshot());
+    static const NeverDestroyed placeholder(emptySnapshot());
     return placeholder.get();
 }
 

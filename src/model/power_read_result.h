@@ -8,7 +8,7 @@
 namespace vantor {
 
 /// The answer of the power probe: either an update (an absent record means that the machine has
-/// no battery, which is news too) or a failure (no new value this time).
+/// no battery, which is a result too) or a failure (no new value this time).
 class PowerReadResult {
   public:
     static PowerReadResult update(std::optional<PowerStats> stats) {
@@ -17,7 +17,7 @@ class PowerReadResult {
     static PowerReadResult failure() { return PowerReadResult{Failure{}}; }
 
     bool isUpdate() const { return std::holds_alternative<Update>(value_); }
-    /// The carried record; only an update has one to ask for.
+    /// The record; to be called of an update only.
     const std::optional<PowerStats>& stats() const { return std::get<Update>(value_); }
 
     bool operator==(const PowerReadResult&) const = default;

@@ -107,26 +107,26 @@ std::string fixed(const Decimal& decimal, double value) {
     return text.data();
 }
 
-std::string_view put(std::span<char> room, std::string_view text) {
-    if (text.size() > room.size()) return {};
-    std::copy(text.begin(), text.end(), room.begin());
-    return {room.data(), text.size()};
+std::string_view put(std::span<char> buffer, std::string_view text) {
+    if (text.size() > buffer.size()) return {};
+    std::copy(text.begin(), text.end(), buffer.begin());
+    return {buffer.data(), text.size()};
 }
 
 }  // namespace
 
-std::string_view printedShortestText(std::span<char> room, double value) {
+std::string_view printedShortestText(std::span<char> buffer, double value) {
     const Decimal decimal = decimalOf(value);
     std::string text = scientific(decimal);
     if (decimal.sign.size() + fixedSize(decimal) <= text.size()) text = fixed(decimal, value);
-    return put(room, text);
+    return put(buffer, text);
 }
 
-std::string_view printedFixedText(std::span<char> room, double value, int precision) {
+std::string_view printedFixedText(std::span<char> buffer, double value, int precision) {
     std::array<char, std::numeric_limits<double>::max_exponent10 + 64> text{};
     const int size = std::snprintf(text.data(), text.size(), "%.*f", precision, value);
     if (size < 0 || static_cast<std::size_t>(size) >= text.size()) return {};
-    return put(room, std::isfinite(value) ? withPoint(text.data()) : text.data());
+    return put(buffer, std::isfinite(value) ? withPoint(text.data()) : text.data());
 }
 
 }  // namespace vantor

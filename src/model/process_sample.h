@@ -14,7 +14,7 @@ struct ProcessSample {
 
     bool operator==(const ProcessSample&) const = default;
 
-    /// Three empty lists: also what a failed listing looks like.
+    /// Three empty lists, as after a failed listing.
     static const ProcessSample& empty();
 };
 

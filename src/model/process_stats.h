@@ -16,7 +16,7 @@ struct ProcessStats {
 
     bool operator==(const ProcessStats&) const = default;
 
-    /// What tells this row from the others across refreshes; equality compares everything.
+    /// Identifies this row across refreshes; equality compares everything.
     std::int32_t identity() const { return pid; }
 };
 

@@ -17,15 +17,6 @@ namespace {
 using nlohmann::json;
 
 template <class T>
-struct IsOptional : std::false_type {};
-template <class T>
-struct IsOptional<std::optional<T>> : std::true_type {};
-template <class T>
-struct IsVector : std::false_type {};
-template <class T>
-struct IsVector<std::vector<T>> : std::true_type {};
-
-template <class T>
 bool encodeValue(const T& value, json& out) {
     if constexpr (std::is_floating_point_v<T>) {
         if (!std::isfinite(value)) return false;
@@ -36,7 +27,7 @@ bool encodeValue(const T& value, json& out) {
         out = value;
     } else if constexpr (std::is_same_v<T, Timestamp>) {
         out = encodeTimestamp(value);
-    } else if constexpr (IsVector<T>::value) {
+    } else if constexpr (isList<T>) {
         out = json::array();
         for (const auto& element : value) {
             if (!encodeValue(element, out.emplace_back())) return false;
@@ -44,7 +35,7 @@ bool encodeValue(const T& value, json& out) {
     } else {
         out = json::object();
         return forEachField(value, [&](const char* name, const auto& field) {
-            if constexpr (IsOptional<std::remove_cvref_t<decltype(field)>>::value) {
+            if constexpr (isOptional<std::remove_cvref_t<decltype(field)>>) {
                 return !field || encodeValue(*field, out[name]);
             } else {
                 return encodeValue(field, out[name]);
@@ -89,7 +80,7 @@ bool decodeValue(const json& in, T& value) {
             in.is_string() ? decodeTimestamp(in.get_ref<const std::string&>()) : std::nullopt;
         if (!timestamp) return false;
         value = *timestamp;
-    } else if constexpr (IsVector<T>::value) {
+    } else if constexpr (isList<T>) {
         if (!in.is_array()) return false;
         value.clear();
         value.reserve(in.size());
@@ -100,7 +91,7 @@ bool decodeValue(const json& in, T& value) {
         if (!in.is_object()) return false;
         return forEachField(value, [&](const char* name, auto& field) {
             const auto found = in.find(name);
-            if constexpr (IsOptional<std::remove_cvref_t<decltype(field)>>::value) {
+            if constexpr (isOptional<std::remove_cvref_t<decltype(field)>>) {
                 field.reset();
                 return found == in.end() || decodeValue(*found, field.emplace());
             } else {

@@ -14,8 +14,8 @@
 /// Pure functions, any thread.
 namespace vantor {
 
-/// Absent when a floating value anywhere in the record is infinite or not a number: JSON has no
-/// word for those, and writing another one would be a lie.
+/// Absent when a floating value anywhere in the record is infinite or not a number: JSON cannot
+/// represent those, and any other value would be wrong.
 template <class Record>
 std::optional<nlohmann::json> encode(const Record& record);
 

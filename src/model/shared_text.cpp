@@ -1,11 +1,11 @@
 #include "model/shared_text.h"
 
-#include "model/undying.h"
+#include "model/never_destroyed.h"
 
 namespace vantor {
 
 const std::string& SharedText::emptyString() {
-    static const Undying<std::string> empty{std::string{}};
+    static const NeverDestroyed<std::string> empty{std::string{}};
     return empty.get();
 }
 

@@ -13,12 +13,12 @@ namespace vantor {
 class SharedText {
   public:
     SharedText() = default;
-    SharedText(std::string text)  // NOLINT(google-explicit-constructor): it is that text
+    SharedText(std::string text)  // NOLINT(google-explicit-constructor): a text as another type
         : text_(text.empty() ? nullptr : std::make_shared<const std::string>(std::move(text))) {}
     SharedText(const char* text)  // NOLINT(google-explicit-constructor)
         : SharedText(std::string(text)) {}
 
-    /// Two texts that are kept beside each other: who uses one uses the other.
+    /// Two texts that are mostly used together, in one allocation.
     static std::pair<SharedText, SharedText> pair(std::string first, std::string second) {
         struct Both {
             std::string first;

@@ -19,16 +19,7 @@ namespace vantor {
 
 namespace {
 
-template <class T>
-constexpr bool isOptional = false;
-template <class T>
-constexpr bool isOptional<std::optional<T>> = true;
-template <class T>
-constexpr bool isList = false;
-template <class T>
-constexpr bool isList<std::vector<T>> = true;
-
-/// Where a value stands, from the value upwards; only looked at when it cannot be written.
+/// The place of a value, from the value upwards; only used when it cannot be written.
 struct Place {
     const Place* above = nullptr;
     const char* key = nullptr;

@@ -19,8 +19,8 @@ namespace vantor {
 /// not escaped. Bytes that are not UTF-8 (the names of processes can be any bytes) are written as
 /// U+FFFD, by the rules of validUTF8: whatever the texts hold, the document is well-formed.
 ///
-/// The one failure is a floating value that is infinite or not a number: JSON has no word for it.
-/// The error says where that value is. Any thread.
+/// The one failure is a floating value that is infinite or not a number: JSON cannot represent
+/// it. The error names its place in the document. Any thread.
 std::variant<std::string, DescribedError> encodedSnapshot(const SystemSnapshot& snapshot);
 
 }  // namespace vantor

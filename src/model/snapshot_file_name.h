@@ -10,7 +10,7 @@ namespace vantor {
 struct SystemSnapshot;
 
 /// The moment that a snapshot's file is named after: when the snapshot was committed, and `now`
-/// while it is still the one that stands in until the first commit.
+/// for the placeholder that it is until the first commit.
 Timestamp fileMoment(const SystemSnapshot& snapshot, Timestamp now);
 
 /// The name proposed for a snapshot of that local time, e.g. "Vantor-2026-02-03-090507.json": the

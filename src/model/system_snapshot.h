@@ -29,7 +29,7 @@ struct SystemSnapshot {
 
     bool operator==(const SystemSnapshot&) const = default;
 
-    /// What stands in until the first commit. Its timestamp is the earliest that the clock's type
+    /// The placeholder until the first commit. Its timestamp is the earliest that the clock's type
     /// can hold, so any real one is later.
     static const SystemSnapshot& empty();
 };

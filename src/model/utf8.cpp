@@ -11,14 +11,14 @@ struct Sequence {
     bool isWhole = false;
 };
 
-/// What the first bytes are: a whole character, or as many as could have begun one.
+/// The length of the first character, or of the bytes that could have begun one.
 Sequence leadingSequence(std::string_view bytes) {
     const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
     const unsigned char lead = at(0);
     if (lead < 0x80) return {1, true};
     if (lead < 0xC2 || lead > 0xF4) return {1, false};
     const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    // The second byte's range shuts out overlong forms, surrogates and too large values.
+    // The second byte's range excludes overlong forms, surrogates and too large values.
     unsigned char lowest = 0x80, highest = 0xBF;
     if (lead == 0xE0) lowest = 0xA0;
     if (lead == 0xED) highest = 0x9F;

@@ -15,8 +15,9 @@ std::string_view validUTF8(std::string_view bytes, std::string& mended);
 /// The same as a text of its own.
 std::string repairedUTF8(std::string_view bytes);
 
-/// For texts that tell things apart: with each byte that belongs to no character as `\xE9`, so that
-/// different bytes stay different. A text that spells such a byte out itself is not told from it.
+/// For identifiers: each byte that belongs to no character is written as `\xE9`, so that different
+/// bytes stay different. A text that contains such an escape itself cannot be distinguished from
+/// it.
 std::string distinctUTF8(std::string_view bytes);
 
 }  // namespace vantor

@@ -17,7 +17,7 @@ struct VolumeStats {
 
     bool operator==(const VolumeStats&) const = default;
 
-    /// What tells this row from the others across refreshes; equality compares everything.
+    /// Identifies this row across refreshes; equality compares everything.
     const std::string& identity() const { return path; }
 };
 

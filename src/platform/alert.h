@@ -18,7 +18,7 @@ class Alerts {
     virtual ~Alerts() = default;
 
     /// Shows the message and returns when it has been dismissed. The main loop runs meanwhile, so
-    /// whoever calls may be gone by then.
+    /// the caller may have been destroyed by then.
     virtual void runModal(const AlertText& text) = 0;
 };
 

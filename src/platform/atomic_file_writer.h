@@ -8,7 +8,7 @@
 
 namespace vantor {
 
-/// Writes whole files: whoever looks finds the old one or the new one, never a part. Any thread;
+/// Writes whole files: readers find the old one or the new one, never a part. Any thread;
 /// may take as long as the disk does.
 class AtomicFileWriter {
   public:

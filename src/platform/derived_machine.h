@@ -13,9 +13,7 @@ class DerivedMachine : public Machine {
     explicit DerivedMachine(std::shared_ptr<Machine> origin) : origin_(std::move(origin)) {}
 
     Accelerators& accelerators() override { return origin_->accelerators(); }
-    DynamicStore& dynamicStore() override { return origin_->dynamicStore(); }
     GraphicsDevices& graphicsDevices() override { return origin_->graphicsDevices(); }
-    HIDEventSystem& hidEventSystem() override { return origin_->hidEventSystem(); }
     HostMemory& hostMemory() override { return origin_->hostMemory(); }
     HostProcessors& hostProcessors() override { return origin_->hostProcessors(); }
     KernelValues& kernelValues() override { return origin_->kernelValues(); }
@@ -23,9 +21,10 @@ class DerivedMachine : public Machine {
     MountedVolumes& mountedVolumes() override { return origin_->mountedVolumes(); }
     NetworkInterfaces& networkInterfaces() override { return origin_->networkInterfaces(); }
     PowerSources& powerSources() override { return origin_->powerSources(); }
+    PrimaryInterface& primaryInterface() override { return origin_->primaryInterface(); }
     ProcessInfo& processInfo() override { return origin_->processInfo(); }
     ProcessTable& processTable() override { return origin_->processTable(); }
-    SystemController& systemController() override { return origin_->systemController(); }
+    Temperatures& temperatures() override { return origin_->temperatures(); }
     WallClock& wallClock() override { return origin_->wallClock(); }
     const PlatformWords& words() const override { return origin_->words(); }
 

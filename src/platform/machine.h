@@ -1,9 +1,7 @@
 #pragma once
 
 #include "platform/accelerators.h"
-#include "platform/dynamic_store.h"
 #include "platform/graphics_devices.h"
-#include "platform/hid_event_system.h"
 #include "platform/host_memory.h"
 #include "platform/host_processors.h"
 #include "platform/kernel_values.h"
@@ -12,9 +10,10 @@
 #include "platform/network_interfaces.h"
 #include "platform/platform_words.h"
 #include "platform/power_sources.h"
+#include "platform/primary_interface.h"
 #include "platform/process_info.h"
 #include "platform/process_table.h"
-#include "platform/system_controller.h"
+#include "platform/temperatures.h"
 #include "platform/wall_clock.h"
 
 namespace vantor {
@@ -26,9 +25,7 @@ class Machine {
     virtual ~Machine() = default;
 
     virtual Accelerators& accelerators() = 0;
-    virtual DynamicStore& dynamicStore() = 0;
     virtual GraphicsDevices& graphicsDevices() = 0;
-    virtual HIDEventSystem& hidEventSystem() = 0;
     virtual HostMemory& hostMemory() = 0;
     virtual HostProcessors& hostProcessors() = 0;
     virtual KernelValues& kernelValues() = 0;
@@ -36,9 +33,10 @@ class Machine {
     virtual MountedVolumes& mountedVolumes() = 0;
     virtual NetworkInterfaces& networkInterfaces() = 0;
     virtual PowerSources& powerSources() = 0;
+    virtual PrimaryInterface& primaryInterface() = 0;
     virtual ProcessInfo& processInfo() = 0;
     virtual ProcessTable& processTable() = 0;
-    virtual SystemController& systemController() = 0;
+    virtual Temperatures& temperatures() = 0;
     virtual WallClock& wallClock() = 0;
     virtual const PlatformWords& words() const = 0;
 };

@@ -25,9 +25,9 @@ std::unique_ptr<NameOrder> makeNativeNameOrder();
 
 /// Has the allocator take as little memory as a program needs whose threads hardly ever ask at the
 /// same time. Before the first other thread.
-void preferLittleMemory();
+void tuneMalloc();
 
-/// Gives memory back that the start took and that nobody uses any more. Any thread; takes about a
+/// Returns memory to the system that was only needed for the start. Any thread; takes about a
 /// millisecond.
 void giveBackUnusedMemory();
 
@@ -37,6 +37,6 @@ std::shared_ptr<BackgroundQueueFactory> makeNativeQueueFactory(
     std::function<void()> prepareThread = {});
 
 /// Makes the calling thread a labelled background one of utility priority.
-void assumeUtilityRole(const std::string& label);
+void setUtilityPriority(const std::string& label);
 
 }  // namespace vantor

@@ -1,60 +1,68 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
+#include <string>
+
+#include "platform/reusable_list.h"
 
 namespace vantor {
 
-/// The interfaces of the machine: their counters, names and addresses. One thread at a time.
+/// The interfaces of the machine with their counters and addresses, all of one moment. One thread
+/// at a time.
 ///
-/// macOS: sysctl with the routing table's path, if_indextoname, getifaddrs, getnameinfo. Linux:
-/// rtnetlink's link and address dumps, answered in the same shapes.
+/// Linux: rtnetlink's link and address dumps. macOS: see platform/darwin/interface_calls.h.
 class NetworkInterfaces {
   public:
-    enum class Family { none, link, ipv4, ipv6, other };
+    /// Bytes.
+    struct Counters {
+        std::uint64_t received = 0;
+        std::uint64_t sent = 0;
 
-    /// 32-bit counters, as the address list carries them.
-    struct LinkData {
+        bool operator==(const Counters&) const = default;
+    };
+    /// Bytes, of a system that counts no further than 32 bits somewhere.
+    struct ShortCounters {
         std::uint32_t received = 0;
         std::uint32_t sent = 0;
-    };
 
-    /// One entry of the address list. An interface has several: one for its link, one for each
-    /// address.
-    struct Entry {
-        const char* name = nullptr;  ///< null when the entry has none; ends with a zero byte
-        std::uint32_t flags = 0;     ///< see the constants below
-        Family family = Family::none;
-        std::optional<LinkData> linkData;           ///< of a link entry that carries it
-        std::array<std::uint8_t, 16> address = {};  ///< IPv4 in the first four bytes
-        std::uint32_t scope = 0;                    ///< IPv6 scope; 0 = none
+        bool operator==(const ShortCounters&) const = default;
     };
-    static constexpr std::uint32_t up = 0x1;
-    static constexpr std::uint32_t loopback = 0x8;
-    static constexpr std::uint32_t pointToPoint = 0x10;
-    static constexpr std::uint32_t running = 0x40;
+    struct Address {
+        bool isIPv6 = false;
+        std::string text;  ///< as numbers; a scope follows behind a "%" ("fe80::1%eth0")
+
+        bool operator==(const Address&) const = default;
+    };
+    /// One interface. A system may tell of one in several records, then what comes last counts.
+    struct Record {
+        std::string name;         ///< any bytes; never empty
+        std::uint32_t index = 0;  ///< which interface it is, whatever it is called; 0 = not known
+        bool isUp = false;
+        bool isRunning = false;
+        bool isLoopback = false;
+        bool isPointToPoint = false;
+        std::optional<Counters> counters;
+        std::optional<ShortCounters> shortCounters;
+        ReusableList<Address> addresses;  ///< in the system's order
+
+        /// Makes it that of another interface, which has nothing but a name. Storage is kept.
+        void reset(std::string_view newName) {
+            name = newName;
+            index = 0;
+            isUp = isRunning = isLoopback = isPointToPoint = false;
+            counters.reset();
+            shortCounters.reset();
+            addresses.clear();
+        }
+    };
+    using List = ReusableList<Record>;
 
     virtual ~NetworkInterfaces() = default;
 
-    /// The shape of sysctl: gives 0 and sets `size` to the value's size, or gives an errno value.
-    /// An empty buffer only asks for the size; one that is too small gives ENOMEM. The path
-    /// {4, 17, 0, 0, 6, 0} is the list of interfaces with their 64-bit counters, as messages.
-    virtual int sysctl(std::span<const int> path, std::span<std::byte> buffer,
-                       std::size_t& size) = 0;
-
-    /// The name of the interface with that index, ended by a zero byte; false when there is none.
-    virtual bool indexToName(std::uint32_t index, std::span<char> name) = 0;
-
-    /// All entries, until freeifaddrs; absent when the call failed, which then needs no free.
-    virtual std::optional<std::span<const Entry>> getifaddrs() = 0;
-    virtual void freeifaddrs() = 0;
-
-    /// The entry's address as numbers, ended by a zero byte; a link-local IPv6 address carries its
-    /// scope ("fe80::1%eth0"). False when it cannot be formatted.
-    virtual bool numericHost(const Entry& entry, std::span<char> text) = 0;
+    /// Replaces the content of `list`; false, with any content, when the interfaces cannot be had
+    /// or there are none. Allocates nothing while they stay the same.
+    virtual bool read(List& list) = 0;
 };
 
 }  // namespace vantor

@@ -16,7 +16,7 @@ struct PlatformWords {
     /// that tells them; empty where all are counted alike.
     std::string_view graphicsLoadNote;
     std::string_view graphicsLoadNoteMark;
-    std::string_view processInterface;   ///< what the system tells of its processes through
+    std::string_view processInterface;   ///< where the figures of processes come from
     std::string_view graphicsInterface;  ///< what publishes graphics figures beside the driver
     std::string_view graphicsTelemetry;  ///< what graphics figures are collected from
     std::string_view quitKeys;           ///< what the user presses to quit, as a text spells it

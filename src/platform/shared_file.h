@@ -13,7 +13,7 @@ namespace vantor {
 /// A small file that several programs may read and write anew. Any thread but the main one: each
 /// call may take as long as the disk does, which is for ever where it hangs.
 ///
-/// An error gives the reason alone, as one sentence: who is told of it did not choose the file.
+/// An error has the reason only, as one sentence: the user did not choose the file.
 class SharedFile {
   public:
     struct Reading {

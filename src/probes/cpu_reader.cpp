@@ -7,7 +7,7 @@
 #include <limits>
 #include <utility>
 
-#include "probes/sysctl.h"
+#include "platform/sysctl.h"
 
 namespace vantor {
 

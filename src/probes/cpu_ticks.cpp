@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "model/checked.h"
+
 namespace vantor {
 
 namespace {
@@ -13,9 +15,9 @@ std::uint64_t growth(std::uint32_t previous, std::uint32_t current) {
 }
 
 std::uint64_t addOrStop(std::uint64_t a, std::uint64_t b) {
-    std::uint64_t sum = 0;
-    if (__builtin_add_overflow(a, b, &sum)) std::abort();
-    return sum;
+    const auto sum = checkedSum(a, b);
+    if (!sum) std::abort();
+    return *sum;
 }
 
 double clampShare(double share) {

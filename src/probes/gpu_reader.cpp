@@ -173,7 +173,7 @@ std::vector<GPUStats> GPUReader::rowsOfDevices(const std::vector<MetalDeviceMeta
 }
 
 std::optional<double> GPUReader::hardwareTemperature(HardwareTemperature& known) const {
-    if (!known) known = hardwareGPUTemperature(temperatures_);
+    if (!known) known = temperatures_.hardware();
     return *known;
 }
 

@@ -3,32 +3,22 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
+#include <utility>
 
-#include "probes/hid_temperature_reader.h"
+#include "probes/hardware_temperature_reader.h"
 
 namespace vantor {
 
-class HardwareTemperatureReader;
-
-/// Where a graphics device's temperature comes from when its driver publishes none. Each is called
-/// on the graphics provider's queue; by default nobody knows anything.
+/// Where a graphics device's temperature comes from when its driver publishes none. Called on the
+/// graphics provider's queue; by default nobody knows anything.
 struct GPUTemperatureSources {
-    using Readings = HIDTemperatureReader::Readings;
-
-    std::function<bool()> isAppleSilicon = [] { return false; };
-    /// The hottest of the controller's keys for this chip's graphics; absent where there is no such
-    /// key or none answers.
-    std::function<std::optional<double>()> hottestGPUKey = [] { return std::optional<double>(); };
-    std::function<Readings()> hidReadings = [] {
-        return std::make_shared<const std::vector<HIDTemperatureReader::Reading>>();
-    };
+    /// Of the graphics processor that is part of the machine's chip.
+    std::function<std::optional<double>()> hardware = [] { return std::optional<double>(); };
 
     /// The machine's own sensors.
-    static GPUTemperatureSources of(std::shared_ptr<HardwareTemperatureReader> sensors);
+    static GPUTemperatureSources of(std::shared_ptr<HardwareTemperatureReader> sensors) {
+        return {[sensors = std::move(sensors)] { return sensors->gpuTemperature(); }};
+    }
 };
-
-/// The temperature of the graphics processor that is part of the machine's chip.
-std::optional<double> hardwareGPUTemperature(const GPUTemperatureSources& sources);
 
 }  // namespace vantor

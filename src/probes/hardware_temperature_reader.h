@@ -1,48 +1,28 @@
 #pragma once
 
 #include <memory>
-#include <mutex>
 #include <optional>
+#include <utility>
 
 #include "platform/machine.h"
-#include "probes/chip_family.h"
-#include "probes/hid_temperature_reader.h"
-#include "probes/smc_temperature_reader.h"
 
 namespace vantor {
 
-/// The machine's temperature sensors, shared by whoever asks for a temperature: what is known of
-/// the platform and of the sensors is found out once for all of them. Any thread, several at once.
+/// The machine's temperature sensors, shared by whoever asks for a temperature, in degrees Celsius;
+/// absent when no sensor tells a plausible one. Keeps the machine alive. Any thread, several at
+/// once: what is known of the sensors is kept by the machine, once for all who ask.
 class HardwareTemperatureReader {
   public:
-    explicit HardwareTemperatureReader(std::shared_ptr<Machine> machine);
+    explicit HardwareTemperatureReader(std::shared_ptr<Machine> machine)
+        : machine_(std::move(machine)) {}
 
-    /// The processor's temperature in degrees Celsius; absent when no sensor tells a plausible one.
-    std::optional<double> cpuTemperature();
+    std::optional<double> cpuTemperature() { return machine_->temperatures().processor(); }
 
-    bool isAppleSilicon() { return platform().isAppleSilicon; }
-
-    /// The controller's keys for the chip's sensors; empty on machines without Apple silicon and
-    /// for chips whose keys nobody knows.
-    SMCTemperatureReader::Keys cachedAppleSiliconCPUKeys() {
-        return cpuTemperatureKeys(platform().family);
-    }
-    SMCTemperatureReader::Keys cachedAppleSiliconGPUKeys() {
-        return gpuTemperatureKeys(platform().family);
-    }
-
-    SMCTemperatureReader& smc() { return smc_; }
-    HIDTemperatureReader& hid() { return hid_; }
+    /// Of the graphics processor that is part of the machine's chip.
+    std::optional<double> gpuTemperature() { return machine_->temperatures().graphics(); }
 
   private:
-    /// Detected on the first call.
-    const ChipPlatform& platform();
-
     std::shared_ptr<Machine> machine_;
-    std::once_flag platformDetection_;
-    ChipPlatform platform_;
-    SMCTemperatureReader smc_;
-    HIDTemperatureReader hid_;
 };
 
 }  // namespace vantor

@@ -6,35 +6,21 @@ namespace vantor {
 
 namespace {
 
-using InterfaceEntry = NetworkInterfaces::Entry;
+using InterfaceRecord = NetworkInterfaces::Record;
 
-class ListGuard {
-  public:
-    explicit ListGuard(NetworkInterfaces& interfaces) : interfaces_(interfaces) {}
-    ListGuard(const ListGuard&) = delete;
-    ListGuard& operator=(const ListGuard&) = delete;
-    ~ListGuard() { interfaces_.freeifaddrs(); }
-
-  private:
-    NetworkInterfaces& interfaces_;
-};
-
-bool isEligible(const InterfaceEntry& entry) {
-    constexpr auto needed = NetworkInterfaces::up | NetworkInterfaces::running;
-    return entry.name && *entry.name != '\0' && (entry.flags & needed) == needed &&
-           (entry.flags & NetworkInterfaces::loopback) == 0;
+bool isEligible(const InterfaceRecord& record) {
+    return record.isUp && record.isRunning && !record.isLoopback;
 }
 
-void takeCounters(InterfaceAccumulator& to, const InterfaceEntry& entry,
-                  const InterfaceDumpReader::Counters& counters) {
-    if (const InterfaceCounters* const wide = counters.find(entry.name)) {
-        to.received = wide->received;
-        to.sent = wide->sent;
-        to.index = wide->index;
+void takeCounters(InterfaceAccumulator& to, const InterfaceRecord& record) {
+    if (record.counters) {
+        to.received = record.counters->received;
+        to.sent = record.counters->sent;
+        to.index = record.index;
         to.uses64BitCounters = true;
-    } else if (entry.linkData) {
-        to.received = entry.linkData->received;
-        to.sent = entry.linkData->sent;
+    } else if (record.shortCounters) {
+        to.received = record.shortCounters->received;
+        to.sent = record.shortCounters->sent;
     }
 }
 
@@ -51,41 +37,24 @@ void clear(InterfaceAccumulator& accumulator) {
 
 }  // namespace
 
-bool InterfaceAccumulators::gather(NetworkInterfaces& interfaces,
-                                   const InterfaceDumpReader::Counters& counters) {
-    const auto list = interfaces.getifaddrs();
-    if (!list) return false;
-    const ListGuard guard(interfaces);
-    if (list->empty()) return false;
+void InterfaceAccumulators::gather(const NetworkInterfaces::List& list) {
     interfaceAccumulatorBuffer_.clear();
-    for (const InterfaceEntry& entry : *list) {
-        if (isEligible(entry)) add(interfaces, entry, counters);
+    for (const InterfaceRecord& record : list) {
+        if (isEligible(record)) add(record);
     }
-    return true;
 }
 
-void InterfaceAccumulators::add(NetworkInterfaces& interfaces, const InterfaceEntry& entry,
-                                const InterfaceDumpReader::Counters& counters) {
-    const auto [accumulator, isNew] = interfaceAccumulatorBuffer_.hold(entry.name);
+void InterfaceAccumulators::add(const InterfaceRecord& record) {
+    const auto [accumulator, isNew] = interfaceAccumulatorBuffer_.hold(record.name);
     if (isNew) clear(accumulator);
-    accumulator.isPointToPoint = (entry.flags & NetworkInterfaces::pointToPoint) != 0;
-    switch (entry.family) {
-        case NetworkInterfaces::Family::link:
-            takeCounters(accumulator, entry, counters);
-            break;
-        case NetworkInterfaces::Family::ipv4:
-            if (interfaces.numericHost(entry, numericHostBuffer_)) {
-                offerIPv4Address(accumulator.ipv4Address, numericHostBuffer_.data());
-            }
-            break;
-        case NetworkInterfaces::Family::ipv6:
-            if (interfaces.numericHost(entry, numericHostBuffer_)) {
-                offerIPv6Address(accumulator.ipv6Address, numericHostBuffer_.data());
-            }
-            break;
-        case NetworkInterfaces::Family::none:
-        case NetworkInterfaces::Family::other:
-            break;
+    accumulator.isPointToPoint = record.isPointToPoint;
+    takeCounters(accumulator, record);
+    for (const NetworkInterfaces::Address& address : record.addresses) {
+        if (address.isIPv6) {
+            offerIPv6Address(accumulator.ipv6Address, address.text.c_str());
+        } else {
+            offerIPv4Address(accumulator.ipv4Address, address.text.c_str());
+        }
     }
 }
 

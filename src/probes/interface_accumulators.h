@@ -1,12 +1,10 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
+#include "platform/name_map.h"
 #include "platform/network_interfaces.h"
-#include "probes/interface_dump_reader.h"
-#include "probes/name_map.h"
 
 namespace vantor {
 
@@ -19,26 +17,24 @@ struct InterfaceAccumulator {
     std::uint64_t sent = 0;
     bool isPointToPoint = false;
     bool uses64BitCounters = false;
-    std::uint16_t index = 0;  ///< of the interface that the 64-bit counters are of
+    std::uint32_t index = 0;  ///< of the interface that the 64-bit counters are of
 };
 
-/// Gathers the interfaces that are up, running and not the loopback from the list of addresses. One
-/// thread at a time.
+/// Gathers the interfaces that are up, running and not the loopback, each under its name with the
+/// counters and addresses that count. One thread at a time.
 class InterfaceAccumulators {
   public:
     using Map = NameMap<InterfaceAccumulator>;
 
-    /// Replaces the content; false when the list cannot be had or is empty.
-    bool gather(NetworkInterfaces& interfaces, const InterfaceDumpReader::Counters& counters);
+    /// Replaces the content.
+    void gather(const NetworkInterfaces::List& list);
 
     const Map& map() const { return interfaceAccumulatorBuffer_; }
 
   private:
-    void add(NetworkInterfaces& interfaces, const NetworkInterfaces::Entry& entry,
-             const InterfaceDumpReader::Counters& counters);
+    void add(const NetworkInterfaces::Record& record);
 
     Map interfaceAccumulatorBuffer_;
-    std::array<char, 1025> numericHostBuffer_{};
 };
 
 }  // namespace vantor

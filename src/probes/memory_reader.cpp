@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "probes/sysctl.h"
+#include "model/checked.h"
+#include "platform/sysctl.h"
 
 namespace vantor {
 
@@ -14,18 +15,9 @@ constexpr std::size_t wordsOffered = 62;
 
 using ByteCount = std::optional<std::uint64_t>;
 
-ByteCount product(std::uint64_t pages, std::uint64_t pageSize) {
-    std::uint64_t bytes = 0;
-    if (__builtin_mul_overflow(pages, pageSize, &bytes)) return std::nullopt;
-    return bytes;
-}
-
 ByteCount sum(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
-    std::uint64_t bytes = 0;
-    if (__builtin_add_overflow(a, b, &bytes) || __builtin_add_overflow(bytes, c, &bytes)) {
-        return std::nullopt;
-    }
-    return bytes;
+    const ByteCount first = checkedSum(a, b);
+    return first ? checkedSum(*first, c) : std::nullopt;
 }
 
 /// Gives the port back, on every path.
@@ -53,12 +45,13 @@ std::optional<MemoryStats> MemoryReader::read() {
     const auto pageSize = host.pageSize(guard.port());
     if (!pageSize) return std::nullopt;
 
-    const ByteCount active = product(words[Layout::active], *pageSize);
-    const ByteCount wired = product(words[Layout::wired], *pageSize);
-    const ByteCount compressed = product(words[Layout::compressor], *pageSize);
+    const ByteCount active = checkedProduct<std::uint64_t>(words[Layout::active], *pageSize);
+    const ByteCount wired = checkedProduct<std::uint64_t>(words[Layout::wired], *pageSize);
+    const ByteCount compressed =
+        checkedProduct<std::uint64_t>(words[Layout::compressor], *pageSize);
     const std::uint64_t cachedPages =
         std::uint64_t{words[Layout::purgeable]} + words[Layout::inactive];
-    const ByteCount cached = product(cachedPages, *pageSize);
+    const ByteCount cached = checkedProduct<std::uint64_t>(cachedPages, *pageSize);
     if (!active || !wired || !compressed || !cached) return std::nullopt;
     const ByteCount inUse = sum(*active, *wired, *compressed);
     if (!inUse) return std::nullopt;

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/name_map.h"
 #include "platform/name_order.h"
-#include "probes/name_map.h"
 
 namespace vantor {
 

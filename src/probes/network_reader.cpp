@@ -1,7 +1,6 @@
 #include "probes/network_reader.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <vector>
 
@@ -14,8 +13,6 @@ namespace {
 
 constexpr double hostnameLifetime = 60.0;         // seconds of uptime
 constexpr double primaryInterfaceLifetime = 5.0;  // likewise
-constexpr std::array<std::string_view, 2> primaryInterfaceKeys{"State:/Network/Global/IPv4",
-                                                               "State:/Network/Global/IPv6"};
 
 double rate(std::uint64_t delta, double elapsed) {
     if (elapsed <= 0) return 0;
@@ -43,9 +40,8 @@ NetworkReader::NetworkReader(std::shared_ptr<Machine> machine)
     : machine_(std::move(machine)), order_(makeNativeNameOrder()) {}
 
 const NetworkStats* NetworkReader::read(bool includePointToPointInterfaces, double uptime) {
-    NetworkInterfaces& interfaces = machine_->networkInterfaces();
-    if (!dumpReader_.read64BitInterfaceCounters(interfaces)) return nullptr;
-    if (!accumulators_.gather(interfaces, dumpReader_.counters())) return nullptr;
+    if (!machine_->networkInterfaces().read(interfaces_)) return nullptr;
+    accumulators_.gather(interfaces_);
     previousSamples_.eraseIf(
         [this](const std::string& name) { return !accumulators_.map().find(name); });
     makeRows(includePointToPointInterfaces, uptime);
@@ -126,14 +122,7 @@ const std::string* NetworkReader::primaryInterfaceName(double uptime) {
     auto& cached = cachedPrimaryInterfaceName_;
     if (!(uptime - lastPrimaryInterfaceLookupUptime_ < primaryInterfaceLifetime)) {
         lastPrimaryInterfaceLookupUptime_ = uptime;
-        const std::string* found = nullptr;
-        for (const std::string_view key : primaryInterfaceKeys) {
-            const PropertyValue* const value = machine_->dynamicStore().copyValue(key);
-            const PropertyDictionary* const dictionary = value ? value->dictionary() : nullptr;
-            found = dictionary ? findText(*dictionary, "PrimaryInterface") : nullptr;
-            if (found && !found->empty()) break;
-            found = nullptr;
-        }
+        const auto found = machine_->primaryInterface().name();
         if (found) {
             if (!cached) cached.emplace();
             assignName(*cached, *found);

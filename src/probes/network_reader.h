@@ -10,10 +10,9 @@
 
 #include "model/network_stats.h"
 #include "platform/machine.h"
+#include "platform/name_map.h"
 #include "probes/interface_accumulators.h"
-#include "probes/interface_dump_reader.h"
 #include "probes/interface_order.h"
-#include "probes/name_map.h"
 
 namespace vantor {
 
@@ -42,7 +41,7 @@ class NetworkReader {
         std::uint64_t sent = 0;
         double uptime = 0;
         bool uses64BitCounters = false;
-        std::uint16_t index = 0;
+        std::uint32_t index = 0;
     };
     struct Deltas {
         std::uint64_t received = 0;
@@ -67,7 +66,7 @@ class NetworkReader {
     double lastHostnameLookupUptime_ = never;
     std::optional<std::string> cachedPrimaryInterfaceName_;
     double lastPrimaryInterfaceLookupUptime_ = never;
-    InterfaceDumpReader dumpReader_;
+    NetworkInterfaces::List interfaces_;
     InterfaceAccumulators accumulators_;
     InterfaceOrder order_;
     NameMap<std::monostate> measuredRateInterfaceBuffer_;

@@ -5,9 +5,10 @@
 #include <limits>
 #include <utility>
 
+#include "model/checked.h"
+#include "platform/sysctl.h"
 #include "platform/time_units.h"
-#include "probes/heaviest.h"
-#include "probes/sysctl.h"
+#include "probes/top_n.h"
 
 namespace vantor {
 
@@ -16,7 +17,7 @@ namespace {
 constexpr std::int64_t defaultMaximumPIDCapacity = 131072;
 constexpr std::size_t spareListEntries = 64;
 // The call counts the buffer's bytes with 31 bits.
-constexpr std::size_t mostListEntries =
+constexpr std::size_t maxListEntries =
     static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()) / sizeof(std::int32_t);
 constexpr int listAttempts = 3;
 constexpr double refreshPeriod = 10.0;
@@ -63,7 +64,7 @@ bool ProcessReader::listPIDs() {
     const auto maximum = static_cast<std::size_t>(storage_.maximumPIDCapacity());
     const std::size_t wanted =
         std::min(maximum, static_cast<std::size_t>(count) + spareListEntries);
-    if (wanted > mostListEntries) return false;
+    if (wanted > maxListEntries) return false;
     if (buffer.size() < wanted) buffer.assign(wanted, 0);
     std::size_t listed = 0;
     for (int attempt = 1;; ++attempt) {
@@ -72,7 +73,7 @@ bool ProcessReader::listPIDs() {
         listed = static_cast<std::size_t>(answer);
         if (buffer.size() > listed || buffer.size() >= maximum || attempt == listAttempts) break;
         const std::size_t larger = std::min(maximum, buffer.size() * 2);
-        if (larger > mostListEntries) return false;
+        if (larger > maxListEntries) return false;
         buffer.resize(larger);
     }
     // A listing that fills the buffer may be cut short, and part of a list is worse than none.
@@ -105,9 +106,9 @@ bool ProcessReader::readProcess(std::int32_t pid, double now, RawProcess& proces
     if (machine_->processTable().taskAllInfo(pid, info) != ProcessTable::taskAllInfoSize) {
         return false;
     }
-    if (__builtin_add_overflow(info.totalUser, info.totalSystem, &process.totalMachTime)) {
-        return false;
-    }
+    const auto totalTime = checkedSum(info.totalUser, info.totalSystem);
+    if (!totalTime) return false;
+    process.totalMachTime = *totalTime;
     process.pid = pid;
     process.identity = {info.startSeconds, info.startMicroseconds};
     process.residentMemoryBytes = info.residentSize;
@@ -179,8 +180,8 @@ void ProcessReader::takeBaseline() {
 ProcessSample ProcessReader::measure(double elapsed) {
     ProcessSample sample;
     sample.all.reserve(storage_.rawProcessBuffer.size());
-    Heaviest byCPU([](const ProcessStats& p) { return p.cpuPercent; });
-    Heaviest byMemory([](const ProcessStats& p) { return p.residentMemoryBytes; });
+    TopN byCPU([](const ProcessStats& p) { return p.cpuPercent; });
+    TopN byMemory([](const ProcessStats& p) { return p.residentMemoryBytes; });
     for (RawProcess& process : storage_.rawProcessBuffer) {
         storage_.nextCPUByPID[process.pid] = {process.identity, process.totalMachTime};
         ProcessStats stats;

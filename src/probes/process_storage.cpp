@@ -3,21 +3,22 @@
 #include <algorithm>
 #include <limits>
 
+#include "model/checked.h"
+
 namespace vantor {
 
 namespace {
 
 constexpr std::int64_t spareEntries = 64;
-constexpr std::int64_t leastTarget = 512;
+constexpr std::int64_t minTarget = 512;
 constexpr std::size_t processStorageOversizeFactor = 4;
 constexpr double processStoragePatience = 30.0;
 
 /// The count and some to spare, within what is ever worth having.
 std::size_t targetFor(std::int64_t count, std::int64_t maximum) {
     if (maximum < 1) return 0;
-    std::int64_t wanted = 0;
-    if (__builtin_add_overflow(count, spareEntries, &wanted)) wanted = maximum;
-    return static_cast<std::size_t>(std::min(std::max(wanted, leastTarget), maximum));
+    const std::int64_t wanted = checkedSum(count, spareEntries).value_or(maximum);
+    return static_cast<std::size_t>(std::min(std::max(wanted, minTarget), maximum));
 }
 
 std::size_t oversizeLimit(std::size_t target) {

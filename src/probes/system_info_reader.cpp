@@ -3,8 +3,8 @@
 #include <string_view>
 
 #include "platform/program_architecture.h"
+#include "platform/sysctl.h"
 #include "probes/kernel_text.h"
-#include "probes/sysctl.h"
 
 namespace vantor {
 

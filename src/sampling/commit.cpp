@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 #include <utility>
 
+#include "sampling/providers.h"
 #include "settings/app_settings.h"
 
 namespace vantor {
@@ -34,7 +36,50 @@ void followHistoryDevice(const std::vector<GPUStats>& gpus, DashboardState& stat
     }
 }
 
-bool applyGPUs(std::vector<GPUStats>&& gpus, DashboardState& state, std::size_t limit) {
+/// How a section's result has changed the state.
+enum class Change {
+    none,
+    told,     ///< nothing to redraw, but to be published
+    revised,  ///< the section is to be redrawn
+};
+
+// One `commitSection` for each section, found by its type: one that is missing does not compile.
+
+Change commitSection(CPUStats&& cpu, DashboardState& state, std::size_t limit) {
+    std::swap(state.snapshot.cpu, cpu);
+    appendToHistory(state.snapshot.cpu.totalUsage, state.histories.cpu, limit);
+    return Change::revised;
+}
+
+Change commitSection(MemoryStats&& memory, DashboardState& state, std::size_t limit) {
+    state.snapshot.memory = memory;
+    appendToHistory(usedFraction(memory), state.histories.memory, limit);
+    return Change::revised;
+}
+
+Change commitSection(NetworkStats&& network, DashboardState& state, std::size_t limit) {
+    appendToHistory(network.downloadBytesPerSecond, state.histories.download, limit);
+    appendToHistory(network.uploadBytesPerSecond, state.histories.upload, limit);
+    state.snapshot.network = std::move(network);
+    return Change::revised;
+}
+
+Change commitSection(SystemInfoStats&& system, DashboardState& state, std::size_t) {
+    if (system == state.snapshot.system) return Change::none;
+    state.snapshot.system = std::move(system);
+    return Change::revised;
+}
+
+Change commitSection(ProcessSample&& sample, DashboardState& state, std::size_t) {
+    state.snapshot.processes = std::move(sample.all);
+    state.processesByCPU = std::move(sample.sortedByCPU);
+    state.processesByMemory = std::move(sample.sortedByMemory);
+    return Change::revised;
+}
+
+Change commitSection(std::vector<GPUStats>&& gpus, DashboardState& state, std::size_t limit) {
+    // That there is nothing is to be published too, once.
+    const bool isFirst = !std::exchange(state.answered.gpus, true);
     const bool isEqual = gpus == state.snapshot.gpus;
     followHistoryDevice(gpus, state);
     if (!isEqual) state.snapshot.gpus = std::move(gpus);
@@ -42,65 +87,34 @@ bool applyGPUs(std::vector<GPUStats>&& gpus, DashboardState& state, std::size_t 
     const bool moves = !current.empty() && current.front().utilization.has_value();
     if (moves) appendToHistory(*current.front().utilization, state.histories.gpu, limit);
     // An unchanged list still moves the graph on while there is a utilization to draw.
-    if (isEqual && !moves) return false;
-    ++state.revisions.gpu;
-    return true;
+    if (!isEqual || moves) return Change::revised;
+    return isFirst ? Change::told : Change::none;
 }
 
-bool applyFastSections(PendingUpdate& update, DashboardState& state, std::size_t limit) {
-    bool changed = false;
-    if (update.cpu) {
-        std::swap(state.snapshot.cpu, *update.cpu);
-        appendToHistory(state.snapshot.cpu.totalUsage, state.histories.cpu, limit);
-        ++state.revisions.cpu;
-        changed = true;
-    }
-    if (update.memory) {
-        state.snapshot.memory = *update.memory;
-        appendToHistory(usedFraction(*update.memory), state.histories.memory, limit);
-        ++state.revisions.memory;
-        changed = true;
-    }
-    if (update.network) {
-        state.snapshot.network = std::move(*update.network);
-        const NetworkStats& network = state.snapshot.network;
-        appendToHistory(network.downloadBytesPerSecond, state.histories.download, limit);
-        appendToHistory(network.uploadBytesPerSecond, state.histories.upload, limit);
-        ++state.revisions.network;
-        changed = true;
-    }
-    if (update.system && *update.system != state.snapshot.system) {
-        state.snapshot.system = std::move(*update.system);
-        ++state.revisions.system;
-        changed = true;
-    }
-    return changed;
+Change commitSection(std::vector<VolumeStats>&& volumes, DashboardState& state, std::size_t) {
+    const bool isFirst = !std::exchange(state.answered.volumes, true);
+    if (volumes == state.snapshot.volumes) return isFirst ? Change::told : Change::none;
+    state.snapshot.volumes = std::move(volumes);
+    return Change::revised;
 }
 
-bool applySlowSections(PendingUpdate& update, DashboardState& state, std::size_t limit) {
-    bool changed = false;
-    if (update.processSample) {
-        state.snapshot.processes = std::move(update.processSample->all);
-        state.processesByCPU = std::move(update.processSample->sortedByCPU);
-        state.processesByMemory = std::move(update.processSample->sortedByMemory);
-        ++state.revisions.processes;
-        changed = true;
-    }
-    // That there is nothing is news too, once.
-    if (update.gpus && !std::exchange(state.answered.gpus, true)) changed = true;
-    if (update.volumes && !std::exchange(state.answered.volumes, true)) changed = true;
-    if (update.gpus && applyGPUs(std::move(*update.gpus), state, limit)) changed = true;
-    if (update.volumes && *update.volumes != state.snapshot.volumes) {
-        state.snapshot.volumes = std::move(*update.volumes);
-        ++state.revisions.storage;
-        changed = true;
-    }
-    if (update.hasPowerUpdate && update.power != state.snapshot.power) {
-        state.snapshot.power = std::move(update.power);
-        ++state.revisions.system;
-        changed = true;
-    }
-    return changed;
+Change commitPower(std::optional<PowerStats>&& power, DashboardState& state) {
+    if (power == state.snapshot.power) return Change::none;
+    state.snapshot.power = std::move(power);
+    return Change::revised;
+}
+
+/// The counter of each section, in the order of pendingSections.
+constexpr std::array sectionRevisions{
+    &Revisions::cpu,       &Revisions::memory, &Revisions::network, &Revisions::system,
+    &Revisions::processes, &Revisions::gpu,    &Revisions::storage};
+static_assert(sectionRevisions.size() == std::tuple_size_v<decltype(pendingSections)>);
+// Power is the one that is not among them; it is drawn with the system's section.
+static_assert(std::tuple_size_v<AllProviders> == sectionRevisions.size() + 1);
+
+bool note(Change change, std::uint64_t Revisions::*revision, DashboardState& state) {
+    if (change == Change::revised) ++(state.revisions.*revision);
+    return change != Change::none;
 }
 
 }  // namespace
@@ -125,9 +139,17 @@ bool trimHistories(Histories& histories, std::size_t limit) {
 
 bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now) {
     state.snapshot.timestamp = now;
-    const bool fast = applyFastSections(update, state, limit);
-    const bool slow = applySlowSections(update, state, limit);
-    return fast || slow;
+    bool changed = false;
+    std::size_t place = 0;
+    const auto apply = [&](auto section) {
+        const auto revision = sectionRevisions[place++];
+        if (auto& result = update.*section)
+            changed |= note(commitSection(std::move(*result), state, limit), revision, state);
+    };
+    std::apply([&](auto... section) { (apply(section), ...); }, pendingSections);
+    if (update.hasPowerUpdate)
+        changed |= note(commitPower(std::move(update.power), state), &Revisions::system, state);
+    return changed;
 }
 
 }  // namespace vantor

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -8,8 +9,12 @@
 #include "sampling/dashboard_state.h"
 #include "sampling/pending_update.h"
 
-/// How arrived results become the state that the views read. Pure functions.
+/// How results become the state that the views read. Pure functions.
 namespace vantor {
+
+/// How long results are collected before they are committed together, so that a tick redraws the
+/// dashboard once instead of eight times.
+inline constexpr std::chrono::nanoseconds commitDelay{30'000'000};
 
 /// The number of samples that a history may hold for that setting.
 std::size_t historyLimit(std::int64_t historyLength);

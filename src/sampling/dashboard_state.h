@@ -35,8 +35,8 @@ struct Revisions {
     bool operator==(const Revisions&) const = default;
 };
 
-/// Which sections have had an answer at all. A list that was asked for and is empty changes
-/// nothing, and yet it is known then that there is nothing.
+/// Which lists have been answered at all. An empty answer changes no revision, but a card shows
+/// that there is nothing only after one.
 struct Answered {
     bool gpus = false;
     bool volumes = false;

@@ -18,7 +18,7 @@ class MainTask : public std::enable_shared_from_this<MainTask> {
     bool isCancelled() const { return loop_ == nullptr; }
 
     void cancel() {
-        // Letting go of both ends the circles: the loop keeps the step, the step keeps this task.
+        // Resetting both breaks the cycle: the loop keeps the step, the step keeps this task.
         const auto loop = std::exchange(loop_, nullptr);
         const Task dropped = std::exchange(step_, Task{});
         if (loop && timer_ != 0) loop->cancel(std::exchange(timer_, 0));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "model/process_sample.h"
@@ -20,10 +21,20 @@ struct PendingUpdate {
     std::optional<PowerStats> power;  ///< means something only with hasPowerUpdate
     bool hasPowerUpdate = false;      ///< "no battery" is a result too
 
-    bool isEmpty() const {
-        return !cpu && !memory && !network && !system && !processSample && !gpus && !volumes &&
-               !hasPowerUpdate;
-    }
+    bool isEmpty() const;
 };
+
+/// The sections that are there or not, in the order in which they are committed; power follows
+/// them.
+inline constexpr auto pendingSections =
+    std::tuple{&PendingUpdate::cpu,    &PendingUpdate::memory,        &PendingUpdate::network,
+               &PendingUpdate::system, &PendingUpdate::processSample, &PendingUpdate::gpus,
+               &PendingUpdate::volumes};
+
+inline bool PendingUpdate::isEmpty() const {
+    const auto isAbsent = [this](auto section) { return !(this->*section).has_value(); };
+    return !hasPowerUpdate &&
+           std::apply([&](auto... section) { return (isAbsent(section) && ...); }, pendingSections);
+}
 
 }  // namespace vantor

@@ -6,8 +6,8 @@ namespace vantor {
 
 bool ProviderGate::begin(double minimumInterval, bool force) {
     const double now = machine_->processInfo().systemUptime();
-    const bool isUsable = minimumInterval > shortestInterval && std::isfinite(minimumInterval);
-    const double interval = isUsable ? minimumInterval : shortestInterval;
+    const bool isUsable = minimumInterval > minInterval && std::isfinite(minimumInterval);
+    const double interval = isUsable ? minimumInterval : minInterval;
     const std::lock_guard guard(lock_);
     if (isInvalidated_) return false;
     if (outstandingRuns_ >= 1) {

@@ -12,12 +12,12 @@ namespace vantor {
 /// and at most one forced run waiting behind it.
 ///
 /// Any thread. The lock is held for the few instructions of each call, never while a probe runs.
-/// Every admitted run must end with finish(), or by startRun() saying no.
+/// Every admitted run must end with finish(), or with startRun() returning false.
 class ProviderGate {
   public:
     /// No interval is shorter than this many seconds; one that is infinite or not a number counts
     /// as this too, so that it cannot block a provider for ever.
-    static constexpr double shortestInterval = 0.1;
+    static constexpr double minInterval = 0.1;
 
     explicit ProviderGate(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
 
@@ -25,8 +25,8 @@ class ProviderGate {
     /// `minimumInterval` seconds of the last start; a forced one only when one is waiting already.
     bool begin(double minimumInterval, bool force);
 
-    /// The admitted run reached the head of its queue. False when the gate is invalidated: the run
-    /// is then over. Time spent waiting in the queue does not count against the interval.
+    /// The admitted run reached the head of its queue. Returns false when the gate is invalidated:
+    /// the run is then over. Time spent waiting in the queue does not count against the interval.
     bool startRun();
 
     /// The run is over, its completion included.

@@ -13,8 +13,8 @@
 
 namespace vantor {
 
-/// One snapshot on its way into a file: made and watched by the main thread, run once on another
-/// one. Both hold it.
+/// The writing of one snapshot into a file: created and watched by the main thread, run once on
+/// another one. Both hold it.
 class SnapshotExport {
   public:
     SnapshotExport(SystemSnapshot snapshot, std::filesystem::path destination,

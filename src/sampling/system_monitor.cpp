@@ -9,15 +9,14 @@ namespace vantor {
 
 namespace {
 
-constexpr double shortestRefreshInterval = 0.5;
-constexpr double longestRefreshInterval = 10.0;
-constexpr double fallbackRefreshInterval = 1.0;
-constexpr double shortestSystemInfoInterval = 5.0;
-
 // Stages of the slow providers' start: reading everything at once would make the first second of
 // the program its most expensive one.
 constexpr std::chrono::nanoseconds stageDelay{300'000'000};
-constexpr int lastStage = 4;
+constexpr int lastStage = [] {
+    int last = 0;
+    forEachProvider([&](auto provider) { last = std::max(last, provider.stage); });
+    return last;
+}();
 
 }  // namespace
 
@@ -49,20 +48,20 @@ SystemMonitor::SystemMonitor(std::shared_ptr<AppSettings> settings,
       machine_(std::move(machine)),
       mainLoop_(std::move(mainLoop)),
       queues_(std::move(queues)),
-      exportPlatform_(std::move(exportPlatform)) {}
+      exportFlow_(std::make_shared<SnapshotExportFlow>(std::move(exportPlatform), machine_,
+                                                       mainLoop_, queues_)) {}
 
 SystemMonitor::~SystemMonitor() {
     cancelTask(monitoringTask_);
     cancelTask(startupTask_);
     cancelTask(pendingCommitTask_);
-    if (exportWorkerTask_) exportWorkerTask_->cancel();
-    cancelTask(exportCompletionTask_);
+    exportFlow_->abandon();
     if (sampler_) sampler_->invalidate();  // a run in progress may keep it alive
 }
 
 void SystemMonitor::observeSettings() {
-    // Observers are told before the settings change; the work waits for the next turn of the loop,
-    // when the new value is in place.
+    // Observers are called before the settings change; the work waits for the next turn of the
+    // loop, when the new value is in place.
     const auto post = [loop = mainLoop_, weak = weak_from_this()](auto work) {
         loop->post([weak, work] {
             if (const auto self = weak.lock()) work(*self);
@@ -83,17 +82,23 @@ void SystemMonitor::restartForNewInterval() {
 }
 
 double SystemMonitor::fastInterval(double refreshInterval) {
-    if (!std::isfinite(refreshInterval)) return fallbackRefreshInterval;
-    return std::clamp(refreshInterval, shortestRefreshInterval, longestRefreshInterval);
+    if (!std::isfinite(refreshInterval)) return AppSettings::fallbackRefreshInterval;
+    return std::clamp(refreshInterval, AppSettings::refreshIntervals.front(),
+                      AppSettings::refreshIntervals.back());
 }
 
 double SystemMonitor::systemInfoInterval(double refreshInterval) {
-    return std::max(fastInterval(refreshInterval), shortestSystemInfoInterval);
+    return std::max(fastInterval(refreshInterval), SystemInfoProvider::minInterval);
 }
 
 std::chrono::nanoseconds SystemMonitor::loopSleep(double refreshInterval) {
     return std::chrono::nanoseconds{
         static_cast<std::chrono::nanoseconds::rep>(fastInterval(refreshInterval) * 1e9)};
+}
+
+void SystemMonitor::exportSnapshot() {
+    // The flow ends before the monitor does, see the destructor.
+    exportFlow_->begin([this]() -> const SystemSnapshot& { return dashboardState().snapshot; });
 }
 
 SystemSampler& SystemMonitor::sampler() {
@@ -188,22 +193,7 @@ void SystemMonitor::sleepUntilStage(const std::shared_ptr<MainTask>& task, int s
 
 void SystemMonitor::runStage(const std::shared_ptr<MainTask>& task, int stage,
                              std::uint64_t generation) {
-    if (!isDashboardLiveResizeActive_) {
-        switch (stage) {
-            case 1:
-                requestProcesses(true, generation);
-                break;
-            case 2:
-                requestGPUs(true, generation);
-                break;
-            case 3:
-                requestPower(true, generation);
-                break;
-            default:
-                requestVolumes(true, generation);
-                break;
-        }
-    }
+    if (!isDashboardLiveResizeActive_) requestStage(stage, true, generation);
     if (stage < lastStage) return sleepUntilStage(task, stage + 1, generation);
     if (mayTick(generation)) slowProvidersEnabled_ = true;
     startupTask_ = nullptr;

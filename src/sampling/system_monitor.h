@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -15,7 +14,7 @@
 #include "sampling/dashboard_state.h"
 #include "sampling/main_task.h"
 #include "sampling/pending_update.h"
-#include "sampling/snapshot_export.h"
+#include "sampling/snapshot_export_flow.h"
 #include "sampling/system_sampler.h"
 #include "settings/app_settings.h"
 
@@ -58,28 +57,21 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     /// While the user resizes the window, ticks ask for nothing and nothing is committed.
     void setDashboardLiveResizeActive(bool active);
 
-    /// Asks the user for a file and writes the snapshot into it that is published when the user
-    /// confirms; in the background, and with an alert only if that fails. Does nothing while an
-    /// earlier export is under way.
+    /// Saves the published snapshot into a file of the user's choice, see SnapshotExportFlow.
     void exportSnapshot();
 
-    /// From the question to the result.
-    bool isExportFlowActive() const { return isExportFlowActive_; }
-
-    /// From the user's confirmation to the result.
-    bool isExportWriting() const { return exportWorkerTask_ != nullptr; }
-
-    /// For when the session ends: true once no file is being written, false after `limit`. A write
-    /// that goes on is brought to its end even without the monitor; if the program ends before,
-    /// the old file stays as it was.
-    bool waitForExport(std::chrono::milliseconds limit) const;
+    bool isExportFlowActive() const { return exportFlow_->isActive(); }
+    bool isExportWriting() const { return exportFlow_->isWriting(); }
+    bool waitForExport(std::chrono::milliseconds limit) const {
+        return exportFlow_->waitUntilWritten(limit);
+    }
 
     std::uint64_t generation() const { return generation_; }
     bool isMonitoring() const { return monitoringTask_ != nullptr; }
     bool slowProvidersEnabled() const { return slowProvidersEnabled_; }
     bool isDashboardLiveResizeActive() const { return isDashboardLiveResizeActive_; }
 
-    /// The seconds between two readings for that setting: 0.5 to 10, and 1 for what is no number.
+    /// The seconds between two readings for that setting, within its bounds.
     static double fastInterval(double refreshInterval);
     static double systemInfoInterval(double refreshInterval);
     static std::chrono::nanoseconds loopSleep(double refreshInterval);
@@ -116,26 +108,19 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     void runStage(const std::shared_ptr<MainTask>& task, int stage, std::uint64_t generation);
     void stopCoordinator(bool invalidatePendingResults);
 
+    template <class Provider>
+    void request(bool force, std::uint64_t generation);
+    void requestStage(int stage, bool force, std::uint64_t generation);
     void requestFastProviders(bool force, std::uint64_t generation);
     void requestSlowProviders(bool force, std::uint64_t generation);
-    void requestProcesses(bool force, std::uint64_t generation);
-    void requestGPUs(bool force, std::uint64_t generation);
-    void requestVolumes(bool force, std::uint64_t generation);
-    void requestPower(bool force, std::uint64_t generation);
-    template <class Result, class Receive>
-    auto deliverTo(Receive receive, std::uint64_t generation);
 
-    template <class Section, class Result>
-    void accept(Section& section, Result&& result);
+    template <class Record>
+    void receive(std::optional<Record> PendingUpdate::*section, std::optional<Record>&& result,
+                 std::uint64_t generation);
     void scheduleCommit();
     void commitPendingUpdate();
     DashboardState copyOfState();
     void trimHistoriesTo(std::int64_t historyLength);
-
-    void saveDialogEnded(std::optional<std::filesystem::path> destination);
-    void writeSnapshotTo(std::filesystem::path destination);
-    static void exportEnded(const std::weak_ptr<SystemMonitor>& monitor,
-                            const std::optional<DescribedError>& error);
 
     Published<DashboardState> dashboardState_;
     Published<bool> isPaused_;
@@ -143,22 +128,17 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     std::shared_ptr<Machine> machine_;
     std::shared_ptr<MainLoop> mainLoop_;
     std::shared_ptr<SerialQueueFactory> queues_;
-    const ExportPlatform exportPlatform_;
+    const std::shared_ptr<SnapshotExportFlow> exportFlow_;
     std::shared_ptr<SystemSampler> sampler_;  // made on first use
     std::shared_ptr<MainTask> monitoringTask_;
     std::shared_ptr<MainTask> startupTask_;
     std::shared_ptr<MainTask> pendingCommitTask_;
-    std::unique_ptr<SaveDialog> saveDialog_;    // while it is open
-    std::unique_ptr<SerialQueue> exportQueue_;  // while a file is written, as are the two below
-    std::shared_ptr<SnapshotExport> exportWorkerTask_;
-    std::shared_ptr<MainTask> exportCompletionTask_;
     Subscription refreshIntervalObservation_;
     Subscription historyLengthObservation_;
     PendingUpdate pendingUpdate_;
     DashboardState spareState_;  // the state before the last one: its storage takes the next copy
     std::uint64_t generation_ = 0;
     bool slowProvidersEnabled_ = false;
-    bool isExportFlowActive_ = false;
     bool isDashboardLiveResizeActive_ = false;
 };
 

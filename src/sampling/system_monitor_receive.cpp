@@ -3,60 +3,56 @@
 #include "sampling/commit.h"
 #include "sampling/system_monitor.h"
 
-/// The road in: results gather in the pending update, and one commit shortly after the first of
-/// them publishes them all together, so that a tick redraws the dashboard once instead of eight
+/// The way in: results are collected in the pending update, and one commit shortly after the first
+/// of them publishes them all together, so that a tick redraws the dashboard once instead of eight
 /// times.
 namespace vantor {
 
-namespace {
-
-constexpr std::chrono::nanoseconds commitDelay{30'000'000};
-
-}  // namespace
-
-template <class Section, class Result>
-void SystemMonitor::accept(Section& section, Result&& result) {
-    section = std::forward<Result>(result);
+template <class Record>
+void SystemMonitor::receive(std::optional<Record> PendingUpdate::*section,
+                            std::optional<Record>&& result, std::uint64_t generation) {
+    if (generation != generation_ || !result) return;
+    pendingUpdate_.*section = std::move(result);
     scheduleCommit();
 }
 
 void SystemMonitor::receiveCPU(std::optional<CPUStats> result, std::uint64_t generation) {
-    if (generation == generation_ && result) accept(pendingUpdate_.cpu, std::move(result));
+    receive(&PendingUpdate::cpu, std::move(result), generation);
 }
 
 void SystemMonitor::receiveMemory(std::optional<MemoryStats> result, std::uint64_t generation) {
-    if (generation == generation_ && result) accept(pendingUpdate_.memory, result);
+    receive(&PendingUpdate::memory, std::move(result), generation);
 }
 
 void SystemMonitor::receiveNetwork(std::optional<NetworkStats> result, std::uint64_t generation) {
-    if (generation == generation_ && result) accept(pendingUpdate_.network, std::move(result));
+    receive(&PendingUpdate::network, std::move(result), generation);
 }
 
 void SystemMonitor::receiveSystemInfo(SystemInfoStats result, std::uint64_t generation) {
-    if (generation == generation_) accept(pendingUpdate_.system, std::move(result));
+    receive(&PendingUpdate::system, std::optional(std::move(result)), generation);
 }
 
 void SystemMonitor::receiveProcesses(ProcessSample result, std::uint64_t generation) {
     // An empty list is a failed listing: this very process exists.
-    if (generation == generation_ && !result.all.empty()) {
-        accept(pendingUpdate_.processSample, std::move(result));
-    }
+    if (result.all.empty()) return;
+    receive(&PendingUpdate::processSample, std::optional(std::move(result)), generation);
 }
 
 void SystemMonitor::receiveGPUs(std::optional<std::vector<GPUStats>> result,
                                 std::uint64_t generation) {
-    if (generation == generation_ && result) accept(pendingUpdate_.gpus, std::move(result));
+    receive(&PendingUpdate::gpus, std::move(result), generation);
 }
 
 void SystemMonitor::receiveVolumes(std::optional<std::vector<VolumeStats>> result,
                                    std::uint64_t generation) {
-    if (generation == generation_ && result) accept(pendingUpdate_.volumes, std::move(result));
+    receive(&PendingUpdate::volumes, std::move(result), generation);
 }
 
 void SystemMonitor::receivePower(const PowerReadResult& result, std::uint64_t generation) {
     if (generation != generation_ || !result.isUpdate()) return;
+    pendingUpdate_.power = result.stats();
     pendingUpdate_.hasPowerUpdate = true;
-    accept(pendingUpdate_.power, result.stats());
+    scheduleCommit();
 }
 
 void SystemMonitor::scheduleCommit() {

@@ -1,80 +1,79 @@
+#include <algorithm>
+#include <type_traits>
 #include <utility>
 
 #include "sampling/system_monitor.h"
 
-/// The road out: which provider is asked with which interval, and how its answer finds back to the
+/// The way out: which provider is asked with which interval, and how its result gets back to the
 /// main thread.
 namespace vantor {
 
 namespace {
 
-constexpr double volumesInterval = 15.0;
-constexpr double powerInterval = 10.0;
+/// What takes a provider's result on the main thread.
+template <class Provider>
+constexpr auto receiverOf = nullptr;
+template <>
+constexpr auto receiverOf<CPUProvider> = &SystemMonitor::receiveCPU;
+template <>
+constexpr auto receiverOf<MemoryProvider> = &SystemMonitor::receiveMemory;
+template <>
+constexpr auto receiverOf<NetworkProvider> = &SystemMonitor::receiveNetwork;
+template <>
+constexpr auto receiverOf<SystemInfoProvider> = &SystemMonitor::receiveSystemInfo;
+template <>
+constexpr auto receiverOf<ProcessProvider> = &SystemMonitor::receiveProcesses;
+template <>
+constexpr auto receiverOf<GPUProvider> = &SystemMonitor::receiveGPUs;
+template <>
+constexpr auto receiverOf<VolumeProvider> = &SystemMonitor::receiveVolumes;
+template <>
+constexpr auto receiverOf<PowerProvider> = &SystemMonitor::receivePower;
+
+/// A record that is the reader's own is copied before it leaves the provider's queue.
+template <class Record>
+std::optional<Record> ownedResult(const Record* record) {
+    return record ? std::optional<Record>(*record) : std::nullopt;
+}
+template <class Record>
+std::remove_cvref_t<Record> ownedResult(Record&& record) {
+    return std::forward<Record>(record);
+}
 
 }  // namespace
 
-/// A completion that takes a result from the provider's queue to `receive` on the main thread.
-template <class Result, class Receive>
-auto SystemMonitor::deliverTo(Receive receive, std::uint64_t generation) {
-    return [weak = weak_from_this(), loop = mainLoop_, receive, generation](Result result) {
-        loop->post([weak, receive, generation, result = std::move(result)]() mutable {
-            if (const auto self = weak.lock()) {
-                (self.get()->*receive)(std::move(result), generation);
-            }
-        });
-    };
+template <class Provider>
+void SystemMonitor::request(bool force, std::uint64_t generation) {
+    const double interval =
+        std::max(fastInterval(settings_->refreshInterval()), Provider::minInterval);
+    sampler().request<Provider>(
+        interval, force,
+        [weak = weak_from_this(), loop = mainLoop_,
+         generation](SystemSampler::Result<Provider> result) {
+            loop->post([weak, generation,
+                        owned = ownedResult(
+                            std::forward<SystemSampler::Result<Provider>>(result))]() mutable {
+                if (const auto self = weak.lock())
+                    (self.get()->*receiverOf<Provider>)(std::move(owned), generation);
+            });
+        },
+        {.includePointToPointInterfaces = settings_->includePointToPointInterfaces()});
+}
+
+void SystemMonitor::requestStage(int stage, bool force, std::uint64_t generation) {
+    forEachProvider([&]<class Provider>(Provider) {
+        if (Provider::stage == stage) request<Provider>(force, generation);
+    });
 }
 
 void SystemMonitor::requestFastProviders(bool force, std::uint64_t generation) {
-    const double interval = fastInterval(settings_->refreshInterval());
-    // Records that are the reader's own are copied before they leave the provider's queue.
-    sampler().requestCPU(interval, force,
-                         [deliver = deliverTo<std::optional<CPUStats>>(
-                              &SystemMonitor::receiveCPU, generation)](const CPUStats* stats) {
-                             deliver(stats ? std::optional<CPUStats>(*stats) : std::nullopt);
-                         });
-    sampler().requestMemory(
-        interval, force,
-        deliverTo<std::optional<MemoryStats>>(&SystemMonitor::receiveMemory, generation));
-    sampler().requestNetwork(
-        settings_->includePointToPointInterfaces(), interval, force,
-        [deliver = deliverTo<std::optional<NetworkStats>>(&SystemMonitor::receiveNetwork,
-                                                          generation)](const NetworkStats* stats) {
-            deliver(stats ? std::optional<NetworkStats>(*stats) : std::nullopt);
-        });
-    sampler().requestSystemInfo(
-        systemInfoInterval(settings_->refreshInterval()), force,
-        deliverTo<SystemInfoStats>(&SystemMonitor::receiveSystemInfo, generation));
+    requestStage(0, force, generation);
 }
 
 void SystemMonitor::requestSlowProviders(bool force, std::uint64_t generation) {
-    requestProcesses(force, generation);
-    requestGPUs(force, generation);
-    requestVolumes(force, generation);
-    requestPower(force, generation);
-}
-
-void SystemMonitor::requestProcesses(bool force, std::uint64_t generation) {
-    sampler().requestProcesses(
-        fastInterval(settings_->refreshInterval()), force,
-        deliverTo<ProcessSample>(&SystemMonitor::receiveProcesses, generation));
-}
-
-void SystemMonitor::requestGPUs(bool force, std::uint64_t generation) {
-    sampler().requestGPUs(
-        fastInterval(settings_->refreshInterval()), force,
-        deliverTo<std::optional<std::vector<GPUStats>>>(&SystemMonitor::receiveGPUs, generation));
-}
-
-void SystemMonitor::requestVolumes(bool force, std::uint64_t generation) {
-    sampler().requestVolumes(volumesInterval, force,
-                             deliverTo<std::optional<std::vector<VolumeStats>>>(
-                                 &SystemMonitor::receiveVolumes, generation));
-}
-
-void SystemMonitor::requestPower(bool force, std::uint64_t generation) {
-    sampler().requestPower(powerInterval, force,
-                           deliverTo<PowerReadResult>(&SystemMonitor::receivePower, generation));
+    forEachProvider([&]<class Provider>(Provider) {
+        if (Provider::stage != 0) request<Provider>(force, generation);
+    });
 }
 
 }  // namespace vantor

@@ -1,31 +1,27 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "model/gpu_stats.h"
 #include "platform/machine.h"
 #include "platform/serial_queue.h"
 #include "platform/unique_function.h"
-#include "probes/cpu_reader.h"
-#include "probes/gpu_reader.h"
-#include "probes/hardware_temperature_reader.h"
-#include "probes/memory_reader.h"
-#include "probes/network_reader.h"
-#include "probes/power_reader.h"
-#include "probes/process_reader.h"
-#include "probes/storage_reader.h"
-#include "probes/system_info_reader.h"
 #include "sampling/provider_gate.h"
+#include "sampling/providers.h"
 
 namespace vantor {
 
-/// The one object that touches the probes: eight providers, each with a serial queue and a gate.
+/// The one object that touches the probes: of each provider of the table a reader, a serial queue
+/// and a gate.
 ///
 /// Requests come from the main thread. An admitted one runs its probe on the provider's queue and
-/// hands the result to `completion` there; a refused one never answers. Work in flight keeps the
+/// hands the result to `completion` there; a refused one never calls it. Work in flight keeps the
 /// gate and the machine, not the sampler: destroying the sampler invalidates the gates, never
 /// waits, and ends the waiting runs without an answer.
 class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
@@ -33,18 +29,28 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     template <class Result>
     using Completion = UniqueFunction<void(Result), 64>;
 
+    /// What a provider's reader returns. A record returned by pointer is null when there is none
+    /// this time; one returned by pointer or reference is the reader's own and valid during the
+    /// call.
+    template <class Provider>
+    using Result = decltype(Provider::read(std::declval<typename Provider::Reader&>(),
+                                           std::declval<Machine&>(), ReadingOptions{}));
+
     /// The labels of the queues, in the order in which they are made.
     static const std::vector<std::string_view>& queueLabels();
 
-    /// Held by shared_ptr alone, because work in flight refers to it weakly.
+    /// Held by shared_ptr only, because work in flight refers to it weakly.
     static std::shared_ptr<SystemSampler> make(std::shared_ptr<Machine> machine,
                                                SerialQueueFactory& queues);
     SystemSampler(const SystemSampler&) = delete;
     SystemSampler& operator=(const SystemSampler&) = delete;
     ~SystemSampler();
 
-    /// A record given by pointer is null when there is none this time; one given by pointer or
-    /// reference is the reader's own and holds for the length of the call.
+    /// Asks for a reading, at most one in `minimumInterval` seconds unless it is forced.
+    template <class Provider>
+    void request(double minimumInterval, bool force, Completion<Result<Provider>> completion,
+                 ReadingOptions options = {});
+
     void requestCPU(double minimumInterval, bool force, Completion<const CPUStats*> completion);
     void requestMemory(double minimumInterval, bool force,
                        Completion<std::optional<MemoryStats>> completion);
@@ -67,36 +73,55 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     /// and before any that is queued later.
     void resetDeltaBaselines();
 
-    /// The gates in the order of queueLabels, for whoever must see them balanced in the end.
+    /// The gates in the order of queueLabels, to check that they are balanced in the end.
     std::vector<std::shared_ptr<const ProviderGate>> gates() const;
 
   private:
-    struct Provider {
+    template <class Provider>
+    struct Slot {
+        explicit Slot(const ReaderSources& sources) : reader(Provider::makeReader(sources)) {}
+
+        typename Provider::Reader reader;  // touched on the provider's queue only
         std::unique_ptr<SerialQueue> queue;
         std::shared_ptr<ProviderGate> gate;
     };
-    enum ProviderIndex { cpu, memory, network, system, processes, gpu, storage, power };
+    template <class... Providers>
+    static std::tuple<Slot<Providers>...> makeSlots(std::tuple<Providers...>,
+                                                    const ReaderSources& sources) {
+        // Each is made in its place: readers are not moved.
+        return std::tuple<Slot<Providers>...>((static_cast<void>(Providers{}), sources)...);
+    }
+    using Slots = decltype(makeSlots(AllProviders{}, std::declval<const ReaderSources&>()));
 
     SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactory& queues);
 
-    template <class Operation, class Answer>
-    void schedule(ProviderIndex provider, double minimumInterval, bool force, Operation operation,
-                  Answer completion);
-    template <class Reset>
-    void submitReset(ProviderIndex provider, Reset reset);
+    template <class Provider>
+    Slot<Provider>& slot() {
+        return std::get<Slot<Provider>>(slots_);
+    }
 
     std::shared_ptr<Machine> machine_;
-    std::vector<Provider> providers_;
-    std::shared_ptr<HardwareTemperatureReader> temperatures_;  // of all providers' readers
-    // Each is touched on its own provider's queue only.
-    CPUReader cpuReader_;
-    MemoryReader memoryReader_;
-    NetworkReader networkReader_;
-    SystemInfoReader systemInfoReader_;
-    ProcessReader processReader_;
-    GPUReader gpuReader_;
-    StorageReader storageReader_;
-    PowerReader powerReader_;
+    Slots slots_;
 };
+
+template <class Provider>
+void SystemSampler::request(double minimumInterval, bool force,
+                            Completion<Result<Provider>> completion, ReadingOptions options) {
+    Slot<Provider>& asked = slot<Provider>();
+    if (!asked.gate->begin(minimumInterval, force)) return;
+    // When the sampler goes while this runs, the run is what keeps it alive; it then ends here, on
+    // the provider's thread, and its queues with it: none of them waits.
+    asked.queue->submit([weak = weak_from_this(), gate = asked.gate, options,
+                         completion = std::move(completion)]() mutable {
+        const auto sampler = weak.lock();
+        if (!sampler) {
+            gate->finish();
+            return;
+        }
+        if (!gate->startRun()) return;
+        completion(Provider::read(sampler->slot<Provider>().reader, *sampler->machine_, options));
+        gate->finish();
+    });
+}
 
 }  // namespace vantor

@@ -141,7 +141,7 @@ double AppSettings::nearestRefreshInterval(double seconds) {
 }
 
 std::int64_t AppSettings::clampHistoryLength(std::int64_t samples) {
-    return std::clamp(samples, shortestHistory, longestHistory);
+    return std::clamp(samples, minHistory, maxHistory);
 }
 
 void AppSettings::applyAppearance() {

@@ -17,20 +17,23 @@ namespace vantor {
 /// at once. Main thread.
 ///
 /// Setters keep what they are given: a value outside the offered ones is stored as it is and
-/// repaired at the next load; whoever uses a value clamps it where that matters.
+/// repaired at the next load; users of a value clamp it where that matters.
 class AppSettings {
   public:
-    /// The refresh intervals on offer, in seconds.
+    /// The refresh intervals to choose from, ascending, in seconds; the first and the last are the
+    /// bounds of every other one.
     static constexpr std::array refreshIntervals{0.5, 1.0, 2.0, 5.0, 10.0};
-    static constexpr std::int64_t shortestHistory = 30;  ///< samples
-    static constexpr std::int64_t longestHistory = 300;
+    /// Used where the setting's is not a number.
+    static constexpr double fallbackRefreshInterval = 1.0;
+    static constexpr std::int64_t minHistory = 30;  ///< samples
+    static constexpr std::int64_t maxHistory = 300;
 
     /// Reads the five keys without writing anything, then applies the appearance once.
     AppSettings(std::shared_ptr<DefaultsStore> defaults,
                 std::shared_ptr<ApplicationAppearance> application);
 
-    /// Takes up what the store has come to know since: for one that was read late. What was set in
-    /// this run stays as it is. Writes nothing.
+    /// Adopts what the store has read since, for a store that was read late. What was set in this
+    /// run stays. Writes nothing.
     void takeUpStored();
 
     double refreshInterval() const { return refreshInterval_.value(); }
@@ -45,7 +48,7 @@ class AppSettings {
     void setIncludePointToPointInterfaces(bool included);
     void setAppearance(Appearance appearance);
 
-    /// The streams of values; observers are told before the value changes.
+    /// The streams of values; observers are called before the value changes.
     Published<double>& refreshIntervalStream() { return refreshInterval_; }
     Published<std::int64_t>& historyLengthStream() { return historyLength_; }
     Published<bool>& showMenuBarStream() { return showMenuBar_; }

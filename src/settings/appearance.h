@@ -5,7 +5,7 @@
 
 namespace vantor {
 
-/// How the program looks: as the desktop does, or one way whatever the desktop does.
+/// How the program looks: like the desktop, or always dark or light.
 enum class Appearance { system, dark, light };
 
 /// All cases, in the order in which they are offered.

@@ -8,7 +8,7 @@ namespace vantor {
 namespace {
 
 struct FoundDefaults {
-    std::optional<IniText> text;  // none: there is something that is no text of preferences
+    std::optional<IniText> text;  // none: the file is damaged
     std::string bytes;
     std::optional<DescribedError> error;
 };
@@ -21,7 +21,7 @@ FoundDefaults lookAtDefaults(SharedFile& file) {
     return {std::move(text), std::move(*reading.bytes), std::nullopt};
 }
 
-/// To be called while no other program is at it.
+/// To be called with the file's lock held.
 FoundDefaults lookAndPutDamageAside(SharedFile& file) {
     FoundDefaults found = lookAtDefaults(file);
     if (found.error || found.text) return found;
@@ -32,7 +32,7 @@ FoundDefaults lookAndPutDamageAside(SharedFile& file) {
 }  // namespace
 
 DefaultsOutcome readDefaults(SharedFile& file) {
-    // Files are replaced as a whole: nobody needs to be kept away for a mere look.
+    // Files are replaced as a whole: reading needs no lock.
     FoundDefaults found = lookAtDefaults(file);
     if (!found.text && !found.error)
         file.withoutOthers([&] { found = lookAndPutDamageAside(file); });

@@ -8,18 +8,18 @@
 
 namespace vantor {
 
-/// What came of reading or writing a file of preferences.
+/// The result of reading or writing a file of preferences.
 struct DefaultsOutcome {
     std::optional<DefaultsValues> values;  ///< what the file holds now, where that is known
     std::optional<DescribedError> error;   ///< the reason alone
 };
 
-// Both take as long as the disk does: any thread but the main one. A file that is no text of
-// preferences is put aside; where that cannot be done, it stays, and that is the error.
+// Both take as long as the disk does: any thread but the main one. A damaged file is put aside;
+// where that fails, it stays, and that is the error.
 
 DefaultsOutcome readDefaults(SharedFile& file);
 
-/// Puts `changes` into what the file holds by then, so that what another program has written
+/// Merges `changes` into the file's present content, so that what another program has written
 /// meanwhile is kept. Writes nothing where that changes nothing.
 DefaultsOutcome mergeDefaults(SharedFile& file, const DefaultsValues& changes);
 

@@ -6,7 +6,7 @@
 
 namespace vantor {
 
-/// A task and whoever waits for it; both hold it.
+/// Shared by a task and the object that waits for it.
 struct DefaultsFile::UnderWay {
     std::mutex mutex;
     std::condition_variable ended;

@@ -14,15 +14,15 @@
 
 namespace vantor {
 
-/// Preferences in a small file, for which nobody waits: it is read and written on a queue that is
-/// there only while it has work. Main thread.
+/// Preferences in a small file that never blocks the program: it is read and written on a queue
+/// that exists only while there is work. Main thread.
 ///
-/// What was set is answered from then on. It is written with the next task, the last value of a
-/// key alone, never two tasks at a time, and never before the file has been read. What could not be
-/// written is kept: it is tried again with the next change, after half a minute, and at the end.
+/// A value that was set is returned from then on. It is written by the next task, only the last
+/// value of each key, one task at a time, and never before the file has been read. A failed write
+/// is kept and tried again with the next change, after half a minute, and at the end.
 class DefaultsFile : public DefaultsStore, public std::enable_shared_from_this<DefaultsFile> {
   public:
-    static constexpr std::chrono::milliseconds readPatience{250};  ///< a start may wait that long
+    static constexpr std::chrono::milliseconds readPatience{250};  ///< how long a start may wait
     static constexpr std::chrono::seconds retryInterval{30};
     static constexpr std::chrono::seconds slowness{2};  ///< after which a disk does not answer
     static constexpr std::chrono::seconds endPatience{3};
@@ -45,20 +45,21 @@ class DefaultsFile : public DefaultsStore, public std::enable_shared_from_this<D
     /// has, nothing is stored but what was set.
     bool waitForRead(std::chrono::milliseconds limit = readPatience);
 
-    /// Called when what the file holds becomes known only after the wait for it.
+    /// Called when the file has been read after the wait for it had ended.
     void setOnLateRead(std::function<void()> onLateRead) { onLateRead_ = std::move(onLateRead); }
 
     std::optional<Value> value(std::string_view key) const override;
     void setValue(std::string_view key, const Value& value) override;
 
-    /// Why what was set is not in the file, as one sentence; empty while it is, or is about to be.
+    /// Why the last values are not in the file, as one sentence; empty while they are, or are being
+    /// written.
     Published<std::string>& notSaved() { return notSaved_; }
 
     /// Tries to write what is not written yet.
     void tryAgain();
 
-    /// Whether all is written within `limit`. For the end, when the main loop runs no more; what
-    /// is then under way is left behind.
+    /// Whether all is written within `limit`. For the end, when the main loop no longer runs; a
+    /// task that is then still running is abandoned.
     bool waitForWrite(std::chrono::milliseconds limit);
 
   private:

@@ -10,8 +10,8 @@ namespace vantor {
 
 /// The platform's store of small per-user values. Main thread.
 ///
-/// A store that cannot be read answers nothing but what it was given, and nobody ever waits for one
-/// that cannot be written: losing a preference must not cost the program.
+/// A store that cannot be read returns only what was set, and one that cannot be written never
+/// blocks: losing a preference must not cost the program.
 class DefaultsStore {
   public:
     using Value = std::variant<bool, std::int64_t, double, std::string>;
@@ -20,7 +20,7 @@ class DefaultsStore {
 
     virtual std::optional<Value> value(std::string_view key) const = 0;
 
-    /// Is answered from then on, and on its way to the disk when the call returns.
+    /// Returned from then on, and on its way to the disk when the call returns.
     virtual void setValue(std::string_view key, const Value& value) = 0;
 };
 

@@ -83,7 +83,7 @@ struct ToIniText {
 std::optional<IniText> IniText::parse(std::string_view bytes) {
     if (bytes.size() > largest || bytes.find('\0') != std::string_view::npos || !isUTF8(bytes))
         return std::nullopt;
-    // With one that stayed, the first key would be another one after the next mark was taken.
+    // All of them: one that stayed would become part of the first key.
     while (bytes.starts_with(byteOrderMark))
         bytes.remove_prefix(byteOrderMark.size());
     IniText ini;

@@ -17,21 +17,21 @@ using DefaultsValues = std::map<std::string, DefaultsStore::Value, std::less<>>;
 /// The text of a file of preferences: lines that are blank, comments (; or #), a [group] or
 /// key=value. Ours is the group [General], which the lines before the first group belong to as
 /// well; of a key that is there twice, the last counts. Whatever is not changed stays as it was
-/// written: comments, keys and groups of others; byte order marks at its
-/// beginning are dropped. No thread, no file.
+/// written: comments, keys and groups of others. Byte order marks at the beginning are dropped. No
+/// thread, no file.
 ///
-/// An ini file holds texts only; what such a text can be read as is its type: true and false,
-/// whole numbers, numbers, and anything else a text. One with commas is a list, which none of ours
-/// is, and gives the empty text.
+/// An ini file holds texts only; the type follows from the text: true and false, whole numbers,
+/// numbers, anything else a text. One with commas is a list, which none of ours is, and becomes the
+/// empty text.
 class IniText {
   public:
-    /// Bytes; what is larger is no file of preferences.
+    /// Bytes; a larger file is not one of preferences.
     static constexpr std::size_t largest = std::size_t{1} << 20;
 
     IniText() = default;
 
-    /// Absent for what is no such text: a picture, a line cut short, zeros, bytes that are no
-    /// UTF-8, too many of them.
+    /// Absent for anything else: a picture, a truncated line, zero bytes, malformed UTF-8, too many
+    /// bytes.
     static std::optional<IniText> parse(std::string_view bytes);
 
     DefaultsValues values() const;

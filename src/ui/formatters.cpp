@@ -54,8 +54,8 @@ QString uptime(double seconds) {
 
 QString fixed(double value, int precision) {
     // The toolkit rounds exact halves up, where printf rounds them to even.
-    constexpr std::size_t mostDigits = std::numeric_limits<double>::max_exponent10 + 32;
-    std::array<char, mostDigits> digits{};
+    constexpr std::size_t maxDigits = std::numeric_limits<double>::max_exponent10 + 32;
+    std::array<char, maxDigits> digits{};
     const std::string_view text = fixedText(digits, value, precision);
     if (text.empty()) return QString::number(value, 'f', precision);
     return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));

@@ -14,8 +14,8 @@ namespace vantor {
 
 namespace {
 
-/// An icon made of the file's name would have the toolkit load its plugins for every kind of
-/// picture there is, at each start.
+/// An icon made from the file's name would make the toolkit load its plugins for every picture
+/// format, at each start.
 class TileEngine : public QIconEngine {
   public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {

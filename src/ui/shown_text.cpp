@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int mostMarks = 4;
+constexpr int maxMarks = 4;
 constexpr char32_t replacement = QChar::ReplacementCharacter;
 
 enum class Treatment { keep, blank, replace, drop, joiner, selector, mark };
@@ -31,7 +31,7 @@ constexpr bool isSelector(char32_t c) {
            isWithin(c, 0x180B, 0x180D) || c == 0x180F;
 }
 
-/// Of letters and marks: format characters are not seen anyway, but for those below.
+/// For letters and marks; format characters are invisible anyway, except those below.
 constexpr bool isInvisible(char32_t c) {
     return c == 0x034F || isWithin(c, 0x115F, 0x1160) || isWithin(c, 0x17B4, 0x17B5) ||
            c == 0x3164 || c == 0xFFA0;
@@ -91,7 +91,7 @@ QString treated(QStringView text) {
         char32_t c = nextOf(text, i);
         const Treatment treatment = treatmentOf(c);
         if (treatment == Treatment::drop) continue;
-        if (treatment == Treatment::mark && ++marks > mostMarks) continue;
+        if (treatment == Treatment::mark && ++marks > maxMarks) continue;
         const bool isAttached = treatment == Treatment::joiner || treatment == Treatment::selector;
         if (treatment == Treatment::replace || (isAttached && before < 0x80)) c = replacement;
         if (treatment == Treatment::blank) c = U' ';

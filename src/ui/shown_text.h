@@ -8,7 +8,7 @@ namespace vantor {
 
 /// A name or path that others have chosen, fit to be painted, put into tool tips, copied and read
 /// aloud: on one line, with nothing in it that changes how the text around it looks or that hides a
-/// difference. Whoever needs the true text takes the record's; the exported document has that.
+/// difference. The true text is the record's, which the exported document has.
 ///
 /// - Control characters, tabs, line breaks (U+2028 and U+2029, too), halves of surrogate pairs,
 ///   private and unassigned code points become U+FFFD, which can be seen.
@@ -20,9 +20,9 @@ namespace vantor {
 /// - Of combining marks in a row, four stay: no language stacks more.
 ///
 /// Its length stays: names are as long as the system lets them be, and what is shown cuts them.
-/// A text that begins like a formula of a spreadsheet stays, too: "-bash" is an ordinary name, a
-/// mark before it would be copied into shells and searches, and spreadsheets ask before they run
-/// what was pasted.
+/// A text that begins like a spreadsheet formula stays, too: "-bash" is an ordinary name, a mark
+/// before it would be copied into shells and searches, and spreadsheets ask before they evaluate
+/// pasted text.
 ///
 /// Ordinary texts come back as they are, without a copy.
 QString shownText(QString text);

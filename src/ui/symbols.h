@@ -11,8 +11,8 @@ namespace vantor::Symbols {
 /// Whether there is a symbol of that name.
 bool exists(const QString& name);
 
-/// Draws symbol `name` as large as fits into the middle of `area`, in `color`, rendered at the
-/// device's own resolution. An unknown name draws nothing.
+/// Draws symbol `name` centred and as large as fits into `area`, in `color`, at the device's own
+/// resolution. An unknown name draws nothing.
 void draw(QPainter& painter, const QRectF& area, const QString& name, const QColor& color);
 
 }  // namespace vantor::Symbols

@@ -82,11 +82,11 @@ QColor card(ColorScheme scheme) {
     return scheme == ColorScheme::dark ? rgb(0.075, 0.085, 0.115, 0.96) : rgb(1, 1, 1, 0.9);
 }
 
-QColor over(const QColor& color, const QColor& ground) {
+QColor over(const QColor& color, const QColor& background) {
     const double a = color.alphaF();
-    return rgb(color.redF() * a + ground.redF() * (1 - a),
-               color.greenF() * a + ground.greenF() * (1 - a),
-               color.blueF() * a + ground.blueF() * (1 - a));
+    return rgb(color.redF() * a + background.redF() * (1 - a),
+               color.greenF() * a + background.greenF() * (1 - a),
+               color.blueF() * a + background.blueF() * (1 - a));
 }
 
 QColor faded(QColor color, double opacity) {
@@ -97,10 +97,10 @@ QColor faded(QColor color, double opacity) {
 QColor labelOn(const QColor& fill, ColorScheme scheme) {
     QColor opaque = card(scheme);
     opaque.setAlpha(255);
-    const double ground = luminance(over(fill, opaque));
-    const double contrastOfWhite = 1.05 / (ground + 0.05);
-    const double contrastOfBlack = (ground + 0.05) / 0.05;
-    // Opaque: on a fill of middle brightness there is no contrast to give away.
+    const double background = luminance(over(fill, opaque));
+    const double contrastOfWhite = 1.05 / (background + 0.05);
+    const double contrastOfBlack = (background + 0.05) / 0.05;
+    // Opaque: on a fill of medium brightness there is no contrast to spare.
     return contrastOfWhite >= contrastOfBlack ? rgb(1, 1, 1) : rgb(0, 0, 0);
 }
 

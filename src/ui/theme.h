@@ -35,8 +35,8 @@ QColor secondaryLabel(ColorScheme scheme);
 /// What cards are filled with; the background shows through a little.
 QColor card(ColorScheme scheme);
 
-/// `color` as it looks over an opaque ground.
-QColor over(const QColor& color, const QColor& ground);
+/// `color` as it looks over an opaque background.
+QColor over(const QColor& color, const QColor& background);
 
 /// `color` at `opacity` of its own.
 QColor faded(QColor color, double opacity);

@@ -57,8 +57,8 @@ QFont font(double size, QFont::Weight weight) {
 
 QFont font(const TextStyle& style) {
     QFont result = font(style.size, style.weight);
-    if (style.leastPixels > QFontInfo(result).pixelSize())
-        result.setPixelSize(static_cast<int>(std::lround(style.leastPixels)));
+    if (style.minPixels > QFontInfo(result).pixelSize())
+        result.setPixelSize(static_cast<int>(std::lround(style.minPixels)));
     return result;
 }
 
@@ -76,7 +76,7 @@ bool differInDigitsOnly(const QString& one, const QString& other) {
 }
 
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics) {
-    // Ten digits to measure: not for the many texts that have none.
+    // Measuring ten digits costs: not for the many texts that have none.
     const bool hasDigits = std::any_of(text.begin(), text.end(), isDigit);
     const double digitWidth = hasDigits ? widestDigit(metrics) : 0;
     double width = 0;

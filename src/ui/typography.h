@@ -10,7 +10,7 @@ namespace vantor {
 struct TextStyle {
     double size = 13;
     QFont::Weight weight = QFont::Normal;
-    double leastPixels = 0;  ///< never smaller than this, whatever the system's font
+    double minPixels = 0;  ///< never smaller than this, whatever the system's font
 
     bool operator==(const TextStyle&) const = default;
 };
@@ -18,18 +18,18 @@ struct TextStyle {
 }  // namespace vantor
 
 /// Text follows the system's font and its size. Sizes are given for a system font of 13 and scale
-/// with the real one.
+/// with the real one. Where a style has no counterpart in that font (rounded digits), the nearest
+/// is used.
 namespace vantor::Typography {
 
 inline constexpr double body = 13;
 inline constexpr double headline = 13;
-// Small text is for figures that are read at arm's length: below this, an ordinary screen turns the
-// digits to mush.
+// Figures are read at arm's length: below this size digits are illegible on an ordinary screen.
 inline constexpr double caption = 11.5;
 inline constexpr double caption2 = 10.5;
 
-/// The longest text worth shaping: whatever is cut off would not fit on any screen.
-inline constexpr qsizetype longestLine = 1024;
+/// The longest text that is shaped: more would not fit on any screen.
+inline constexpr qsizetype maxLineLength = 1024;
 
 /// The system's font at a size.
 QFont font(double size, QFont::Weight weight = QFont::Normal);

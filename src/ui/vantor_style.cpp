@@ -61,11 +61,11 @@ Symbol symbolOf(QStyle::StandardPixmap icon) {
             return {QStringLiteral("desktopcomputer"), {}};
         case QStyle::SP_DriveHDIcon:
             return {QStringLiteral("internaldrive"), {}};
-        // The toolkit's own is looked for in all icon themes of the disk first.
+        // For its own the toolkit first searches all icon themes on the disk.
         case QStyle::SP_LineEditClearButton:
             return {QStringLiteral("xmark.circle"), {}};
-        // A menu bar asks for it at once, and the toolkit's own has it load its plugins for every
-        // kind of picture there is.
+        // A menu bar asks for it at once, and for its own the toolkit loads its plugins for every
+        // picture format.
         case QStyle::SP_ToolBarHorizontalExtensionButton:
             return {isMirrored ? left : right, {}};
         default:
@@ -73,7 +73,7 @@ Symbol symbolOf(QStyle::StandardPixmap icon) {
     }
 }
 
-/// Draws a symbol whenever it is asked to, and so follows the palette.
+/// Draws the symbol anew each time, and so follows the palette.
 class SymbolEngine : public QIconEngine {
   public:
     explicit SymbolEngine(Symbol symbol) : symbol_(std::move(symbol)) {}

@@ -6,8 +6,8 @@ namespace vantor {
 
 /// What the toolkit's own dialogs, menus and boxes look like: plain buttons without pictures, and
 /// the program's symbols where the toolkit has old drawings; a menu bar lies flat on the window's
-/// background. All colours are looked up whenever something is drawn: a style sheet would keep
-/// those of the palette that was in force when it was applied.
+/// background. All colours are looked up when something is drawn: a style sheet would keep those of
+/// the palette at the time it was applied.
 class VantorStyle : public QProxyStyle {
   public:
     VantorStyle();

@@ -20,14 +20,14 @@ class AppearanceTest : public testing::Test {
     void TearDown() override { QApplication::setPalette(paletteOf(ColorScheme::dark)); }
     static void expectReadable() {
         const QPalette palette = QApplication::palette();
-        for (const auto& [text, ground] :
+        for (const auto& [text, background] :
              {std::pair{QPalette::WindowText, QPalette::Window},
               std::pair{QPalette::Text, QPalette::Base},
               std::pair{QPalette::ButtonText, QPalette::Button},
               std::pair{QPalette::ToolTipText, QPalette::ToolTipBase},
               std::pair{QPalette::HighlightedText, QPalette::Highlight}}) {
             const double difference =
-                std::abs(palette.color(text).lightnessF() - palette.color(ground).lightnessF());
+                std::abs(palette.color(text).lightnessF() - palette.color(background).lightnessF());
             EXPECT_GT(difference, 0.35) << text;
         }
     }
@@ -56,7 +56,7 @@ TEST_F(AppearanceTest, BothMarkWhatIsSelectedInOurBlue) {
 }
 
 TEST_F(AppearanceTest, FollowingTheSystemBringsItsOwnPaletteBack) {
-    QApplication::setPalette(QPalette());  // nobody's wish: what the desktop gives
+    QApplication::setPalette(QPalette());  // the desktop's own
     const QPalette before = QApplication::palette();
     appearance.forceDark();
     ASSERT_NE(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));

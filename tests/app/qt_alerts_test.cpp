@@ -10,8 +10,8 @@
 #include <memory>
 #include <string>
 
-#include "app/dialog_desk.h"
-#include "app/qt_export_platform.h"
+#include "app/files/dialog_desk.h"
+#include "app/files/qt_export_platform.h"
 #include "ui/gestures.h"
 #include "ui/rendering.h"
 

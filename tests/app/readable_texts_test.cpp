@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "app/played_status_bar.h"
+#include "app/tray/fake_status_bar.h"
 #include "app/vantor_app.h"
 #include "platform/simulated/simulated_machine.h"
 #include "ui/contrast.h"
@@ -23,7 +23,7 @@
 namespace vantor::readable_texts_test {
 namespace {
 
-constexpr double leastContrast = 4.5;
+constexpr double minContrast = 4.5;
 
 /// The whole program in its own style; every text that can be seen is measured.
 class ReadableTexts : public testing::Test {
@@ -35,7 +35,7 @@ class ReadableTexts : public testing::Test {
         QApplication::setStyle(std::make_unique<VantorStyle>().release());  // takes ownership
         app = makeVantorApp({SimulatedMachine::laptop(),
                              folder.filePath(QStringLiteral("settings.ini")),
-                             std::make_shared<PlayedStatusBar>(), [] {}});
+                             std::make_shared<FakeStatusBar>(), [] {}});
         app->openDashboard();
     }
     void TearDown() override {
@@ -50,7 +50,7 @@ class ReadableTexts : public testing::Test {
     }
 
     static void expectReadable(const QImage& image, const std::string& what) {
-        EXPECT_GE(contrastIn(image), leastContrast) << what << " cannot be read";
+        EXPECT_GE(contrastIn(image), minContrast) << what << " cannot be read";
     }
 
     static void expectReadableMenus(QMenuBar& bar, const std::string& when) {

@@ -14,9 +14,9 @@
 #include <thread>
 
 #include "app/build_info.h"
-#include "app/played_status_bar.h"
+#include "app/tray/fake_status_bar.h"
 #include "platform/simulated/simulated_machine.h"
-#include "sampling/played_export_platform.h"
+#include "sampling/fake_export_platform.h"
 #include "ui/cards/cpu_card.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/explorer/process_explorer_view.h"
@@ -42,7 +42,7 @@ class VantorAppTest : public testing::Test {
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
 
     std::unique_ptr<VantorApp> start() {
-        return makeVantorApp({machine, file, std::make_shared<PlayedStatusBar>(), [] {}});
+        return makeVantorApp({machine, file, std::make_shared<FakeStatusBar>(), [] {}});
     }
     void TearDown() override { QApplication::setPalette(paletteOf(ColorScheme::dark)); }
 
@@ -131,7 +131,7 @@ class VantorAppExportTest : public VantorAppTest {
             mayEnd.wait();
         };
         app = makeVantorApp(
-            {machine, file, std::make_shared<PlayedStatusBar>(), [] {}, user.platform()});
+            {machine, file, std::make_shared<FakeStatusBar>(), [] {}, user.platform()});
         app->openDashboard();
         click(app->dashboardWindow()->dashboard().header().exportButton());
         ASSERT_EQ(user.requests.size(), 1u);
@@ -139,7 +139,7 @@ class VantorAppExportTest : public VantorAppTest {
         ASSERT_EQ(begun.get_future().wait_for(10s), std::future_status::ready);
     }
 
-    PlayedExportPlatform user;
+    FakeExportPlatform user;
     std::promise<void> begun;
     std::promise<void> release;
     std::unique_ptr<VantorApp> app;
@@ -170,8 +170,7 @@ TEST_F(VantorAppExportTest, ADiskThatHangsDelaysTheEndByThreeSecondsAtMost) {
 }
 
 TEST_F(VantorAppExportTest, TheEndClosesADialogAndWritesNothing) {
-    app =
-        makeVantorApp({machine, file, std::make_shared<PlayedStatusBar>(), [] {}, user.platform()});
+    app = makeVantorApp({machine, file, std::make_shared<FakeStatusBar>(), [] {}, user.platform()});
     app->openDashboard();
     click(app->dashboardWindow()->dashboard().header().exportButton());
     EXPECT_EQ(user.openDialogs, 1);

@@ -10,8 +10,8 @@
 
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/simulated/simulated_macs.h"
-#include "sampling/played_export_platform.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_export_platform.h"
+#include "sampling/fake_world.h"
 #include "support/recorded_machine.h"
 
 namespace vantor {
@@ -42,8 +42,8 @@ const std::map<std::string, MakeSimulated>& simulatedMachines() {
 /// Gives a machine something to do, in figures that do not come out even and names that need care.
 void enliven(SimulatedMachine& machine) {
     machine.hostProcessors().growth = {3, 1, 3, 0};
-    machine.networkInterfaces().receivedGrowth = 1'234'567;
-    machine.networkInterfaces().sentGrowth = 7'001;
+    machine.interfaceCalls().receivedGrowth = 1'234'567;
+    machine.interfaceCalls().sentGrowth = 7'001;
     SimulatedProcessTable& table = machine.processTable();
     table.add(1, "/sbin/launchd", 9'437'184);
     table.add(70, "/Applications/An \"App\".app/Contents/MacOS/App", 1'073'741'824);
@@ -57,7 +57,7 @@ void letPass(SimulatedMachine& machine) {
     machine.processTable().spend(71, 1'000'003);
 }
 
-/// A monitor that reads when it is told, and never by itself.
+/// A monitor that reads on request only.
 class ReadingMonitor {
   public:
     ReadingMonitor(std::shared_ptr<Machine> machine, ExportPlatform platform)
@@ -82,10 +82,9 @@ class ReadingMonitor {
     }
 
   private:
-    std::shared_ptr<WoundClock> clock_ = std::make_shared<WoundClock>();
-    std::shared_ptr<ManualMainLoop> loop_ = std::make_shared<ManualMainLoop>(clock_);
-    std::shared_ptr<ManualSerialQueueFactory> queues_ =
-        std::make_shared<ManualSerialQueueFactory>();
+    std::shared_ptr<FakeClock> clock_ = std::make_shared<FakeClock>();
+    std::shared_ptr<FakeMainLoop> loop_ = std::make_shared<FakeMainLoop>(clock_);
+    std::shared_ptr<FakeSerialQueueFactory> queues_ = std::make_shared<FakeSerialQueueFactory>();
     std::shared_ptr<SystemMonitor> monitor_;
 };
 
@@ -113,7 +112,7 @@ DocumentSubject makeDocumentSubject(const std::string& name) {
 
 SystemSnapshot exportSubject(const DocumentSubject& subject,
                              const std::filesystem::path& destination) {
-    PlayedExportPlatform user;
+    FakeExportPlatform user;
     ExportPlatform platform = user.platform();
     platform.files = std::make_shared<PosixAtomicFileWriter>();
     ReadingMonitor monitor(subject.machine, std::move(platform));

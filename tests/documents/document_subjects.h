@@ -30,8 +30,8 @@ SystemSnapshot exportSubject(const DocumentSubject& subject,
                              const std::filesystem::path& destination);
 
 /// The snapshot without what is of the machine that the tests run on: the architecture is replaced
-/// by a placeholder, processes are in the order of their numbers, and their memory is told in pages
-/// of 4096 bytes.
+/// by a placeholder, processes are in the order of their numbers, and their memory is in pages of
+/// 4096 bytes.
 SystemSnapshot withoutTraces(SystemSnapshot snapshot);
 
 }  // namespace vantor

@@ -25,15 +25,6 @@
 namespace vantor {
 namespace {
 
-template <class T>
-constexpr bool isOptional = false;
-template <class T>
-constexpr bool isOptional<std::optional<T>> = true;
-template <class T>
-constexpr bool isList = false;
-template <class T>
-constexpr bool isList<std::vector<T>> = true;
-
 void dumpText(const std::string& text, std::ostream& out) {
     out << "text ";
     for (const char letter : text) {

@@ -10,7 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr char accessible[] = "org.a11y.atspi.Accessible";
-constexpr std::size_t mostElements = 4000;
+constexpr std::size_t maxElements = 4000;
 constexpr int patience = 5000;
 
 QString text(const char* latin) {
@@ -79,9 +79,33 @@ std::vector<AccessibleElement> AssistiveClient::childrenOf(const AccessibleEleme
     return children;
 }
 
+bool AssistiveClient::act(const AccessibleElement& element, const char* action) const {
+    constexpr char actions[] = "org.a11y.atspi.Action";
+    // What the toolkit adds itself, such as a number's increase, it lists by number alone.
+    constexpr int maxActions = 8;
+    int found = 0;
+    while (found < maxActions && answer(*bus_, element.service, element.path.path(), actions,
+                                        "GetName", {found}) != QVariantList{text(action)})
+        ++found;
+    if (found == maxActions) return false;
+    QDBusMessage call = QDBusMessage::createMethodCall(element.service, element.path.path(),
+                                                       text(actions), text("DoAction"));
+    call << found;
+    return bus_->send(call);
+}
+
+bool AssistiveClient::isShowing(const AccessibleElement& element) const {
+    constexpr unsigned showing = 25;  // of the states of the protocol
+    const QVariantList values =
+        answer(*bus_, element.service, element.path.path(), accessible, "GetState");
+    if (values.isEmpty()) return false;
+    const auto states = qdbus_cast<QList<uint>>(values.first());
+    return !states.isEmpty() && ((states.first() >> showing) & 1U) != 0;
+}
+
 void AssistiveClient::collect(const AccessibleElement& element,
                               std::vector<AccessibleElement>& all) const {
-    if (all.size() >= mostElements) return;
+    if (all.size() >= maxElements) return;
     all.push_back(element);
     for (const AccessibleElement& child : childrenOf(element))
         collect(child, all);

@@ -32,6 +32,13 @@ class AssistiveClient {
     /// Every element of the program of that name, outermost first; none when it is not there.
     std::vector<AccessibleElement> walk(const QString& program) const;
 
+    /// Asks an element for one of its actions, and does not wait for what comes of it. False when
+    /// it has no action of that name.
+    bool act(const AccessibleElement& element, const char* action) const;
+
+    /// Whether it is on the screen, as far as its own program can tell.
+    bool isShowing(const AccessibleElement& element) const;
+
   private:
     std::vector<AccessibleElement> childrenOf(const AccessibleElement& element) const;
     QString property(const AccessibleElement& element, const char* name) const;

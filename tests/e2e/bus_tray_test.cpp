@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <optional>
 
-#include "app/notifier_item.h"
+#include "app/tray/notifier_item.h"
 #include "support/event_patience.h"
-#include "support/played_notifier_tray.h"
+#include "support/fake_notifier_tray.h"
 
 #include "e2e/tray_fixture.h"
 
@@ -15,7 +15,7 @@
 namespace vantor::bus_tray_test {
 namespace {
 
-using Manner = PlayedNotifierTray::Manner;
+using Manner = FakeNotifierTray::Manner;
 
 class BusTray : public ProgramInATray {
   protected:
@@ -62,7 +62,7 @@ class BusTray : public ProgramInATray {
     }
 
     QString address_;
-    std::optional<PlayedNotifierTray> tray_;
+    std::optional<FakeNotifierTray> tray_;
 };
 
 TEST_F(BusTray, ItsItemHasTitleIconsAndMenuAndLeadsBack) {

@@ -3,7 +3,7 @@
 #include <QFile>
 
 #include "support/event_patience.h"
-#include "support/played_portal.h"
+#include "support/fake_portal.h"
 
 #include "e2e/export_scene.h"
 
@@ -22,7 +22,7 @@ class ExportThroughAPortal : public ExportScene {
         ASSERT_TRUE(handleEventsUntil([this] { return portal_->asked() == 1; }));
     }
 
-    std::optional<PlayedPortal> portal_;
+    std::optional<FakePortal> portal_;
 };
 
 TEST_F(ExportThroughAPortal, TheChosenFileIsWritten) {

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "app/instance_world.h"
+#include "app/session/instance_world.h"
 
 #include "e2e/program_fixture.h"
 

@@ -94,7 +94,7 @@ class SettingsFaults : public ProgramOnADesktop {
         };
         return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
     }
-    /// What the corner of the settings shows is their ground.
+    /// What the corner of the settings shows is their background.
     bool isLight() const {
         const QImage picture = desktop_.picture();
         return qGray(picture.pixel(settingsArea().topLeft() + QPoint(6, 6))) > 160;

@@ -2,12 +2,12 @@
 #include <memory>
 
 #include "app/run_vantor.h"
-#include "platform/linux/linux_confinement.h"
+#include "platform/linux/confinement/linux_confinement.h"
 #include "platform/native_machine.h"
 
 /// The program as it is, but that a call it is denied ends it: nothing it does may be among them.
 int main(int argc, char** argv) {
-    vantor::preferLittleMemory();
+    vantor::tuneMalloc();
     const char* const display = std::getenv("DISPLAY");
     const auto confinement = std::make_shared<vantor::LinuxConfinement>(
         display ? display : "", vantor::Denial::endsTheProcess);

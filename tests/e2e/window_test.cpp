@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "app/instance_world.h"
+#include "app/session/instance_world.h"
 
 #include "e2e/desktop.h"
 

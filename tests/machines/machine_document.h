@@ -8,7 +8,7 @@
 #include "model/memory_stats.h"
 #include "model/power_read_result.h"
 #include "platform/machine.h"
-#include "platform/simulated/manual_serial_queue.h"
+#include "platform/simulated/fake_serial_queue.h"
 #include "sampling/system_sampler.h"
 
 namespace vantor {
@@ -22,12 +22,12 @@ class MachineWitness {
     /// failed power reading is the text "failure".
     ///
     /// Nothing in it comes from the machine that the tests run on: the architecture is replaced by
-    /// a placeholder, processes are in the order of their numbers, and their memory is told in
-    /// pages of 4096 bytes.
+    /// a placeholder, processes are in the order of their numbers, and their memory is in pages
+    /// of 4096 bytes.
     nlohmann::json ask();
 
   private:
-    ManualSerialQueueFactory queues_;
+    FakeSerialQueueFactory queues_;
     std::shared_ptr<SystemSampler> sampler_;
     bool includePointToPointInterfaces_;
 };

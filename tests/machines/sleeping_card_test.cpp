@@ -11,7 +11,7 @@
 
 #include "machines/machine_document.h"
 
-/// What a whole machine asks of a graphics card that sleeps, whoever of its parts it is that asks.
+/// What a whole machine asks of a sleeping graphics card, through any of its platform calls.
 namespace vantor::sleeping_card_test {
 namespace {
 
@@ -23,8 +23,8 @@ class SleepingCardOfAMachine : public testing::Test {
     void sleep(const std::string& state) const {
         std::ofstream(card / "power/runtime_status") << state << '\n';
     }
-    /// Long enough for all that is sought anew at times, and not idle: of processors that do
-    /// nothing nothing is told, their temperature included.
+    /// Long enough for everything that is listed again at times, and not idle: idle processors have
+    /// no record, their temperature included.
     void live(RecordedMachine& running, MachineWitness& witness) {
         for (int i = 0; i < 30; ++i) {
             witness.ask();

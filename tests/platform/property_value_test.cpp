@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::property_value_test {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "platform/simulated/simulated_graphics.h"
 #include "probes/gpu_statistics.h"
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::gpu_extraction_test {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "probes/gpu_names.h"
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::gpu_matching_test {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::gpu_names_test {
 namespace {

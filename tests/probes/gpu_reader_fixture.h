@@ -67,20 +67,17 @@ class GPUReaderTest : public testing::Test {
         return service;
     }
 
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<SimulatedMachine> machine = std::make_shared<SimulatedMachine>(clock);
     SimulatedGraphicsDevices& graphics = machine->graphicsDevices();
     SimulatedAccelerators& accelerators = machine->accelerators();
 
     std::optional<double> chipTemperature = 47.5;  ///< of the machine's own graphics
     int temperatureReads = 0;
-    GPUReader reader{machine,
-                     {.isAppleSilicon =
-                          [this] {
-                              ++temperatureReads;
-                              return true;
-                          },
-                      .hottestGPUKey = [this] { return chipTemperature; }}};
+    GPUReader reader{machine, {.hardware = [this] {
+                         ++temperatureReads;
+                         return chipTemperature;
+                     }}};
 };
 
 }  // namespace vantor

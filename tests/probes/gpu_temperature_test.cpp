@@ -2,114 +2,37 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <memory>
-#include <vector>
 
-#include "probes/hid_sensors.h"
-#include "sampling/named_row.h"
+#include "platform/simulated/simulated_macs.h"
 
 namespace vantor::gpu_temperature_test {
 namespace {
 
-using Reading = HIDTemperatureReader::Reading;
-
-struct SensorRow : NamedRow {
-    Reading reading;
-    std::optional<double> expected;
-};
-
-class GPUSensor : public testing::TestWithParam<SensorRow> {};
-
-TEST_P(GPUSensor, CountsByItsNameAndValue) {
-    EXPECT_EQ(hottestGPUSensor({&GetParam().reading, 1}), GetParam().expected);
+TEST(GPUTemperatureSources, AreSilentByDefault) {
+    EXPECT_EQ(GPUTemperatureSources{}.hardware(), std::nullopt);
 }
 
-constexpr double infinite = std::numeric_limits<double>::infinity();
-
-INSTANTIATE_TEST_SUITE_P(
-    GPUTemperature, GPUSensor,
-    testing::Values(
-        SensorRow{{"ClusterSensor"}, {"gpu mtr temp sensor3", 41}, 41},
-        SensorRow{{"SecondUnitDie"}, {"pmu2 tdie4", 42}, 42},
-        SensorRow{{"SecondUnitDevice"}, {"pmu2 tdev2", 43}, 43},
-        SensorRow{{"PointEndingWithG"}, {"pmu tp3g", 44}, 44},
-        SensorRow{{"ShortestPoint"}, {"pmu tpg", 44}, 44},
-        SensorRow{{"GPUAnywhere"}, {"soc gpu 1", 45}, 45},
-        SensorRow{{"PointEndingOtherwise"}, {"pmu tp3s", 46}, {}},
-        SensorRow{{"PointInside"}, {"x pmu tp3g", 46}, {}},
-        SensorRow{{"FirstUnitDie"}, {"pmu tdie4", 46}, {}},
-        SensorRow{{"SecondUnitInside"}, {"x pmu2 tdie4", 46}, {}},
-        SensorRow{{"OtherSensor"}, {"nand ch0 temp", 46}, {}}, SensorRow{{"NoName"}, {"", 46}, {}},
-        SensorRow{{"NamesAreLowerCasedAlready"}, {"GPU", 46}, {}},
-        SensorRow{{"TenThousandOfADeviceSensorIs39AndABit"}, {"pmu2 tdev1", 10000}, 39.0625},
-        SensorRow{{"DeviceSensorAt130IsDegrees"}, {"pmu2 tdev1", 130}, 130},
-        SensorRow{{"DeviceSensorAbove130IsNot"}, {"pmu2 tdev1", 130.56}, 130.56 / 256},
-        SensorRow{{"DeviceSensorTooHighAlsoWhenDivided"}, {"pmu2 tdev1", 38400}, {}},
-        SensorRow{{"DeviceSensorAnywhereInAGPUName"}, {"gpu tdev", 12800}, 50},
-        SensorRow{{"OtherSensorsAreNotDivided"}, {"gpu", 12800}, {}},
-        SensorRow{{"GPUSensorOf150IsRejected"}, {"gpu 1", 150}, {}},
-        SensorRow{{"JustBelow150"}, {"gpu 1", 149.99}, 149.99},
-        SensorRow{{"Zero"}, {"gpu 1", 0}, {}}, SensorRow{{"JustAboveZero"}, {"gpu 1", 0.01}, 0.01},
-        SensorRow{{"Negative"}, {"gpu 1", -5}, {}},
-        SensorRow{{"Infinite"}, {"pmu2 tdev1", infinite}, {}},
-        SensorRow{{"MinusInfinite"}, {"gpu", -infinite}, {}},
-        SensorRow{{"NotANumber"}, {"gpu", std::numeric_limits<double>::quiet_NaN()}, {}}),
-    rowName<SensorRow>);
-
-TEST(GPUTemperature, TheHottestSensorCounts) {
-    EXPECT_EQ(hottestGPUSensor(std::vector<Reading>{
-                  {"gpu 1", 40}, {"pmu tdie1", 90}, {"gpu 2", 60}, {"gpu 3", 150}, {"gpu 4", 50}}),
-              60);
-    EXPECT_EQ(hottestGPUSensor(std::vector<Reading>{{"pmu tdie1", 90}, {"gpu 3", 150}}),
-              std::nullopt);
-    EXPECT_EQ(hottestGPUSensor({}), std::nullopt);
+TEST(GPUTemperatureSources, AskTheSensorsThatTheProcessorAsks) {
+    const auto machine = makeAppleSiliconMac(SimulatedChip::a18);
+    const auto sensors = std::make_shared<HardwareTemperatureReader>(machine);
+    const auto sources = GPUTemperatureSources::of(sensors);
+    EXPECT_EQ(sensors->cpuTemperature(), 58.25);
+    EXPECT_EQ(sources.hardware(), 49.5);
+    EXPECT_EQ(machine->hidEventSystem().enumerations(), 1);
 }
 
-class HardwareGPUTemperature : public testing::Test {
-  protected:
-    HardwareGPUTemperature() {
-        sources.isAppleSilicon = [this] { return isAppleSilicon; };
-        sources.hottestGPUKey = [this] {
-            ++keyReads;
-            return hottestKey;
-        };
-        sources.hidReadings = [this] {
-            ++hidReads;
-            return std::make_shared<const std::vector<Reading>>(readings);
-        };
+TEST(GPUTemperatureSources, KeepTheMachineThatTheyAsk) {
+    auto machine = makeAppleSiliconMac(SimulatedChip::m1);
+    const std::weak_ptr<Machine> watch = machine;
+    {
+        const auto sources =
+            GPUTemperatureSources::of(std::make_shared<HardwareTemperatureReader>(machine));
+        machine.reset();
+        EXPECT_FALSE(watch.expired());
+        EXPECT_EQ(sources.hardware(), 52.75);
     }
-
-    bool isAppleSilicon = true;
-    std::optional<double> hottestKey;
-    std::vector<Reading> readings{{"gpu 1", 40}};
-    int keyReads = 0;
-    int hidReads = 0;
-    GPUTemperatureSources sources;
-};
-
-TEST_F(HardwareGPUTemperature, IsAbsentOnOtherProcessorsWhichAreNotAsked) {
-    isAppleSilicon = false;
-    hottestKey = 50;
-    EXPECT_EQ(hardwareGPUTemperature(sources), std::nullopt);
-    EXPECT_EQ(keyReads + hidReads, 0);
-}
-
-TEST_F(HardwareGPUTemperature, IsTheHottestKeyAndThenNoSensorIsAsked) {
-    hottestKey = 35;
-    EXPECT_EQ(hardwareGPUTemperature(sources), 35);
-    EXPECT_EQ(hidReads, 0);
-}
-
-TEST_F(HardwareGPUTemperature, IsTheHottestSensorWhenNoKeyAnswers) {
-    EXPECT_EQ(hardwareGPUTemperature(sources), 40);
-    EXPECT_EQ(keyReads, 1);
-}
-
-TEST_F(HardwareGPUTemperature, IsAbsentWhenNobodyKnowsOne) {
-    readings.clear();
-    EXPECT_EQ(hardwareGPUTemperature(sources), std::nullopt);
-    EXPECT_EQ(hardwareGPUTemperature({}), std::nullopt);
+    EXPECT_TRUE(watch.expired());
 }
 
 }  // namespace

@@ -13,20 +13,20 @@ namespace vantor {
 /// A reader on a machine with "en0", which is the primary one, and nothing else.
 class NetworkReaderTest : public testing::Test {
   protected:
-    using Family = NetworkInterfaces::Family;
+    using Family = InterfaceCalls::Family;
 
     NetworkReaderTest() {
         add("en0").addresses = {{Family::ipv4, "192.168.1.2"}};
         setPrimary("en0");
     }
 
-    SimulatedNetworkInterfaces::Interface& add(const std::string& name) {
+    SimulatedInterfaceCalls::Interface& add(const std::string& name) {
         auto& made = net.named(name);
         made.received = 1'000'000;
         made.sent = 500'000;
         return made;
     }
-    SimulatedNetworkInterfaces::Interface& at(const std::string& name) { return net.named(name); }
+    SimulatedInterfaceCalls::Interface& at(const std::string& name) { return net.named(name); }
     void remove(const std::string& name) {
         std::erase_if(net.interfaces, [&](const auto& i) { return i.name == name; });
     }
@@ -63,7 +63,7 @@ class NetworkReaderTest : public testing::Test {
     }
 
     std::shared_ptr<SimulatedMachine> machine = std::make_shared<SimulatedMachine>();
-    SimulatedNetworkInterfaces& net = machine->networkInterfaces();
+    SimulatedInterfaceCalls& net = machine->interfaceCalls();
     NetworkReader reader{machine};
     bool includePointToPoint = false;
     double uptime = 1000;

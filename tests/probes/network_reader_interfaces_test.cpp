@@ -16,19 +16,19 @@ using testing::Optional;
 using testing::StrEq;
 
 TEST_F(NetworkReaderTest, OnlyInterfacesThatAreUpAndRunningAndNoLoopbackAreEligible) {
-    add("down").flags = NetworkInterfaces::running;
-    add("idle").flags = NetworkInterfaces::up;
-    add("lo0").flags |= NetworkInterfaces::loopback;
+    add("down").flags = InterfaceCalls::running;
+    add("idle").flags = InterfaceCalls::up;
+    add("lo0").flags |= InterfaceCalls::loopback;
     add("en1");
     read();
     EXPECT_THAT(names(read()), ElementsAre("en0", "en1"));
 }
 
 TEST_F(NetworkReaderTest, EntriesWithoutANameAreSkipped) {
-    NetworkInterfaces::Entry nameless;
-    nameless.flags = NetworkInterfaces::up | NetworkInterfaces::running;
-    nameless.family = NetworkInterfaces::Family::link;
-    NetworkInterfaces::Entry empty = nameless;
+    InterfaceCalls::Entry nameless;
+    nameless.flags = InterfaceCalls::up | InterfaceCalls::running;
+    nameless.family = InterfaceCalls::Family::link;
+    InterfaceCalls::Entry empty = nameless;
     empty.name = "";
     net.extraEntries = {nameless, empty};
     read();
@@ -36,12 +36,12 @@ TEST_F(NetworkReaderTest, EntriesWithoutANameAreSkipped) {
 }
 
 TEST_F(NetworkReaderTest, EntriesWithoutAnAddressOrOfAnotherFamilyMakeAnInterfaceAllTheSame) {
-    NetworkInterfaces::Entry entry;
+    InterfaceCalls::Entry entry;
     entry.name = "bare";
-    entry.flags = NetworkInterfaces::up | NetworkInterfaces::running;
+    entry.flags = InterfaceCalls::up | InterfaceCalls::running;
     net.extraEntries = {entry};
     entry.name = "other";
-    entry.family = NetworkInterfaces::Family::other;
+    entry.family = InterfaceCalls::Family::other;
     net.extraEntries.push_back(entry);
     read();
     EXPECT_THAT(names(read()), ElementsAre("en0", "bare", "other"));
@@ -73,7 +73,7 @@ TEST_F(NetworkReaderTest, NothingOfAnEarlierPrimaryIsLeftWhenNoInterfaceIsEligib
 }
 
 TEST_F(NetworkReaderTest, PointToPointInterfacesAreLeftOutUnlessAskedFor) {
-    add("utun0").flags |= NetworkInterfaces::pointToPoint;
+    add("utun0").flags |= InterfaceCalls::pointToPoint;
     read();
     EXPECT_THAT(names(read()), ElementsAre("en0"));
     includePointToPoint = true;
@@ -84,7 +84,7 @@ TEST_F(NetworkReaderTest, PointToPointInterfacesAreLeftOutUnlessAskedFor) {
 }
 
 TEST_F(NetworkReaderTest, PointToPointInterfacesThatAreLeftOutKeepTheirBaseline) {
-    add("utun0").flags |= NetworkInterfaces::pointToPoint;
+    add("utun0").flags |= InterfaceCalls::pointToPoint;
     read();
     at("utun0").received += 9000;
     read();
@@ -96,7 +96,7 @@ TEST_F(NetworkReaderTest, PointToPointInterfacesThatAreLeftOutKeepTheirBaseline)
 }
 
 TEST_F(NetworkReaderTest, APrimaryPointToPointInterfaceThatIsLeftOutYieldsToTheFirstRow) {
-    add("utun0").flags |= NetworkInterfaces::pointToPoint;
+    add("utun0").flags |= InterfaceCalls::pointToPoint;
     setPrimary("utun0");
     read();
     EXPECT_THAT(read()->primaryInterfaceName, Optional(StrEq("en0")));
@@ -105,16 +105,15 @@ TEST_F(NetworkReaderTest, APrimaryPointToPointInterfaceThatIsLeftOutYieldsToTheF
 }
 
 TEST_F(NetworkReaderTest, TheLastEntryOfANameSaysWhetherItIsPointToPoint) {
-    NetworkInterfaces::Entry entry;
+    InterfaceCalls::Entry entry;
     entry.name = "en0";
-    entry.flags =
-        NetworkInterfaces::up | NetworkInterfaces::running | NetworkInterfaces::pointToPoint;
+    entry.flags = InterfaceCalls::up | InterfaceCalls::running | InterfaceCalls::pointToPoint;
     net.extraEntries = {entry};
     read();
     EXPECT_FALSE(read()->interfaces.front().isPointToPoint);
 }
 
-using Addresses = std::vector<SimulatedNetworkInterfaces::Address>;
+using Addresses = std::vector<SimulatedInterfaceCalls::Address>;
 using Text = std::optional<std::string>;
 
 struct AddressesRow {
@@ -126,8 +125,8 @@ struct AddressesRow {
     friend void PrintTo(const AddressesRow& row, std::ostream* out) { *out << row.name; }
 };
 
-constexpr auto ipv4 = NetworkInterfaces::Family::ipv4;
-constexpr auto ipv6 = NetworkInterfaces::Family::ipv6;
+constexpr auto ipv4 = InterfaceCalls::Family::ipv4;
+constexpr auto ipv6 = InterfaceCalls::Family::ipv6;
 
 class AddressChoice : public NetworkReaderTest, public testing::WithParamInterface<AddressesRow> {};
 

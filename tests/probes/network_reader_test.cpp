@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "probes/network_reader_fixture.h"
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::network_reader_test {
 namespace {
@@ -199,9 +199,9 @@ TEST_F(NetworkReaderTest, AnInterfaceThatLeftIsForgotten) {
 TEST_F(NetworkReaderTest, AnInterfaceThatWasDownForAWhileIsForgotten) {
     add("en1");
     read();
-    at("en1").flags = NetworkInterfaces::running;
+    at("en1").flags = InterfaceCalls::running;
     read();
-    at("en1").flags |= NetworkInterfaces::up;
+    at("en1").flags |= InterfaceCalls::up;
     at("en1").received += 1000;
     EXPECT_EQ(row(read(), "en1")->downloadBytesPerSecond, 0);
 }
@@ -234,7 +234,7 @@ TEST_F(NetworkReaderTest, ResetMakesTheNextReadAFirstOne) {
 }
 
 struct Failure : NamedRow {
-    void (*arrange)(SimulatedNetworkInterfaces&);
+    void (*arrange)(SimulatedInterfaceCalls&);
 };
 class FailedNetworkRead : public NetworkReaderTest, public testing::WithParamInterface<Failure> {};
 
@@ -256,21 +256,20 @@ TEST_P(FailedNetworkRead, GivesNothingAndKeepsTheBaselines) {
 INSTANTIATE_TEST_SUITE_P(
     Failures, FailedNetworkRead,
     testing::Values(
-        Failure{{"OfTheSize"}, [](SimulatedNetworkInterfaces& n) { n.sizeErrors = {EIO}; }},
-        Failure{{"OfTheList"}, [](SimulatedNetworkInterfaces& n) { n.listErrors = {EIO}; }},
+        Failure{{"OfTheSize"}, [](SimulatedInterfaceCalls& n) { n.sizeErrors = {EIO}; }},
+        Failure{{"OfTheList"}, [](SimulatedInterfaceCalls& n) { n.listErrors = {EIO}; }},
         Failure{{"AMessageOfType18ShorterThan160Bytes"},
-                [](SimulatedNetworkInterfaces& n) {
+                [](SimulatedInterfaceCalls& n) {
                     n.rawList = std::vector<std::byte>(159);
                     (*n.rawList)[0] = std::byte{159};
                     (*n.rawList)[2] = std::byte{5};
                     (*n.rawList)[3] = std::byte{18};
                 }},
         Failure{{"AnIndexThatLostItsNameMeanwhile"},
-                [](SimulatedNetworkInterfaces& n) { n.interfaces[0].hasName = false; }},
-        Failure{{"OfTheAddresses"},
-                [](SimulatedNetworkInterfaces& n) { n.addressListFails = true; }},
+                [](SimulatedInterfaceCalls& n) { n.interfaces[0].hasName = false; }},
+        Failure{{"OfTheAddresses"}, [](SimulatedInterfaceCalls& n) { n.addressListFails = true; }},
         Failure{{"NoAddressesAtAll"},
-                [](SimulatedNetworkInterfaces& n) { n.addressListIsEmpty = true; }}),
+                [](SimulatedInterfaceCalls& n) { n.addressListIsEmpty = true; }}),
     rowName<Failure>);
 
 TEST_F(NetworkReaderTest, OnABrokenMachineGivesNothing) {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/simulated/simulated_machine.h"
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::power_reader_test {
 namespace {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/simulated/simulated_machine.h"
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::storage_reader_test {
 namespace {

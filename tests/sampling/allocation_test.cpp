@@ -109,41 +109,42 @@ struct Road {
 };
 
 TEST(Allocations, FromRequestToCompletionAreNone) {
-    Road road;
-    const auto pass = [&road] {
-        road.sampler->requestCPU(0.5, true, [&road](const CPUStats* stats) {
-            if (stats) ++road.usages;
-            road.answered.release();
+    Road pipeline;
+    const auto pass = [&pipeline] {
+        pipeline.sampler->requestCPU(0.5, true, [&pipeline](const CPUStats* stats) {
+            if (stats) ++pipeline.usages;
+            pipeline.answered.release();
         });
-        road.answered.acquire();
+        pipeline.answered.acquire();
     };
     EXPECT_EQ(allocationsOf(pass), 0u);
-    EXPECT_EQ(road.usages, warmUp + passes - 1);
+    EXPECT_EQ(pipeline.usages, warmUp + passes - 1);
 }
 
 TEST(Allocations, OfACompletionAsLargeAsTheMonitorsAreNone) {
-    Road road;
+    Road pipeline;
     // Two owners, a member function and a generation, as in the monitor's deliveries.
     const std::weak_ptr<int> owner;
     const std::shared_ptr<int> loop;
     const auto pass = [&] {
-        road.sampler->requestCPU(
+        pipeline.sampler->requestCPU(
             0.5, true,
-            [owner, loop, &road, spare = std::array<std::uint64_t, 2>{}](const CPUStats*) {
+            [owner, loop, &pipeline, spare = std::array<std::uint64_t, 2>{}](const CPUStats*) {
                 static_cast<void>(spare);
-                road.answered.release();
+                pipeline.answered.release();
             });
-        road.answered.acquire();
+        pipeline.answered.acquire();
     };
     EXPECT_EQ(allocationsOf(pass), 0u);
 }
 
 TEST(Allocations, OfARefusedRequestAreNone) {
-    Road road;
-    requestProvider(*road.sampler, 0, 1, false, [&road] { road.answered.release(); });
-    road.answered.acquire();
+    Road pipeline;
+    requestProvider(*pipeline.sampler, 0, 1, false, [&pipeline] { pipeline.answered.release(); });
+    pipeline.answered.acquire();
     // The clock stands still: every later unforced request comes too early.
-    EXPECT_EQ(allocationsOf([&road] { requestProvider(*road.sampler, 0, 1, false, [] {}); }), 0u);
+    EXPECT_EQ(
+        allocationsOf([&pipeline] { requestProvider(*pipeline.sampler, 0, 1, false, [] {}); }), 0u);
 }
 
 }  // namespace

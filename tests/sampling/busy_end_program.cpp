@@ -41,7 +41,7 @@ void askForEver(const std::shared_ptr<vantor::SystemSampler>& sampler, std::size
 /// under their hands.
 int main() {
     using namespace vantor;
-    ThreadedSerialQueueFactory queues(assumeUtilityRole);
+    ThreadedSerialQueueFactory queues(setUtilityPriority);
     const auto sampler = SystemSampler::make(makeNativeMachine(), queues);
     for (std::size_t i = 0; i < answers.size(); ++i)
         askForEver(sampler, i);

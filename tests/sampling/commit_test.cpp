@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <limits>
 
-#include "sampling/named_row.h"
 #include "sampling/sample_records.h"
+#include "support/named_row.h"
 
 namespace vantor::commit_test {
 namespace {

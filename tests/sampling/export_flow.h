@@ -6,17 +6,17 @@
 #include <variant>
 
 #include "model/snapshot_document.h"
-#include "sampling/played_export_platform.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_export_platform.h"
+#include "sampling/fake_world.h"
 
 namespace vantor {
 
 inline constexpr auto exportLabel = "com.kestrone.Vantor.export";
 
 /// A monitor in a wound world, and a user who can be asked where to save.
-class SnapshotExportFlow : public testing::Test {
+class SnapshotExportFlowTest : public testing::Test {
   protected:
-    SnapshotExportFlow() {
+    SnapshotExportFlowTest() {
         world.monitor = SystemMonitor::make(world.settings, world.machine, world.loop, world.queues,
                                             user.platform());
     }
@@ -40,8 +40,8 @@ class SnapshotExportFlow : public testing::Test {
         return std::get<std::string>(encodedSnapshot(snapshot));
     }
 
-    WoundWorld world;
-    PlayedExportPlatform user;
+    FakeWorld world;
+    FakeExportPlatform user;
 };
 
 }  // namespace vantor

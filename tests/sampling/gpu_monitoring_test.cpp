@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/simulated/simulated_graphics.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_world.h"
 
 /// Graphics devices on their way from the machine to the dashboard's state.
 namespace vantor::gpu_monitoring_test {
@@ -34,7 +34,7 @@ class GPUMonitoring : public testing::Test {
     }
     const std::vector<GPUStats>& gpus() const { return world.state().snapshot.gpus; }
 
-    WoundWorld world;
+    FakeWorld world;
 };
 
 TEST_F(GPUMonitoring, TheFirstReadingFillsTheSnapshotAndStartsTheHistory) {
@@ -163,7 +163,7 @@ TEST_F(GPUMonitoring, ARefreshByHandDoesNotRelistTheDevices) {
 }
 
 TEST(GPUMonitoringOfABrokenMachine, NeverShowsADevice) {
-    WoundWorld world;
+    FakeWorld world;
     world.machine->graphicsDevices().devices.clear();
     world.machine->accelerators().lookupFails = true;
     world.start();

@@ -4,11 +4,11 @@
 #include <thread>
 
 #include "platform/native_machine.h"
-#include "platform/threads/threaded_main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
 #include "sampling/end_of_main.h"
+#include "sampling/fake_world.h"
 #include "sampling/hanging_machine.h"
-#include "sampling/wound_world.h"
+#include "support/threaded_main_loop.h"
 
 namespace vantor {
 
@@ -17,7 +17,7 @@ namespace vantor {
 inline int runUntilStuck(HangingMachine::Call call) {
     HangingMachine hanging(call);
     const auto loop = std::make_shared<ThreadedMainLoop>();
-    const auto queues = std::make_shared<ThreadedSerialQueueFactory>(assumeUtilityRole);
+    const auto queues = std::make_shared<ThreadedSerialQueueFactory>(setUtilityPriority);
     const auto monitor = SystemMonitor::make(makeSettings(), hanging.machine, loop, queues);
     monitor->start();
     std::thread quitter([&] {

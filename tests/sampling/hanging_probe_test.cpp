@@ -9,12 +9,12 @@
 #include <thread>
 #include <vector>
 
-#include "platform/threads/threaded_main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
 #include "sampling/ended_program.h"
+#include "sampling/fake_world.h"
 #include "sampling/hanging_machine.h"
-#include "sampling/named_row.h"
-#include "sampling/wound_world.h"
+#include "support/named_row.h"
+#include "support/threaded_main_loop.h"
 
 /// A probe that hangs in the kernel costs its own thread and nothing else.
 namespace vantor::hanging_probe_test {
@@ -111,7 +111,7 @@ Clock::duration timeToEnd(const char* path) {
 }
 
 TEST_P(ProgramsEnd, IsCleanAndWaitsForNobody) {
-    // Waiting for somebody takes long each time, a busy machine only now and then.
+    // Waiting would take long each time, a busy machine only now and then.
     auto shortest = Clock::duration::max();
     for (int attempt = 0; attempt < 3 && shortest >= GetParam().limit && !HasFailure(); ++attempt)
         shortest = std::min(shortest, timeToEnd(GetParam().path));

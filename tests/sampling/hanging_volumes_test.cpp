@@ -11,14 +11,14 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/linux_mounted_volumes.h"
-#include "platform/linux/patient_file_systems.h"
-#include "platform/threads/threaded_main_loop.h"
+#include "platform/linux/storage/linux_mounted_volumes.h"
+#include "platform/linux/storage/patient_file_systems.h"
 #include "platform/threads/threaded_serial_queue.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_world.h"
 #include "support/fake_file_systems.h"
 #include "support/fake_kernel_tree.h"
 #include "support/machine_with_volumes.h"
+#include "support/threaded_main_loop.h"
 
 /// A mounted file system that stops answering holds up the list of volumes and nothing else.
 namespace vantor::hanging_volumes_test {
@@ -67,7 +67,7 @@ class MonitoredVolumes : public testing::Test {
 
     FakeKernelTree tree;
     std::shared_ptr<std::atomic<int>> powerReads = std::make_shared<std::atomic<int>>(0);
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<SimulatedMachine> simulated = SimulatedMachine::laptop(clock);
     std::shared_ptr<Machine> machine;
     std::shared_ptr<AppSettings> settings = makeSettings();

@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-#include "platform/simulated/manual_main_loop.h"
+#include "platform/simulated/fake_main_loop.h"
 
 namespace vantor::main_task_test {
 namespace {
@@ -12,8 +12,8 @@ namespace {
 using namespace std::chrono_literals;
 
 struct TaskWorld {
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
-    std::shared_ptr<ManualMainLoop> loop = std::make_shared<ManualMainLoop>(clock);
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
+    std::shared_ptr<FakeMainLoop> loop = std::make_shared<FakeMainLoop>(clock);
     std::shared_ptr<MainTask> task = std::make_shared<MainTask>(loop);
     int steps = 0;
 
@@ -102,7 +102,7 @@ TEST(MainTask, StepKeepsTheTaskAliveUntilItHasRun) {
 
 TEST(MainTask, CancelledOneDoesNotKeepTheLoop) {
     TaskWorld world;
-    const std::weak_ptr<ManualMainLoop> loop = world.loop;
+    const std::weak_ptr<FakeMainLoop> loop = world.loop;
     // A step that never runs and owns its task, as the refresh loop's steps do.
     world.task->post([task = world.task] { static_cast<void>(task); });
     cancelTask(world.task);

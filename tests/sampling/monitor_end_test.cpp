@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "sampling/wound_world.h"
+#include "sampling/fake_world.h"
 
 namespace vantor::monitor_end_test {
 namespace {
 
 TEST(SystemMonitor, EndSkipsTheQueuedReadingsEvenWhileAnotherOneKeepsTheSampler) {
-    WoundWorld world;
+    FakeWorld world;
     world.providersRun = false;
     world.start();
     ASSERT_EQ(world.waiting("memory"), 1u);

@@ -8,9 +8,9 @@
 #include <thread>
 
 #include "platform/simulated/simulated_machine.h"
-#include "platform/threads/threaded_main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_world.h"
+#include "support/threaded_main_loop.h"
 
 /// A monitor on real threads whose user cannot keep still.
 namespace vantor::monitor_stress_test {
@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 
 class MonitorStress : public testing::Test {
   protected:
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop(clock);
     std::shared_ptr<ThreadedMainLoop> loop = std::make_shared<ThreadedMainLoop>();
     std::shared_ptr<ThreadedSerialQueueFactory> queues =

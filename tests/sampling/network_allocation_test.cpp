@@ -34,7 +34,7 @@ Outcome readOften(NetworkReader& reader, Advance advance) {
 }
 
 void expectNoAllocations(const std::shared_ptr<SimulatedMachine>& machine) {
-    auto& network = machine->networkInterfaces();
+    auto& network = machine->interfaceCalls();
     network.receivedGrowth = 1000;
     network.sentGrowth = 100;
     machine->processInfo().host = "a-host-name-longer-than-a-short-text.local";

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/linux/linux_machine.h"
-#include "platform/linux/process_tree.h"
+#include "platform/linux/processes/process_tree.h"
 #include "probes/process_reader.h"
 #include "sampling/counted_passes.h"
 
@@ -23,7 +23,7 @@ class Processes : public ProcessTree {
         tree.becomeOwnProc();
         for (std::int32_t pid = 1; pid <= count; ++pid) {
             start(pid, {.name = "a name longer than a short text"});
-            tree.procLink(file(pid, "exe"), "/usr/libexec/a-path-longer-than-a-short-text");
+            tree.linkProc(file(pid, "exe"), "/usr/libexec/a-path-longer-than-a-short-text");
         }
         sayLastPID(count);
     }

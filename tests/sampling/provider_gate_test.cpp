@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "platform/simulated/simulated_machine.h"
-#include "sampling/named_row.h"
+#include "support/named_row.h"
 
 namespace vantor::provider_gate_test {
 namespace {
@@ -17,7 +17,7 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct GateWorld {
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     ProviderGate gate{SimulatedMachine::laptop(clock)};
 
     void runOnce() {

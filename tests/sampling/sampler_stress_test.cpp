@@ -57,7 +57,7 @@ struct Lifetime {
     std::shared_ptr<std::atomic<bool>> hold = std::make_shared<std::atomic<bool>>(false);
     std::shared_ptr<std::atomic<bool>> isHeld = std::make_shared<std::atomic<bool>>(false);
 
-    Lifetime(const std::shared_ptr<WoundClock>& clock, SerialQueueFactory& queues) {
+    Lifetime(const std::shared_ptr<FakeClock>& clock, SerialQueueFactory& queues) {
         // A machine of its own: the last reading of the sampler before may still be going on.
         const auto machine = SimulatedMachine::laptop(clock);
         machine->hostProcessors().growth = {1, 1, 1, 0};
@@ -94,7 +94,7 @@ class SamplerStress : public testing::Test {
     static constexpr int lifetimes = 40;
     static constexpr int requestsPerThread = 6000;
 
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     ThreadedSerialQueueFactory queues;
     Tally tally;
     Stage stage;

@@ -8,11 +8,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/simulated/manual_serial_queue.h"
+#include "platform/simulated/fake_serial_queue.h"
 #include "platform/simulated/simulated_macs.h"
 #include "probes/hardware_temperature_reader.h"
-#include "sampling/named_row.h"
 #include "sampling/system_sampler.h"
+#include "support/named_row.h"
 
 namespace vantor::sampler_temperature_test {
 namespace {
@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 
 std::optional<double> temperatureOf(const std::shared_ptr<SimulatedMachine>& machine) {
-    ManualSerialQueueFactory queues;
+    FakeSerialQueueFactory queues;
     const auto sampler = SystemSampler::make(machine, queues);
     machine->hostProcessors().growth = {30, 10, 60, 0};
     std::optional<double> temperature;
@@ -70,7 +70,7 @@ class GraphicsOf {
 
   private:
     std::shared_ptr<SimulatedMachine> machine_;
-    ManualSerialQueueFactory queues_;
+    FakeSerialQueueFactory queues_;
     std::shared_ptr<SystemSampler> sampler_ = SystemSampler::make(machine_, queues_);
 };
 
@@ -155,7 +155,7 @@ TEST(SamplerGraphicsTemperature, IsAbsentWithoutAppleSiliconWhoseSensorsAreNotAs
 
 TEST(SamplerGraphicsTemperature, SharesOneListOfSensorsWithTheProcessors) {
     const auto machine = makeAppleSiliconMac(SimulatedChip::a18);
-    ManualSerialQueueFactory queues;
+    FakeSerialQueueFactory queues;
     const auto sampler = SystemSampler::make(machine, queues);
     machine->hostProcessors().growth = {30, 10, 60, 0};
     std::optional<double> processor;

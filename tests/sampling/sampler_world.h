@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/simulated/manual_serial_queue.h"
+#include "platform/simulated/fake_serial_queue.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/any_provider.h"
 
@@ -15,9 +15,9 @@ namespace vantor {
 
 /// A sampler whose queues are run by hand.
 struct SamplerWorld {
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop(clock);
-    ManualSerialQueueFactory queues;
+    FakeSerialQueueFactory queues;
     std::shared_ptr<SystemSampler> sampler = SystemSampler::make(machine, queues);
     std::vector<std::shared_ptr<const ProviderGate>> gates = sampler->gates();
     int answers = 0;

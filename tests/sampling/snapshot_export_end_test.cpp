@@ -12,13 +12,13 @@ namespace {
 using testing::IsEmpty;
 using testing::SizeIs;
 
-TEST_F(SnapshotExportFlow, ClosesItsDialogWhenTheMonitorEnds) {
+TEST_F(SnapshotExportFlowTest, ClosesItsDialogWhenTheMonitorEnds) {
     monitor().exportSnapshot();
     world.monitor.reset();
     EXPECT_EQ(user.openDialogs, 0);
 }
 
-TEST_F(SnapshotExportFlow, DoesNothingForADialogThatEndsAfterTheMonitor) {
+TEST_F(SnapshotExportFlowTest, DoesNothingForADialogThatEndsAfterTheMonitor) {
     monitor().exportSnapshot();
     world.monitor.reset();
     user.confirm("/chosen.json");
@@ -27,7 +27,7 @@ TEST_F(SnapshotExportFlow, DoesNothingForADialogThatEndsAfterTheMonitor) {
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, WritesNothingWhenTheMonitorEndedBeforeTheWriteBegan) {
+TEST_F(SnapshotExportFlowTest, WritesNothingWhenTheMonitorEndedBeforeTheWriteBegan) {
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
     world.monitor.reset();
@@ -36,7 +36,7 @@ TEST_F(SnapshotExportFlow, WritesNothingWhenTheMonitorEndedBeforeTheWriteBegan) 
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, FinishesAWriteThatHadBegunWhenTheMonitorEndedAndShowsNothing) {
+TEST_F(SnapshotExportFlowTest, FinishesAWriteThatHadBegunWhenTheMonitorEndedAndShowsNothing) {
     user.onWrite = [&] { world.monitor.reset(); };
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
@@ -46,7 +46,7 @@ TEST_F(SnapshotExportFlow, FinishesAWriteThatHadBegunWhenTheMonitorEndedAndShows
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, ShowsNoAlertWhenTheMonitorEndsWithTheResultUnderWay) {
+TEST_F(SnapshotExportFlowTest, ShowsNoAlertWhenTheMonitorEndsWithTheResultUnderWay) {
     user.writeError = DescribedError{"no"};
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
@@ -56,7 +56,7 @@ TEST_F(SnapshotExportFlow, ShowsNoAlertWhenTheMonitorEndsWithTheResultUnderWay) 
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, LetsTheMonitorEndWhileTheAlertIsRead) {
+TEST_F(SnapshotExportFlowTest, LetsTheMonitorEndWhileTheAlertIsRead) {
     user.writeError = DescribedError{"no"};
     const std::weak_ptr<SystemMonitor> weak = world.monitor;
     bool ended = false;

@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-TEST_F(SnapshotExportFlow, AsksForAFileWithTheSnapshotsTimeAsItsName) {
+TEST_F(SnapshotExportFlowTest, AsksForAFileWithTheSnapshotsTimeAsItsName) {
     sample();
     monitor().exportSnapshot();
     ASSERT_THAT(user.requests, SizeIs(1));
@@ -27,12 +27,12 @@ TEST_F(SnapshotExportFlow, AsksForAFileWithTheSnapshotsTimeAsItsName) {
     EXPECT_FALSE(monitor().isExportWriting());
 }
 
-TEST_F(SnapshotExportFlow, NamesTheFileAfterTheCurrentTimeWhileNothingIsCommitted) {
+TEST_F(SnapshotExportFlowTest, NamesTheFileAfterTheCurrentTimeWhileNothingIsCommitted) {
     monitor().exportSnapshot();
     EXPECT_THAT(user.named, testing::ElementsAre(world.machine->wallClock().now()));
 }
 
-TEST_F(SnapshotExportFlow, CalledTwiceQuicklyOpensOneDialog) {
+TEST_F(SnapshotExportFlowTest, CalledTwiceQuicklyOpensOneDialog) {
     monitor().exportSnapshot();
     monitor().exportSnapshot();
     world.settle();
@@ -40,7 +40,7 @@ TEST_F(SnapshotExportFlow, CalledTwiceQuicklyOpensOneDialog) {
     EXPECT_EQ(user.openDialogs, 1);
 }
 
-TEST_F(SnapshotExportFlow, CanBeStartedAtOnceAfterACancelledDialog) {
+TEST_F(SnapshotExportFlowTest, CanBeStartedAtOnceAfterACancelledDialog) {
     monitor().exportSnapshot();
     user.cancel();
     EXPECT_FALSE(monitor().isExportFlowActive());
@@ -52,7 +52,7 @@ TEST_F(SnapshotExportFlow, CanBeStartedAtOnceAfterACancelledDialog) {
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, TakesAnEmptyDestinationForNone) {
+TEST_F(SnapshotExportFlowTest, TakesAnEmptyDestinationForNone) {
     monitor().exportSnapshot();
     user.confirm("");
     EXPECT_FALSE(monitor().isExportFlowActive());
@@ -62,7 +62,7 @@ TEST_F(SnapshotExportFlow, TakesAnEmptyDestinationForNone) {
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, WritesTheSnapshotOfTheConfirmationAndSaysNothing) {
+TEST_F(SnapshotExportFlowTest, WritesTheSnapshotOfTheConfirmationAndSaysNothing) {
     sample();
     monitor().exportSnapshot();
     const auto opened = world.state().snapshot.timestamp;
@@ -86,7 +86,7 @@ TEST_F(SnapshotExportFlow, WritesTheSnapshotOfTheConfirmationAndSaysNothing) {
     EXPECT_THAT(user.alerts, IsEmpty());
 }
 
-TEST_F(SnapshotExportFlow, IsActiveUntilTheResultHasArrived) {
+TEST_F(SnapshotExportFlowTest, IsActiveUntilTheResultHasArrived) {
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
     EXPECT_TRUE(monitor().isExportFlowActive());
@@ -105,7 +105,7 @@ TEST_F(SnapshotExportFlow, IsActiveUntilTheResultHasArrived) {
     EXPECT_THAT(user.requests, SizeIs(2));
 }
 
-TEST_F(SnapshotExportFlow, WritesOnAThreadOfItsOwn) {
+TEST_F(SnapshotExportFlowTest, WritesOnAThreadOfItsOwn) {
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
     world.loop->runPosted();
@@ -113,14 +113,14 @@ TEST_F(SnapshotExportFlow, WritesOnAThreadOfItsOwn) {
     EXPECT_EQ(world.queues->waiting(exportLabel), 1u);
 }
 
-TEST_F(SnapshotExportFlow, MakesNoThreadBeforeAFileIsChosen) {
+TEST_F(SnapshotExportFlowTest, MakesNoThreadBeforeAFileIsChosen) {
     sample();
     monitor().exportSnapshot();
     user.cancel();
     EXPECT_THAT(world.queues->labels(), testing::Not(testing::Contains(exportLabel)));
 }
 
-TEST_F(SnapshotExportFlow, ShowsAnAlertAfterAFailedWriteAndCanBeStartedAgain) {
+TEST_F(SnapshotExportFlowTest, ShowsAnAlertAfterAFailedWriteAndCanBeStartedAgain) {
     user.writeError = DescribedError{"There is not enough space on the disk."};
     bool wasActive = true;
     user.onAlert = [&] { wasActive = monitor().isExportFlowActive(); };
@@ -140,7 +140,7 @@ TEST_F(SnapshotExportFlow, ShowsAnAlertAfterAFailedWriteAndCanBeStartedAgain) {
     EXPECT_THAT(user.alerts, SizeIs(1));
 }
 
-TEST_F(SnapshotExportFlow, ShowsAnAlertForANumberThatIsNotFiniteAndWritesNothing) {
+TEST_F(SnapshotExportFlowTest, ShowsAnAlertForANumberThatIsNotFiniteAndWritesNothing) {
     sample();
     CPUStats stats = CPUStats::empty();
     stats.temperatureCelsius = std::numeric_limits<double>::quiet_NaN();
@@ -157,7 +157,7 @@ TEST_F(SnapshotExportFlow, ShowsAnAlertForANumberThatIsNotFiniteAndWritesNothing
     EXPECT_FALSE(monitor().isExportFlowActive());
 }
 
-TEST_F(SnapshotExportFlow, ConfirmedWhileSamplingIsPausedWritesTheLastCommittedSnapshot) {
+TEST_F(SnapshotExportFlowTest, ConfirmedWhileSamplingIsPausedWritesTheLastCommittedSnapshot) {
     sample();
     monitor().togglePause();
     const SystemSnapshot committed = world.state().snapshot;
@@ -170,7 +170,7 @@ TEST_F(SnapshotExportFlow, ConfirmedWhileSamplingIsPausedWritesTheLastCommittedS
     EXPECT_TRUE(monitor().isPaused());
 }
 
-TEST_F(SnapshotExportFlow, WritesTheStandInWhileNothingIsCommitted) {
+TEST_F(SnapshotExportFlowTest, WritesTheStandInWhileNothingIsCommitted) {
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
     finishWriting();
@@ -179,7 +179,7 @@ TEST_F(SnapshotExportFlow, WritesTheStandInWhileNothingIsCommitted) {
 }
 
 TEST(SnapshotExport, NeedsAPlatformToExportWith) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->exportSnapshot();
     EXPECT_FALSE(world.monitor->isExportFlowActive());
 }

@@ -9,11 +9,11 @@
 
 #include "model/snapshot_document.h"
 #include "platform/native_machine.h"
-#include "platform/threads/threaded_main_loop.h"
 #include "platform/threads/threaded_serial_queue.h"
-#include "sampling/played_export_platform.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_export_platform.h"
+#include "sampling/fake_world.h"
 #include "support/temporary_folder.h"
+#include "support/threaded_main_loop.h"
 
 /// Exports by real threads onto real disks, and onto one that hangs.
 namespace vantor::snapshot_export_thread_test {
@@ -51,10 +51,10 @@ class ThreadedExport : public testing::Test {
         user.confirm(destination);
     }
 
-    PlayedExportPlatform user;
+    FakeExportPlatform user;
     std::shared_ptr<ThreadedMainLoop> loop = std::make_shared<ThreadedMainLoop>();
     std::shared_ptr<ThreadedSerialQueueFactory> queues =
-        std::make_shared<ThreadedSerialQueueFactory>(assumeUtilityRole);
+        std::make_shared<ThreadedSerialQueueFactory>(setUtilityPriority);
     std::shared_ptr<SystemMonitor> monitor;
 };
 

@@ -3,8 +3,8 @@
 
 #include <chrono>
 
+#include "sampling/fake_world.h"
 #include "sampling/sample_records.h"
-#include "sampling/wound_world.h"
 
 /// Pause, manual refresh, a change of the interval, and the monitor's end.
 namespace vantor::system_monitor_control_test {
@@ -17,7 +17,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 TEST(SystemMonitor, PauseStopsTheLoop) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(3s);
     world.monitor->togglePause();
@@ -33,7 +33,7 @@ TEST(SystemMonitor, PauseStopsTheLoop) {
 }
 
 TEST(SystemMonitor, PauseIsPublishedBeforeAndAfter) {
-    WoundWorld world;
+    FakeWorld world;
     std::vector<bool> told;
     const auto observation =
         world.monitor->isPausedStream().observe([&](bool paused) { told.push_back(paused); });
@@ -43,7 +43,7 @@ TEST(SystemMonitor, PauseIsPublishedBeforeAndAfter) {
 }
 
 TEST(SystemMonitor, PauseDuringTheStagingCancelsIt) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(700ms);
     world.monitor->togglePause();
@@ -56,7 +56,7 @@ TEST(SystemMonitor, PauseDuringTheStagingCancelsIt) {
 }
 
 TEST(SystemMonitor, PauseBeforeTheFirstTickAsksNobody) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->start();
     world.monitor->togglePause();
     world.advance(1min);
@@ -65,7 +65,7 @@ TEST(SystemMonitor, PauseBeforeTheFirstTickAsksNobody) {
 }
 
 TEST(SystemMonitor, ResumeStartsAgainWithTheStaging) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(5s);
     world.monitor->togglePause();
@@ -82,7 +82,7 @@ TEST(SystemMonitor, ResumeStartsAgainWithTheStaging) {
 }
 
 TEST(SystemMonitor, QuickPauseAndResumeLeavesOneLoop) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->start();
     for (int i = 0; i < 4; ++i)
         world.monitor->togglePause();
@@ -94,7 +94,7 @@ TEST(SystemMonitor, QuickPauseAndResumeLeavesOneLoop) {
 }
 
 TEST(SystemMonitor, ResumeMeasuresFromANewBaseline) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(1100ms);
     EXPECT_THAT(world.histories().cpu, ElementsAre(0.4));
@@ -109,7 +109,7 @@ TEST(SystemMonitor, ResumeMeasuresFromANewBaseline) {
 }
 
 TEST(SystemMonitor, ResultAskedForBeforeAPauseAndDeliveredAfterItIsDropped) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.providersRun = false;
     world.advance(1s);
@@ -124,7 +124,7 @@ TEST(SystemMonitor, ResultAskedForBeforeAPauseAndDeliveredAfterItIsDropped) {
 }
 
 TEST(SystemMonitor, PauseForgetsWhatIsNotCommitted) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.receiveCPU(cpuReading(0.9));
     world.monitor->togglePause();
@@ -135,7 +135,7 @@ TEST(SystemMonitor, PauseForgetsWhatIsNotCommitted) {
 }
 
 TEST(SystemMonitor, ForceRefreshStartsTheLoopAndNothingElse) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->forceRefresh();
     world.settle();
     EXPECT_TRUE(world.monitor->isMonitoring());
@@ -143,7 +143,7 @@ TEST(SystemMonitor, ForceRefreshStartsTheLoopAndNothingElse) {
 }
 
 TEST(SystemMonitor, ForceRefreshAsksAllProvidersInOrder) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.takeSubmissions();
     world.monitor->forceRefresh();
@@ -152,7 +152,7 @@ TEST(SystemMonitor, ForceRefreshAsksAllProvidersInOrder) {
 }
 
 TEST(SystemMonitor, ForceRefreshQueuesOneRunBehindAnother) {
-    WoundWorld world;
+    FakeWorld world;
     world.providersRun = false;
     world.start();
     for (int i = 0; i < 5; ++i)
@@ -163,7 +163,7 @@ TEST(SystemMonitor, ForceRefreshQueuesOneRunBehindAnother) {
 }
 
 TEST(SystemMonitor, ForceRefreshWhilePausedAsksAllProvidersAndTakesTheirResults) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.monitor->togglePause();
     world.settle();
@@ -179,7 +179,7 @@ TEST(SystemMonitor, ForceRefreshWhilePausedAsksAllProvidersAndTakesTheirResults)
 }
 
 TEST(SystemMonitor, ForceRefreshWorksDuringALiveResize) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.takeSubmissions();
     world.monitor->setDashboardLiveResizeActive(true);
@@ -188,7 +188,7 @@ TEST(SystemMonitor, ForceRefreshWorksDuringALiveResize) {
 }
 
 TEST(SystemMonitor, ChangedIntervalRestartsInTheNextTurn) {
-    WoundWorld world(10);
+    FakeWorld world(10);
     world.start();
     world.advance(3s);
     world.settings->setRefreshInterval(2);
@@ -204,7 +204,7 @@ TEST(SystemMonitor, ChangedIntervalRestartsInTheNextTurn) {
 }
 
 TEST(SystemMonitor, ChangedIntervalDropsWhatIsUnderWay) {
-    WoundWorld world(10);
+    FakeWorld world(10);
     world.start();
     world.advance(2s);
     world.receiveCPU(cpuReading(0.9));
@@ -215,7 +215,7 @@ TEST(SystemMonitor, ChangedIntervalDropsWhatIsUnderWay) {
 }
 
 TEST(SystemMonitor, EqualIntervalDoesNotRestart) {
-    WoundWorld world(2);
+    FakeWorld world(2);
     world.start();
     world.settings->setRefreshInterval(2);
     world.settle();
@@ -223,7 +223,7 @@ TEST(SystemMonitor, EqualIntervalDoesNotRestart) {
 }
 
 TEST(SystemMonitor, ChangedIntervalWhileIdleOrPausedStartsNothing) {
-    WoundWorld world(2);
+    FakeWorld world(2);
     world.settings->setRefreshInterval(1);
     world.settle();
     EXPECT_EQ(world.monitor->generation(), 0u);
@@ -236,7 +236,7 @@ TEST(SystemMonitor, ChangedIntervalWhileIdleOrPausedStartsNothing) {
 }
 
 TEST(SystemMonitor, ChangedIntervalHoldsForTheNextStart) {
-    WoundWorld world(2);
+    FakeWorld world(2);
     world.settings->setRefreshInterval(5);
     world.start();
     world.advance(10s);
@@ -244,7 +244,7 @@ TEST(SystemMonitor, ChangedIntervalHoldsForTheNextStart) {
 }
 
 TEST(SystemMonitor, EndTakesItsTimersAlong) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.receiveCPU(cpuReading(0.5));
     EXPECT_EQ(world.loop->timerCount(), 3u);  // the next tick, the next stage and a commit
@@ -255,19 +255,19 @@ TEST(SystemMonitor, EndTakesItsTimersAlong) {
 }
 
 TEST(SystemMonitor, EndLeavesNothingForPostedWorkToDo) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->start();
     world.settings->setRefreshInterval(7);
     world.settings->setHistoryLength(40);
     world.monitor.reset();
     world.advance(1min);
     EXPECT_THAT(world.takeSubmissions(), IsEmpty());
-    world.settings->setRefreshInterval(8);  // nobody observes any more
+    world.settings->setRefreshInterval(8);  // there is no observer any more
     EXPECT_EQ(world.loop->runPosted(), 0u);
 }
 
 TEST(SystemMonitor, EndSkipsTheQueuedReadings) {
-    WoundWorld world;
+    FakeWorld world;
     world.providersRun = false;
     world.start();
     EXPECT_EQ(world.waiting("cpu"), 1u);
@@ -278,7 +278,7 @@ TEST(SystemMonitor, EndSkipsTheQueuedReadings) {
 }
 
 TEST(SystemMonitor, ResultForAMonitorThatIsGoneIsLost) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(990ms);
     world.providersRun = false;

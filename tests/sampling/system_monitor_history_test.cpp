@@ -3,9 +3,9 @@
 
 #include <chrono>
 
-#include "sampling/named_row.h"
+#include "sampling/fake_world.h"
 #include "sampling/sample_records.h"
-#include "sampling/wound_world.h"
+#include "support/named_row.h"
 
 /// The length of the histories, and the live resize that holds commits back.
 namespace vantor::system_monitor_history_test {
@@ -24,7 +24,7 @@ struct LengthRow : NamedRow {
 class HistoryLength : public testing::TestWithParam<LengthRow> {};
 
 /// Commits `count` readings of everything with a history; the usages count up from 0.
-void commitReadings(WoundWorld& world, int count) {
+void commitReadings(FakeWorld& world, int count) {
     for (int i = 0; i < count; ++i) {
         world.receiveCPU(cpuReading(i));
         world.monitor->receiveMemory(memoryReading(1, 2), world.monitor->generation());
@@ -35,7 +35,7 @@ void commitReadings(WoundWorld& world, int count) {
 }
 
 TEST_P(HistoryLength, BoundsEachHistory) {
-    WoundWorld world;
+    FakeWorld world;
     world.settings->setHistoryLength(GetParam().historyLength);
     commitReadings(world, 310);
     for (const auto* history :
@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(SystemMonitor, HistoryLength,
                          rowName<LengthRow>);
 
 TEST(SystemMonitor, ShorterHistoryTrimsInTheNextTurnAndPublishesOnce) {
-    WoundWorld world;
+    FakeWorld world;
     commitReadings(world, 60);
     const Revisions revisions = world.revisions();
     const Timestamp timestamp = world.state().snapshot.timestamp;
@@ -71,7 +71,7 @@ TEST(SystemMonitor, ShorterHistoryTrimsInTheNextTurnAndPublishesOnce) {
 }
 
 TEST(SystemMonitor, HistoryLengthThatTrimsNothingPublishesNothing) {
-    WoundWorld world;
+    FakeWorld world;
     commitReadings(world, 60);
     const DashboardState before = world.state();
     world.publications = 0;
@@ -84,7 +84,7 @@ TEST(SystemMonitor, HistoryLengthThatTrimsNothingPublishesNothing) {
 }
 
 TEST(SystemMonitor, ShortestHistoryIsThirtyHoweverShortTheSettingIs) {
-    WoundWorld world;
+    FakeWorld world;
     commitReadings(world, 60);
     world.settings->setHistoryLength(1);
     world.settle();
@@ -92,7 +92,7 @@ TEST(SystemMonitor, ShortestHistoryIsThirtyHoweverShortTheSettingIs) {
 }
 
 TEST(SystemMonitor, EachOfTwoChangesInOneTurnTrims) {
-    WoundWorld world;
+    FakeWorld world;
     commitReadings(world, 60);
     world.settings->setHistoryLength(40);
     world.settings->setHistoryLength(90);
@@ -101,7 +101,7 @@ TEST(SystemMonitor, EachOfTwoChangesInOneTurnTrims) {
 }
 
 TEST(SystemMonitor, HistoryIsTrimmedWhilePaused) {
-    WoundWorld world;
+    FakeWorld world;
     commitReadings(world, 60);
     world.monitor->togglePause();
     world.settings->setHistoryLength(30);
@@ -110,7 +110,7 @@ TEST(SystemMonitor, HistoryIsTrimmedWhilePaused) {
 }
 
 TEST(SystemMonitor, LiveResizeGathersResultsAndItsEndCommitsThemAtOnce) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->setDashboardLiveResizeActive(true);
     world.receiveCPU(cpuReading(0.1));
     world.advance(1s);
@@ -126,7 +126,7 @@ TEST(SystemMonitor, LiveResizeGathersResultsAndItsEndCommitsThemAtOnce) {
 }
 
 TEST(SystemMonitor, LiveResizeCallsAScheduledCommitOff) {
-    WoundWorld world;
+    FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
     world.monitor->setDashboardLiveResizeActive(true);
     EXPECT_EQ(world.loop->timerCount(), 0u);
@@ -137,7 +137,7 @@ TEST(SystemMonitor, LiveResizeCallsAScheduledCommitOff) {
 }
 
 TEST(SystemMonitor, ResultAfterALiveResizeWaitsForItsOwnCommit) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->setDashboardLiveResizeActive(true);
     world.monitor->setDashboardLiveResizeActive(false);
     EXPECT_EQ(world.publications, 0);
@@ -148,7 +148,7 @@ TEST(SystemMonitor, ResultAfterALiveResizeWaitsForItsOwnCommit) {
 }
 
 TEST(SystemMonitor, RepeatedLiveResizeSwitchIsIgnored) {
-    WoundWorld world;
+    FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
     world.monitor->setDashboardLiveResizeActive(false);
     EXPECT_EQ(world.publications, 0);
@@ -158,7 +158,7 @@ TEST(SystemMonitor, RepeatedLiveResizeSwitchIsIgnored) {
 }
 
 TEST(SystemMonitor, PauseDuringALiveResizeForgetsWhatIsGathered) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->setDashboardLiveResizeActive(true);
     world.receiveCPU(cpuReading(0.1));
     world.monitor->togglePause();

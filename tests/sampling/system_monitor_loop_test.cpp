@@ -4,8 +4,8 @@
 #include <chrono>
 #include <limits>
 
-#include "sampling/named_row.h"
-#include "sampling/wound_world.h"
+#include "sampling/fake_world.h"
+#include "support/named_row.h"
 
 /// The refresh loop and the staged start of the slow providers.
 namespace vantor::system_monitor_loop_test {
@@ -35,7 +35,7 @@ TEST_P(Pace, FollowsFromTheRefreshInterval) {
 }
 
 TEST_P(Pace, IsThatOfTheLoop) {
-    WoundWorld world(GetParam().refreshInterval);
+    FakeWorld world(GetParam().refreshInterval);
     world.start();
     world.advance(2 * GetParam().sleep);
     EXPECT_THAT(world.submissionTimes("cpu"), ElementsAre(0, GetParam().fast, 2 * GetParam().fast));
@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
     rowName<PaceRow>);
 
 TEST(SystemMonitor, AsksNobodyUntilItIsStarted) {
-    WoundWorld world;
+    FakeWorld world;
     world.advance(1min);
     EXPECT_THAT(world.queues->labels(), IsEmpty());
     EXPECT_FALSE(world.monitor->isMonitoring());
@@ -64,7 +64,7 @@ TEST(SystemMonitor, AsksNobodyUntilItIsStarted) {
 }
 
 TEST(SystemMonitor, StartAsksTheFastGroupInOrderInTheNextTurn) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->start();
     EXPECT_THAT(world.takeSubmissions(), IsEmpty());
     EXPECT_TRUE(world.monitor->isMonitoring());
@@ -74,7 +74,7 @@ TEST(SystemMonitor, StartAsksTheFastGroupInOrderInTheNextTurn) {
 }
 
 TEST(SystemMonitor, StartingTwiceMakesOneLoop) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->start();
     world.start();
     world.monitor->start();
@@ -84,7 +84,7 @@ TEST(SystemMonitor, StartingTwiceMakesOneLoop) {
 }
 
 TEST(SystemMonitor, StartWhilePausedDoesNothing) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->togglePause();
     world.settle();
     world.takeSubmissions();
@@ -96,7 +96,7 @@ TEST(SystemMonitor, StartWhilePausedDoesNothing) {
 }
 
 TEST(SystemMonitor, FirstTickIsForced) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.monitor->togglePause();
     world.monitor->togglePause();  // within the interval of the reading just made
@@ -105,7 +105,7 @@ TEST(SystemMonitor, FirstTickIsForced) {
 }
 
 TEST(SystemMonitor, TickAsksTheFastGroupAndOnceStagedTheSlowOne) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(1999ms);
     world.takeSubmissions();
@@ -116,7 +116,7 @@ TEST(SystemMonitor, TickAsksTheFastGroupAndOnceStagedTheSlowOne) {
 }
 
 TEST(SystemMonitor, ProviderThatIsStillReadingIsSkippedByTheTicks) {
-    WoundWorld world;
+    FakeWorld world;
     world.providersRun = false;
     world.start();
     world.advance(30s);
@@ -127,21 +127,21 @@ TEST(SystemMonitor, ProviderThatIsStillReadingIsSkippedByTheTicks) {
 }
 
 TEST(SystemMonitor, SystemInfoIsAskedEveryFiveSecondsAtMost) {
-    WoundWorld world(0.5);
+    FakeWorld world(0.5);
     world.start();
     world.advance(20s);
     EXPECT_THAT(world.submissionTimes("system"), ElementsAre(0, 5, 10, 15, 20));
 }
 
 TEST(SystemMonitor, SystemInfoFollowsAnIntervalLongerThanItsOwn) {
-    WoundWorld world(10);
+    FakeWorld world(10);
     world.start();
     world.advance(30s);
     EXPECT_THAT(world.submissionTimes("system"), ElementsAre(0, 10, 20, 30));
 }
 
 TEST(SystemMonitor, SlowProvidersAreStagedIn) {
-    WoundWorld world(10);
+    FakeWorld world(10);
     world.start();
     world.advance(9s);
     EXPECT_THAT(world.submissionTimes("processes"), ElementsAre(0.3));
@@ -151,7 +151,7 @@ TEST(SystemMonitor, SlowProvidersAreStagedIn) {
 }
 
 TEST(SystemMonitor, SlowProvidersJoinTheTicksAfterTheFourthStage) {
-    WoundWorld world(0.5);
+    FakeWorld world(0.5);
     world.start();
     world.advance(1200ms - 1ns);
     EXPECT_FALSE(world.monitor->slowProvidersEnabled());
@@ -163,7 +163,7 @@ TEST(SystemMonitor, SlowProvidersJoinTheTicksAfterTheFourthStage) {
 }
 
 TEST(SystemMonitor, VolumesAndPowerKeepTheirOwnPace) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(50s);
     EXPECT_THAT(world.submissionTimes("power"), ElementsAre(0.9, 11, 21, 31, 41));
@@ -171,7 +171,7 @@ TEST(SystemMonitor, VolumesAndPowerKeepTheirOwnPace) {
 }
 
 TEST(SystemMonitor, StagesAreForced) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.providersRun = false;
     world.monitor->forceRefresh();
@@ -182,7 +182,7 @@ TEST(SystemMonitor, StagesAreForced) {
 }
 
 TEST(SystemMonitor, FirstTickDuringALiveResizeAsksNobodyButStagesTheSlowGroup) {
-    WoundWorld world(10);
+    FakeWorld world(10);
     world.monitor->setDashboardLiveResizeActive(true);
     world.start();
     EXPECT_THAT(world.takeSubmissions(), IsEmpty());
@@ -193,7 +193,7 @@ TEST(SystemMonitor, FirstTickDuringALiveResizeAsksNobodyButStagesTheSlowGroup) {
 }
 
 TEST(SystemMonitor, StageDuringALiveResizeIsSkippedForGood) {
-    WoundWorld world(10);
+    FakeWorld world(10);
     world.start();
     world.advance(500ms);
     world.monitor->setDashboardLiveResizeActive(true);
@@ -210,7 +210,7 @@ TEST(SystemMonitor, StageDuringALiveResizeIsSkippedForGood) {
 }
 
 TEST(SystemMonitor, TicksDuringALiveResizeAskNobodyButGoOn) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(2500ms);
     world.takeSubmissions();

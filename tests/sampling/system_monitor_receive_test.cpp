@@ -4,9 +4,9 @@
 #include <chrono>
 #include <functional>
 
-#include "sampling/named_row.h"
+#include "sampling/fake_world.h"
 #include "sampling/sample_records.h"
-#include "sampling/wound_world.h"
+#include "support/named_row.h"
 
 /// What the monitor takes in, when it commits it, and how often it publishes.
 namespace vantor::system_monitor_receive_test {
@@ -24,7 +24,7 @@ struct ReceiveRow : NamedRow {
 
 class Receive : public testing::TestWithParam<ReceiveRow> {
   protected:
-    WoundWorld world;
+    FakeWorld world;
     void receive(std::uint64_t generation) { GetParam().receive(*world.monitor, generation); }
 };
 
@@ -79,7 +79,7 @@ struct NothingRow : NamedRow {
 class ReceiveNothing : public testing::TestWithParam<NothingRow> {};
 
 TEST_P(ReceiveNothing, KeepsWhatIsThereAndSchedulesNoCommit) {
-    WoundWorld world;
+    FakeWorld world;
     for (const ReceiveRow& row : receiveRows)
         row.receive(*world.monitor, 0);
     world.advance(30ms);
@@ -107,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
     rowName<NothingRow>);
 
 TEST(SystemMonitor, CommitsThirtyMillisecondsAfterTheFirstResult) {
-    WoundWorld world;
+    FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
     world.advance(20ms);
     world.monitor->receiveMemory(memoryReading(1, 2), 0);
@@ -120,7 +120,7 @@ TEST(SystemMonitor, CommitsThirtyMillisecondsAfterTheFirstResult) {
 }
 
 TEST(SystemMonitor, ResultAfterACommitGetsACommitOfItsOwn) {
-    WoundWorld world;
+    FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
     world.advance(30ms);
     world.receiveCPU(cpuReading(0.2));
@@ -132,7 +132,7 @@ TEST(SystemMonitor, ResultAfterACommitGetsACommitOfItsOwn) {
 }
 
 TEST(SystemMonitor, LaterReadingWithinACommitReplacesTheEarlierOne) {
-    WoundWorld world;
+    FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
     world.receiveCPU(cpuReading(0.2));
     world.advance(30ms);
@@ -142,7 +142,7 @@ TEST(SystemMonitor, LaterReadingWithinACommitReplacesTheEarlierOne) {
 }
 
 TEST(SystemMonitor, LaterPowerResultReplacesTheEarlierOne) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->receivePower(PowerReadResult::update(battery(0.5)), 0);
     world.monitor->receivePower(PowerReadResult::update(std::nullopt), 0);
     world.monitor->receivePower(PowerReadResult::failure(), 0);
@@ -152,7 +152,7 @@ TEST(SystemMonitor, LaterPowerResultReplacesTheEarlierOne) {
 }
 
 TEST(SystemMonitor, PublishesOnceHoweverManyProvidersAnswer) {
-    WoundWorld world;
+    FakeWorld world;
     for (const ReceiveRow& row : receiveRows)
         row.receive(*world.monitor, 0);
     world.advance(1s);
@@ -161,7 +161,7 @@ TEST(SystemMonitor, PublishesOnceHoweverManyProvidersAnswer) {
 }
 
 TEST(SystemMonitor, PublishesNothingWhenNothingChanged) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->receiveSystemInfo(systemInfo("one"), 0);
     world.advance(30ms);
     const DashboardState before = world.state();
@@ -172,7 +172,7 @@ TEST(SystemMonitor, PublishesNothingWhenNothingChanged) {
 }
 
 TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoVolumes) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->receiveVolumes(std::vector<VolumeStats>{}, 0);
     world.advance(30ms);
     EXPECT_EQ(world.publications, 1);
@@ -185,7 +185,7 @@ TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoVolumes) {
 }
 
 TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoGraphicsDevices) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->receiveGPUs(std::vector<GPUStats>{}, 0);
     world.advance(30ms);
     EXPECT_EQ(world.publications, 1);
@@ -198,7 +198,7 @@ TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoGraphicsDevices) {
 }
 
 TEST(SystemMonitor, StampsTheSnapshotWithTheTimeOfTheCommit) {
-    WoundWorld world;
+    FakeWorld world;
     world.advance(5s);
     world.receiveCPU(cpuReading(0.1));
     world.advance(30ms);
@@ -206,7 +206,7 @@ TEST(SystemMonitor, StampsTheSnapshotWithTheTimeOfTheCommit) {
 }
 
 TEST(SystemMonitor, APauseBeforeAnyReadingMakesNoQueues) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->togglePause();
     world.settle();
     EXPECT_THAT(world.queues->labels(), IsEmpty());
@@ -217,7 +217,7 @@ TEST(SystemMonitor, APauseBeforeAnyReadingMakesNoQueues) {
 }
 
 TEST(SystemMonitor, BatteryThatGoesCountsInTheSystemSection) {
-    WoundWorld world;
+    FakeWorld world;
     world.monitor->receivePower(PowerReadResult::update(battery(0.5)), 0);
     world.advance(30ms);
     world.monitor->receivePower(PowerReadResult::update(std::nullopt), 0);
@@ -227,7 +227,7 @@ TEST(SystemMonitor, BatteryThatGoesCountsInTheSystemSection) {
 }
 
 TEST(SystemMonitor, CommitsWhatTheProcessorsSay) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(1s);
     const int publications = world.publications;
@@ -240,7 +240,7 @@ TEST(SystemMonitor, CommitsWhatTheProcessorsSay) {
 }
 
 TEST(SystemMonitor, CommitsWhatTheMemoryAndTheSystemSay) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(30ms);
     EXPECT_EQ(world.state().snapshot.memory.totalBytes, std::uint64_t{16} << 30);
@@ -251,7 +251,7 @@ TEST(SystemMonitor, CommitsWhatTheMemoryAndTheSystemSay) {
 }
 
 TEST(SystemMonitor, KeepsTheLastReadingWhenTheProcessorsStopAnswering) {
-    WoundWorld world;
+    FakeWorld world;
     world.start();
     world.advance(1030ms);
     world.machine->hostProcessors().totalFails = true;

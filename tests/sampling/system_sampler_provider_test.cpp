@@ -3,8 +3,8 @@
 
 #include <chrono>
 
-#include "sampling/named_row.h"
 #include "sampling/sampler_world.h"
+#include "support/named_row.h"
 
 /// What holds for each of the eight providers.
 namespace vantor::system_sampler_provider_test {

@@ -9,7 +9,7 @@ namespace vantor {
 
 namespace {
 
-using Family = NetworkInterfaces::Family;
+using Family = InterfaceCalls::Family;
 
 constexpr std::array names{"en0",  "en1",   "en10",   "wlan0",    "utun3",
                            "ppp0", "veth9", "veth10", "bridge-1", "x"};
@@ -19,7 +19,7 @@ constexpr std::array ipv6Addresses{"fe80::1%en0", "2001:db8::5", "fd00::9",
                                    "febf::1",     "fec0::1",     "fe80::2%x"};
 
 bool isEligible(std::uint32_t flags) {
-    using Net = NetworkInterfaces;
+    using Net = InterfaceCalls;
     return (flags & Net::up) != 0 && (flags & Net::running) != 0 && (flags & Net::loopback) == 0;
 }
 
@@ -44,7 +44,7 @@ NetworkSequence::Interface NetworkSequence::newInterface(std::string name) {
     } while (isTaken());
     interface.received = chance_.ofAnySize();
     interface.sent = chance_.ofAnySize(40);
-    if (chance_.oneIn(4)) interface.flags |= NetworkInterfaces::pointToPoint;
+    if (chance_.oneIn(4)) interface.flags |= InterfaceCalls::pointToPoint;
     changeAddresses(interface);
     return interface;
 }
@@ -106,7 +106,7 @@ void NetworkSequence::changeAddresses(Interface& interface) {
 }
 
 void NetworkSequence::changeInterface(Interface& interface) {
-    using Net = NetworkInterfaces;
+    using Net = InterfaceCalls;
     if (chance_.oneIn(8)) interface.flags ^= chance_.oneOf(std::array{Net::up, Net::running});
     if (chance_.oneIn(20)) interface.flags ^= Net::loopback;
     if (chance_.oneIn(10)) interface.flags ^= Net::pointToPoint;
@@ -116,7 +116,7 @@ void NetworkSequence::changeInterface(Interface& interface) {
     if (chance_.oneIn(20)) interface.isListed = !interface.isListed;
     if (chance_.oneIn(10))
         interface.hasMessage = interface.hasLinkEntry = interface.isListed = true;
-    if (chance_.oneIn(10)) interface.linkData = NetworkInterfaces::LinkData{};
+    if (chance_.oneIn(10)) interface.linkData = InterfaceCalls::LinkData{};
     if (chance_.oneIn(20)) interface.linkData.reset();
     if (chance_.oneIn(10)) changeAddresses(interface);
 }
@@ -206,7 +206,7 @@ NetworkOracle::Reading NetworkSequence::truth(bool isAnswered) const {
         if (!interface.isListed || !hasEntry || !isEligible(interface.flags)) continue;
         NetworkOracle::Interface& told = reading.interfaces.emplace_back();
         told.name = interface.name;
-        told.isPointToPoint = (interface.flags & NetworkInterfaces::pointToPoint) != 0;
+        told.isPointToPoint = (interface.flags & InterfaceCalls::pointToPoint) != 0;
         if (interface.hasLinkEntry && interface.hasMessage) {
             told.number = interface.index;
             told.received = interface.received;

@@ -23,7 +23,7 @@ class NetworkSequence : public Sequence {
     std::optional<std::string> step() override;
 
   private:
-    using Interface = SimulatedNetworkInterfaces::Interface;
+    using Interface = SimulatedInterfaceCalls::Interface;
 
     Interface newInterface(std::string name);
     void addOrRemove();
@@ -38,7 +38,7 @@ class NetworkSequence : public Sequence {
 
     Chance chance_;
     std::shared_ptr<SimulatedMachine> machine_ = std::make_shared<SimulatedMachine>();
-    SimulatedNetworkInterfaces& net_ = machine_->networkInterfaces();
+    SimulatedInterfaceCalls& net_ = machine_->interfaceCalls();
     NetworkReader reader_{machine_};
     NetworkOracle oracle_;
     std::optional<std::string> primary_;

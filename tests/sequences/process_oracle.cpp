@@ -82,7 +82,7 @@ std::optional<std::string> ProcessOracle::judge(const ProcessSample& actual) con
         disagreement.expectSame("pid", shown.pid, process.pid, whose);
         disagreement.expectClose("percent", shown.cpuPercent, percent, whose);
         disagreement.expectSame("memory", shown.residentMemoryBytes, process.resident, whose);
-        // A path may be as old as its schedule allows, but is nobody else's.
+        // A path may be as old as its schedule allows, but is never another process's.
         const bool isItsOwn = paths_.at(process.birth).contains(shown.command);
         disagreement.expectSame("path is its own", isItsOwn, true, whose);
     }

@@ -24,7 +24,7 @@ class DamagedDefaults : public DefaultsOnDisk {
         EXPECT_EQ(stored("refreshInterval"), Value{std::int64_t{5}});
         EXPECT_EQ(contentOf(aside(1)), bytes);
     }
-    /// What cannot be written is told, and holds for the run.
+    /// What cannot be written is reported, and applies to the run.
     static std::string reasonAt(const fs::path& place) {
         const DefaultsRun program = runOn(place);
         program.start();
@@ -106,7 +106,7 @@ TEST_F(DamagedDefaults, ALinkToNowhereIsTold) {
 }
 
 TEST_F(DamagedDefaults, APlaceThatCannotBeWrittenCostsOnlyThePersistence) {
-    // Below a regular file there can be no folder, whoever runs the test.
+    // Below a regular file there can be no folder, even for root.
     const fs::path wall = folder.path() / "wall";
     writeFile(wall, "a file");
     EXPECT_EQ(reasonAt(wall / "vantor" / "settings.ini"), "The place for it is not a folder.");

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "settings/defaults_run.h"
-#include "settings/played_shared_file.h"
+#include "settings/fake_shared_file.h"
 
-/// Nobody waits for the file of the preferences, and nothing that was set is lost.
+/// Nothing waits for the file of the preferences, and nothing that was set is lost.
 namespace vantor::defaults_file_test {
 namespace {
 
@@ -17,7 +17,7 @@ using Value = DefaultsStore::Value;
 
 class DefaultsFileTest : public testing::Test {
   protected:
-    std::shared_ptr<PlayedSharedFile> file = std::make_shared<PlayedSharedFile>();
+    std::shared_ptr<FakeSharedFile> file = std::make_shared<FakeSharedFile>();
     std::optional<DefaultsRun> program;
 
     void open(std::optional<std::string> bytes = std::nullopt) {

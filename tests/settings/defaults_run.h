@@ -10,9 +10,9 @@
 
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/posix/posix_shared_file.h"
-#include "platform/simulated/manual_main_loop.h"
-#include "platform/simulated/manual_serial_queue.h"
-#include "platform/simulated/wound_clock.h"
+#include "platform/simulated/fake_clock.h"
+#include "platform/simulated/fake_main_loop.h"
+#include "platform/simulated/fake_serial_queue.h"
 #include "settings/defaults_file.h"
 #include "support/temporary_folder.h"
 
@@ -48,10 +48,10 @@ class DefaultsRun {
     std::string notSaved() const { return store_->notSaved().value(); }
     void end() { store_ = nullptr; }
 
-    const std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
-    const std::shared_ptr<ManualMainLoop> loop = std::make_shared<ManualMainLoop>(clock);
-    const std::shared_ptr<ManualSerialQueueFactory> queues =
-        std::make_shared<ManualSerialQueueFactory>();
+    const std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
+    const std::shared_ptr<FakeMainLoop> loop = std::make_shared<FakeMainLoop>(clock);
+    const std::shared_ptr<FakeSerialQueueFactory> queues =
+        std::make_shared<FakeSerialQueueFactory>();
 
   private:
     std::shared_ptr<DefaultsFile> store_;

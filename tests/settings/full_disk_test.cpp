@@ -3,7 +3,7 @@
 
 #include "settings/defaults_file.h"
 #include "settings/defaults_run.h"
-#include "settings/played_shared_file.h"
+#include "settings/fake_shared_file.h"
 
 /// What does not fit on a disk is kept, told and tried again.
 namespace vantor::full_disk_test {
@@ -14,7 +14,7 @@ using Value = DefaultsStore::Value;
 
 class FullDisk : public testing::Test {
   protected:
-    std::shared_ptr<PlayedSharedFile> file = std::make_shared<PlayedSharedFile>();
+    std::shared_ptr<FakeSharedFile> file = std::make_shared<FakeSharedFile>();
     std::optional<DefaultsRun> program;
 
     DefaultsFile& store() { return program->store(); }

@@ -20,7 +20,7 @@ namespace vantor {
 using namespace std::chrono_literals;
 
 struct Burner::Books {
-    std::array<std::atomic<std::int64_t>, mostThreads> nanoseconds{};
+    std::array<std::atomic<std::int64_t>, maxThreads> nanoseconds{};
 };
 
 namespace {
@@ -41,7 +41,7 @@ void Burner::Unmap::operator()(Books* books) const {
     ::munmap(books, sizeof(Books));
 }
 
-Burner::Burner(int threads) : threads_(std::min(threads, mostThreads)) {
+Burner::Burner(int threads) : threads_(std::min(threads, maxThreads)) {
     void* const memory =
         ::mmap(nullptr, sizeof(Books), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED) std::abort();

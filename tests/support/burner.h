@@ -11,9 +11,9 @@ namespace vantor {
 /// A process whose threads do nothing but spend processor time and keep books of it.
 class Burner {
   public:
-    static constexpr int mostThreads = 8;
+    static constexpr int maxThreads = 8;
 
-    /// Returns once all threads are at work; at most `mostThreads`.
+    /// Returns once all threads are at work; at most `maxThreads`.
     explicit Burner(int threads);
 
     pid_t pid() const { return child_->pid(); }

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/file_systems.h"
+#include "platform/linux/storage/file_systems.h"
 
 namespace vantor {
 
@@ -46,11 +46,11 @@ class HangingFileSystems : public FileSystems {
     void goOn(const std::string& path) {
         change(path, [](Place& place) { place.hangs = false; });
     }
-    /// Answers those that wait; whoever asks from now on waits as well.
+    /// Answers those that wait; later questions wait as well.
     void answerThoseWaiting(const std::string& path) {
         change(path, [](Place& place) { place.freed = place.questions; });
     }
-    /// So that nobody waits for ever.
+    /// So that no question waits for ever.
     void goOnForGood() {
         const std::lock_guard lock(mutex_);
         isOver_ = true;

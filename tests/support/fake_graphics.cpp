@@ -2,27 +2,26 @@
 
 #include <chrono>
 
-#include "platform/linux/process_clocks.h"
+#include "platform/linux/processes/process_clocks.h"
 
 namespace vantor {
 
 namespace {
 
-class WoundProcessClocks : public ProcessClocks {
+class FakeCPUClocks : public ProcessClocks {
   public:
-    explicit WoundProcessClocks(std::shared_ptr<const WoundClock> clock)
-        : clock_(std::move(clock)) {}
+    explicit FakeCPUClocks(std::shared_ptr<const FakeClock> clock) : clock_(std::move(clock)) {}
 
     std::optional<std::uint64_t> read(std::int32_t) override { return std::nullopt; }
     double now() override { return clock_->seconds(); }
 
   private:
-    std::shared_ptr<const WoundClock> clock_;
+    std::shared_ptr<const FakeClock> clock_;
 };
 
-LinuxCalls callsWith(std::shared_ptr<const WoundClock> clock,
+LinuxCalls callsWith(std::shared_ptr<const FakeClock> clock,
                      std::shared_ptr<GraphicsLibrary> library) {
-    return {nullptr, nullptr, std::make_shared<WoundProcessClocks>(std::move(clock)),
+    return {nullptr, nullptr, std::make_shared<FakeCPUClocks>(std::move(clock)),
             std::move(library)};
 }
 
@@ -65,7 +64,7 @@ void FakeGraphics::file(const std::string& address, const std::string& name,
 }
 
 void FakeGraphics::remove(const std::string& address, const std::string& name) const {
-    tree.removeSysTree(folder(address) + "/" + name);
+    tree.removeSys(folder(address) + "/" + name);
 }
 
 void FakeGraphics::power(const std::string& address, const std::string& status) const {

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/graphics_cards.h"
-#include "platform/linux/linux_accelerators.h"
-#include "platform/linux/linux_graphics_devices.h"
-#include "platform/simulated/wound_clock.h"
+#include "platform/linux/graphics/graphics_cards.h"
+#include "platform/linux/graphics/linux_accelerators.h"
+#include "platform/linux/graphics/linux_graphics_devices.h"
+#include "platform/simulated/fake_clock.h"
 #include "support/fake_kernel_tree.h"
 
 namespace vantor {
@@ -57,7 +57,7 @@ class FakeGraphics {
     void wind(double seconds) const;
 
     FakeKernelTree tree;
-    std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<GraphicsCards> cards;
     LinuxGraphicsDevices graphicsDevices;
     LinuxAccelerators accelerators;

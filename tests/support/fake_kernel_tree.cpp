@@ -83,19 +83,12 @@ void FakeKernelTree::core(unsigned processor, std::string_view package, std::str
     if (!core.empty()) sys(folder + "core_id", core);
 }
 
-void FakeKernelTree::procLink(std::string_view path, std::string_view target) const {
-    const auto link = root_ / "proc" / path;
-    std::filesystem::create_directories(link.parent_path());
-    std::filesystem::remove(link);
-    std::filesystem::create_symlink(target, link);
-}
-
 void FakeKernelTree::procFolder(std::string_view path) const {
     std::filesystem::create_directories(root_ / "proc" / path);
 }
 
 void FakeKernelTree::becomeOwnProc() const {
-    procLink("self", std::to_string(::getpid()));
+    linkProc("self", std::to_string(::getpid()));
 }
 
 void FakeKernelTree::removeProc(std::string_view path) const {
@@ -103,15 +96,7 @@ void FakeKernelTree::removeProc(std::string_view path) const {
 }
 
 void FakeKernelTree::removeSys(std::string_view path) const {
-    std::filesystem::remove(root_ / "sys" / path);
-}
-
-void FakeKernelTree::removeSysTree(std::string_view path) const {
     std::filesystem::remove_all(root_ / "sys" / path);
-}
-
-void FakeKernelTree::removeProcTree(std::string_view path) const {
-    std::filesystem::remove_all(root_ / "proc" / path);
 }
 
 }  // namespace vantor

@@ -20,7 +20,7 @@ class FakeKernelTree {
         return {root_ / "proc", root_ / "sys", root_ / "etc", root_ / "run", root_ / "usr"};
     }
 
-    /// Writes a file in place, as a kernel file changes: whoever has it open sees the new content.
+    /// Writes a file in place, as a kernel file changes: open descriptors see the new content.
     void proc(std::string_view path, std::string_view content) const;
     void sys(std::string_view path, std::string_view content) const;
     void etc(std::string_view path, std::string_view content) const;
@@ -28,7 +28,8 @@ class FakeKernelTree {
     void run(std::string_view path, std::string_view content) const;
     void usr(std::string_view path, std::string_view content) const;
 
-    /// A symbolic link of /sys; what it leads to need not be there.
+    /// A symbolic link of /sys or of /proc, in place of what was there; what it leads to need not
+    /// be there.
     void link(std::string_view path, std::string_view target) const;
     void linkProc(std::string_view path, std::string_view target) const;
 
@@ -40,8 +41,6 @@ class FakeKernelTree {
     void core(unsigned processor, std::string_view package, std::string_view die,
               std::string_view core) const;
 
-    /// A symbolic link, in place of what was there.
-    void procLink(std::string_view path, std::string_view target) const;
     void procFolder(std::string_view path) const;
 
     /// Makes /proc the one of this very process: the processes in it are then taken for live ones.
@@ -50,10 +49,6 @@ class FakeKernelTree {
     /// A folder goes with all that is in it.
     void removeProc(std::string_view path) const;
     void removeSys(std::string_view path) const;
-
-    /// Removes a folder of /sys with all that is in it.
-    void removeSysTree(std::string_view path) const;
-    void removeProcTree(std::string_view path) const;
 
   private:
     std::filesystem::path root_;

@@ -79,7 +79,7 @@ std::uint64_t DatagramSender::send(std::uint64_t count) {
     for (std::uint64_t i = 0; i < count; ++i) {
         const ssize_t length = ::send(socket_.get(), bytes.data(), bytes.size(), 0);
         if (length == static_cast<ssize_t>(bytes.size())) ++sent;
-        // The other end says that nobody listens: that is an answer to the one before.
+        // The other end reports that there is no listener: that answers the datagram before.
         if (length < 0 && errno == ECONNREFUSED) --i;
     }
     return sent;

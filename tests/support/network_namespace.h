@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/file_descriptor.h"
 
 namespace vantor {
 

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/file_descriptor.h"
 
 namespace vantor {
 

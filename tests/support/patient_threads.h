@@ -11,16 +11,17 @@
 
 namespace vantor {
 
-/// Threads that are asked something and may be late with the answer. Whoever asks does not wait for
-/// ever; the threads are waited for when this goes, and by then what they want must be free again.
+/// Threads that run a call and may be late with its result. The caller does not wait for ever; the
+/// threads are joined by the destructor, and by then what they wait for must be available.
 class PatientThreads {
   public:
-    /// What the call gives on a thread of its own; absent when that takes longer than `limit`.
+    /// Returns the call's result, from a thread of its own; absent when that takes longer than
+    /// `limit`.
     template <class Call>
     auto ask(Call call, std::chrono::seconds limit = std::chrono::seconds(20)) {
         using Answer = std::invoke_result_t<Call>;
         auto promise = std::make_shared<std::promise<Answer>>();
-        // Other than that of std::async, this future's end waits for nobody.
+        // Unlike that of std::async, this future's destructor does not wait.
         std::future<Answer> answer = promise->get_future();
         threads_.start(
             [promise = std::move(promise), call = std::move(call)] { promise->set_value(call()); });

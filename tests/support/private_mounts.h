@@ -11,8 +11,8 @@ struct ChildOutcome {
     std::string complaints;   ///< empty when all went well
 };
 
-/// Runs `work` in a process of its own whose mounts nobody else sees and which are gone with it.
-/// The work returns what it has to complain of; one that is not over after half a minute is ended.
+/// Runs `work` in a process of its own with private mounts, which are gone with it. The work
+/// returns its complaints; one that is not over after half a minute is killed.
 ChildOutcome withPrivateMounts(const std::function<std::string()>& work);
 
 /// Runs a program; true when it ended well. Nothing is shown of what it writes.

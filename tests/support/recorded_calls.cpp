@@ -150,18 +150,18 @@ class RecordedFileSystems : public FileSystems {
 
 class NoProcessClocks : public ProcessClocks {
   public:
-    explicit NoProcessClocks(std::shared_ptr<const WoundClock> clock) : clock_(std::move(clock)) {}
+    explicit NoProcessClocks(std::shared_ptr<const FakeClock> clock) : clock_(std::move(clock)) {}
 
     std::optional<std::uint64_t> read(std::int32_t) override { return std::nullopt; }
     double now() override { return clock_->seconds(); }
 
   private:
-    std::shared_ptr<const WoundClock> clock_;
+    std::shared_ptr<const FakeClock> clock_;
 };
 
 }  // namespace
 
-LinuxCalls recordedCalls(const fs::path& folder, std::shared_ptr<const WoundClock> clock) {
+LinuxCalls recordedCalls(const fs::path& folder, std::shared_ptr<const FakeClock> clock) {
     return {std::make_shared<RecordedFileSystems>(folder / "statvfs"),
             std::make_shared<RecordedLinks>(folder),
             std::make_shared<NoProcessClocks>(std::move(clock))};

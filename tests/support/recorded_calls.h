@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "platform/linux/linux_calls.h"
-#include "platform/simulated/wound_clock.h"
+#include "platform/linux/files/linux_calls.h"
+#include "platform/simulated/fake_clock.h"
 
 namespace vantor {
 
@@ -15,6 +15,6 @@ namespace vantor {
 /// must never be touched. The processes' CPU clocks answer nothing, so that times come from
 /// /proc/PID/stat; their uptime is that of `clock`.
 LinuxCalls recordedCalls(const std::filesystem::path& folder,
-                         std::shared_ptr<const WoundClock> clock);
+                         std::shared_ptr<const FakeClock> clock);
 
 }  // namespace vantor

@@ -22,10 +22,10 @@ RecordedMachine::RecordedMachine(const std::string& name)
     : RecordedMachine(std::make_shared<const RecordedTree>(name)) {}
 
 RecordedMachine::RecordedMachine(std::shared_ptr<const RecordedTree> tree)
-    : RecordedMachine(std::move(tree), std::make_shared<WoundClock>()) {}
+    : RecordedMachine(std::move(tree), std::make_shared<FakeClock>()) {}
 
 RecordedMachine::RecordedMachine(std::shared_ptr<const RecordedTree> tree,
-                                 std::shared_ptr<WoundClock> clock)
+                                 std::shared_ptr<FakeClock> clock)
     : DerivedMachine(
           std::make_shared<LinuxMachine>(tree->roots(), recordedCalls(tree->calls(), clock))),
       tree_(std::move(tree)),

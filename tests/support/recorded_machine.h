@@ -6,7 +6,7 @@
 
 #include "platform/derived_machine.h"
 #include "platform/linux/linux_machine.h"
-#include "platform/simulated/wound_clock.h"
+#include "platform/simulated/fake_clock.h"
 #include "support/recorded_tree.h"
 
 namespace vantor {
@@ -14,7 +14,7 @@ namespace vantor {
 /// The surroundings of a recorded machine, with an uptime that is wound by hand.
 class RecordedProcessInfo : public ProcessInfo {
   public:
-    RecordedProcessInfo(ProcessInfo& recorded, std::shared_ptr<const WoundClock> clock)
+    RecordedProcessInfo(ProcessInfo& recorded, std::shared_ptr<const FakeClock> clock)
         : recorded_(recorded), clock_(std::move(clock)) {}
 
     double systemUptime() const override { return clock_->seconds(); }
@@ -35,7 +35,7 @@ class RecordedProcessInfo : public ProcessInfo {
 
   private:
     ProcessInfo& recorded_;
-    std::shared_ptr<const WoundClock> clock_;
+    std::shared_ptr<const FakeClock> clock_;
 };
 
 /// A date that stands still.
@@ -66,10 +66,10 @@ class RecordedMachine : public DerivedMachine {
     WallClock& wallClock() override { return wallClock_; }
 
   private:
-    RecordedMachine(std::shared_ptr<const RecordedTree> tree, std::shared_ptr<WoundClock> clock);
+    RecordedMachine(std::shared_ptr<const RecordedTree> tree, std::shared_ptr<FakeClock> clock);
 
     std::shared_ptr<const RecordedTree> tree_;
-    std::shared_ptr<WoundClock> clock_;
+    std::shared_ptr<FakeClock> clock_;
     RecordedProcessInfo processInfo_;
     StoppedWallClock wallClock_;
 };

@@ -8,8 +8,8 @@
 
 namespace vantor {
 
-/// A copy of one machine recorded in tests/machines, gone with this object. What the recording's
-/// folder holds is told in tests/machines/README.md.
+/// A copy of one machine recorded in tests/machines, gone with this object. The recording's
+/// folder is described in tests/machines/README.md.
 class RecordedTree {
   public:
     /// Throws when there is no such recording, or it is malformed.
@@ -24,7 +24,7 @@ class RecordedTree {
     std::filesystem::path calls() const { return root_ / "calls"; }
 
     /// Lays the files of the second pass over those of the first. They are written in place, as
-    /// kernel files change: whoever has one open sees the new content.
+    /// kernel files change: open descriptors see the new content.
     void applySecondPass() const;
 
     /// The regular files of the kernel's trees and the system's own; no links, not the calls.

@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/file_descriptor.h"
 
 namespace vantor {
 
@@ -38,7 +38,7 @@ class ServedFolder {
     /// Blocks of 4096 bytes, out of a thousand.
     void setAvailable(std::uint64_t blocks) { available_ = blocks; }
 
-    /// Whoever waits for an answer gets an error.
+    /// Waiting callers get an error.
     void shutDown();
 
   private:

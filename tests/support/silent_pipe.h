@@ -8,12 +8,12 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/file_descriptor.h"
 
 namespace vantor {
 
-/// A named pipe in the place of a file, with a writer who never writes: whoever reads it either
-/// says that he does not want to wait, and is told to try again (EAGAIN), or waits for ever.
+/// A named pipe in the place of a file, with a writer that never writes: a non-blocking reader gets
+/// EAGAIN, any other waits for ever.
 class SilentPipe {
   public:
     explicit SilentPipe(const std::filesystem::path& path) {

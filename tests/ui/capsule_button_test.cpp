@@ -63,19 +63,20 @@ TEST_F(CapsuleButtonTest, WithoutAnActionDoesNotFail) {
 TEST_F(CapsuleButtonTest, GroundIsACapsuleOfTheFaintLabelColour) {
     for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
         const QImage image = rendered(view, view.sizeHint(), scheme);
-        const QColor ground = VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.07);
-        EXPECT_TRUE(isNear(colorAt(image, 6, view.height() / 2.0), ground));
+        const QColor background = VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.07);
+        EXPECT_TRUE(isNear(colorAt(image, 6, view.height() / 2.0), background));
         EXPECT_EQ(colorAt(image, 0.5, 0.5).alpha(), 0) << "a corner is rounded off";
     }
 }
 
 TEST_F(CapsuleButtonTest, TextAndSymbolKeepTheirDistanceFromTheEdges) {
     const QImage image = rendered(view, view.sizeHint());
-    const QColor ground = VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.07);
+    const QColor background =
+        VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.07);
     const QRectF above(20, 1, view.width() - 40, 6);
-    EXPECT_EQ(pixelsLike(image, above, ground), paintedPixels(image, above));
+    EXPECT_EQ(pixelsLike(image, above, background), paintedPixels(image, above));
     const QRectF leading(8, 10, 3, view.height() - 20);
-    EXPECT_EQ(pixelsLike(image, leading, ground), paintedPixels(image, leading));
+    EXPECT_EQ(pixelsLike(image, leading, background), paintedPixels(image, leading));
 }
 
 TEST_F(CapsuleButtonTest, IsPaintedFainterWhileDisabled) {

@@ -29,14 +29,14 @@ QImage chrome(ColorScheme scheme, double scale = 1) {
     return image;
 }
 
-QColor ground(ColorScheme scheme) {
+QColor background(ColorScheme scheme) {
     return scheme == ColorScheme::dark ? QColor::fromRgbF(0.075f, 0.085f, 0.115f, 0.96f)
                                        : QColor::fromRgbF(1, 1, 1, 0.9f);
 }
 
 TEST(CardChrome, GroundIsTheSchemesCardColour) {
     for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
-        EXPECT_TRUE(isNear(colorAt(chrome(scheme), 100, 50), ground(scheme)));
+        EXPECT_TRUE(isNear(colorAt(chrome(scheme), 100, 50), background(scheme)));
     }
 }
 
@@ -52,7 +52,7 @@ TEST(CardChrome, CornersAreRounded) {
 TEST(CardChrome, BorderIsOnePointInsideTheEdge) {
     const QImage image = chrome(ColorScheme::light);
     const QColor inside = colorAt(image, 100, 1.5);
-    EXPECT_TRUE(isNear(inside, ground(ColorScheme::light)));
+    EXPECT_TRUE(isNear(inside, background(ColorScheme::light)));
     for (const QPointF edge :
          {QPointF(100, 0.5), QPointF(100, 99.5), QPointF(0.5, 50), QPointF(199.5, 50)}) {
         const QColor border = colorAt(image, edge.x(), edge.y());
@@ -63,10 +63,10 @@ TEST(CardChrome, BorderIsOnePointInsideTheEdge) {
 
 TEST(CardChrome, BorderIsSharpAtFractionalScales) {
     const QImage image = chrome(ColorScheme::light, 1.5);
-    // Two device pixels of border, then the ground.
+    // Two device pixels of border, then the background.
     const QColor border = image.pixelColor(150, 0);
     EXPECT_EQ(image.pixelColor(150, 1), border);
-    EXPECT_TRUE(isNear(image.pixelColor(150, 2), ground(ColorScheme::light)));
+    EXPECT_TRUE(isNear(image.pixelColor(150, 2), background(ColorScheme::light)));
 }
 
 TEST(DashboardCard, EqualityComparesEverythingShown) {

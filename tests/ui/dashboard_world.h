@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
-#include "platform/simulated/manual_main_loop.h"
-#include "platform/simulated/manual_serial_queue.h"
+#include "platform/simulated/fake_main_loop.h"
+#include "platform/simulated/fake_serial_queue.h"
 #include "platform/simulated/simulated_machine.h"
-#include "sampling/played_export_platform.h"
+#include "sampling/fake_export_platform.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
 #include "support/kept_defaults.h"
@@ -43,15 +43,15 @@ class TestBundle : public BundleInfo {
 /// Its processors spend 30 ticks for the user and 10 for the kernel out of every 100, so that each
 /// reading after the first says 40 %.
 struct DashboardWorld {
-    const std::shared_ptr<WoundClock> clock;
+    const std::shared_ptr<FakeClock> clock;
     const std::shared_ptr<SimulatedMachine> machine;
-    const std::shared_ptr<ManualMainLoop> loop = std::make_shared<ManualMainLoop>(clock);
-    const std::shared_ptr<ManualSerialQueueFactory> queues =
-        std::make_shared<ManualSerialQueueFactory>();
+    const std::shared_ptr<FakeMainLoop> loop = std::make_shared<FakeMainLoop>(clock);
+    const std::shared_ptr<FakeSerialQueueFactory> queues =
+        std::make_shared<FakeSerialQueueFactory>();
     const std::shared_ptr<KeptDefaults> defaults = std::make_shared<KeptDefaults>();
     const std::shared_ptr<AppSettings> settings =
         std::make_shared<AppSettings>(defaults, std::make_shared<TestAppearance>());
-    PlayedExportPlatform user;  ///< is asked where to save
+    FakeExportPlatform user;  ///< is asked where to save
     const std::shared_ptr<SystemMonitor> monitor =
         SystemMonitor::make(settings, machine, loop, queues, user.platform());
     const AppMetadata metadata{TestBundle{}};
@@ -60,12 +60,12 @@ struct DashboardWorld {
     std::function<void()> onFirstLiveFrame = [this] { ++firstFrames; };
     std::unique_ptr<DashboardView> view;
 
-    DashboardWorld() : DashboardWorld(std::make_shared<WoundClock>()) {
+    DashboardWorld() : DashboardWorld(std::make_shared<FakeClock>()) {
         machine->hostProcessors().growth = {30, 10, 60, 0};
     }
 
     /// On another machine, which lives by that clock.
-    DashboardWorld(std::shared_ptr<WoundClock> itsClock,
+    DashboardWorld(std::shared_ptr<FakeClock> itsClock,
                    std::shared_ptr<SimulatedMachine> itsMachine)
         : clock(std::move(itsClock)), machine(std::move(itsMachine)) {}
 
@@ -85,7 +85,7 @@ struct DashboardWorld {
         return *view;
     }
 
-    explicit DashboardWorld(const std::shared_ptr<WoundClock>& itsClock)
+    explicit DashboardWorld(const std::shared_ptr<FakeClock>& itsClock)
         : DashboardWorld(itsClock, SimulatedMachine::laptop(itsClock)) {}
 
     /// Runs all work that is left to do at this instant, and paints nothing of it yet.

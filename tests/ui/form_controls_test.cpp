@@ -15,7 +15,7 @@ namespace {
 
 using Half = StepperView::Half;
 
-constexpr auto leastNumber = std::numeric_limits<std::int64_t>::min();
+constexpr auto minNumber = std::numeric_limits<std::int64_t>::min();
 constexpr auto greatestNumber = std::numeric_limits<std::int64_t>::max();
 
 Stepper history() {
@@ -32,7 +32,7 @@ TEST(Stepper, StepsWithinItsBounds) {
 TEST(Stepper, FromOutsideItGoesToTheNearestBoundAndNeverWraps) {
     EXPECT_EQ(history().stepped(1000, -1), 300);
     EXPECT_EQ(history().stepped(5, 1), 30);
-    EXPECT_EQ(history().stepped(leastNumber, -10), 30);
+    EXPECT_EQ(history().stepped(minNumber, -10), 30);
     EXPECT_EQ(history().stepped(greatestNumber, 10), 300);
 }
 

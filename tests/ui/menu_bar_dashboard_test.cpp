@@ -275,8 +275,9 @@ TEST(MenuMetric, StandsOnAFaintTileAndItsBarHasItsShare) {
     MenuMetricView view({QStringLiteral("CPU"), QStringLiteral("50%"), 0.5, VantorTheme::cyan()});
     const QSize size(124, view.sizeHint().height());
     const QImage image = rendered(view, size);
-    const QColor ground = VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.06);
-    EXPECT_TRUE(isNear(colorAt(image, 120, size.height() / 2.0), ground));
+    const QColor background =
+        VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.06);
+    EXPECT_TRUE(isNear(colorAt(image, 120, size.height() / 2.0), background));
     EXPECT_EQ(colorAt(image, 0.5, 0.5).alpha(), 0) << "its corners are round";
     const double y = size.height() - 11;
     EXPECT_GT(qAlpha(image.pixel(55, int(y))), 200) << "just short of the middle of 12 to 112";

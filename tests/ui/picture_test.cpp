@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/simulated/manual_main_loop.h"
+#include "platform/simulated/fake_main_loop.h"
 #include "platform/simulated/simulated_machine.h"
 #include "ui/card_samples.h"
 #include "ui/cards/cpu_card.h"
@@ -117,8 +117,8 @@ std::unique_ptr<QWidget> network() {
 /// Its processes live as long as the tests.
 std::unique_ptr<QWidget> explorer(const char* query) {
     static const DashboardState state = stateWithEverything();
-    const auto clock = std::make_shared<WoundClock>();
-    const auto loop = std::make_shared<ManualMainLoop>(clock);
+    const auto clock = std::make_shared<FakeClock>();
+    const auto loop = std::make_shared<FakeMainLoop>(clock);
     auto view = makeView<ProcessExplorerView>(laptop().processInfo(), loop);
     view->show(ProcessExplorer::of(state));
     view->filter().setText(QString::fromLatin1(query));
@@ -235,7 +235,7 @@ const std::vector<Subject>& subjects() {
     return all;
 }
 
-/// The widget in its own size on the ground that it stands on in the window.
+/// The widget in its own size on the background that it stands on in the window.
 QImage pictureOf(QWidget& widget, int width, ColorScheme scheme, int scale) {
     widget.setPalette(paletteOf(scheme));
     QSize size = widget.sizeHint();

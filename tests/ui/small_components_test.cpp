@@ -22,8 +22,9 @@ TEST(SpeedTile, DrawsSymbolTitleAndValueOnAFaintGround) {
     const QSize size(180, view.sizeHint().height());
     EXPECT_GE(size.height(), 46) << "a symbol's tile of 26 and the padding";
     const QImage image = rendered(view, size);
-    const QColor ground = VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.045);
-    EXPECT_TRUE(isNear(colorAt(image, 170, 23), ground));
+    const QColor background =
+        VantorTheme::faded(VantorTheme::primaryLabel(ColorScheme::dark), 0.045);
+    EXPECT_TRUE(isNear(colorAt(image, 170, 23), background));
     EXPECT_EQ(colorAt(image, 0.5, 0.5).alpha(), 0) << "its corners are round";
     EXPECT_GT(pixelsLike(image, QRectF(10, 10, 26, 26), VantorTheme::green()), 5);
     EXPECT_GT(paintedPixels(image, QRectF(45, 10, 60, 26)), 0);
@@ -32,7 +33,7 @@ TEST(SpeedTile, DrawsSymbolTitleAndValueOnAFaintGround) {
 }
 
 TEST(SpeedTile, WithoutAGroundItsSymbolStandsAtItsEdge) {
-    SpeedTileView view(tile(), SpeedTileView::Ground::none);
+    SpeedTileView view(tile(), SpeedTileView::Background::none);
     const QSize size(180, view.sizeHint().height());
     EXPECT_LT(size.height(), SpeedTileView(tile()).sizeHint().height());
     const QImage image = rendered(view, size);

@@ -23,11 +23,11 @@ void expectColor(const QColor& color, double red, double green, double blue, dou
     EXPECT_NEAR(color.alphaF(), alpha, 1e-4);
 }
 
-QColor over(const QColor& top, const QColor& ground) {
+QColor over(const QColor& top, const QColor& background) {
     const float a = top.alphaF();
-    return QColor::fromRgbF(top.redF() * a + ground.redF() * (1 - a),
-                            top.greenF() * a + ground.greenF() * (1 - a),
-                            top.blueF() * a + ground.blueF() * (1 - a));
+    return QColor::fromRgbF(top.redF() * a + background.redF() * (1 - a),
+                            top.greenF() * a + background.greenF() * (1 - a),
+                            top.blueF() * a + background.blueF() * (1 - a));
 }
 
 double luminance(const QColor& color) {
@@ -45,8 +45,8 @@ double contrast(const QColor& one, const QColor& other) {
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-/// What is behind the text of a card: its ground over every colour of the window's background.
-std::array<QColor, 3> cardGrounds(ColorScheme scheme) {
+/// What is behind the text of a card: its background over every colour of the window's background.
+std::array<QColor, 3> cardFrames(ColorScheme scheme) {
     const QColor card = scheme == ColorScheme::dark
                             ? QColor::fromRgbF(0.075f, 0.085f, 0.115f, 0.96f)
                             : QColor::fromRgbF(1, 1, 1, 0.9f);
@@ -97,9 +97,10 @@ TEST(VantorTheme, FadedKeepsTheColourAndMultipliesItsOpacity) {
 
 TEST(VantorTheme, SmallTextCanBeReadOnACard) {
     for (const ColorScheme scheme : schemes) {
-        for (const QColor& ground : cardGrounds(scheme)) {
-            EXPECT_GE(contrast(over(VantorTheme::secondaryLabel(scheme), ground), ground), 4.5);
-            EXPECT_GE(contrast(over(VantorTheme::primaryLabel(scheme), ground), ground), 7);
+        for (const QColor& background : cardFrames(scheme)) {
+            EXPECT_GE(contrast(over(VantorTheme::secondaryLabel(scheme), background), background),
+                      4.5);
+            EXPECT_GE(contrast(over(VantorTheme::primaryLabel(scheme), background), background), 7);
         }
     }
 }
@@ -107,8 +108,9 @@ TEST(VantorTheme, SmallTextCanBeReadOnACard) {
 TEST(VantorTheme, SmallTextCanBeReadOnTheWindow) {
     for (const ColorScheme scheme : schemes) {
         for (const auto& stop : VantorTheme::background(scheme, QRectF(0, 0, 1, 1)).stops()) {
-            const QColor& ground = stop.second;
-            EXPECT_GE(contrast(over(VantorTheme::secondaryLabel(scheme), ground), ground), 4.5);
+            const QColor& background = stop.second;
+            EXPECT_GE(contrast(over(VantorTheme::secondaryLabel(scheme), background), background),
+                      4.5);
         }
     }
 }
@@ -117,10 +119,10 @@ TEST(VantorTheme, NumbersOfCoresCanBeReadHoweverBusyTheyAre) {
     for (const ColorScheme scheme : schemes) {
         for (const double usage : {0.0, 0.01, 0.25, 0.5, 0.75, 1.0}) {
             const QColor fill = CoreActivity::fill(usage);
-            for (const QColor& card : cardGrounds(scheme)) {
-                const QColor ground = over(fill, card);
-                const QColor label = over(VantorTheme::labelOn(fill, scheme), ground);
-                EXPECT_GE(contrast(label, ground), 4.5)
+            for (const QColor& card : cardFrames(scheme)) {
+                const QColor background = over(fill, card);
+                const QColor label = over(VantorTheme::labelOn(fill, scheme), background);
+                EXPECT_GE(contrast(label, background), 4.5)
                     << usage << (scheme == ColorScheme::dark ? " dark" : " light");
             }
         }

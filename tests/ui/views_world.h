@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "platform/simulated/manual_main_loop.h"
-#include "platform/simulated/manual_serial_queue.h"
+#include "platform/simulated/fake_main_loop.h"
+#include "platform/simulated/fake_serial_queue.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
@@ -35,11 +35,11 @@ class NumberedBundle : public BundleInfo {
 /// What the panel, the settings and the help are made from. Nothing is read on this machine: what
 /// the monitor holds is what is put there.
 struct ViewsWorld {
-    const std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    const std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     const std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop(clock);
-    const std::shared_ptr<ManualMainLoop> loop = std::make_shared<ManualMainLoop>(clock);
-    const std::shared_ptr<ManualSerialQueueFactory> queues =
-        std::make_shared<ManualSerialQueueFactory>();
+    const std::shared_ptr<FakeMainLoop> loop = std::make_shared<FakeMainLoop>(clock);
+    const std::shared_ptr<FakeSerialQueueFactory> queues =
+        std::make_shared<FakeSerialQueueFactory>();
     const std::shared_ptr<KeptDefaults> defaults = std::make_shared<KeptDefaults>();
     const std::shared_ptr<NotedAppearance> appearance = std::make_shared<NotedAppearance>();
     const std::shared_ptr<AppSettings> settings =

@@ -43,8 +43,8 @@ std::string written(const std::vector<Record>& records) {
     return text;
 }
 
-/// What the readers have answered in one pass; filled by their threads. What comes after the pass
-/// was given up finds it still there.
+/// The readers' answers of one pass; filled by their threads. It outlives a pass that was given up,
+/// for answers that come later.
 class Answers {
   public:
     void put(std::size_t area, std::string text) {

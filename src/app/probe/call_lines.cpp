@@ -7,7 +7,7 @@
 #include <cstring>
 #include <vector>
 
-#include "probes/sysctl.h"
+#include "platform/sysctl.h"
 
 namespace vantor {
 

@@ -5,7 +5,7 @@
 
 namespace vantor {
 
-/// Makes every call that a machine has and reports what it answers.
+/// Makes every platform call of a machine and reports the answers.
 void reportCalls(Machine& machine, Report& report);
 
 // Its parts, in this order.

@@ -1,52 +1,27 @@
-#include <array>
-#include <cstring>
+#include <string>
 #include <vector>
 
 #include "app/probe/call_lines.h"
-#include "platform/interface_message.h"
-#include "platform/smc_record.h"
 
 namespace vantor {
 
 namespace {
 
-std::string primaryInterface(DynamicStore& store, std::string_view key) {
-    const PropertyValue* const value = store.copyValue(key);
-    const PropertyDictionary* const dictionary = value ? value->dictionary() : nullptr;
-    const std::string* const name =
-        dictionary ? findText(*dictionary, "PrimaryInterface") : nullptr;
-    return name ? *name : "absent";
-}
-
-const char* nameOf(NetworkInterfaces::Family family) {
-    constexpr std::array names{"no address", "link", "IPv4", "IPv6", "another family"};
-    return names[static_cast<std::size_t>(family)];
-}
-
-void reportEntry(NetworkInterfaces& interfaces, const NetworkInterfaces::Entry& entry,
-                 Report& report) {
-    std::array<char, 1025> host{};
-    std::string answer = nameOf(entry.family);
-    if (interfaces.numericHost(entry, host)) answer += std::string(" ") + host.data();
-    if (entry.linkData)
-        answer += " in " + std::to_string(entry.linkData->received) + " out " +
-                  std::to_string(entry.linkData->sent);
-    answer += ", flags " + std::to_string(entry.flags);
-    report.line(std::string("  ") + (entry.name ? entry.name : "(no name)"), answer);
-}
-
-/// One question that needs no sensor: how many keys there are.
-std::string keyCountOf(SystemController& controller, SystemController::Connection connection) {
-    SMCRecord request;
-    SMCRecord response;
-    request.setKey(fourCC("#KEY").value_or(0));
-    request.setCommand(SMCRecord::Command::readKeyInfo);
-    std::size_t size = 0;
-    const int result =
-        controller.callStructMethod(connection, 2, request.bytes(), response.bytes(), size);
-    return "answers " + std::to_string(result) + ", " + std::to_string(size) + " bytes, result " +
-           std::to_string(response.result()) + ", value of " + std::to_string(response.dataSize()) +
-           " bytes";
+std::string answerOf(const NetworkInterfaces::Record& record) {
+    std::string answer = "number " + std::to_string(record.index);
+    if (record.isUp) answer += ", up";
+    if (record.isRunning) answer += ", running";
+    if (record.isLoopback) answer += ", loopback";
+    if (record.isPointToPoint) answer += ", point to point";
+    if (record.counters)
+        answer += ", in " + std::to_string(record.counters->received) + " out " +
+                  std::to_string(record.counters->sent);
+    if (record.shortCounters)
+        answer += ", in 32 bits in " + std::to_string(record.shortCounters->received) + " out " +
+                  std::to_string(record.shortCounters->sent);
+    for (const NetworkInterfaces::Address& address : record.addresses)
+        answer += ", " + address.text;
+    return answer;
 }
 
 std::string keysOf(const PropertyDictionary& dictionary) {
@@ -59,26 +34,15 @@ std::string keysOf(const PropertyDictionary& dictionary) {
 }  // namespace
 
 void reportNetwork(Machine& machine, Report& report) {
-    NetworkInterfaces& interfaces = machine.networkInterfaces();
-    std::size_t size = 0;
-    const int sizing = interfaces.sysctl(interface_message::path, {}, size);
-    report.line("sysctl, size of the list",
-                sizing == 0 ? std::to_string(size) + " bytes" : "error " + std::to_string(sizing));
-    std::vector<std::byte> list(size);
-    const int error = interfaces.sysctl(interface_message::path, list, size);
-    report.line("sysctl, the list",
-                error == 0 ? std::to_string(size) + " bytes" : "error " + std::to_string(error));
-    std::array<char, 16> name{};
-    report.line("indexToName 1", interfaces.indexToName(1, name) ? name.data() : "absent");
-    const auto entries = interfaces.getifaddrs();
-    report.line("getifaddrs", entries ? std::to_string(entries->size()) + " entries" : "absent");
-    if (entries) {
-        for (const auto& entry : *entries)
-            reportEntry(interfaces, entry, report);
-        interfaces.freeifaddrs();
+    NetworkInterfaces::List interfaces;
+    const bool areThere = machine.networkInterfaces().read(interfaces);
+    report.line("interfaces", areThere ? std::to_string(interfaces.size()) : "absent");
+    if (areThere) {
+        for (const NetworkInterfaces::Record& record : interfaces)
+            report.line("  " + record.name, answerOf(record));
     }
-    for (const char* const key : {"State:/Network/Global/IPv4", "State:/Network/Global/IPv6"})
-        report.line(std::string("copyValue ") + key, primaryInterface(machine.dynamicStore(), key));
+    const auto primary = machine.primaryInterface().name();
+    report.line("primary interface", primary ? std::string(*primary) : "absent");
 }
 
 void reportStorageAndPower(Machine& machine, Report& report) {
@@ -139,29 +103,8 @@ void reportGraphics(Machine& machine, Report& report) {
 }
 
 void reportSensors(Machine& machine, Report& report) {
-    SystemController& controller = machine.systemController();
-    const auto service = controller.matchingService();
-    report.line("matchingService", service != 0 ? "there" : "absent");
-    if (service != 0) {
-        const auto connection = controller.open(service);
-        report.line("open", connection != 0 ? "opened" : "refused");
-        if (connection != 0) {
-            report.line("callStructMethod #KEY", keyCountOf(controller, connection));
-            controller.close(connection);
-        }
-        controller.release(service);
-    }
-    HIDEventSystem& events = machine.hidEventSystem();
-    void* const library = events.openLibrary("/System/Library/Frameworks/IOKit.framework/IOKit");
-    report.line("openLibrary", library != nullptr);
-    if (!library) return;
-    for (const char* const name :
-         {"IOHIDEventSystemClientCreate", "IOHIDEventSystemClientSetMatching",
-          "IOHIDEventSystemClientCopyServices", "IOHIDServiceClientCopyProperty",
-          "IOHIDServiceClientCopyEvent", "IOHIDEventGetFloatValue"})
-        report.line(std::string("findFunction ") + name,
-                    events.findFunction(library, name) != nullptr);
-    events.closeLibrary(library);
+    report.line("processor, degrees Celsius", machine.temperatures().processor());
+    report.line("graphics of the chip, degrees Celsius", machine.temperatures().graphics());
 }
 
 }  // namespace vantor

@@ -9,7 +9,7 @@ void Report::heading(std::string_view text) {
 }
 
 void Report::write(std::string_view name, std::string_view answer) {
-    // At once: a call that hangs shows by the line that is missing.
+    // Flushed: the missing line names a call that hangs.
     out_ << "  " << std::left << std::setw(38) << name << " " << answer << std::endl;
 }
 

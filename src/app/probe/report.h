@@ -9,7 +9,7 @@
 
 namespace vantor {
 
-/// Lines of "name  answer" in two columns, for a person to read down.
+/// Lines of "name  answer" in two columns.
 class Report {
   public:
     explicit Report(std::ostream& out) : out_(out) {}

@@ -7,14 +7,13 @@
 #include "platform/native_machine.h"
 #include "platform/program_architecture.h"
 
-/// Says what the platform calls and the readers answer on the machine that it runs on: for whoever
-/// looks over an adapter on a machine of their own. It writes nothing but one small file that it
-/// removes again.
+/// Prints what the platform calls and the readers answer on the machine that it runs on, to check
+/// an adapter on a real machine. It writes nothing but one small file that it removes again.
 int main() {
     using namespace vantor;
     std::cout << "What this machine answers (program for " << programArchitecture << ")\n";
     Report report(std::cout);
-    // As the program is: what that would take from the readers is missed below.
+    // Confined like the program: what that took from the readers would be missing below.
     const auto confinement = makeNativeConfinement();
     confinement->confineEarly();
     confinement->confineForRunning(Confinement::Listening::isOver);
@@ -30,6 +29,6 @@ int main() {
               << (areasAnswer && servicesWork ? "All that must answer has answered."
                                               : "Something that must answer has not.")
               << std::endl;
-    // A reader that hangs must not keep the program.
+    // A reader that hangs must not block the program's end.
     std::_Exit(areasAnswer && servicesWork ? EXIT_SUCCESS : EXIT_FAILURE);
 }

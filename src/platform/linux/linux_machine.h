@@ -2,24 +2,22 @@
 
 #include <memory>
 
-#include "platform/linux/graphics_cards.h"
-#include "platform/linux/linux_accelerators.h"
-#include "platform/linux/linux_calls.h"
-#include "platform/linux/linux_dynamic_store.h"
-#include "platform/linux/linux_graphics_devices.h"
-#include "platform/linux/linux_hid_event_system.h"
-#include "platform/linux/linux_host_memory.h"
-#include "platform/linux/linux_host_processors.h"
-#include "platform/linux/linux_kernel_values.h"
-#include "platform/linux/linux_load_averages.h"
-#include "platform/linux/linux_mounted_volumes.h"
-#include "platform/linux/linux_network_interfaces.h"
-#include "platform/linux/linux_power_sources.h"
-#include "platform/linux/linux_process_info.h"
-#include "platform/linux/linux_process_table.h"
+#include "platform/linux/files/linux_calls.h"
+#include "platform/linux/graphics/graphics_cards.h"
+#include "platform/linux/graphics/linux_accelerators.h"
+#include "platform/linux/graphics/linux_graphics_devices.h"
 #include "platform/linux/linux_roots.h"
-#include "platform/linux/linux_system_controller.h"
-#include "platform/linux/processor_sensors.h"
+#include "platform/linux/memory/linux_host_memory.h"
+#include "platform/linux/network/linux_network_interfaces.h"
+#include "platform/linux/network/linux_primary_interface.h"
+#include "platform/linux/power/linux_power_sources.h"
+#include "platform/linux/processes/linux_process_table.h"
+#include "platform/linux/processor/linux_host_processors.h"
+#include "platform/linux/processor/linux_load_averages.h"
+#include "platform/linux/sensors/linux_temperatures.h"
+#include "platform/linux/storage/linux_mounted_volumes.h"
+#include "platform/linux/system/linux_kernel_values.h"
+#include "platform/linux/system/linux_process_info.h"
 #include "platform/machine.h"
 #include "platform/posix/system_wall_clock.h"
 
@@ -31,11 +29,8 @@ class LinuxMachine : public Machine {
     explicit LinuxMachine(const LinuxRoots& roots = {},
                           const LinuxCalls& calls = LinuxCalls::live())
         : graphicsCards_(std::make_shared<GraphicsCards>(roots, calls)),
-          processorSensors_(std::make_shared<ProcessorSensors>(roots)),
           accelerators_(graphicsCards_),
-          dynamicStore_(roots, calls.routes),
           graphicsDevices_(graphicsCards_),
-          hidEventSystem_(processorSensors_),
           hostMemory_(roots),
           hostProcessors_(roots),
           kernelValues_(roots),
@@ -43,14 +38,13 @@ class LinuxMachine : public Machine {
           mountedVolumes_(roots, calls.fileSystems),
           networkInterfaces_(calls.links),
           powerSources_(roots),
+          primaryInterface_(roots, calls.routes),
           processInfo_(roots),
           processTable_(roots, calls.processClocks),
-          systemController_(processorSensors_) {}
+          temperatures_(std::make_shared<ProcessorSensors>(roots)) {}
 
     Accelerators& accelerators() override { return accelerators_; }
-    DynamicStore& dynamicStore() override { return dynamicStore_; }
     GraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    HIDEventSystem& hidEventSystem() override { return hidEventSystem_; }
     HostMemory& hostMemory() override { return hostMemory_; }
     HostProcessors& hostProcessors() override { return hostProcessors_; }
     KernelValues& kernelValues() override { return kernelValues_; }
@@ -58,20 +52,17 @@ class LinuxMachine : public Machine {
     MountedVolumes& mountedVolumes() override { return mountedVolumes_; }
     NetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
     PowerSources& powerSources() override { return powerSources_; }
+    PrimaryInterface& primaryInterface() override { return primaryInterface_; }
     ProcessInfo& processInfo() override { return processInfo_; }
     ProcessTable& processTable() override { return processTable_; }
-    SystemController& systemController() override { return systemController_; }
+    Temperatures& temperatures() override { return temperatures_; }
     WallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return words_; }
 
   private:
-    // Each for both that tell of them.
-    std::shared_ptr<GraphicsCards> graphicsCards_;
-    std::shared_ptr<ProcessorSensors> processorSensors_;
+    std::shared_ptr<GraphicsCards> graphicsCards_;  // for both that tell of them
     LinuxAccelerators accelerators_;
-    LinuxDynamicStore dynamicStore_;
     LinuxGraphicsDevices graphicsDevices_;
-    LinuxHIDEventSystem hidEventSystem_;
     LinuxHostMemory hostMemory_;
     LinuxHostProcessors hostProcessors_;
     LinuxKernelValues kernelValues_;
@@ -79,9 +70,10 @@ class LinuxMachine : public Machine {
     LinuxMountedVolumes mountedVolumes_;
     LinuxNetworkInterfaces networkInterfaces_;
     LinuxPowerSources powerSources_;
+    LinuxPrimaryInterface primaryInterface_;
     LinuxProcessInfo processInfo_;
     LinuxProcessTable processTable_;
-    LinuxSystemController systemController_;
+    LinuxTemperatures temperatures_;
     SystemWallClock wallClock_;
     PlatformWords words_{
         .systemName = "Linux",

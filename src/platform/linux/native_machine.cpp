@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/linux/icu_name_order.h"
 #include "platform/linux/linux_machine.h"
+#include "platform/linux/system/icu_name_order.h"
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/posix/posix_local_calendar.h"
 #include "platform/threads/threaded_serial_queue.h"
@@ -31,7 +31,7 @@ std::shared_ptr<BackgroundQueueFactory> makeNativeQueueFactory(
     return std::make_shared<ThreadedSerialQueueFactory>(
         [prepare = std::move(prepareThread)](const std::string& label) {
             if (prepare) prepare();
-            assumeUtilityRole(label);
+            setUtilityPriority(label);
         });
 }
 

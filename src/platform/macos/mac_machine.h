@@ -2,23 +2,26 @@
 
 #include <memory>
 
+#include "platform/darwin/darwin_network_interfaces.h"
+#include "platform/darwin/darwin_primary_interface.h"
+#include "platform/darwin/darwin_temperatures.h"
 #include "platform/machine.h"
-#include "platform/macos/frameworks.h"
-#include "platform/macos/mac_accelerators.h"
-#include "platform/macos/mac_dynamic_store.h"
-#include "platform/macos/mac_graphics_devices.h"
-#include "platform/macos/mac_hid_event_system.h"
-#include "platform/macos/mac_host_memory.h"
-#include "platform/macos/mac_host_processors.h"
-#include "platform/macos/mac_kernel_values.h"
-#include "platform/macos/mac_load_averages.h"
-#include "platform/macos/mac_mounted_volumes.h"
-#include "platform/macos/mac_network_interfaces.h"
-#include "platform/macos/mac_power_sources.h"
-#include "platform/macos/mac_process_info.h"
-#include "platform/macos/mac_process_table.h"
-#include "platform/macos/mac_system_controller.h"
-#include "platform/macos/mac_words.h"
+#include "platform/macos/frameworks/frameworks.h"
+#include "platform/macos/graphics/mac_accelerators.h"
+#include "platform/macos/graphics/mac_graphics_devices.h"
+#include "platform/macos/memory/mac_host_memory.h"
+#include "platform/macos/network/mac_dynamic_store.h"
+#include "platform/macos/network/mac_interface_calls.h"
+#include "platform/macos/power/mac_power_sources.h"
+#include "platform/macos/processes/mac_process_table.h"
+#include "platform/macos/processor/mac_host_processors.h"
+#include "platform/macos/processor/mac_load_averages.h"
+#include "platform/macos/sensors/mac_hid_event_system.h"
+#include "platform/macos/sensors/mac_system_controller.h"
+#include "platform/macos/storage/mac_mounted_volumes.h"
+#include "platform/macos/system/mac_kernel_values.h"
+#include "platform/macos/system/mac_process_info.h"
+#include "platform/macos/system/mac_words.h"
 #include "platform/posix/system_wall_clock.h"
 
 namespace vantor {
@@ -38,19 +41,18 @@ class MacMachine final : public Machine {
           systemController_(frameworks) {}
 
     MacAccelerators& accelerators() override { return accelerators_; }
-    MacDynamicStore& dynamicStore() override { return dynamicStore_; }
     MacGraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    MacHIDEventSystem& hidEventSystem() override { return hidEventSystem_; }
     MacHostMemory& hostMemory() override { return hostMemory_; }
     MacHostProcessors& hostProcessors() override { return hostProcessors_; }
     MacKernelValues& kernelValues() override { return kernelValues_; }
     MacLoadAverages& loadAverages() override { return loadAverages_; }
     MacMountedVolumes& mountedVolumes() override { return mountedVolumes_; }
-    MacNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
+    DarwinNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
     MacPowerSources& powerSources() override { return powerSources_; }
+    DarwinPrimaryInterface& primaryInterface() override { return primaryInterface_; }
     MacProcessInfo& processInfo() override { return processInfo_; }
     MacProcessTable& processTable() override { return processTable_; }
-    MacSystemController& systemController() override { return systemController_; }
+    DarwinTemperatures& temperatures() override { return temperatures_; }
     SystemWallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return macWords; }
 
@@ -64,12 +66,17 @@ class MacMachine final : public Machine {
     MacKernelValues kernelValues_;
     MacLoadAverages loadAverages_;
     MacMountedVolumes mountedVolumes_;
-    MacNetworkInterfaces networkInterfaces_;
+    MacInterfaceCalls interfaceCalls_;
     MacPowerSources powerSources_;
     MacProcessInfo processInfo_;
     MacProcessTable processTable_;
     MacSystemController systemController_;
     SystemWallClock wallClock_;
+    // What these are read by are calls above.
+    DarwinNetworkInterfaces networkInterfaces_{interfaceCalls_};
+    DarwinPrimaryInterface primaryInterface_{dynamicStore_};
+    DarwinTemperatures temperatures_{kernelValues_, systemController_, hidEventSystem_,
+                                     processInfo_};
 };
 
 }  // namespace vantor

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "platform/macos/autorelease_pool.h"
-#include "platform/macos/frameworks.h"
+#include "platform/macos/frameworks/autorelease_pool.h"
+#include "platform/macos/frameworks/frameworks.h"
 #include "platform/macos/mac_machine.h"
-#include "platform/macos/mac_name_order.h"
-#include "platform/macos/mac_queue_factory.h"
+#include "platform/macos/system/mac_name_order.h"
+#include "platform/macos/system/mac_queue_factory.h"
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/posix/posix_local_calendar.h"
 

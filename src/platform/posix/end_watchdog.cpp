@@ -47,7 +47,7 @@ EndWatchdog::EndWatchdog(std::chrono::seconds patience) {
     action.sa_handler = endNow;
     sigemptyset(&action.sa_mask);
     ::sigaction(SIGALRM, &action, &endingState.former);
-    // Inherited from whoever started the program, and by its threads.
+    // A blocked signal is inherited from the parent process, and by threads.
     sigset_t set;
     sigemptyset(&set);
     sigaddset(&set, SIGALRM);

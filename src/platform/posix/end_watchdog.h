@@ -8,13 +8,13 @@ namespace vantor {
 /// call of the kernel included: by a timer's signal (SIGALRM), which needs neither a thread nor
 /// memory nor a descriptor.
 ///
-/// Who was told to end by a signal ends with that signal's own status, as it would have without
-/// any handling. An end that the user asked for and that hung is one with status 1: what was to be
-/// written last may not be there, and a script should be able to tell.
+/// A process that a signal asked to end ends with that signal's own status, as it would have
+/// without any handling. An end that the user asked for and that hung has status 1: the last write
+/// may be missing, and a script should be able to detect that.
 ///
 /// Only a wait that the kernel lets no signal into is out of its reach. One object at a time, which
 /// goes before the process's end only where none has begun: then it puts the former handling of
-/// SIGALRM back. An end that has begun is watched to its end. Nobody else may use alarm().
+/// SIGALRM back. An end that has begun is watched to its end. No other code may use alarm().
 class EndWatchdog {
   public:
     /// What is written last gets three seconds, and threads a moment; a second more for a machine

@@ -10,7 +10,7 @@ namespace vantor {
 inline constexpr int notAnOrdinaryFile = -1;
 
 /// Why `destination` could not be written, by the errno of what failed: "NAME" could not be saved,
-/// and the reason in plain words. A number that has none is told in the system's own.
+/// and the reason in plain words. A number without such a text has the system's own.
 DescribedError describeFileError(int error, const std::filesystem::path& destination);
 
 }  // namespace vantor

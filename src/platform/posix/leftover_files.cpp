@@ -29,7 +29,7 @@ Listing list(int folder) {
 
 bool isLeftover(const struct stat& file, std::time_t now) {
     return S_ISREG(file.st_mode) && file.st_uid == ::geteuid() && file.st_nlink == 1 &&
-           now - file.st_mtime > leastAge;
+           now - file.st_mtime > minLeftoverAge;
 }
 
 void removeIfLeft(FileCalls& calls, int folder, const char* name, std::time_t now) {
@@ -53,7 +53,7 @@ void removeIfLeft(FileCalls& calls, int folder, const char* name, std::time_t no
 void remove(FileCalls& calls, int folder, std::time_t now, std::size_t entries) {
     const Listing listing = list(folder);
     if (!listing) return;
-    const auto end = std::chrono::steady_clock::now() + longestLook;
+    const auto end = std::chrono::steady_clock::now() + maxLookTime;
     for (std::size_t i = 0; i < entries && std::chrono::steady_clock::now() < end; ++i) {
         const dirent* const entry = ::readdir(listing.get());
         if (!entry) return;

@@ -19,7 +19,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int mostLinks = 40;  // what the kernel follows, too
+constexpr int maxLinks = 40;  // what the kernel follows, too
 
 /// Where the data goes: an open folder and a name in it.
 struct Target {
@@ -30,7 +30,7 @@ struct Target {
 };
 
 int followLinks(std::filesystem::path& destination) {
-    for (int followed = 0; followed < mostLinks; ++followed) {
+    for (int followed = 0; followed < maxLinks; ++followed) {
         std::error_code error;
         const auto link = std::filesystem::read_symlink(destination, error);
         if (error) return 0;  // no link, or something that opening its folder will complain of

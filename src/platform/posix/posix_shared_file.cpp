@@ -20,7 +20,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int mostFilesAside = 100;
+constexpr int maxFilesAside = 100;
 constexpr std::chrono::milliseconds lockInterval{10};
 
 /// Not to be waited for, whatever has the name: opening a pipe waits for its other end.
@@ -116,7 +116,7 @@ std::optional<DescribedError> PosixSharedFile::write(std::string_view bytes) {
 
 std::optional<DescribedError> PosixSharedFile::putAside() {
     const auto target = behindLinks(path_);
-    for (int i = 1; i <= mostFilesAside; ++i) {
+    for (int i = 1; i <= maxFilesAside; ++i) {
         const std::string aside = target.native() + ".damaged-" + std::to_string(i);
         struct stat taken {};
         if (::lstat(aside.c_str(), &taken) == 0) continue;

@@ -11,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int mostAttempts = 8;  // at a name that nobody else has
+constexpr int maxAttempts = 8;  // at a name that is not taken
 constexpr std::string_view passingPrefix = ".vantor-";
 constexpr std::string_view hexDigits = "0123456789abcdef";
 constexpr std::size_t randomBytes = 12;
@@ -37,7 +37,7 @@ std::string hiddenName() {
 /// Tries names until one is free.
 template <class Call>
 int underHiddenName(std::string& name, Call call) {
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+    for (int attempt = 0; attempt < maxAttempts; ++attempt) {
         const std::string candidate = hiddenName();
         if (candidate.empty()) return errno;
         const int error = untilUninterrupted([&] { return call(candidate.c_str()); });

@@ -8,7 +8,7 @@
 namespace vantor {
 
 /// A file on its way into a folder: complete before it takes its place, and gone with this object
-/// when it never does. It is locked all the while, so that nobody takes it for a leftover. Failures
+/// when it never does. It is locked meanwhile, so that it is not taken for a leftover. Failures
 /// are errno values, 0 for none. One thread.
 class TemporaryFile {
   public:

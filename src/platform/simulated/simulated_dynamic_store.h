@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "platform/dynamic_store.h"
+#include "platform/darwin/dynamic_store.h"
 
 namespace vantor {
 

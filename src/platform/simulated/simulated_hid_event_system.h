@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/hid_event_system.h"
+#include "platform/darwin/hid_event_system.h"
 
 namespace vantor {
 

@@ -33,7 +33,7 @@ std::chrono::system_clock::time_point SimulatedWallClock::now() const {
 
 namespace {
 
-using Family = NetworkInterfaces::Family;
+using Family = InterfaceCalls::Family;
 
 void setPrimaryInterface(SimulatedDynamicStore& store, const std::string& name) {
     store.values.insert_or_assign(
@@ -43,12 +43,12 @@ void setPrimaryInterface(SimulatedDynamicStore& store, const std::string& name) 
 
 /// A wireless interface that carries the default route, and a private network over it.
 void addLaptopNetwork(SimulatedMachine& machine) {
-    auto& list = machine.networkInterfaces().interfaces;
-    SimulatedNetworkInterfaces::Interface loopback;
+    auto& list = machine.interfaceCalls().interfaces;
+    SimulatedInterfaceCalls::Interface loopback;
     loopback.name = "lo0";
-    loopback.flags |= NetworkInterfaces::loopback;
+    loopback.flags |= InterfaceCalls::loopback;
     loopback.addresses = {{Family::ipv4, "127.0.0.1"}};
-    SimulatedNetworkInterfaces::Interface wireless;
+    SimulatedInterfaceCalls::Interface wireless;
     wireless.name = "en0";
     wireless.index = 4;
     wireless.received = 3'000'000'000;
@@ -56,10 +56,10 @@ void addLaptopNetwork(SimulatedMachine& machine) {
     wireless.addresses = {{Family::ipv6, "fe80::1c2b:3a4d:5e6f:7081%en0"},
                           {Family::ipv4, "192.168.1.23"},
                           {Family::ipv6, "2001:db8:1::23"}};
-    SimulatedNetworkInterfaces::Interface tunnel;
+    SimulatedInterfaceCalls::Interface tunnel;
     tunnel.name = "utun4";
     tunnel.index = 11;
-    tunnel.flags |= NetworkInterfaces::pointToPoint;
+    tunnel.flags |= InterfaceCalls::pointToPoint;
     tunnel.received = 20'000'000;
     tunnel.sent = 5'000'000;
     tunnel.addresses = {{Family::ipv4, "10.8.0.2"}};
@@ -69,12 +69,12 @@ void addLaptopNetwork(SimulatedMachine& machine) {
 
 /// Two wired interfaces and the many that virtual machines and containers bring along.
 void addDesktopNetwork(SimulatedMachine& machine) {
-    auto& list = machine.networkInterfaces().interfaces;
+    auto& list = machine.interfaceCalls().interfaces;
     list.clear();
     constexpr int count = 24;
     for (int i = 0; i < count; ++i) {
-        auto& wired = machine.networkInterfaces().named((i < 2 ? "en" : "bridge") +
-                                                        std::to_string(i < 2 ? i : 98 + i));
+        auto& wired = machine.interfaceCalls().named((i < 2 ? "en" : "bridge") +
+                                                     std::to_string(i < 2 ? i : 98 + i));
         wired.received = 1'000'000'000ULL * static_cast<unsigned>(i + 1);
         wired.sent = 50'000'000ULL * static_cast<unsigned>(i + 1);
         wired.addresses = {{Family::ipv4, "192.168." + std::to_string(i) + ".10"},
@@ -109,10 +109,10 @@ void furnishDesktopStorage(SimulatedMachine& machine) {
 
 }  // namespace
 
-SimulatedMachine::SimulatedMachine(std::shared_ptr<WoundClock> clock)
+SimulatedMachine::SimulatedMachine(std::shared_ptr<FakeClock> clock)
     : clock_(std::move(clock)), processInfo_(clock_), wallClock_(clock_) {}
 
-std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<WoundClock> clock) {
+std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<FakeClock> clock) {
     auto machine = std::make_shared<SimulatedMachine>(std::move(clock));
     machine->hostProcessors_.processors.resize(4);
     for (auto& processor : machine->hostProcessors_.processors) {
@@ -140,7 +140,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::laptop(std::shared_ptr<Wound
     return machine;
 }
 
-std::shared_ptr<SimulatedMachine> SimulatedMachine::desktop(std::shared_ptr<WoundClock> clock) {
+std::shared_ptr<SimulatedMachine> SimulatedMachine::desktop(std::shared_ptr<FakeClock> clock) {
     auto machine = laptop(std::move(clock));
     addDesktopNetwork(*machine);
     furnishDesktopStorage(*machine);
@@ -148,7 +148,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::desktop(std::shared_ptr<Woun
     return machine;
 }
 
-std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<WoundClock> clock) {
+std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<FakeClock> clock) {
     auto machine = std::make_shared<SimulatedMachine>(std::move(clock));
     machine->hostProcessors_.totalFails = true;
     machine->hostProcessors_.processorsFail = true;
@@ -156,7 +156,7 @@ std::shared_ptr<SimulatedMachine> SimulatedMachine::broken(std::shared_ptr<Wound
     machine->hostMemory_.pageSizeFails = true;
     machine->loadAverages_.answer = -1;
     machine->processInfo_.thermal = -1;
-    machine->networkInterfaces_.addressListFails = true;
+    machine->interfaceCalls_.addressListFails = true;
     machine->mountedVolumes_.enumerationFails = true;
     machine->powerSources_.infoFails = true;
     machine->accelerators_.lookupFails = true;

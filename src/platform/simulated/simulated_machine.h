@@ -5,21 +5,24 @@
 #include <utility>
 #include <vector>
 
+#include "platform/darwin/darwin_network_interfaces.h"
+#include "platform/darwin/darwin_primary_interface.h"
+#include "platform/darwin/darwin_temperatures.h"
 #include "platform/machine.h"
-#include "platform/macos/mac_words.h"
+#include "platform/macos/system/mac_words.h"
+#include "platform/simulated/fake_clock.h"
 #include "platform/simulated/simulated_accelerators.h"
 #include "platform/simulated/simulated_dynamic_store.h"
 #include "platform/simulated/simulated_graphics_devices.h"
 #include "platform/simulated/simulated_hid_event_system.h"
 #include "platform/simulated/simulated_host_memory.h"
 #include "platform/simulated/simulated_host_processors.h"
+#include "platform/simulated/simulated_interface_calls.h"
 #include "platform/simulated/simulated_kernel_values.h"
 #include "platform/simulated/simulated_mounted_volumes.h"
-#include "platform/simulated/simulated_network_interfaces.h"
 #include "platform/simulated/simulated_power_sources.h"
 #include "platform/simulated/simulated_process_table.h"
 #include "platform/simulated/simulated_system_controller.h"
-#include "platform/simulated/wound_clock.h"
 
 namespace vantor {
 
@@ -35,7 +38,7 @@ class SimulatedLoadAverages : public LoadAverages {
 /// Surroundings by script; the uptime is the wound clock's.
 class SimulatedProcessInfo : public ProcessInfo {
   public:
-    explicit SimulatedProcessInfo(std::shared_ptr<const WoundClock> clock)
+    explicit SimulatedProcessInfo(std::shared_ptr<const FakeClock> clock)
         : clock_(std::move(clock)) {}
 
     std::int64_t processors = 4;
@@ -60,60 +63,66 @@ class SimulatedProcessInfo : public ProcessInfo {
     bool isLowPowerModeEnabled() override { return lowPowerMode; }
 
   private:
-    std::shared_ptr<const WoundClock> clock_;
+    std::shared_ptr<const FakeClock> clock_;
 };
 
 /// A date that follows the wound clock from a fixed day on.
 class SimulatedWallClock : public WallClock {
   public:
-    explicit SimulatedWallClock(std::shared_ptr<const WoundClock> clock)
+    explicit SimulatedWallClock(std::shared_ptr<const FakeClock> clock)
         : clock_(std::move(clock)) {}
     std::chrono::system_clock::time_point now() const override;
 
   private:
-    std::shared_ptr<const WoundClock> clock_;
+    std::shared_ptr<const FakeClock> clock_;
 };
 
-/// A whole machine made of numbers and a clock wound by hand: deterministic and scriptable.
+/// A whole machine made of numbers and a clock wound by hand: deterministic and scriptable. A Mac,
+/// as far as the calls go that its interfaces and temperatures are read by.
 class SimulatedMachine : public Machine {
   public:
-    explicit SimulatedMachine(std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+    explicit SimulatedMachine(std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>());
 
     /// A laptop with four processors and a name, a wireless network and a tunnel, one volume, a
     /// battery at 80 % with 200 minutes left, and graphics in the system's memory.
     static std::shared_ptr<SimulatedMachine> laptop(
-        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+        std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>());
 
     /// The same processors with many interfaces and volumes, no power source, and two graphics
     /// devices with memory of their own.
     static std::shared_ptr<SimulatedMachine> desktop(
-        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+        std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>());
 
     /// A machine on which every call fails.
     static std::shared_ptr<SimulatedMachine> broken(
-        std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>());
+        std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>());
 
-    const std::shared_ptr<WoundClock>& clock() const { return clock_; }
+    const std::shared_ptr<FakeClock>& clock() const { return clock_; }
 
     SimulatedAccelerators& accelerators() override { return accelerators_; }
-    SimulatedDynamicStore& dynamicStore() override { return dynamicStore_; }
     SimulatedGraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    SimulatedHIDEventSystem& hidEventSystem() override { return hidEventSystem_; }
     SimulatedHostMemory& hostMemory() override { return hostMemory_; }
     SimulatedHostProcessors& hostProcessors() override { return hostProcessors_; }
     SimulatedKernelValues& kernelValues() override { return kernelValues_; }
     SimulatedLoadAverages& loadAverages() override { return loadAverages_; }
     SimulatedMountedVolumes& mountedVolumes() override { return mountedVolumes_; }
-    SimulatedNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
     SimulatedPowerSources& powerSources() override { return powerSources_; }
     SimulatedProcessInfo& processInfo() override { return processInfo_; }
     SimulatedProcessTable& processTable() override { return processTable_; }
-    SimulatedSystemController& systemController() override { return systemController_; }
     SimulatedWallClock& wallClock() override { return wallClock_; }
     const PlatformWords& words() const override { return macWords; }
 
+    DarwinNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
+    DarwinPrimaryInterface& primaryInterface() override { return primaryInterface_; }
+    DarwinTemperatures& temperatures() override { return temperatures_; }
+    // What these ask.
+    SimulatedInterfaceCalls& interfaceCalls() { return interfaceCalls_; }
+    SimulatedDynamicStore& dynamicStore() { return dynamicStore_; }
+    SimulatedHIDEventSystem& hidEventSystem() { return hidEventSystem_; }
+    SimulatedSystemController& systemController() { return systemController_; }
+
   private:
-    std::shared_ptr<WoundClock> clock_;
+    std::shared_ptr<FakeClock> clock_;
     SimulatedAccelerators accelerators_;
     SimulatedDynamicStore dynamicStore_;
     SimulatedGraphicsDevices graphicsDevices_;
@@ -123,12 +132,16 @@ class SimulatedMachine : public Machine {
     SimulatedKernelValues kernelValues_;
     SimulatedLoadAverages loadAverages_;
     SimulatedMountedVolumes mountedVolumes_;
-    SimulatedNetworkInterfaces networkInterfaces_;
+    SimulatedInterfaceCalls interfaceCalls_;
     SimulatedPowerSources powerSources_;
     SimulatedProcessInfo processInfo_;
     SimulatedProcessTable processTable_;
     SimulatedSystemController systemController_;
     SimulatedWallClock wallClock_;
+    DarwinNetworkInterfaces networkInterfaces_{interfaceCalls_};
+    DarwinPrimaryInterface primaryInterface_{dynamicStore_};
+    DarwinTemperatures temperatures_{kernelValues_, systemController_, hidEventSystem_,
+                                     processInfo_};
 };
 
 }  // namespace vantor

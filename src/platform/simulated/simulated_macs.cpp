@@ -53,7 +53,7 @@ void addKeys(SimulatedSystemController& controller, const std::vector<std::strin
 }  // namespace
 
 std::shared_ptr<SimulatedMachine> makeAppleSiliconMac(SimulatedChip chip,
-                                                      std::shared_ptr<WoundClock> clock) {
+                                                      std::shared_ptr<FakeClock> clock) {
     auto machine = SimulatedMachine::laptop(std::move(clock));
     const Chip described = chipOf(chip);
     machine->kernelValues().setText("machdep.cpu.brand_string", described.brand);
@@ -79,7 +79,7 @@ std::shared_ptr<SimulatedMachine> makeAppleSiliconMac(SimulatedChip chip,
     return machine;
 }
 
-std::shared_ptr<SimulatedMachine> makeIntelMac(std::shared_ptr<WoundClock> clock) {
+std::shared_ptr<SimulatedMachine> makeIntelMac(std::shared_ptr<FakeClock> clock) {
     auto machine = SimulatedMachine::desktop(std::move(clock));
     machine->kernelValues().setText("machdep.cpu.brand_string",
                                     "Intel(R) Core(TM) i7-8700B CPU @ 3.20GHz");

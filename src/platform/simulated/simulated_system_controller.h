@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/smc_record.h"
-#include "platform/system_controller.h"
+#include "platform/darwin/smc_record.h"
+#include "platform/darwin/system_controller.h"
 
 namespace vantor {
 

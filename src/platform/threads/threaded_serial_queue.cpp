@@ -10,7 +10,7 @@
 
 namespace vantor {
 
-struct ThreadedSerialQueueFactory::Census {
+struct ThreadedSerialQueueFactory::ThreadCounter {
     std::mutex mutex;
     std::condition_variable changed;
     int threads = 0;
@@ -24,11 +24,11 @@ struct ThreadedSerialQueueFactory::Census {
 
 class ThreadedSerialQueueFactory::Queue : public SerialQueue {
   public:
-    Queue(std::string label, ThreadRole role, std::shared_ptr<Census> census)
+    Queue(std::string label, ThreadPriority priority, std::shared_ptr<ThreadCounter> counter)
         : shared_(std::make_shared<Shared>()),
           label_(std::move(label)),
-          role_(std::move(role)),
-          census_(std::move(census)) {}
+          priority_(std::move(priority)),
+          threadCounter_(std::move(counter)) {}
     Queue(const Queue&) = delete;
     Queue& operator=(const Queue&) = delete;
 
@@ -60,15 +60,16 @@ class ThreadedSerialQueueFactory::Queue : public SerialQueue {
     /// False when the system has no thread to give: what waits then waits for the next submission,
     /// which tries again.
     bool start() {
-        census_->add(1);
+        threadCounter_->add(1);
         try {
-            std::thread([shared = shared_, census = census_, label = label_, role = role_] {
-                if (role) role(label);
+            std::thread([shared = shared_, counter = threadCounter_, label = label_,
+                         priority = priority_] {
+                if (priority) priority(label);
                 run(*shared);
-                census->add(-1);
+                counter->add(-1);
             }).detach();
         } catch (const std::system_error&) {
-            census_->add(-1);
+            threadCounter_->add(-1);
             return false;
         }
         return true;
@@ -93,22 +94,23 @@ class ThreadedSerialQueueFactory::Queue : public SerialQueue {
 
     std::shared_ptr<Shared> shared_;
     std::string label_;
-    ThreadRole role_;
-    std::shared_ptr<Census> census_;
+    ThreadPriority priority_;
+    std::shared_ptr<ThreadCounter> threadCounter_;
 };
 
-ThreadedSerialQueueFactory::ThreadedSerialQueueFactory(ThreadRole role)
-    : role_(std::move(role)), census_(std::make_shared<Census>()) {}
+ThreadedSerialQueueFactory::ThreadedSerialQueueFactory(ThreadPriority priority)
+    : priority_(std::move(priority)), threadCounter_(std::make_shared<ThreadCounter>()) {}
 
 ThreadedSerialQueueFactory::~ThreadedSerialQueueFactory() = default;
 
 std::unique_ptr<SerialQueue> ThreadedSerialQueueFactory::makeQueue(std::string_view label) {
-    return std::make_unique<Queue>(std::string(label), role_, census_);
+    return std::make_unique<Queue>(std::string(label), priority_, threadCounter_);
 }
 
 bool ThreadedSerialQueueFactory::waitForThreads(std::chrono::milliseconds limit) {
-    std::unique_lock lock(census_->mutex);
-    return census_->changed.wait_for(lock, limit, [&] { return census_->threads == 0; });
+    std::unique_lock lock(threadCounter_->mutex);
+    return threadCounter_->changed.wait_for(lock, limit,
+                                            [&] { return threadCounter_->threads == 0; });
 }
 
 }  // namespace vantor

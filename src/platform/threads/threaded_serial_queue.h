@@ -17,9 +17,9 @@ namespace vantor {
 class ThreadedSerialQueueFactory : public BackgroundQueueFactory {
   public:
     /// Called first thing on each new thread, to name it and lower its priority.
-    using ThreadRole = std::function<void(const std::string& label)>;
+    using ThreadPriority = std::function<void(const std::string& label)>;
 
-    explicit ThreadedSerialQueueFactory(ThreadRole role = {});
+    explicit ThreadedSerialQueueFactory(ThreadPriority priority = {});
     ~ThreadedSerialQueueFactory() override;
 
     std::unique_ptr<SerialQueue> makeQueue(std::string_view label) override;
@@ -27,11 +27,11 @@ class ThreadedSerialQueueFactory : public BackgroundQueueFactory {
     bool waitForThreads(std::chrono::milliseconds limit) override;
 
   private:
-    struct Census;
+    struct ThreadCounter;
     class Queue;
 
-    ThreadRole role_;
-    std::shared_ptr<Census> census_;
+    ThreadPriority priority_;
+    std::shared_ptr<ThreadCounter> threadCounter_;
 };
 
 }  // namespace vantor

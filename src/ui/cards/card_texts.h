@@ -9,15 +9,15 @@
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 
-/// What cards say of figures that are not there.
+/// What cards show for missing figures.
 namespace vantor::CardTexts {
 
-/// Before the first reading: a figure that nobody has asked for yet.
+/// Before the first reading: a figure that has not been read yet.
 inline QString unknownYet() {
     return QStringLiteral("—");
 }
 
-/// A figure that was asked for in vain.
+/// A figure that was read and is not available.
 inline QString notPublished() {
     return QStringLiteral("Not published");
 }
@@ -30,7 +30,7 @@ inline QString bytes(std::optional<std::uint64_t> count) {
     return count ? Formatters::bytes(*count) : notPublished();
 }
 
-/// A text of the machine's, or `otherwise` where it says nothing.
+/// A text of the machine's, or `otherwise` where it is empty.
 inline QString orElse(const std::string& text, const QString& otherwise) {
     return text.empty() ? otherwise : shownText(text);
 }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int cpuCardChartHeight = 62;
 constexpr int sectionSpacing = 8;
-// Enough to name the culprit; more is the process explorer's business.
+// Enough to name the culprit; the process explorer has the rest.
 constexpr std::size_t cpuCardProcessRows = 5;
 
 }  // namespace
@@ -77,7 +77,7 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     loadAverage_ = makeChild<TextLineView>(this, card.loadAverageText(), Typography::caption,
                                            QFont::Normal, TextLineView::Tone::secondary);
     body().addWidget(loadAverage_);
-    // The whole range, not the values' own: a machine that idles must look idle.
+    // The whole range, not the values' own: an idle machine must look idle.
     history_ = makeChild<SparklineView>(this, QStringLiteral("CPU history"),
                                         Sparkline{{}, VantorTheme::cyan(), std::pair{0.0, 1.0}},
                                         cpuCardChartHeight);

@@ -32,7 +32,7 @@ struct CPUCard {
         return revision == other.revision && processRevision == other.processRevision;
     }
 
-    /// Before the first reading: what is not known yet is said so, and never shown as a number.
+    /// Before the first reading: says that it waits, and shows no number.
     bool isWaiting() const { return revision == 0; }
 
     DashboardCard frame() const;

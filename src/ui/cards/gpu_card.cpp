@@ -55,7 +55,7 @@ std::array<MetricRow, 3> GPUCard::rows() const {
     const GPUStats& gpu = isKnown ? gpus.front() : none;
     return {MetricRow{QStringLiteral("Temperature"),
                       text(CardTexts::temperature(gpu.temperatureCelsius)), VantorTheme::orange()},
-            // Without a dot its label would stand out of the column of the other two.
+            // Without a dot its label would not be aligned with the other two.
             MetricRow{QStringLiteral("VRAM Used"), text(CardTexts::bytes(gpu.vramUsedBytes)),
                       VantorTheme::purple()},
             MetricRow{QStringLiteral("VRAM Total"), text(CardTexts::bytes(gpu.vramTotalBytes)),
@@ -72,7 +72,7 @@ GPUCardView::GPUCardView(const PlatformWords& platform, QWidget* parent)
     : DashboardCardView(GPUCard{}.frame(), parent), words_(platform) {
     const GPUCard card;
     emptyState_ = makeChild<EmptyStateView>(this, GPUCard::emptyState(platform));
-    // Before the first reading nobody knows that there is no device.
+    // Before the first reading it is not known that there is no device.
     emptyState_->setVisible(false);
     body().addWidget(emptyState_);
 

@@ -23,7 +23,7 @@ struct GPUCard {
     std::span<const GPUStats> gpus;
     std::span<const double> history;  ///< of the first device, which the gauge shows too
     std::uint64_t revision = 0;
-    bool isWaiting = true;  ///< nobody knows yet whether there are any
+    bool isWaiting = true;  ///< not read yet: whether there are any is unknown
 
     static GPUCard of(const DashboardState& state);
 
@@ -31,7 +31,7 @@ struct GPUCard {
         return revision == other.revision && isWaiting == other.isWaiting;
     }
 
-    /// Whether the machine has said that it has none.
+    /// Whether it has been read that there is none.
     bool isEmpty() const { return !isWaiting && gpus.empty(); }
 
     DashboardCard frame() const;

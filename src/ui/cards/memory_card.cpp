@@ -10,7 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr int memoryCardChartHeight = 62;
-// As many as leave this card about as high as its neighbour, which has cells for its cores instead.
+// As many as make this card about as high as its neighbour, which has cells for its cores instead.
 constexpr std::size_t memoryCardProcessRows = 9;
 
 double usedFraction(const MemoryStats& stats) {

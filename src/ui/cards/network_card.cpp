@@ -18,8 +18,8 @@ namespace {
 constexpr int networkCardTileSpacing = 12;
 constexpr int networkCardRowSpacing = 10;
 constexpr std::size_t interfacesRow = 3;
-// A container host has hundreds; a tool tip that covers the screen helps nobody.
-constexpr std::size_t mostHelpLines = 16;
+// A container host has hundreds; a tool tip must not cover the screen.
+constexpr std::size_t maxHelpLines = 16;
 
 QString addressText(const std::optional<std::string>& address) {
     return CardTexts::orElse(address.value_or(std::string{}), QStringLiteral("Not assigned"));
@@ -82,7 +82,7 @@ std::array<MetricRow, 4> NetworkCard::rows() const {
 QString NetworkCard::interfacesHelp() const {
     QStringList lines;
     for (const NetworkInterfaceStats& interface : stats.interfaces) {
-        if (static_cast<std::size_t>(lines.size()) == mostHelpLines) {
+        if (static_cast<std::size_t>(lines.size()) == maxHelpLines) {
             lines << QStringLiteral("…");
             break;
         }

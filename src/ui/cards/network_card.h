@@ -34,7 +34,7 @@ struct NetworkCard {
     SpeedTile uploadTile() const;
     std::array<MetricRow, 4> rows() const;
 
-    /// The addresses of all interfaces, one a line; for whoever wants to know more.
+    /// The addresses of all interfaces, one per line, as help text.
     QString interfacesHelp() const;
 };
 

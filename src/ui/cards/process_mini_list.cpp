@@ -127,7 +127,7 @@ void ProcessMiniListView::paintEvent(QPaintEvent*) {
     const double symbol = symbolWidth * Typography::lengthScale();
     const double step = area.height() + processMiniListRowSpacing;
     for (const Row& row : rows_) {
-        // However high the letters of a name are piled, the rows beside it stay as they are.
+        // However high a name's combining marks are stacked, they do not reach the rows beside it.
         painter.setClipRect(
             area.adjusted(0, -processMiniListRowSpacing / 2, 0, processMiniListRowSpacing / 2));
         Symbols::draw(painter, painter.leading({0, area.top(), symbol, area.height()}), symbol_,

@@ -26,7 +26,7 @@ DashboardCard StorageCard::frame() const {
 }
 
 std::span<const VolumeStats> StorageCard::shownVolumes() const {
-    return volumes.first(std::min(volumes.size(), mostVolumes));
+    return volumes.first(std::min(volumes.size(), maxVolumes));
 }
 
 EmptyState StorageCard::emptyState(const PlatformWords& words) {
@@ -39,7 +39,7 @@ StorageCardView::StorageCardView(const PlatformWords& words, QWidget* parent)
     : DashboardCardView(StorageCard{}.frame(), parent),
       emptyState_(makeChild<EmptyStateView>(this, StorageCard::emptyState(words))),
       list_(makeInnerLayout<QVBoxLayout>()) {
-    // Before the first list nobody knows that there is none.
+    // Before the first list it is not known that there is none.
     emptyState_->setVisible(false);
     body().addWidget(emptyState_);
     list_->setSpacing(volumeSpacing);

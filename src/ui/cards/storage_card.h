@@ -18,11 +18,11 @@ namespace vantor {
 /// revisions are.
 struct StorageCard {
     /// More would push everything below out of sight; the first ones are the machine's own.
-    static constexpr std::size_t mostVolumes = 7;
+    static constexpr std::size_t maxVolumes = 7;
 
     std::span<const VolumeStats> volumes;
     std::uint64_t revision = 0;
-    bool isWaiting = true;  ///< nobody knows yet whether there are any
+    bool isWaiting = true;  ///< not read yet: whether there are any is unknown
 
     static StorageCard of(const DashboardState& state);
 

@@ -125,8 +125,8 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
   private:
     AccessibleRange range() const { return view_.accessibleRange().value_or(AccessibleRange{}); }
 
-    /// The value comes first: some desktops' assistive technology is told of names and descriptions
-    /// alone.
+    /// The value comes first: the assistive technology of some desktops gets names and descriptions
+    /// only.
     QString description() const {
         const QString value = view_.accessibleValueText();
         const QString help = readToolTip(view_.toolTip());
@@ -137,10 +137,10 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
     }
 
     PaintedView& view_;
-    mutable std::vector<QAccessible::Id> rows_;  // made when somebody asks
+    mutable std::vector<QAccessible::Id> rows_;  // made on first use
 };
 
-/// A card: its title, and all that it says in one sentence.
+/// A card: its title, and all that it shows in one sentence.
 class AccessibleCard : public QAccessibleWidget {
   public:
     explicit AccessibleCard(DashboardCardView& card)

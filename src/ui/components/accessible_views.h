@@ -2,7 +2,7 @@
 
 namespace vantor {
 
-/// Lets assistive technology see the painted views and the cards; once, before the first window.
+/// Makes the painted views and the cards accessible. To be called once, before the first window.
 void installViewAccessibility();
 
 }  // namespace vantor

@@ -98,11 +98,11 @@ void CapsuleButtonView::keyPressEvent(QKeyEvent* event) {
 void CapsuleButtonView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     if (!isEnabled()) painter.setOpacity(capsuleButtonDisabledOpacity);
-    paintGround(painter);
+    paintBackground(painter);
     paintLabel(painter);
 }
 
-void CapsuleButtonView::paintGround(ViewPainter& painter) const {
+void CapsuleButtonView::paintBackground(ViewPainter& painter) const {
     const QRectF area = Pixels::snapped(painter, rect());
     double opacity = capsuleButtonGroundOpacity;
     if (isEnabled() && isDown()) {

@@ -10,7 +10,7 @@
 
 namespace vantor {
 
-/// A text with a symbol on a capsule, and what happens when it is pressed.
+/// A text with a symbol on a capsule, and its action.
 struct CapsuleButton {
     QString title;
     QString systemImage;  ///< a symbol's name
@@ -45,7 +45,7 @@ class CapsuleButtonView : public QAbstractButton {
 
   private:
     double widthFor(const QString& title) const;
-    void paintGround(ViewPainter& painter) const;
+    void paintBackground(ViewPainter& painter) const;
     void paintLabel(ViewPainter& painter) const;
 
     QString systemImage_;

@@ -4,7 +4,7 @@
 
 #include "ui/theme.h"
 
-/// The ground that cards and the header stand on.
+/// The background of cards and of the header.
 namespace vantor::CardChrome {
 
 inline constexpr double cornerRadius = 22;

@@ -80,7 +80,7 @@ void CardHeaderView::paintEvent(QPaintEvent*) {
 }
 
 DashboardCardView::DashboardCardView(const DashboardCard& card, QWidget* parent)
-    : CardGround(parent),
+    : CardFrame(parent),
       header_(makeChild<CardHeaderView>(this, card)),
       body_(makeLayout<QVBoxLayout>(this)) {
     body_->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-#include "ui/components/card_ground.h"
+#include "ui/components/card_frame.h"
 #include "ui/components/painted_view.h"
 
 namespace vantor {
@@ -47,14 +47,14 @@ class CardHeaderView : public PaintedView {
 };
 
 /// The whole card; a section's views go into body(), top to bottom.
-class DashboardCardView : public CardGround {
+class DashboardCardView : public CardFrame {
   public:
     explicit DashboardCardView(const DashboardCard& card, QWidget* parent = nullptr);
 
     void showCard(const DashboardCard& card) { header_->show(card); }
     CardHeaderView& header() { return *header_; }
 
-    /// All that the card says, in one sentence: "CPU, 2 physical..., CPU Load 37%, User ...".
+    /// All that the card shows, in one sentence: "CPU, 2 physical..., CPU Load 37%, User ...".
     QString summary() const;
     QVBoxLayout& body() { return *body_; }
 

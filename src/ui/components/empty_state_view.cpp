@@ -15,7 +15,7 @@ namespace {
 
 constexpr double emptyStatePadding = 10;
 constexpr double emptyStateSpacing = 10;
-constexpr double leastHeight = 180;
+constexpr double minHeight = 180;
 constexpr double emptyStateSymbolSide = 34;  // what a symbol of font size 28 measures
 // Lines longer than this are tiring to read.
 constexpr double widestMessage = 420;
@@ -60,7 +60,7 @@ double EmptyStateView::contentHeight(double width) const {
 }
 
 int EmptyStateView::heightForWidth(int width) const {
-    const double least = leastHeight * Typography::lengthScale();
+    const double least = minHeight * Typography::lengthScale();
     return static_cast<int>(
         std::ceil(std::max(least, contentHeight(width)) + 2 * emptyStatePadding));
 }

@@ -6,7 +6,7 @@
 
 namespace vantor {
 
-/// Says why there is nothing to see.
+/// Explains why there is nothing to show.
 struct EmptyState {
     QString title;
     QString systemImage;  ///< a symbol's name

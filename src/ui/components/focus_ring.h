@@ -7,8 +7,8 @@
 
 namespace vantor {
 
-/// Shows where the keyboard is. The ring is for those who come by key: a mouse user knows where the
-/// pointer is, and a window that becomes active again shows what it showed before.
+/// Shows the keyboard focus. The ring appears when the focus arrived by key: a mouse user sees the
+/// pointer, and a window that becomes active again shows what it showed before.
 class FocusRing {
   public:
     static constexpr double width = 2;

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-/// The toolkit owns widgets through their parents. These make such objects without a bare new, and
-/// give a pointer that is for looking, never for owning.
+/// The toolkit owns widgets through their parents. These make such objects without a bare new and
+/// return a non-owning pointer.
 namespace vantor {
 
 /// A widget whose last constructor argument is its parent.

@@ -13,7 +13,7 @@ class QMenu;
 
 namespace vantor {
 
-/// Where `value` stands among `choices`, if it does.
+/// The index of `value` in `choices`, if it is one of them.
 template <class Choices, class Value>
 std::optional<std::size_t> placeAmong(const Choices& choices, const Value& value) {
     const auto found = std::find(choices.begin(), choices.end(), value);
@@ -21,15 +21,15 @@ std::optional<std::size_t> placeAmong(const Choices& choices, const Value& value
     return static_cast<std::size_t>(found - choices.begin());
 }
 
-/// A button that offers a few choices in a menu; its title is what holds. Its accessible name is
-/// its label and its title.
+/// A button that offers a few choices in a menu; its title is the current one. Its accessible name
+/// is its label and its title.
 class MenuPickerView : public CapsuleButtonView {
   public:
-    /// `onChoose` hears of what the user chooses, and of nothing else.
+    /// `onChoose` is called for the user's choices only.
     MenuPickerView(QString label, const QStringList& choices,
                    const std::function<void(std::size_t)>& onChoose, QWidget* parent = nullptr);
 
-    /// Shows `text` and ticks that choice; none where what holds is not on offer.
+    /// Shows `text` and ticks that choice; none where the current value is not one of the choices.
     void show(const QString& text, std::optional<std::size_t> choice);
 
     QMenu& menu() { return *menu_; }

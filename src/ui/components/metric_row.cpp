@@ -63,7 +63,7 @@ void MetricRowView::paintEvent(QPaintEvent*) {
     }
     const double valueWidth = painter.figuresWidth(metricRowValueStyle, row_.value);
     painter.primary();
-    // Neither a long label nor a long value takes all of the row.
+    // Neither a long label nor a long value may take the whole row.
     const double beside = width() - geometry.labelLeft - metricRowSpacing -
                           painter.lineWidth(metricRowLabelStyle, row_.label);
     const double room = std::max(beside, width() / 2.0);

@@ -18,7 +18,7 @@ struct MetricRow {
     bool operator==(const MetricRow&) const = default;
 };
 
-/// Where the leading parts of a row lie.
+/// The layout of a row's leading parts.
 struct MetricRowGeometry {
     std::optional<QRectF> dot;
     double labelLeft = 0;

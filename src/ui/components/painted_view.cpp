@@ -28,7 +28,7 @@ void PaintedView::announceValue() {
     if (!QAccessible::isActive()) return;
     QAccessibleValueChangeEvent event(this, accessibleValueText());
     QAccessible::updateAccessibility(&event);
-    // Who knows no values of texts reads them from the description.
+    // Assistive technology without values of texts reads them from the description.
     QAccessibleEvent description(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&description);
 }

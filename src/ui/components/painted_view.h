@@ -8,7 +8,7 @@
 
 namespace vantor {
 
-/// A number that assistive technology is told, and between which others it is.
+/// A number with its bounds, for assistive technology.
 struct AccessibleRange {
     double value = 0;
     double lowest = 0;
@@ -16,9 +16,9 @@ struct AccessibleRange {
     double step = 0.01;
 };
 
-/// A widget that paints itself and tells assistive technology what it shows: a role, a label and a
-/// value. A view that paints several rows tells of each of them. A view repaints only when it is
-/// shown something new.
+/// A widget that paints itself and has a role, a label and a value for assistive technology. A view
+/// that paints several rows has these for each of them. A view repaints only when it is given
+/// something new.
 class PaintedView : public QWidget {
   public:
     explicit PaintedView(QWidget* parent = nullptr) : QWidget(parent) {}
@@ -42,8 +42,7 @@ class PaintedView : public QWidget {
     virtual bool isAccessibleRowChosen(int) const { return false; }
 
   protected:
-    /// Tell whoever reads the screen that something is another one. They cost nothing when nobody
-    /// does.
+    /// Notify assistive technology of a change. They cost nothing where there is none.
     void announceValue();
     void announceName();
     void announceRow(int row);

@@ -15,7 +15,7 @@ ParagraphView::ParagraphView(const QString& text, double size, QFont::Weight wei
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     adoptFont();
     adoptColor();
-    // A widget with a font of its own is not told when the program's changes; what it lies in is.
+    // A widget with a font of its own gets no event when the program's changes; its parent does.
     if (parent) parent->installEventFilter(this);
 }
 
@@ -28,7 +28,7 @@ void ParagraphView::adoptColor() {
     const QColor color = tone_ == TextLineView::Tone::primary ? VantorTheme::primaryLabel(scheme)
                                                               : VantorTheme::secondaryLabel(scheme);
     if (palette().color(QPalette::WindowText) == color) return;
-    QPalette own;  // nothing but the text's colour: the rest follows what it lies in
+    QPalette own;  // only the text's colour: the rest follows the parent
     own.setColor(QPalette::WindowText, color);
     setPalette(own);
 }

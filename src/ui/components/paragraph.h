@@ -7,7 +7,7 @@
 namespace vantor {
 
 /// Running text in the theme's colours that breaks into lines and can be marked with the mouse and
-/// copied. It takes no key but that for copying, so that keys scroll what it lies in.
+/// copied. It handles no key but the one for copying, so that keys scroll the view around it.
 class ParagraphView : public QLabel {
   public:
     ParagraphView(const QString& text, double size, QFont::Weight weight, TextLineView::Tone tone,

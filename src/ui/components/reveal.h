@@ -5,8 +5,8 @@
 
 namespace vantor {
 
-/// Scrolls what `widget` lies in, if anything, until `area` of it can be seen: the upper
-/// part, where it is taller than the room that there is.
+/// Scrolls the scroll view around `widget`, if any, until `area` of it is visible: the upper part,
+/// where it is taller than the viewport.
 inline void reveal(QWidget& widget, const QRect& area) {
     constexpr int margin = 24;
     for (QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {

@@ -13,10 +13,10 @@ namespace vantor {
 
 /// A share of a whole as a ring, with a large text and a caption in the middle.
 struct RingGauge {
-    /// Of a gauge that shows no share yet; drawn as an empty ring.
+    /// The value of a gauge that shows no share yet; drawn as an empty ring.
     static constexpr double noValue = std::numeric_limits<double>::quiet_NaN();
 
-    double value = 0;  ///< 0 to 1; drawn held within that, the texts are drawn as they are
+    double value = 0;  ///< 0 to 1; clamped when drawn, the texts are drawn as they are
     QString title;
     QString detail;
     QColor accent;
@@ -25,7 +25,7 @@ struct RingGauge {
     bool operator==(const RingGauge&) const = default;
 };
 
-/// Where the ring runs, for a gauge that fills `bounds`.
+/// The ring of a gauge that fills `bounds`.
 struct RingGaugeGeometry {
     QRectF circle;     ///< the middle of the stroke: the whole ring stays within the bounds
     double sweep = 0;  ///< degrees clockwise from the top, 0 to 360

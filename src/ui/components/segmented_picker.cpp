@@ -112,7 +112,7 @@ SegmentedPicker::SegmentedPicker(const QString& label, const QStringList& choice
     adoptTabStop();
 }
 
-/// The Tab key arrives at what is chosen; the arrow keys lead to the others.
+/// The Tab key goes to the current choice; the arrow keys go to the others.
 void SegmentedPicker::adoptTabStop() {
     for (SegmentButton* const button : buttons_)
         button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);

@@ -31,14 +31,14 @@ class SegmentButton : public QAbstractButton {
     FocusRing ring_;
 };
 
-/// A label, and a few choices of which one holds. The arrow keys change it.
+/// A label, and a few choices of which one is current. The arrow keys change it.
 class SegmentedPicker : public QWidget {
   public:
-    /// The first choice holds; `onChange` hears of every other one.
+    /// The first choice is current; `onChange` is called for every other one.
     SegmentedPicker(const QString& label, const QStringList& choices,
                     std::function<void(int)> onChange, QWidget* parent = nullptr);
 
-    /// Where the label stands elsewhere: it is only said, not shown.
+    /// For a label that is shown elsewhere: it is only accessible, not shown.
     void hideLabel();
 
     int choice() const;

@@ -23,7 +23,7 @@ struct Sparkline {
     bool operator==(const Sparkline&) const = default;
 };
 
-/// Where the points of a series lie in an area of that size.
+/// The points of a series in an area of that size.
 struct SparklineGeometry {
     std::vector<QPointF> points;
 
@@ -37,12 +37,12 @@ struct SparklineGeometry {
 void paintSparkline(ViewPainter& painter, const QRectF& area, std::span<const double> values,
                     const QColor& accent, std::optional<std::pair<double, double>> fixedRange);
 
-/// Draws a series across its whole width, 62 points high unless told otherwise.
+/// Draws a series across its whole width, 62 points high by default.
 class SparklineView : public PaintedView {
   public:
     SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent = nullptr);
 
-    /// Shows other values in the same style. `value` is the newest one, as a reader would say it.
+    /// Shows other values in the same style. `value` is the newest one, as a screen reader says it.
     void show(std::span<const double> values, const QString& value);
     const Sparkline& sparkline() const { return sparkline_; }
 

@@ -23,13 +23,13 @@ constexpr TextStyle speedTileValueStyle{Typography::caption, QFont::DemiBold};
 
 }  // namespace
 
-SpeedTileView::SpeedTileView(SpeedTile tile, Ground ground, QWidget* parent)
-    : PaintedView(parent), tile_(std::move(tile)), ground_(ground) {
+SpeedTileView::SpeedTileView(SpeedTile tile, Background background, QWidget* parent)
+    : PaintedView(parent), tile_(std::move(tile)), background_(background) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 double SpeedTileView::padding() const {
-    return ground_ == Ground::tile ? tilePadding : 0;
+    return background_ == Background::tile ? tilePadding : 0;
 }
 
 void SpeedTileView::show(const SpeedTile& tile) {
@@ -58,7 +58,7 @@ QSize SpeedTileView::minimumSizeHint() const {
 
 void SpeedTileView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    if (ground_ == Ground::tile) CardChrome::paintTile(painter, rect(), painter.scheme());
+    if (background_ == Background::tile) CardChrome::paintTile(painter, rect(), painter.scheme());
 
     const double side = Typography::scaled(speedTileIconShape.side);
     SymbolTile::paint(painter, painter.leading({padding(), (height() - side) / 2, side, side}),

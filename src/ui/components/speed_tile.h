@@ -19,14 +19,14 @@ struct SpeedTile {
     bool operator==(const SpeedTile&) const = default;
 };
 
-/// Draws a tile across its whole width; without a ground of its own it needs no padding either.
+/// Draws a tile across its whole width; without a background of its own it needs no padding either.
 class SpeedTileView : public PaintedView {
   public:
-    enum class Ground { tile, none };
+    enum class Background { tile, none };
 
     explicit SpeedTileView(SpeedTile tile, QWidget* parent = nullptr)
-        : SpeedTileView(std::move(tile), Ground::tile, parent) {}
-    SpeedTileView(SpeedTile tile, Ground ground, QWidget* parent = nullptr);
+        : SpeedTileView(std::move(tile), Background::tile, parent) {}
+    SpeedTileView(SpeedTile tile, Background background, QWidget* parent = nullptr);
 
     void show(const SpeedTile& tile);
     const SpeedTile& tile() const { return tile_; }
@@ -43,7 +43,7 @@ class SpeedTileView : public PaintedView {
     double padding() const;
 
     SpeedTile tile_;
-    Ground ground_;
+    Background background_;
 };
 
 }  // namespace vantor

@@ -38,7 +38,7 @@ QFont symbolFont() {
 }  // namespace
 
 std::int64_t Stepper::stepped(std::int64_t value, std::int64_t steps) const {
-    // Held first: a value far outside must not wrap around.
+    // Clamped first: a value far outside must not wrap around.
     const std::int64_t held = std::clamp(value, lowest - 1, highest + 1);
     return std::clamp(held + steps, lowest, highest);
 }

@@ -13,23 +13,23 @@ namespace vantor {
 
 /// A whole number within bounds that is changed one by one.
 struct Stepper {
-    QString label;  ///< for those who cannot see what stands beside it
+    QString label;  ///< for assistive technology
     QString unit;   ///< "samples"
     std::int64_t lowest = 0;
     std::int64_t highest = 0;
 
-    /// `value` and `steps`, held within the bounds.
+    /// `value` and `steps`, clamped to the bounds.
     std::int64_t stepped(std::int64_t value, std::int64_t steps) const;
 };
 
 /// Two halves of a capsule, less and more. Held down they repeat. Arrow keys step by one, page keys
-/// by ten, Home and End go to the bounds. It shows what it is told and nothing else: a value
-/// outside the bounds stays as it is until the user steps.
+/// by ten, Home and End go to the bounds. It shows the value that it is given: one outside
+/// the bounds stays as it is until the user steps.
 class StepperView : public PaintedView {
   public:
     enum class Half { less, more };
 
-    /// `onChange` hears of the value that the user asks for.
+    /// `onChange` is called with the value that the user asks for.
     StepperView(Stepper stepper, std::int64_t value, std::function<void(std::int64_t)> onChange,
                 QWidget* parent = nullptr);
 

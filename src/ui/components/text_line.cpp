@@ -15,7 +15,7 @@ TextLineView::TextLineView(QString text, double size, QFont::Weight weight, Tone
 
 void TextLineView::show(const QString& text) {
     if (text == text_) return;
-    // All digits are drawn equally wide: a clock's next second needs no other room.
+    // All digits are equally wide: a clock's next second has the same width.
     const bool isAsWide = Typography::differInDigitsOnly(text, text_);
     const int before = isAsWide ? 0 : sizeHint().width();
     text_ = text;

@@ -16,7 +16,7 @@ class TextLineView : public PaintedView {
                  QWidget* parent = nullptr);
 
     void show(const QString& text);
-    /// Left means leading: it is mirrored where the language runs the other way.
+    /// Left means leading: mirrored where the language is read from right to left.
     void setAlignment(Qt::Alignment alignment);
     const QString& text() const { return text_; }
 

@@ -36,7 +36,7 @@ QSizeF switchSize() {
             static_cast<double>(Typography::scaled(switchHeight))};
 }
 
-/// What of the row's width is not the text's.
+/// The part of the row's width that is not for the text.
 double beside() {
     return switchSize().width() + toggleRowSpacing + 2 * ToggleRowView::outset;
 }
@@ -53,7 +53,7 @@ ToggleRowView::ToggleRowView(const QString& title, Switch place, std::function<v
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setAttribute(Qt::WA_Hover);
-    // Not clicked(): a screen reader turns it without a click.
+    // Not clicked(): a screen reader toggles it without a click.
     connect(this, &QAbstractButton::toggled, this, [onChange = std::move(onChange)](bool isOn) {
         if (onChange) onChange(isOn);
     });

@@ -15,11 +15,11 @@ class ToggleRowView : public QAbstractButton {
   public:
     enum class Switch { trailing, leading };
 
-    /// What the row keeps at each side for the ring of the focus: so much further out it has to be
-    /// placed than what it should be in line with.
+    /// The row's margin at each side for the focus ring: it has to be placed that much further out
+    /// than what it should be aligned with.
     static constexpr int outset = 3;
 
-    /// `onChange` hears of what the user does, and of nothing else.
+    /// `onChange` is called for the user's changes only.
     ToggleRowView(const QString& title, Switch place, std::function<void(bool)> onChange,
                   QWidget* parent = nullptr);
 

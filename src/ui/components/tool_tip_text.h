@@ -6,9 +6,9 @@
 
 namespace vantor {
 
-/// `text` so that a tool tip shows it letter by letter: the toolkit takes what looks like markup
-/// for markup, and escapes in anything else for text. A text too long for any screen loses its
-/// middle, since a path ends with what tells it from others.
+/// `text` so that a tool tip shows it literally: the toolkit treats what looks like markup as
+/// markup, and escapes in anything else as text. A text too long for any screen loses its middle,
+/// since paths differ at their end.
 inline QString toolTipText(const QString& text) {
     constexpr qsizetype longest = 1024;
     QString shown = text;
@@ -23,7 +23,7 @@ inline QString toolTipText(const QString& text) {
                                       : shown;
 }
 
-/// What whoever sees a tool tip reads.
+/// The text that a tool tip shows.
 inline QString readToolTip(const QString& toolTip) {
     return Qt::mightBeRichText(toolTip) ? QTextDocumentFragment::fromHtml(toolTip).toPlainText()
                                         : toolTip;

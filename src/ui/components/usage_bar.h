@@ -10,14 +10,14 @@ namespace vantor {
 
 /// A share of a whole as a bar.
 struct UsageBar {
-    double value = 0;  ///< 0 to 1; drawn held within that
+    double value = 0;  ///< 0 to 1; clamped when drawn
     QColor accent;
     double height = 6;
 
     bool operator==(const UsageBar&) const = default;
 };
 
-/// Where the parts of a bar that spans `bounds` lie; its height is the bounds'.
+/// The parts of a bar that fills `bounds`.
 struct UsageBarGeometry {
     QRectF track;
     QRectF fill;  ///< from the leading edge; without width at zero
@@ -32,7 +32,7 @@ void paintUsageBar(ViewPainter& painter, const QRectF& bounds, const UsageBar& b
 /// Draws a bar across its whole width.
 class UsageBarView : public PaintedView {
   public:
-    /// `label` is for those who cannot see the bar.
+    /// `label` is for assistive technology.
     UsageBarView(QString label, UsageBar bar, QWidget* parent = nullptr);
 
     void show(const UsageBar& bar);

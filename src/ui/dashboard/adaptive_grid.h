@@ -4,7 +4,7 @@
 
 namespace vantor {
 
-/// Columns that are as many as fit, each between a narrowest and a widest width.
+/// As many columns as fit, each between a minimum and a maximum width.
 struct AdaptiveColumns {
     double minimum = 430;
     double maximum = 680;
@@ -18,7 +18,7 @@ struct AdaptiveColumns {
 };
 
 /// Lays widgets out row by row in such columns; the cells of a row are as high as its highest, and
-/// the columns together stand in the middle of the space.
+/// the columns are centred.
 class AdaptiveGridLayout : public WrappingLayout {
   public:
     explicit AdaptiveGridLayout(AdaptiveColumns columns, QWidget* parent = nullptr);

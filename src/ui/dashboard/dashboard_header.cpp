@@ -15,7 +15,7 @@ namespace {
 
 constexpr int dashboardHeaderPadding = 16;
 constexpr int dashboardHeaderControlSpacing = 8;
-constexpr int leastGap = 24;
+constexpr int minGap = 24;
 constexpr int stackedSpacing = 14;
 
 }  // namespace
@@ -41,12 +41,12 @@ QString DashboardHeader::intervalText(double seconds) {
 
 DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
                                          std::optional<double> legacyBreakpoint, QWidget* parent)
-    : CardGround(parent), header_(std::move(header)) {
+    : CardFrame(parent), header_(std::move(header)) {
     auto* layout = makeLayout<QVBoxLayout>(this);
     layout->setContentsMargins(dashboardHeaderPadding, dashboardHeaderPadding,
                                dashboardHeaderPadding, dashboardHeaderPadding);
     auto* identity = makeChild<IdentityView>(this, subtitle);
-    fit_ = makeChild<VantorHorizontalFit>(this, identity, makeControls(), leastGap, stackedSpacing,
+    fit_ = makeChild<VantorHorizontalFit>(this, identity, makeControls(), minGap, stackedSpacing,
                                           legacyBreakpoint);
     layout->addWidget(fit_);
     show(header_.refreshInterval, header_.isPaused);

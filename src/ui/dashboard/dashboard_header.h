@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "ui/components/capsule_button.h"
-#include "ui/components/card_ground.h"
+#include "ui/components/card_frame.h"
 #include "ui/components/menu_picker.h"
 #include "ui/components/painted_view.h"
 
@@ -23,7 +23,7 @@ struct DashboardHeader {
     std::function<void(double)> onRefreshIntervalChange;
     std::function<void()> onTogglePause;
     std::function<void()> onRefresh;
-    std::function<void()> onExport;  ///< none: there is nothing to export to yet, and it shows
+    std::function<void()> onExport;  ///< none: the button is disabled
     std::function<void()> onQuit;
 
     bool operator==(const DashboardHeader& other) const {
@@ -84,7 +84,7 @@ class IntervalMenuView : public MenuPickerView {
 };
 
 /// Draws the header and runs its callbacks.
-class DashboardHeaderView : public CardGround {
+class DashboardHeaderView : public CardFrame {
   public:
     DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
                         std::optional<double> legacyBreakpoint, QWidget* parent = nullptr);

@@ -60,7 +60,7 @@ QString StatusPillView::accessibleValueText() const {
 
 QSize StatusPillView::sizeHint() const {
     const QFontMetricsF metrics(Typography::font(pillStyle), this);
-    // Room for either word: the controls beside the pill must not move when the user pauses.
+    // Wide enough for either word: the controls beside the pill must not move on a pause.
     const double text = std::max(metrics.horizontalAdvance(statusText(true)),
                                  metrics.horizontalAdvance(statusText(false)));
     return {static_cast<int>(std::ceil(2 * pillHorizontalPadding + pillDot + pillSpacing + text)),

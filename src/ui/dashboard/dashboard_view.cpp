@@ -36,7 +36,7 @@ constexpr double footerBreakpoint = 720;
 }  // namespace
 
 DashboardView::DashboardView(Environment environment, QWidget* parent)
-    : GroundView(parent), environment_(std::move(environment)) {
+    : BackgroundView(parent), environment_(std::move(environment)) {
     build();
     observe();
 }
@@ -66,7 +66,7 @@ void DashboardView::build() {
 void DashboardView::setMenuBar(QMenuBar* bar) {
     layout()->setMenuBar(bar);
     if (bar->isNativeMenuBar()) return;
-    // The bar brings the room above the content.
+    // The bar has the space above the content.
     QLayout& content = *findChild<QScrollArea*>()->widget()->layout();
     content.setContentsMargins(outerPadding, paddingUnderMenuBar, outerPadding, outerPadding);
 }
@@ -166,7 +166,7 @@ bool DashboardView::isSeen() const {
     return isVisible() && !window()->isMinimized();
 }
 
-/// What nobody sees is not worked out either: it is shown when there is somebody to see it.
+/// A hidden window computes nothing; it shows the present state when it is visible again.
 void DashboardView::showIfSeen(const DashboardState& state) {
     isBehind_ = !isSeen();
     if (!isBehind_) show(state);
@@ -189,7 +189,7 @@ void DashboardView::reportFirstLiveFrame() {
 
 void DashboardView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    window()->installEventFilter(this);  // it alone is told that it is minimised no more
+    window()->installEventFilter(this);  // only the window gets the change of its state
     catchUp();
     environment_.monitor->start();
 }

@@ -13,7 +13,7 @@
 #include "ui/app_metadata.h"
 #include "ui/dashboard/adaptive_grid.h"
 #include "ui/dashboard/last_update_text.h"
-#include "ui/drawing/ground_view.h"
+#include "ui/drawing/background_view.h"
 
 class QMenuBar;
 
@@ -33,7 +33,7 @@ class VantorHorizontalFit;
 /// The content of the main window: header, cards, process explorer and footer in one scroll view
 /// over the theme's background. Starts the sampling when it first appears; shows whatever the
 /// monitor publishes, while it can be seen.
-class DashboardView : public GroundView {
+class DashboardView : public BackgroundView {
   public:
     struct Environment {
         std::shared_ptr<AppSettings> settings;

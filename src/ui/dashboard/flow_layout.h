@@ -4,7 +4,7 @@
 
 namespace vantor {
 
-/// Lays widgets out in a row that breaks where it must, each line centred vertically.
+/// Lays widgets out in a row that wraps, each line centred vertically.
 class FlowLayout : public WrappingLayout {
   public:
     explicit FlowLayout(int spacing, QWidget* parent = nullptr);

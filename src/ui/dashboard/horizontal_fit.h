@@ -14,8 +14,8 @@ class VantorHorizontalFit : public QWidget {
         fallback  ///< the leading block above the trailing one
     };
 
-    /// The form for `available`. Systems that can measure what fits do; for older ones there is a
-    /// breakpoint, and before the first measurement (a width of 0) the fallback.
+    /// The form for `available`: what fits is measured. Older systems have a breakpoint instead,
+    /// and the fallback before the first measurement (a width of 0).
     static Form choose(double available, double fitting, std::optional<double> legacyBreakpoint);
 
     /// With a breakpoint this behaves as on an older system. `gap` is the least one of the row,

@@ -48,8 +48,8 @@ void LastUpdateText::adopt(const QLocale& locale) {
     format_ = withoutZoneAndDayParts(locale.timeFormat(QLocale::LongFormat));
 }
 
-/// Asking costs a look at the zone's file. Clocks are put forward and back at whole minutes; a user
-/// who travels sees it a minute later.
+/// Asking reads the zone's file. Daylight saving begins and ends at whole minutes; a user who
+/// travels sees the change a minute later.
 std::int64_t LastUpdateText::offsetAt(std::int64_t second) {
     const std::int64_t minute = second / secondsPerMinute;
     if (minute != minute_) {

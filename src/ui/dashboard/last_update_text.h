@@ -10,8 +10,8 @@
 
 namespace vantor {
 
-/// What the footer says of the last commit: its time of day to the second, or that there has been
-/// none. Keeps what does not change from one tick to the next. Main thread.
+/// The footer's text for the last commit: its time of day to the second, or that there has been
+/// none. Caches what does not change from tick to tick. Main thread.
 class LastUpdateText {
   public:
     QString of(Timestamp timestamp, const QLocale& locale);

@@ -70,8 +70,7 @@ LegacyVantorScrollView::LegacyVantorScrollView(Qt::Orientations axes, QWidget* p
                                                    : Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
     setAutoFillBackground(false);
-    // Not a stop of the Tab key, but where the arrow and page keys arrive when nothing else has the
-    // focus.
+    // Not a Tab stop, but gets the arrow and page keys when nothing else has the focus.
     setFocusPolicy(Qt::ClickFocus);
 }
 
@@ -89,7 +88,7 @@ VantorScrollView::VantorScrollView(Qt::Orientations axes, QWidget* parent)
         bar->setValue(lastStep_);
     });
     connect(bar, &QScrollBar::valueChanged, this, [this](int value) {
-        if (value != lastStep_) glide_.stop();  // somebody else moves the page now
+        if (value != lastStep_) glide_.stop();  // something else moves the page now
     });
 }
 

@@ -6,7 +6,7 @@
 
 namespace vantor {
 
-/// A slim bar without arrows that keeps out of the way of what it scrolls.
+/// A slim scroll bar without arrows.
 class SlimScrollBar : public QScrollBar {
   public:
     explicit SlimScrollBar(Qt::Orientation orientation, QWidget* parent = nullptr)
@@ -19,7 +19,7 @@ class SlimScrollBar : public QScrollBar {
     void leaveEvent(QEvent* event) override;
 };
 
-/// A plain scroll view along the given axes, on the ground of whatever is behind it.
+/// A plain scroll view along the given axes, on the background of its parent.
 class LegacyVantorScrollView : public QScrollArea {
   public:
     explicit LegacyVantorScrollView(Qt::Orientations axes, QWidget* parent = nullptr);
@@ -30,10 +30,10 @@ class VantorScrollView : public LegacyVantorScrollView {
   public:
     explicit VantorScrollView(Qt::Orientations axes, QWidget* parent = nullptr);
 
-    /// Where the page is gliding to; where it is when it rests.
+    /// Where the page is gliding to; its position when it rests.
     int destination() const;
 
-    /// How the page glides; for those who wind time by hand.
+    /// The animation of the page; for tests with manual time.
     QVariantAnimation& glide() { return glide_; }
 
   protected:

@@ -4,8 +4,7 @@
 
 namespace vantor {
 
-/// Gives what it holds the whole width up to a limit; a wider space leaves room on both sides
-/// alike.
+/// Gives its content the whole width up to a limit, and centres it in a wider space.
 class WidthLimitLayout : public WrappingLayout {
   public:
     explicit WidthLimitLayout(int limit, QWidget* parent = nullptr);

@@ -8,8 +8,8 @@
 
 namespace vantor {
 
-/// What layouts have in common whose height follows from their width: they keep items in the order
-/// added, and one function both measures and places them.
+/// Base of layouts whose height follows from their width: they keep items in the order added, and
+/// one function both measures and places them.
 class WrappingLayout : public QLayout {
   public:
     explicit WrappingLayout(QWidget* parent);
@@ -30,11 +30,11 @@ class WrappingLayout : public QLayout {
 
     const Items& items() const { return items_; }
 
-    /// The height that the items need in `area`; puts them there when told to `place` them.
+    /// The height that the items need in `area`; puts them there when `place` is set.
     virtual int layOut(const QRect& area, bool place) const = 0;
 
-    /// Puts an item at a left-to-right `cell` of `area`, mirrored where the language runs the other
-    /// way.
+    /// Puts an item at a left-to-right `cell` of `area`, mirrored where the language is read
+    /// from right to left.
     void placeItem(QLayoutItem& item, const QRect& cell, const QRect& area) const;
 
   private:

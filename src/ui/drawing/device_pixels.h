@@ -6,7 +6,7 @@
 
 namespace vantor {
 
-/// While it lives, the painter counts in pixels of its device instead of in points.
+/// During its lifetime the painter uses device pixels instead of points.
 class DevicePixels {
   public:
     explicit DevicePixels(QPainter& painter)
@@ -23,7 +23,7 @@ class DevicePixels {
 
     QPointF exact(QPointF place) const { return toDevice_.map(place); }
 
-    /// Where the painter counted `place` and `area` before, with edges on the nearest pixels.
+    /// `place` and `area` of the painter's former coordinates, with edges on the nearest pixels.
     QPoint at(QPointF place) const { return toDevice_.map(place).toPoint(); }
     QRect at(const QRectF& area) const {
         return {at(area.topLeft()), at(area.bottomRight()) - QPoint(1, 1)};

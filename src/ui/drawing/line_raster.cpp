@@ -73,8 +73,8 @@ void LineRaster::addSegment(QPointF from, QPointF to, double reach) {
     }
 }
 
-/// Puts the line over what is below it, in shades of one colour, a strip of rows at a time: a
-/// picture of the whole would take as much memory as all the figures that it shows.
+/// Blends the line over what is below it, in shades of one colour, a strip of rows at a time: a
+/// picture of the whole would take as much memory as all the figures of a card.
 void LineRaster::colour(QPainter& painter, QPoint corner, int firstRow, const Style& style) {
     if (strip_.width() < width_)
         strip_ = QImage(width_, lineRasterStripHeight, QImage::Format_ARGB32_Premultiplied);

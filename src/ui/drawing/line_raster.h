@@ -13,8 +13,8 @@
 namespace vantor {
 
 /// Draws a line over the area below it, pixel by pixel. The toolkit turns a stroke into an outline
-/// and fills that, which takes ten times as long for a line of a hundred bends. Keeps its storage
-/// from one drawing to the next.
+/// and fills that, which takes ten times as long for a line of a hundred bends, and
+/// may use its thread pool. Keeps its storage from one drawing to the next.
 class LineRaster {
   public:
     struct Style {

@@ -18,8 +18,7 @@ struct Arc {
     QPointF end;
 };
 
-/// From both ends to the ellipse's middle, as drawings give the one and the toolkit takes the
-/// other.
+/// From both ends to the ellipse's centre: files have the former, the toolkit takes the latter.
 void addArc(QPainterPath& path, const Arc& arc) {
     const QPointF start = path.currentPosition();
     if (start == arc.end) return;

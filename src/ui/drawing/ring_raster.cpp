@@ -10,7 +10,7 @@ namespace vantor {
 
 namespace {
 
-// A picture of the whole would take as much memory as all the figures beside it.
+// A picture of the whole would take as much memory as all the figures of a card.
 constexpr int ringRasterStripHeight = 16;
 
 /// Premultiplied, 0 to 1.
@@ -24,10 +24,10 @@ struct Shade {
     Shade at(double share) const {
         return {red * share, green * share, blue * share, alpha * share};
     }
-    Shade over(const Shade& ground) const {
+    Shade over(const Shade& background) const {
         const double rest = 1 - alpha;
-        return {red + ground.red * rest, green + ground.green * rest, blue + ground.blue * rest,
-                alpha + ground.alpha * rest};
+        return {red + background.red * rest, green + background.green * rest,
+                blue + background.blue * rest, alpha + background.alpha * rest};
     }
     QRgb pixel() const {
         const auto level = [](double x) { return static_cast<int>(x * 255 + 0.5); };
@@ -35,7 +35,7 @@ struct Shade {
     }
 };
 
-/// What of a ring covers a pixel.
+/// How much of a pixel a ring covers.
 class Band {
   public:
     explicit Band(const RingRaster::Ring& ring)

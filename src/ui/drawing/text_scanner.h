@@ -6,7 +6,7 @@
 
 namespace vantor {
 
-/// Reads what the text of a drawing is made of, from its beginning on. It borrows the text.
+/// Scans the text of a drawing, from its beginning on. Borrows the text.
 class TextScanner {
   public:
     explicit TextScanner(std::string_view text) : left_(text) {}

@@ -14,7 +14,8 @@ namespace vantor {
 
 /// A drawing of the program's own resources: what an SVG file says with paths, rectangles, circles
 /// and ellipses, strokes with round ends and fills. The toolkit's library for such files reads all
-/// of the format, and takes more memory than everything that a card shows.
+/// of the format and takes more memory than a card's figures; and to read a picture's file, the
+/// toolkit loads its plugins for every format.
 class VectorDrawing {
   public:
     struct Shape {
@@ -24,7 +25,7 @@ class VectorDrawing {
         QList<double> dashes;    // in stroke widths
     };
 
-    /// From the text of such a file; absent when it has anything that is not drawn here.
+    /// From the text of such a file; absent when it has anything that is not supported.
     static std::optional<VectorDrawing> parse(std::string_view text);
     /// From a resource; absent when there is none.
     static std::optional<VectorDrawing> ofResource(const QString& path);

@@ -2,7 +2,7 @@
 
 #include <QStyle>
 
-#include "ui/drawing/ground_view.h"
+#include "ui/drawing/background_view.h"
 
 namespace vantor {
 
@@ -11,7 +11,7 @@ ViewPainter::ViewPainter(QWidget& view)
       width_(view.width()),
       isMirrored_(view.isRightToLeft()),
       scheme_(colorScheme(view)) {
-    GroundView* const below = GroundView::behind(view);
+    BackgroundView* const below = BackgroundView::behind(view);
     kit_ = below ? &below->kit() : &own_.emplace();
     setRenderHint(QPainter::Antialiasing);
 }

@@ -5,14 +5,15 @@
 
 #include <optional>
 
-#include "ui/drawing/drawing_kit.h"
+#include "ui/drawing/paint_cache.h"
 #include "ui/theme.h"
 
 namespace vantor {
 
 /// Paints one view, with soft edges. Places count from the leading edge: where the language is read
 /// from right to left, `leading` and the texts mirror them, so that a view is written for one
-/// direction only. What it draws with is the window's.
+/// direction only. Charts and rings run one way in any language, as clocks do. Uses the window's
+/// cache.
 class ViewPainter : public QPainter {
   public:
     explicit ViewPainter(QWidget& view);
@@ -22,7 +23,7 @@ class ViewPainter : public QPainter {
     void primary() { vantorPrimaryForeground(*this, scheme_); }
     void secondary() { vantorSecondaryForeground(*this, scheme_); }
 
-    /// Where something lies that is at `area` for who reads from left to right.
+    /// The place of what is at `area` where the language is read from left to right.
     QRectF leading(const QRectF& area) const;
 
     LineRaster& lines() { return kit_->lines; }
@@ -46,8 +47,8 @@ class ViewPainter : public QPainter {
     double width_;
     bool isMirrored_;
     ColorScheme scheme_;
-    std::optional<DrawingKit> own_;  // of a view that stands on no ground
-    DrawingKit* kit_;                // the window's, else own_
+    std::optional<PaintCache> own_;  // of a view without a background view
+    PaintCache* kit_;                // the window's, else own_
 };
 
 }  // namespace vantor

@@ -34,7 +34,7 @@ FilterField::FilterField(const QString& placeholder, QWidget* parent) : QLineEdi
     setAccessibleName(placeholder);
     setFrame(false);
     setClearButtonEnabled(true);
-    // The ground is painted here; the field itself must not paint over it.
+    // The background is painted here; the field itself must not paint over it.
     QPalette transparent = palette();
     transparent.setColor(QPalette::Base, Qt::transparent);
     setPalette(transparent);
@@ -79,9 +79,9 @@ void FilterField::paintEvent(QPaintEvent* event) {
     const ColorScheme scheme = colorScheme(*this);
     const QColor label = VantorTheme::primaryLabel(scheme);
     const QRectF area = Pixels::snapped(painter, rect());
-    QPainterPath ground;
-    ground.addRoundedRect(area, corner, corner);
-    vantorBackground(painter, VantorTheme::faded(label, filterFieldGroundOpacity), ground);
+    QPainterPath background;
+    background.addRoundedRect(area, corner, corner);
+    vantorBackground(painter, VantorTheme::faded(label, filterFieldGroundOpacity), background);
     const bool isFocused = hasFocus();
     const double width = isFocused ? focusWidth : Pixels::snappedLineWidth(painter, 1);
     const double inset = width / 2;

@@ -6,7 +6,7 @@ namespace vantor {
 
 namespace {
 
-constexpr double sideInset = 8;  // what the ground of the chosen row stands out beyond its texts
+constexpr double sideInset = 8;  // of the chosen row's background, beyond its texts
 constexpr double columnGap = 12;
 constexpr double iconWidth = 18;
 constexpr double iconGap = 8;
@@ -18,7 +18,7 @@ constexpr double narrowestName = 110;
 
 }  // namespace
 
-/// Where a large font leaves no room for names, the bars give way: the figures say the same.
+/// Where a large font leaves no space for names, there are no bars: the figures say the same.
 ProcessColumns ProcessColumns::make(double width, double height, double scale) {
     const double figures = 2 * sideInset + iconGap + 3 * columnGap +
                            (iconWidth + pidWidth + cpuWidth + memoryWidth) * scale;

@@ -4,7 +4,7 @@
 
 namespace vantor {
 
-/// Where the columns of the process table lie. The figures stand at the trailing edge of their
+/// The columns of the process table. The figures stand at the trailing edge of their
 /// column's text part, so that their digits stand below each other.
 struct ProcessColumns {
     static constexpr double cpuBarWidth = 48;

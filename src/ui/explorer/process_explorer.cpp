@@ -33,16 +33,16 @@ std::vector<const ProcessStats*> ProcessExplorer::makeVisibleProcesses(
     std::vector<const ProcessStats*> visible;
     if (query.isEmpty()) {
         const auto sorted = mode == SortMode::cpu ? sortedByCPU : sortedByMemory;
-        for (const ProcessStats& process : sorted.first(std::min(sorted.size(), mostRows)))
+        for (const ProcessStats& process : sorted.first(std::min(sorted.size(), maxRows)))
             visible.push_back(&process);
         return visible;
     }
-    // The sorted lists hold only the first ones: whoever searches wants to find the others, too.
+    // The sorted lists hold only the first ones: a search has to find the others, too.
     const ProcessSearch search(query, locale);
     for (const ProcessStats& process : processes) {
         if (search.matches(process)) visible.push_back(&process);
     }
-    const auto count = std::min(visible.size(), mostRows);
+    const auto count = std::min(visible.size(), maxRows);
     std::partial_sort(
         visible.begin(), visible.begin() + static_cast<std::ptrdiff_t>(count), visible.end(),
         [mode](const ProcessStats* a, const ProcessStats* b) { return isBefore(*a, *b, mode); });
@@ -57,7 +57,7 @@ EmptyState ProcessExplorer::noProcesses() {
 }
 
 EmptyState ProcessExplorer::noMatch(const QString& query) {
-    // Nobody typed more; whoever pasted it need not be shown all of it.
+    // More has been pasted, not typed, and need not be shown in full.
     constexpr qsizetype longest = 400;
     const QString shown = query.size() > longest ? query.left(longest) + u'…' : query;
     return {QStringLiteral("No Matching Processes"), QStringLiteral("magnifyingglass"),

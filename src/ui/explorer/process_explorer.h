@@ -23,8 +23,8 @@ QString sortModeLabel(SortMode mode);
 /// The processes that the explorer lists, borrowed from the published state. Two are equal when
 /// their revisions are.
 struct ProcessExplorer {
-    /// More rows would be a list to scroll in, not to look at; the filter finds the others.
-    static constexpr std::size_t mostRows = 18;
+    /// More rows would need scrolling; the filter finds the others.
+    static constexpr std::size_t maxRows = 18;
 
     std::span<const ProcessStats> processes;
     std::span<const ProcessStats> sortedByCPU;     ///< its first ones at least

@@ -5,7 +5,6 @@
 #include <QStackedLayout>
 
 #include <algorithm>
-#include <chrono>
 
 #include "ui/cards/process_mini_list.h"
 #include "ui/components/make_child.h"
@@ -17,8 +16,6 @@ namespace vantor {
 
 namespace {
 
-// Longer than between two keystrokes of a quick typist, shorter than anybody notices.
-constexpr std::chrono::milliseconds debounceDelay{150};
 constexpr int processExplorerControlSpacing = 12;
 
 DashboardCard explorerFrame() {
@@ -82,7 +79,7 @@ void ProcessExplorerView::addShortcuts() {
 void ProcessExplorerView::focusFilter() {
     filter_->setFocus(Qt::ShortcutFocusReason);
     filter_->selectAll();
-    // Whoever searches wants to see the rows that are found as well.
+    // With the rows that are found, not the field alone.
     reveal(*this, rect());
 }
 
@@ -93,7 +90,7 @@ void ProcessExplorerView::setQuery(const QString& query) {
         applyQuery();  // at once: there is nothing to wait for
         return;
     }
-    debounce_ = mainLoop_->runAfter(debounceDelay, [this] {
+    debounce_ = mainLoop_->runAfter(FilterField::debounceDelay, [this] {
         debounce_.reset();
         applyQuery();
     });
@@ -112,7 +109,7 @@ void ProcessExplorerView::cancelDebounce() {
 
 void ProcessExplorerView::show(const ProcessExplorer& explorer) {
     const bool isSame = explorer == explorer_;
-    explorer_ = explorer;  // even so: what the former ones were borrowed from may be gone
+    explorer_ = explorer;  // even when equal: what the former one borrowed from may be gone
     if (!isSame) refresh();
 }
 

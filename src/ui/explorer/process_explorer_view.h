@@ -27,15 +27,15 @@ class ProcessExplorerView : public DashboardCardView {
                         QWidget* parent = nullptr);
     ~ProcessExplorerView() override;
 
-    /// Shows the processes unless they are the ones shown already. What they are borrowed from must
-    /// live until the next ones are shown.
+    /// Shows the processes unless they are shown already. What they are borrowed from must outlive
+    /// the call that shows the next ones.
     void show(const ProcessExplorer& explorer);
 
     SortMode sortMode() const { return sortMode_; }
     const QString& query() const { return query_; }
     const QString& debouncedQuery() const { return debouncedQuery_; }
 
-    /// Puts the cursor into the filter, where the user can see it.
+    /// Gives the filter the focus and scrolls it into view.
     void focusFilter();
 
     FilterField& filter() { return *filter_; }

@@ -34,7 +34,7 @@ QString ProcessSearch::folded(const QString& text, const QLocale& locale) {
 
 ProcessSearch::ProcessSearch(const QString& query, const QLocale& locale)
     : locale_(locale), query_(query.toStdString()), folded_(folded(query, locale)) {
-    // An accent alone folds to nothing, and nothing is in everything.
+    // An accent alone folds to nothing, which every text contains.
     if (folded_.isEmpty()) folded_ = query;
     if (isPlain(query_) && !hasDotlessI(locale)) plain_ = folded_.toStdString();
 }
@@ -56,7 +56,7 @@ bool ProcessSearch::isIn(std::string_view text) const {
     }
     const QString whole = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     if (folded(whole, locale_).contains(folded_)) return true;
-    // Who types what is on the screen finds it, too.
+    // What is on the screen can be typed, too.
     const QString shown = shownText(whole);
     return shown != whole && folded(shown, locale_).contains(folded_);
 }

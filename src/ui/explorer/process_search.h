@@ -10,9 +10,9 @@
 
 namespace vantor {
 
-/// Finds processes by what a user typed: in the name or the command, whatever the case and the
-/// accents, as the user's language has them, be they as they are or as they are shown; or in the
-/// decimal identifier, as it is.
+/// Finds processes by what a user typed: in the name or the command, ignoring case and accents by
+/// the rules of the user's language, in the true text or the shown one; or in the decimal
+/// identifier.
 class ProcessSearch {
   public:
     explicit ProcessSearch(const QString& query, const QLocale& locale = QLocale());

@@ -13,26 +13,13 @@
 
 #include "ui/components/reveal.h"
 #include "ui/components/tool_tip_text.h"
-#include "ui/components/usage_bar.h"
-#include "ui/drawing/view_painter.h"
 #include "ui/explorer/process_columns.h"
-#include "ui/pixels.h"
 #include "ui/shown_text.h"
-#include "ui/symbols.h"
-#include "ui/theme.h"
 #include "ui/typography.h"
 
 namespace vantor {
 
 namespace {
-
-constexpr double processTableRowSpacing = 8;
-constexpr double processTableBarHeight = 5;
-constexpr double currentOpacity = 0.08;
-constexpr double currentCorner = 6;
-
-constexpr TextStyle processTableNameStyle{Typography::caption};
-constexpr TextStyle figureStyle{Typography::caption};
 
 /// In steps of half a point of the bar: less cannot be seen, and need not be painted.
 double visibleShare(double share, double barWidth) {
@@ -69,16 +56,15 @@ void ProcessTableView::show(std::span<const ProcessRow> rows) {
     for (std::size_t i = 0; i < std::max(before, rows_.size()); ++i) {
         const bool isSame = i < before && i < rows_.size() && rows_[i] == old[i];
         if (isSame) continue;
-        update(rowArea(i).toAlignedRect().adjusted(0, -static_cast<int>(processTableRowSpacing / 2),
-                                                   0,
-                                                   static_cast<int>(processTableRowSpacing / 2)));
+        update(rowArea(i).toAlignedRect().adjusted(0, -static_cast<int>(rowSpacing / 2), 0,
+                                                   static_cast<int>(rowSpacing / 2)));
         announceRow(static_cast<int>(i));
     }
     if (before != rows_.size()) announceRowCount();
     endHelpOfMovedRow(old);
 }
 
-/// What the pointer rests on is another process then.
+/// The row under the pointer is another process then.
 void ProcessTableView::endHelpOfMovedRow(const std::vector<Row>& before) {
     if (!helpPID_) return;
     const auto placeIn = [this](const std::vector<Row>& rows) {
@@ -89,12 +75,12 @@ void ProcessTableView::endHelpOfMovedRow(const std::vector<Row>& before) {
     QToolTip::hideText();
 }
 
-/// Asked for each row at each tick, it is worked out once for each font.
+/// Needed for each row at each tick: computed once for each font.
 double ProcessTableView::rowHeight() const {
     const QFont systemFont = QApplication::font();
     if (rowHeight_ && systemFont == rowHeightFont_) return *rowHeight_;
     rowHeightFont_ = systemFont;
-    const double text = QFontMetricsF(Typography::font(processTableNameStyle), this).height();
+    const double text = QFontMetricsF(Typography::font(nameStyle), this).height();
     const double figures = QFontMetricsF(Typography::font(figureStyle), this).height();
     rowHeight_ = std::ceil(std::max(text, figures));
     return *rowHeight_;
@@ -102,25 +88,21 @@ double ProcessTableView::rowHeight() const {
 
 /// The header takes the place of a row before the first one.
 QRectF ProcessTableView::rowArea(std::size_t index) const {
-    const double step = rowHeight() + processTableRowSpacing;
-    return {0, step * static_cast<double>(index + 1) + processTableRowSpacing / 2,
-            static_cast<double>(width()), rowHeight()};
+    const double step = rowHeight() + rowSpacing;
+    return {0, step * static_cast<double>(index + 1) + rowSpacing / 2, static_cast<double>(width()),
+            rowHeight()};
 }
 
 std::optional<std::size_t> ProcessTableView::rowAt(QPointF place) const {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        if (rowArea(i)
-                .adjusted(0, -processTableRowSpacing / 2, 0, processTableRowSpacing / 2)
-                .contains(place))
-            return i;
+        if (rowArea(i).adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2).contains(place)) return i;
     }
     return std::nullopt;
 }
 
 QSize ProcessTableView::sizeHint() const {
-    const QRectF last = rowArea(ProcessExplorer::mostRows - 1);
-    return {Typography::scaled(560),
-            static_cast<int>(std::ceil(last.bottom() + processTableRowSpacing / 2))};
+    const QRectF last = rowArea(ProcessExplorer::maxRows - 1);
+    return {Typography::scaled(560), static_cast<int>(std::ceil(last.bottom() + rowSpacing / 2))};
 }
 
 QSize ProcessTableView::minimumSizeHint() const {
@@ -166,7 +148,7 @@ QString ProcessTableView::accessibleRowLabel(int row) const {
     if (row < 0 || index >= rows_.size()) return {};
     const Row& shown = rows_[index];
     return QStringLiteral("%1, PID %2, CPU %3, memory %4")
-        .arg(isolatedText(shown.name.left(Typography::longestLine)))
+        .arg(isolatedText(shown.name.left(Typography::maxLineLength)))
         .arg(shown.pid)
         .arg(shown.cpuText, shown.memoryText);
 }
@@ -200,7 +182,7 @@ void ProcessTableView::keyPressEvent(QKeyEvent* event) {
     PaintedView::keyPressEvent(event);
 }
 
-/// Whether the key chose a row. At the ends the arrow keys are left to whatever scrolls.
+/// Whether the key chose a row. At the ends the arrow keys are left to the scroll view.
 bool ProcessTableView::moveBy(Qt::Key key) {
     if (rows_.empty()) return false;
     const auto current = currentRow();
@@ -249,72 +231,6 @@ bool ProcessTableView::event(QEvent* event) {
         QToolTip::hideText();
     }
     return true;
-}
-
-void ProcessTableView::paintEvent(QPaintEvent* event) {
-    ViewPainter painter(*this);
-    if (event->rect().top() < rowArea(0).top()) paintHeader(painter);
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const QRect area = rowArea(i).toAlignedRect();
-        if (!event->region().intersects(area)) continue;
-        painter.save();
-        paintRow(painter, i);
-        painter.restore();
-    }
-}
-
-void ProcessTableView::paintHeader(ViewPainter& painter) const {
-    const auto columns = ProcessColumns::make(width(), rowHeight(), Typography::lengthScale());
-    painter.secondary();
-    constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
-    const auto title = [&](std::size_t column, const QRectF& area, Qt::Alignment alignment) {
-        painter.line(figureStyle, area, alignment, ProcessHeader::titles.at(column).toString());
-    };
-    title(0, columns.icon.united(columns.name), Qt::AlignLeft | Qt::AlignVCenter);
-    title(1, columns.pid, trailing);
-    title(2, columns.cpuText, trailing);
-    title(3, columns.memoryText, trailing);
-}
-
-void ProcessTableView::paintCurrent(ViewPainter& painter, const QRectF& area) const {
-    const ColorScheme scheme = painter.scheme();
-    const QRectF ground = Pixels::snapped(
-        painter, area.adjusted(0, -processTableRowSpacing / 2, 0, processTableRowSpacing / 2));
-    QPainterPath shape;
-    shape.addRoundedRect(ground, currentCorner, currentCorner);
-    vantorBackground(painter, VantorTheme::faded(VantorTheme::primaryLabel(scheme), currentOpacity),
-                     shape);
-    if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, ground, currentCorner, palette());
-}
-
-void ProcessTableView::paintRow(ViewPainter& painter, std::size_t index) const {
-    const Row& row = rows_[index];
-    const QRectF area = rowArea(index);
-    const ColorScheme scheme = painter.scheme();
-    if (currentPID_ && row.pid == *currentPID_) paintCurrent(painter, area);
-    // However high the letters of a name are piled, the rows beside it stay as they are.
-    painter.setClipRect(
-        area.adjusted(0, -processTableRowSpacing / 2, 0, processTableRowSpacing / 2));
-    const auto columns =
-        ProcessColumns::make(area.width(), area.height(), Typography::lengthScale());
-    const auto at = [&](const QRectF& column) { return column.translated(area.topLeft()); };
-    const double symbol = std::min(columns.icon.width(), area.height());
-    QRectF icon = at(columns.icon);
-    icon.setWidth(symbol);
-    Symbols::draw(painter, painter.leading(icon), symbol_, VantorTheme::secondaryLabel(scheme));
-    constexpr auto trailing = Qt::AlignRight | Qt::AlignVCenter;
-    painter.primary();
-    painter.line(processTableNameStyle, at(columns.name), Qt::AlignLeft | Qt::AlignVCenter,
-                 row.name);
-    painter.figures(figureStyle, at(columns.cpuText), trailing, row.cpuText);
-    painter.figures(figureStyle, at(columns.memoryText), trailing, row.memoryText);
-    painter.secondary();
-    painter.figures(figureStyle, at(columns.pid), trailing, QString::number(row.pid));
-    if (columns.cpuBar.width() <= 0) return;
-    paintUsageBar(painter, at(columns.cpuBar),
-                  {row.cpuShare, VantorTheme::cyan(), processTableBarHeight});
-    paintUsageBar(painter, at(columns.memoryBar),
-                  {row.memoryShare, VantorTheme::pink(), processTableBarHeight});
 }
 
 }  // namespace vantor

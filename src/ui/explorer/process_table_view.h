@@ -12,12 +12,14 @@
 #include "ui/components/painted_view.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/explorer/process_explorer.h"
+#include "ui/typography.h"
 
 namespace vantor {
 
 /// Draws the column header and one row for each visible process, with room for as many as there
 /// can be, so that nothing below it moves. One row can be chosen, and stays the same process
-/// wherever it goes.
+/// wherever it is sorted to. Rows are painted here and not widgets, so that a refresh repaints only
+/// the rows that changed; to assistive technology each is an element of its own.
 class ProcessTableView : public PaintedView {
   public:
     explicit ProcessTableView(QString symbol, QWidget* parent = nullptr);
@@ -53,6 +55,10 @@ class ProcessTableView : public PaintedView {
     bool event(QEvent* event) override;
 
   private:
+    static constexpr double rowSpacing = 8;
+    static constexpr TextStyle nameStyle{Typography::caption};
+    static constexpr TextStyle figureStyle{Typography::caption};
+
     struct Row {
         std::int32_t pid = 0;
         QString name;
@@ -77,10 +83,10 @@ class ProcessTableView : public PaintedView {
     QString symbol_;
     std::vector<Row> rows_;
     std::optional<std::int32_t> currentPID_;
-    std::optional<std::int32_t> helpPID_;  ///< whose command the tool tip says, while it is shown
+    std::optional<std::int32_t> helpPID_;  ///< the tool tip's process, while it is shown
     FocusRing ring_;
     mutable std::optional<double> rowHeight_;
-    mutable QFont rowHeightFont_;  ///< the system's, when the height was worked out
+    mutable QFont rowHeightFont_;  ///< the system's, when the height was computed
 };
 
 }  // namespace vantor

@@ -37,7 +37,7 @@ HelpSectionView::HelpSectionView(const HelpSection& section, QWidget* parent)
 }
 
 HelpView::HelpView(const ProcessInfo& versions, const PlatformWords& words, QWidget* parent)
-    : GroundView(parent) {
+    : BackgroundView(parent) {
     auto* content = makeChild<QWidget>(this);
     content->setContentsMargins(helpViewPadding, helpViewPadding, helpViewPadding, helpViewPadding);
     auto* limit = std::make_unique<WidthLimitLayout>(widestText, content).release();

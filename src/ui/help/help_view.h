@@ -8,7 +8,7 @@
 #include "platform/process_info.h"
 #include "ui/components/paragraph.h"
 #include "ui/components/text_line.h"
-#include "ui/drawing/ground_view.h"
+#include "ui/drawing/background_view.h"
 #include "ui/help/help_texts.h"
 
 class QScrollArea;
@@ -29,8 +29,8 @@ class HelpSectionView : public QWidget {
 };
 
 /// The content of the help window: a text in sections that scrolls, by arrow and page keys, Space,
-/// Home and End, too. The text can be marked and copied.
-class HelpView : public GroundView {
+/// Home and End, too. The text can be selected and copied.
+class HelpView : public BackgroundView {
   public:
     HelpView(const ProcessInfo& versions, const PlatformWords& words, QWidget* parent = nullptr);
 

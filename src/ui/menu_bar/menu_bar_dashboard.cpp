@@ -38,7 +38,7 @@ MenuBarDashboard MenuBarDashboard::of(const DashboardState& state, bool isPaused
 }
 
 QString MenuBarDashboard::statusText() const {
-    // What the dashboard's footer says.
+    // As in the dashboard's footer.
     if (status == Status::waiting) return QStringLiteral("Collecting live data…");
     return headerOf(status).statusText();
 }

@@ -25,7 +25,7 @@ constexpr int panelHeight = 250;
 
 MenuBarDashboardView::MenuBarDashboardView(Environment environment,
                                            std::function<void()> onOpenDashboard, QWidget* parent)
-    : GroundView(parent), environment_(std::move(environment)) {
+    : BackgroundView(parent), environment_(std::move(environment)) {
     auto* column = makeLayout<QVBoxLayout>(this);
     column->setContentsMargins(menuBarPadding, menuBarPadding, menuBarPadding, menuBarPadding);
     column->setSpacing(menuBarRowSpacing);
@@ -50,8 +50,8 @@ void MenuBarDashboardView::addHeader(QVBoxLayout& column) {
 void MenuBarDashboardView::addFigures(QVBoxLayout& column, const MenuBarDashboard& waiting) {
     cpu_ = makeChild<MenuMetricView>(this, waiting.cpu);
     memory_ = makeChild<MenuMetricView>(this, waiting.memory);
-    download_ = makeChild<SpeedTileView>(this, waiting.download, SpeedTileView::Ground::none);
-    upload_ = makeChild<SpeedTileView>(this, waiting.upload, SpeedTileView::Ground::none);
+    download_ = makeChild<SpeedTileView>(this, waiting.download, SpeedTileView::Background::none);
+    upload_ = makeChild<SpeedTileView>(this, waiting.upload, SpeedTileView::Background::none);
     const auto addPair = [&](QWidget* leading, QWidget* trailing) {
         auto* row = makeInnerLayout<QHBoxLayout>();
         row->setSpacing(menuBarTileSpacing);

@@ -9,7 +9,7 @@
 #include "sampling/system_monitor.h"
 #include "ui/components/capsule_button.h"
 #include "ui/components/speed_tile.h"
-#include "ui/drawing/ground_view.h"
+#include "ui/drawing/background_view.h"
 #include "ui/menu_bar/menu_bar_dashboard.h"
 #include "ui/menu_bar/menu_bar_header.h"
 
@@ -19,9 +19,10 @@ namespace vantor {
 
 /// The panel of the menu bar item: load of processor and memory, network rates, four actions.
 ///
-/// 330 x 250 points at the reference font, more with a larger one. It listens to the monitor only
-/// while it is visible and costs nothing otherwise. Main thread.
-class MenuBarDashboardView : public GroundView {
+/// 330 x 250 points at the reference font, more with a larger one. It subscribes to the monitor
+/// only while it is visible and costs nothing otherwise. It shows the cards' own values, and so
+/// cannot differ from them. Main thread.
+class MenuBarDashboardView : public BackgroundView {
   public:
     struct Environment {
         std::shared_ptr<SystemMonitor> monitor;

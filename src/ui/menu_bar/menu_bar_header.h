@@ -21,7 +21,7 @@ class MenuBarTitleView : public PaintedView {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// A dot whose colour tells whether the figures are live; its tool tip says it in words.
+/// A dot whose colour shows whether the figures are live; its tool tip has it in words.
 class StatusDotView : public PaintedView {
   public:
     explicit StatusDotView(QWidget* parent = nullptr);

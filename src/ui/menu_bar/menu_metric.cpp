@@ -52,7 +52,7 @@ std::optional<double> MenuMetricView::accessibleFraction() const {
 QSize MenuMetricView::sizeHint() const {
     const QFontMetricsF title(Typography::font(menuMetricTitleStyle), this);
     const QFontMetricsF value(Typography::font(menuMetricValueStyle), this);
-    // Room for the widest value, so that a tile does not grow with its load.
+    // Wide enough for the widest value, so that a tile does not grow with its load.
     const double text = std::max({title.horizontalAdvance(metric_.title),
                                   Typography::digitTextWidth(QStringLiteral("100%"), value),
                                   Typography::digitTextWidth(metric_.value, value)});

@@ -22,7 +22,7 @@ constexpr double groupCorner = 14;
 constexpr int groupInset = 14;
 constexpr int largestOutset = 3;
 constexpr int rowPadding = 6;
-constexpr int leastRowHeight = 34;
+constexpr int minRowHeight = 34;
 constexpr int plainGap = 8;
 constexpr double labelWidth = 190;  // of the plain form: as much as the longest label has
 constexpr double compatibleFormBorderOpacity = 0.08;
@@ -43,14 +43,14 @@ FormRowsView::FormRowsView(FormStyle style, QWidget* parent)
 
 void FormRowsView::add(QWidget* row, int outset) {
     const bool isGrouped = style_ == FormStyle::grouped;
-    // What stands beside each other keeps its own height; the row gives it room.
+    // Neighbours keep their own heights; the row is as high as the higher one.
     auto* cell = makeChild<QWidget>(this);
     auto* inside = makeLayout<QVBoxLayout>(cell);
     const int across = largestOutset - outset;
     const int padding = isGrouped ? rowPadding : 0;
     inside->setContentsMargins(across, padding, across, padding);
     inside->addWidget(row, 0, Qt::AlignVCenter);
-    if (isGrouped) cell->setMinimumHeight(leastRowHeight);
+    if (isGrouped) cell->setMinimumHeight(minRowHeight);
     rows_.push_back(cell);
     column_->addWidget(cell);
 }

@@ -20,7 +20,7 @@ enum class FormStyle {
 
 FormStyle formStyle(const ProcessInfo& versions);
 
-/// What the rows of one section stand on, with hairlines between them where it is grouped.
+/// The background of a section's rows, with hairlines between them where it is grouped.
 class FormRowsView : public QWidget {
   public:
     explicit FormRowsView(FormStyle style, QWidget* parent = nullptr);
@@ -41,7 +41,7 @@ class CompatibleFormSection : public QWidget {
     CompatibleFormSection(FormStyle style, const QString& title, QWidget* parent = nullptr);
 
     /// Adds a row under those that are there; it becomes this section's. `outset` is how far it
-    /// reaches out of line at both sides.
+    /// extends beyond the others at both sides.
     void add(QWidget* row, int outset = 0) { rows_->add(row, outset); }
 
     FormStyle style() const { return style_; }
@@ -53,8 +53,7 @@ class CompatibleFormSection : public QWidget {
     FormRowsView* rows_;
 };
 
-/// The label of a row. It is never cut: what it takes is the least that the form can be narrowed
-/// to.
+/// The label of a row. It is never cut: the form cannot be narrower than it.
 class FormLabelView : public TextLineView {
   public:
     FormLabelView(FormStyle style, const QString& text, QWidget* parent = nullptr);
@@ -66,8 +65,8 @@ class FormLabelView : public TextLineView {
     FormStyle style_;
 };
 
-/// A row: a label, and what it is the label of. Grouped, they stand at both ends; plain, the
-/// content follows a label of a fixed width.
+/// A row: a label and its content. Grouped, they are at both ends; plain, the content follows a
+/// label of a fixed width.
 class CompatibleLabeledContent : public QWidget {
   public:
     /// The content becomes this row's.
@@ -80,7 +79,7 @@ class CompatibleLabeledContent : public QWidget {
     FormLabelView* label_;  // owned by this widget, as its child
 };
 
-/// A text that is the value of a label; assistive technology is told both.
+/// A text that is the value of a label; assistive technology gets both.
 class LabeledTextView : public TextLineView {
   public:
     LabeledTextView(QString label, const QString& value, QWidget* parent = nullptr);

@@ -7,7 +7,7 @@
 namespace vantor {
 
 /// A quiet line that says that the preferences are not saved, and why; hidden while they are.
-/// Assistive technology is told when it appears.
+/// Assistive technology is notified when it appears.
 class NotSavedView : public PaintedView {
   public:
     explicit NotSavedView(QWidget* parent = nullptr);

@@ -9,8 +9,8 @@
 
 namespace vantor {
 
-/// What the settings' form shows: the preferences as they are, also where they are none of those on
-/// offer.
+/// What the settings' form shows: the preferences as they are, also values that are not among the
+/// choices.
 struct SettingsForm {
     Appearance appearance = Appearance::dark;
     double refreshInterval = 0.5;  ///< seconds
@@ -24,7 +24,7 @@ struct SettingsForm {
 
     /// "0.5 second", "1 second", "2 seconds"; any other number as it is.
     static QString intervalLabel(double seconds);
-    static QStringList intervalLabels();  ///< of those on offer, in their order
+    static QStringList intervalLabels();  ///< of the choices, in their order
     static QString appearanceLabel(Appearance appearance);
     static QStringList appearanceLabels();  ///< of all, in their order
 };

@@ -29,7 +29,7 @@ QString wordsOf(std::string_view words) {
 }  // namespace
 
 SettingsView::SettingsView(Environment environment, QWidget* parent)
-    : GroundView(parent),
+    : BackgroundView(parent),
       environment_(std::move(environment)),
       style_(formStyle(environment_.machine->processInfo())),
       form_(SettingsForm::of(*environment_.settings)) {
@@ -108,7 +108,7 @@ void SettingsView::addIntervalAndHistory(CompatibleFormSection& section) {
         makeChild<MenuPickerView>(&section, label, SettingsForm::intervalLabels(), onChoose);
     section.add(makeChild<CompatibleLabeledContent>(&section, style_, label, interval_));
     const Stepper stepper{QStringLiteral("Chart history"), QStringLiteral("samples"),
-                          AppSettings::shortestHistory, AppSettings::longestHistory};
+                          AppSettings::minHistory, AppSettings::maxHistory};
     history_ =
         makeChild<StepperView>(&section, stepper, form_.historyLength,
                                [s = settings](std::int64_t value) { s->setHistoryLength(value); });
@@ -187,8 +187,8 @@ void SettingsView::observe() {
 }
 
 void SettingsView::show(const SettingsForm& form) {
-    // Kept first: the theme's picker also tells of changes that are made here, and such a one is
-    // known by then.
+    // Stored first: the theme's picker also reports changes that are made here, and such a change
+    // is then no news.
     form_ = form;
     if (const auto place = placeAmong(allAppearances, form.appearance)) {
         theme_->choose(static_cast<int>(*place));

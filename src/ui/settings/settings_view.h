@@ -16,7 +16,7 @@
 #include "ui/components/segmented_picker.h"
 #include "ui/components/stepper.h"
 #include "ui/components/toggle_row.h"
-#include "ui/drawing/ground_view.h"
+#include "ui/drawing/background_view.h"
 #include "ui/settings/compatible_form.h"
 #include "ui/settings/not_saved_view.h"
 #include "ui/settings/settings_form.h"
@@ -26,17 +26,17 @@ class QScrollArea;
 
 namespace vantor {
 
-/// The content of the settings window. What the user changes is in the settings at once, and what
-/// changes in the settings is shown at once. It never writes what the user did not choose: a value
-/// that is not on offer is shown as it is. Scrolls where it is not high enough. Main thread.
-class SettingsView : public GroundView {
+/// The content of the settings window. The user's changes apply at once, and changes of the
+/// settings are shown at once. It never writes what the user did not choose: a value that is not
+/// among the choices is shown as it is. Scrolls where it is not high enough. Main thread.
+class SettingsView : public BackgroundView {
   public:
     struct Environment {
         std::shared_ptr<AppSettings> settings;
         std::shared_ptr<Machine> machine;
         const AppMetadata& metadata;
         std::function<void()> onExport;  ///< none: the button is disabled
-        /// Why what is chosen is not saved, empty while it is; none: nothing is said of it.
+        /// Why the settings are not saved, empty while they are; none: not shown.
         std::shared_ptr<Published<std::string>> notSaved{};
     };
 

@@ -13,7 +13,7 @@
 namespace vantor {
 
 double FaultScene::Silence::allowed() const {
-    return std::max(longestAllowed, 2 * still);
+    return std::max(maxAllowed, 2 * still);
 }
 
 QString FaultScene::Silence::text() const {
@@ -86,6 +86,10 @@ FaultScene::Silence FaultScene::watchFor(int seconds) {
 void FaultScene::expectShort(const Silence& silence) {
     EXPECT_LE(silence.program, silence.allowed()) << silence.text().toStdString();
     EXPECT_GT(silence.answers, 0);
+}
+
+void FaultScene::expectPromptStart(double startTime, const Silence& silence) {
+    EXPECT_LT(startTime, std::max(maxStartTime, 4 * silence.allowed() * 10)) << "to start";
 }
 
 int FaultScene::passesOf(const char* provider) const {

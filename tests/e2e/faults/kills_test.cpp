@@ -19,7 +19,7 @@ namespace vantor::kills_test {
 namespace {
 
 constexpr int kills = 200;
-constexpr unsigned longestWrite = 60'000;  ///< microseconds
+constexpr unsigned maxWriteTime = 60'000;  ///< microseconds
 const QString exportTitle = QStringLiteral("Export System Snapshot");
 const QString settingsTitle = QStringLiteral("Vantor Settings");
 const QString replaceTitle = QStringLiteral("Replace File");
@@ -118,8 +118,8 @@ class Kills : public FaultScene {
     /// After the kills: it starts as fast as before them.
     void expectPrompt(std::vector<double> times, double before) {
         std::ranges::sort(times);
-        EXPECT_LT(times.at(times.size() / 2), std::max(longestStart, 2 * before)) << "the median";
-        EXPECT_LT(times.back(), std::max(2 * longestStart, 4 * before)) << "the longest";
+        EXPECT_LT(times.at(times.size() / 2), std::max(maxStartTime, 2 * before)) << "the median";
+        EXPECT_LT(times.back(), std::max(2 * maxStartTime, 4 * before)) << "the longest";
     }
 
     /// How long a start takes here when nothing was killed before it: the longest of three.
@@ -196,7 +196,7 @@ TEST_F(Kills, WhileExportsAreWrittenLeaveNoHalfFile) {
         exportTo(file, isNew);
         if (HasFatalFailure()) return;
         // From before the write to well after it.
-        QThread::usleep(QRandomGenerator::global()->bounded(longestWrite));
+        QThread::usleep(QRandomGenerator::global()->bounded(maxWriteTime));
         kill();
         const QByteArray now = read(file);
         if (isNew ? !QFile::exists(file) : now == oldDocument) continue;

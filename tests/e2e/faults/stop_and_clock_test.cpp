@@ -9,8 +9,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "e2e/assistive_client.h"
-#include "e2e/faults/fault_scene.h"
+#include "e2e/faults/assisted_fault_scene.h"
 
 /// Time that passes without the program, and clocks that are set.
 namespace vantor::stop_and_clock_test {
@@ -18,18 +17,8 @@ namespace {
 
 constexpr int secondsStopped = 60;
 
-class TimeItself : public FaultScene {
+class TimeItself : public AssistedFaultScene {
   protected:
-    void SetUp() override {
-        FaultScene::SetUp();
-        const QString bus = desktop_.startSessionBus();
-        ASSERT_FALSE(bus.isEmpty()) << "no session bus";
-        client_.emplace(bus);
-        ASSERT_TRUE(client_->isConnected()) << "no accessibility bus";
-    }
-
-    std::vector<AccessibleElement> look() { return client_->walk(QStringLiteral("vantor")); }
-
     /// The clock's time in the footer, which is that of the last figures; invalid when there is
     /// none.
     QTime updated() {
@@ -56,8 +45,6 @@ class TimeItself : public FaultScene {
         }
         return -1;
     }
-
-    std::optional<AssistiveClient> client_;
 };
 
 TEST_F(TimeItself, AMinuteStoppedIsNoMinuteOfWorkAfterwards) {

@@ -12,8 +12,8 @@
 #include <thread>
 #include <vector>
 
-#include "platform/macos/fake_objects.h"
-#include "platform/macos/frameworks.h"
+#include "platform/macos/frameworks/fake_objects.h"
+#include "platform/macos/frameworks/frameworks.h"
 
 namespace vantor {
 

@@ -7,17 +7,17 @@
 #include <string>
 
 #include "platform/derived_machine.h"
-#include "platform/macos/mac_host_memory.h"
-#include "platform/macos/mac_host_processors.h"
-#include "platform/macos/mac_kernel_values.h"
-#include "platform/macos/mac_load_averages.h"
-#include "platform/macos/mac_process_table.h"
-#include "platform/macos/played_kernel.h"
+#include "platform/macos/fake_mac_kernel.h"
+#include "platform/macos/memory/mac_host_memory.h"
+#include "platform/macos/processes/mac_process_table.h"
+#include "platform/macos/processor/mac_host_processors.h"
+#include "platform/macos/processor/mac_load_averages.h"
+#include "platform/macos/system/mac_kernel_values.h"
 #include "platform/simulated/simulated_machine.h"
+#include "platform/sysctl.h"
 #include "probes/cpu_reader.h"
 #include "probes/memory_reader.h"
 #include "probes/process_reader.h"
-#include "probes/sysctl.h"
 
 namespace vantor::kernel_calls_test {
 namespace {
@@ -56,8 +56,8 @@ class MacKernelCalls : public testing::Test {
         std::memcpy(bytes.data(), &number, sizeof number);
     }
 
-    PlayedMacKernel kernel;
-    const std::shared_ptr<WoundClock> clock = std::make_shared<WoundClock>();
+    FakeMacKernel kernel;
+    const std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     const std::shared_ptr<MachineOfCalls> machine =
         std::make_shared<MachineOfCalls>(SimulatedMachine::laptop(clock));
 };
@@ -162,7 +162,7 @@ TEST_F(MacKernelCalls, OfferNoMoreRoomForAPathThanIsAllowed) {
     kernel.processes[7].path = "/bin/a";
     std::vector<char> large(10'000);
     EXPECT_EQ(machine->processTable().path(7, large), 6);
-    EXPECT_EQ(kernel.mostBytesOfPath, 4096);
+    EXPECT_EQ(kernel.maxBytesOfPath, 4096);
     EXPECT_TRUE(machine->processTable().mayHaveNewPath(7));
 }
 

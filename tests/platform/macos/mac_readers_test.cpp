@@ -4,17 +4,19 @@
 #include <memory>
 #include <string>
 
+#include "platform/darwin/darwin_primary_interface.h"
+#include "platform/darwin/darwin_temperatures.h"
+#include "platform/darwin/smc_record.h"
 #include "platform/derived_machine.h"
-#include "platform/macos/frameworks_test_support.h"
-#include "platform/macos/mac_accelerators.h"
-#include "platform/macos/mac_dynamic_store.h"
-#include "platform/macos/mac_graphics_devices.h"
-#include "platform/macos/mac_hid_event_system.h"
-#include "platform/macos/mac_mounted_volumes.h"
-#include "platform/macos/mac_power_sources.h"
-#include "platform/macos/mac_system_controller.h"
+#include "platform/macos/frameworks/frameworks_test_support.h"
+#include "platform/macos/graphics/mac_accelerators.h"
+#include "platform/macos/graphics/mac_graphics_devices.h"
+#include "platform/macos/network/mac_dynamic_store.h"
+#include "platform/macos/power/mac_power_sources.h"
+#include "platform/macos/sensors/mac_hid_event_system.h"
+#include "platform/macos/sensors/mac_system_controller.h"
+#include "platform/macos/storage/mac_mounted_volumes.h"
 #include "platform/simulated/simulated_macs.h"
-#include "platform/smc_record.h"
 #include "probes/gpu_reader.h"
 #include "probes/gpu_temperature.h"
 #include "probes/hardware_temperature_reader.h"
@@ -28,41 +30,45 @@ namespace {
 using testing::Optional;
 
 /// What the frameworks answer, answered by them; the rest is simulated.
-class MadeUpMac : public DerivedMachine {
+class FakeMac : public DerivedMachine {
   public:
-    MadeUpMac(std::shared_ptr<Machine> rest, const std::shared_ptr<const Frameworks>& frameworks)
+    FakeMac(std::shared_ptr<Machine> rest, const std::shared_ptr<const Frameworks>& frameworks)
         : DerivedMachine(std::move(rest)),
           accelerators_(frameworks),
           dynamicStore_(frameworks),
+          primaryInterface_(dynamicStore_),
           graphicsDevices_(frameworks),
           hidEventSystem_(frameworks),
           mountedVolumes_(frameworks),
           powerSources_(frameworks),
-          systemController_(frameworks) {}
+          systemController_(frameworks),
+          temperatures_(origin()->kernelValues(), systemController_, hidEventSystem_,
+                        origin()->processInfo()) {}
 
     Accelerators& accelerators() override { return accelerators_; }
-    DynamicStore& dynamicStore() override { return dynamicStore_; }
     GraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    HIDEventSystem& hidEventSystem() override { return hidEventSystem_; }
     MountedVolumes& mountedVolumes() override { return mountedVolumes_; }
     PowerSources& powerSources() override { return powerSources_; }
-    SystemController& systemController() override { return systemController_; }
+    PrimaryInterface& primaryInterface() override { return primaryInterface_; }
+    Temperatures& temperatures() override { return temperatures_; }
 
   private:
     MacAccelerators accelerators_;
     MacDynamicStore dynamicStore_;
+    DarwinPrimaryInterface primaryInterface_;
     MacGraphicsDevices graphicsDevices_;
     MacHIDEventSystem hidEventSystem_;
     MacMountedVolumes mountedVolumes_;
     MacPowerSources powerSources_;
     MacSystemController systemController_;
+    DarwinTemperatures temperatures_;
 };
 
 /// The program's own readers, over the answers of a Mac's frameworks.
 class MacReadersTest : public FakeDarwinTest {
   protected:
     std::shared_ptr<Machine> make(std::shared_ptr<Machine> rest) {
-        return std::make_shared<MadeUpMac>(std::move(rest), darwin.frameworks());
+        return std::make_shared<FakeMac>(std::move(rest), darwin.frameworks());
     }
     Ref text(std::string_view ascii) { return objects.text(ascii); }
 

@@ -1,20 +1,13 @@
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <chrono>
-#include <csignal>
 #include <memory>
 #include <string>
-#include <thread>
-#include <vector>
 
+#include "platform/posix/fake_file_calls.h"
 #include "platform/posix/file_error.h"
-#include "platform/posix/played_file_calls.h"
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
@@ -69,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(FailingFileWrite, LeavesTheOldFileAndNothingElse) {
     const auto& [row, isNameless] = GetParam();
-    const auto calls = std::make_shared<PlayedFileCalls>();
+    const auto calls = std::make_shared<FakeFileCalls>();
     calls->hasNamelessFiles = isNameless;
     calls->errors[row.call] = row.error;
     const TemporaryFolder folder;
@@ -85,7 +78,7 @@ TEST_P(FailingFileWrite, LeavesTheOldFileAndNothingElse) {
 
 TEST_P(FailingFileWrite, MakesNoFileWhereNoneWas) {
     const auto& [row, isNameless] = GetParam();
-    const auto calls = std::make_shared<PlayedFileCalls>();
+    const auto calls = std::make_shared<FakeFileCalls>();
     calls->hasNamelessFiles = isNameless;
     calls->errors[row.call] = row.error;
     // A new file is renamed only where it could not be put straight into its place.
@@ -106,18 +99,18 @@ class HinderedFileWrite : public testing::Test {
         EXPECT_THAT(folder.names(), ElementsAre("file.json"));
     }
 
-    const std::shared_ptr<PlayedFileCalls> calls = std::make_shared<PlayedFileCalls>();
+    const std::shared_ptr<FakeFileCalls> calls = std::make_shared<FakeFileCalls>();
     const TemporaryFolder folder;
 };
 
 TEST_F(HinderedFileWrite, GoesOnAfterEachShortOne) {
-    calls->mostPerWrite = 1;
+    calls->maxPerWrite = 1;
     expectToBeWritten();
     EXPECT_EQ(calls->made["write"], 24);
 }
 
 TEST_F(HinderedFileWrite, EndsWhenNothingIsTakenAtAll) {
-    calls->mostPerWrite = 0;
+    calls->maxPerWrite = 0;
     PosixAtomicFileWriter writer(calls);
     EXPECT_TRUE(writer.write(folder.path() / "file.json", "new"));
 }
@@ -194,76 +187,7 @@ TEST(FileSizeLimit, IsAnErrorAndNotTheProgramsEnd) {
     EXPECT_THAT(folder.names(), ElementsAre("file.json"));
 }
 
-/// A process that writes `content` again and again until it is killed.
-pid_t startWriter(const fs::path& file, const std::string& content) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        PosixAtomicFileWriter writer;
-        while (!writer.write(file, content)) {
-        }
-        ::_exit(1);
-    }
-    return child;
-}
-
-TEST(KilledWriter, LeavesAWholeFileWhateverItWasDoing) {
-    const TemporaryFolder folder;
-    const fs::path file = folder.path() / "file.json";
-    writeFile(file, "old");
-    std::string known = "old";
-    for (int attempt = 0; attempt < 200; ++attempt) {
-        const std::string content(100'000, static_cast<char>('a' + attempt % 26));
-        const pid_t child = startWriter(file, content);
-        ASSERT_GT(child, 0);
-        std::this_thread::sleep_for(std::chrono::microseconds(250 * (attempt % 40)));
-        ::kill(child, SIGKILL);
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status));
-        const std::string found = contentOf(file);
-        ASSERT_TRUE(found == known || found == content) << found.substr(0, 10) << found.size();
-        known = found;
-    }
-    EXPECT_NE(known, "old");
-}
-
-/// A process that writes new files until it is killed: 0, 1, 2...
-pid_t startWriterOfNewFiles(const fs::path& folder, const std::string& content) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        PosixAtomicFileWriter writer;
-        for (int i = 0; !writer.write(folder / std::to_string(i), content); ++i) {
-        }
-        ::_exit(1);
-    }
-    return child;
-}
-
-TEST(KilledWriter, LeavesNothingOfANewFileOrAllOfIt) {
-    const std::string content(100'000, 'x');
-    std::size_t files = 0;
-    for (int attempt = 0; attempt < 200; ++attempt) {
-        const TemporaryFolder folder;
-        const int nameless = FileCalls().createNameless(AT_FDCWD);
-        if (nameless < 0) GTEST_SKIP() << "no nameless files here";
-        ::close(nameless);
-        const pid_t child = startWriterOfNewFiles(folder.path(), content);
-        ASSERT_GT(child, 0);
-        std::this_thread::sleep_for(std::chrono::microseconds(250 * (attempt % 40)));
-        ::kill(child, SIGKILL);
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status));
-        for (const std::string& name : folder.names()) {
-            ASSERT_NE(name.front(), '.') << name;
-            ASSERT_TRUE(contentOf(folder.path() / name) == content) << name;
-            ++files;
-        }
-    }
-    EXPECT_GT(files, 0u);
-}
-
-/// Runs on a disk of 64 KiB that nobody else sees.
+/// Runs on a private disk of 64 KiB.
 std::string onSmallDisk(const std::function<std::string(const fs::path&)>& work) {
     const TemporaryFolder folder;
     const ChildOutcome outcome = withPrivateMounts([&]() -> std::string {

@@ -11,7 +11,7 @@
 #include <string>
 
 #include "platform/file_descriptor.h"
-#include "platform/posix/played_file_calls.h"
+#include "platform/posix/fake_file_calls.h"
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "support/temporary_folder.h"
 
@@ -45,7 +45,7 @@ class LeftoverFilesTest : public testing::Test {
         return folder.names();
     }
 
-    const std::shared_ptr<PlayedFileCalls> calls = std::make_shared<PlayedFileCalls>();
+    const std::shared_ptr<FakeFileCalls> calls = std::make_shared<FakeFileCalls>();
     const TemporaryFolder folder;
 };
 

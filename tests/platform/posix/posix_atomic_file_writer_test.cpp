@@ -10,7 +10,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/posix/played_file_calls.h"
+#include "platform/posix/fake_file_calls.h"
 #include "support/temporary_folder.h"
 
 namespace vantor::posix_atomic_file_writer_test {
@@ -40,7 +40,7 @@ class AtomicFileWriting : public testing::TestWithParam<bool> {
         return error ? error->description : "";
     }
 
-    const std::shared_ptr<PlayedFileCalls> calls = std::make_shared<PlayedFileCalls>();
+    const std::shared_ptr<FakeFileCalls> calls = std::make_shared<FakeFileCalls>();
     const TemporaryFolder folder;
     const fs::path file = folder.path() / "file.json";
 };

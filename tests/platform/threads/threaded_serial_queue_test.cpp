@@ -125,7 +125,7 @@ TEST_F(ThreadedSerialQueueTest, TakesTasksFromSeveralThreads) {
     EXPECT_EQ(count, 1000);
 }
 
-TEST(ThreadRole, IsTakenOnceOnEachNewThreadBeforeItsFirstTask) {
+TEST(ThreadPriority, IsTakenOnceOnEachNewThreadBeforeItsFirstTask) {
     std::vector<std::string> roles;
     ThreadedSerialQueueFactory factory([&](const std::string& label) { roles.push_back(label); });
     std::size_t takenBefore = 0;

@@ -1,0 +1,90 @@
+#include "app/session/activation_server.h"
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <utility>
+
+#include "app/session/local_socket.h"
+
+namespace vantor {
+
+namespace {
+
+const QByteArray verb = "activate ";
+constexpr qsizetype maxRequestSize = 1024;
+
+}  // namespace
+
+QByteArray ActivationServer::request(const QString& token) {
+    return verb + token.toLatin1() + '\n';
+}
+
+ActivationServer::ActivationServer(QByteArray path, OnActivate onActivate)
+    : path_(std::move(path)), onActivate_(std::move(onActivate)) {
+    ::unlink(path_.constData());
+    socket_ = listeningAt(path_);
+    if (!socket_) return;
+    notifier_ = std::make_unique<QSocketNotifier>(socket_.get(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, &context_, [this] { accept(); });
+}
+
+ActivationServer::~ActivationServer() {
+    if (notifier_) ::unlink(path_.constData());
+}
+
+void ActivationServer::accept() {
+    ended_.clear();
+    FileDescriptor socket = acceptedFrom(socket_);
+    if (socket) {
+        if (talkers_.size() < maxTalkers) listenTo(std::move(socket));
+        return;
+    }
+    if (errno == EAGAIN || errno == EINTR || errno == ECONNABORTED) return;
+    // Without free descriptors the waiting client stays in the queue: the loop would spin.
+    notifier_->setEnabled(false);
+    QTimer::singleShot(patience, &context_, [this] { notifier_->setEnabled(true); });
+}
+
+void ActivationServer::listenTo(FileDescriptor socket) {
+    const Place talker = talkers_.emplace(talkers_.end());
+    talker->socket = std::move(socket);
+    talker->notifier.setSocket(talker->socket.get());
+    QObject::connect(&talker->notifier, &QSocketNotifier::activated, &context_,
+                     [this, talker] { read(talker); });
+    QObject::connect(&talker->timer, &QTimer::timeout, &context_,
+                     [this, talker] { hangUp(talker); });
+    talker->timer.setSingleShot(true);
+    talker->timer.start(patience);
+    talker->notifier.setEnabled(true);
+}
+
+void ActivationServer::read(Place talker) {
+    std::array<char, maxRequestSize> bytes{};
+    const auto count = ::read(talker->socket.get(), bytes.data(), bytes.size());
+    if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+    if (count > 0) talker->said.append(bytes.data(), count);
+    const auto end = talker->said.indexOf('\n');
+    if (count > 0 && end < 0 && talker->said.size() < maxRequestSize) return;
+    const bool isRequest = end >= verb.size() && talker->said.startsWith(verb);
+    const QString token =
+        isRequest
+            ? checkedToken(QString::fromLatin1(talker->said.mid(verb.size(), end - verb.size())))
+            : QString();
+    if (isRequest) [[maybe_unused]]
+        const auto told = ::write(talker->socket.get(), &promise, 1);
+    hangUp(talker);
+    if (isRequest) onActivate_(token);
+}
+
+void ActivationServer::hangUp(Place talker) {
+    talker->notifier.setEnabled(false);
+    talker->timer.stop();
+    // The notifier is the caller: it must not be destroyed before it returns.
+    talker->socket.reset();
+    ended_.splice(ended_.end(), talkers_, talker);
+}
+
+}  // namespace vantor

@@ -1,0 +1,16 @@
+#include "app/window/vantor_help_window.h"
+
+#include "ui/help/help_view.h"
+
+namespace vantor {
+
+void VantorHelpWindow::show() {
+    if (!window_) {
+        auto view = std::make_unique<HelpView>(machine_->processInfo(), machine_->words());
+        window_ = std::make_unique<ContentWindow>(QStringLiteral("Vantor Help"), std::move(view));
+        prepare_(*window_);
+    }
+    window_->open();
+}
+
+}  // namespace vantor

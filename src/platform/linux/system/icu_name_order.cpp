@@ -1,0 +1,85 @@
+#include "platform/linux/system/icu_name_order.h"
+
+#include <unicode/ucol.h>
+#include <unicode/ustring.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+constexpr UChar32 replacementCharacter = 0xFFFD;
+
+}  // namespace
+
+void ICUNameOrder::Close::operator()(UCollator* collator) const {
+    ucol_close(collator);
+}
+
+bool ICUNameOrder::open() {
+    if (collator_) return true;
+    UErrorCode error = U_ZERO_ERROR;
+    collator_.reset(ucol_open(language_.c_str(), &error));
+    if (U_SUCCESS(error))
+        ucol_setAttribute(collator_.get(), UCOL_NUMERIC_COLLATION, UCOL_ON, &error);
+    if (U_SUCCESS(error))
+        ucol_setAttribute(collator_.get(), UCOL_NORMALIZATION_MODE, UCOL_ON, &error);
+    if (U_FAILURE(error)) collator_.reset();
+    return collator_ != nullptr;
+}
+
+std::string ICUNameOrder::keyOf(const std::string& name) {
+    // No text has more units of UTF-16 than bytes of UTF-8.
+    units_.resize(name.size());
+    std::int32_t length = 0;
+    UErrorCode error = U_ZERO_ERROR;
+    u_strFromUTF8WithSub(units_.data(), static_cast<std::int32_t>(units_.size()), &length,
+                         name.data(), static_cast<std::int32_t>(name.size()), replacementCharacter,
+                         nullptr, &error);
+    if (U_FAILURE(error)) return name;
+    const auto write = [&](std::string& key) {
+        return ucol_getSortKey(collator_.get(), units_.data(), length,
+                               reinterpret_cast<std::uint8_t*>(key.data()),
+                               static_cast<std::int32_t>(key.size()));
+    };
+    std::string key(4 * name.size() + 16, '\0');
+    const auto needed = static_cast<std::size_t>(write(key));
+    const bool isCut = needed > key.size();
+    key.resize(needed);
+    if (isCut) write(key);
+    return key;
+}
+
+std::vector<std::uint32_t> ICUNameOrder::ranks(std::span<const std::string> names) {
+    const bool isOpen = open();
+    std::vector<std::pair<std::string, std::size_t>> keys;
+    keys.reserve(names.size());
+    for (const std::string& name : names)
+        keys.emplace_back(isOpen ? keyOf(name) : name, keys.size());
+    std::sort(keys.begin(), keys.end());
+    std::vector<std::uint32_t> ranks(names.size());
+    std::uint32_t rank = 0;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (i > 0 && keys[i].first != keys[i - 1].first) ++rank;
+        ranks[keys[i].second] = rank;
+    }
+    return ranks;
+}
+
+std::string languageOfNames() {
+    for (const char* const variable : {"LC_ALL", "LC_COLLATE", "LANG"}) {
+        const char* const value = std::getenv(variable);
+        if (!value || *value == '\0') continue;
+        const std::string_view locale(value);
+        const std::string_view language = locale.substr(0, locale.find_first_of(".@"));
+        return language == "C" || language == "POSIX" ? std::string() : std::string(language);
+    }
+    return {};
+}
+
+}  // namespace vantor

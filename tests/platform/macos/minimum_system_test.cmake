@@ -1,0 +1,16 @@
+include(${CMAKE_CURRENT_LIST_DIR}/../../../cmake/MinimumSystem.cmake)
+
+function(expect ours version expected)
+    vantor_toolkit_least_system(toolkits ${version})
+    vantor_least_system(least ${ours} ${toolkits})
+    if(NOT least STREQUAL expected)
+        message(SEND_ERROR "ours ${ours}, toolkit ${version}: ${least} and not ${expected}")
+    endif()
+endfunction()
+
+expect(11.0 6.4.2 11.0)
+expect(11.0 6.8.1 12.0)
+expect(11.0 6.10.0 13.0)
+expect(14.0 6.8.1 14.0)
+set(QT_SUPPORTED_MIN_MACOS_VERSION 15)
+expect(11.0 6.4.2 15)

@@ -1,7 +1,0 @@
-#pragma once
-
-#include <cstddef>
-
-// Played by played_kernel.cpp.
-int sysctlbyname(const char* name, void* value, std::size_t* size, void* newValue,
-                 std::size_t newSize);

@@ -1,0 +1,132 @@
+#include "ui/drawing/glyph_run_cache.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include "ui/other_font.h"
+#include "ui/rendering.h"
+
+namespace vantor::glyph_run_cache_test {
+namespace {
+
+constexpr TextStyle plain{Typography::body};
+
+QImage drawn(const QString& text, double width,
+             void (*draw)(QPainter&, const QRectF&, const QString&)) {
+    QImage image(400, 40, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setPen(Qt::white);
+    draw(painter, QRectF(0, 0, width, 40), text);
+    return image;
+}
+
+QImage line(const QString& text, double width) {
+    return drawn(text, width, [](QPainter& painter, const QRectF& area, const QString& content) {
+        GlyphRunCache().drawLine(painter, plain, area, Qt::AlignLeft | Qt::AlignVCenter, content);
+    });
+}
+
+TEST(GlyphRunCache, FiguresEndWhereItsAlignmentSays) {
+    const auto right = [](QPainter& painter, const QRectF& area, const QString& content) {
+        GlyphRunCache().drawFigures(painter, plain, area, Qt::AlignRight | Qt::AlignVCenter,
+                                    content);
+    };
+    const QImage image = drawn(QStringLiteral("88"), 200, right);
+    const double width = GlyphRunCache().figuresWidth(plain, QStringLiteral("88"));
+    EXPECT_EQ(paintedPixels(image, QRectF(0, 0, 200 - width - 1, 40)), 0);
+    EXPECT_GT(paintedPixels(image, QRectF(200 - width, 0, width, 40)), 0);
+    EXPECT_EQ(paintedPixels(image, QRectF(201, 0, 199, 40)), 0);
+}
+
+TEST(GlyphRunCache, ALineThatDoesNotFitEndsInAnEllipsisWithinItsArea) {
+    const QString longText(200, u'm');
+    const QImage image = line(longText, 100);
+    EXPECT_GT(paintedPixels(image, QRectF(0, 0, 100, 40)), 0);
+    EXPECT_EQ(paintedPixels(image, QRectF(101, 0, 299, 40)), 0);
+    // The last painted thing is dots on the base line: nothing above it.
+    EXPECT_EQ(paintedPixels(image, QRectF(91, 0, 9, 19)), 0);
+}
+
+TEST(GlyphRunCache, ControlCharactersAreDrawnSoThatTheyAreSeen) {
+    const QString dirty = QStringLiteral("a\nb\tc\u2028d\u2029e\u0001f");
+    EXPECT_EQ(line(dirty, 400), line(QStringLiteral("a\uFFFDb\uFFFDc\uFFFDd\uFFFDe\uFFFDf"), 400));
+}
+
+TEST(GlyphRunCache, AnEmptyLineAndAnAreaWithoutWidthDrawNothing) {
+    const QRectF everywhere(0, 0, 400, 40);
+    EXPECT_EQ(paintedPixels(line(QString(), 400), everywhere), 0);
+    EXPECT_EQ(paintedPixels(line(QStringLiteral("text"), 0), everywhere), 0);
+    EXPECT_EQ(paintedPixels(line(QStringLiteral("text"), -30), everywhere), 0);
+}
+
+TEST(GlyphRunCache, AVeryLongLineIsCutBeforeItIsShaped) {
+    const QString text = QStringLiteral("word ").repeated(200'000);
+    EXPECT_GT(paintedPixels(line(text, 400), QRectF(0, 0, 400, 40)), 0);
+}
+
+TEST(GlyphRunCache, FiguresAreAsWideAsTheirSizeIsComputed) {
+    GlyphRunCache shapes;
+    for (const char* const text : {"88.8%", "1.25 MB/s", "Not published", "62 \u00b0C", "\u2014",
+                                   "", "\u0661\u0662 \u05d0", "2 caf\u0065\u0301"}) {
+        for (const TextStyle style : {plain, TextStyle{24, QFont::Bold}}) {
+            const QString content = QString::fromUtf8(text);
+            const double laidOut =
+                Typography::digitTextWidth(content, QFontMetricsF(Typography::font(style)));
+            EXPECT_NEAR(shapes.figuresWidth(style, content), laidOut, 0.5) << text;
+        }
+    }
+}
+
+TEST(GlyphRunCache, ANumberThatChangesMovesNothing) {
+    GlyphRunCache shapes;
+    const double width = shapes.figuresWidth(plain, QStringLiteral("00.0%"));
+    for (int i = 0; i < 10; ++i) {
+        const QString text = QStringLiteral("%1%1.%1%").arg(i);
+        EXPECT_DOUBLE_EQ(shapes.figuresWidth(plain, text), width) << i;
+    }
+}
+
+TEST(GlyphRunCache, WhatIsDrawnAgainLooksTheSame) {
+    GlyphRunCache shapes;
+    const auto draw = [&](const QString& text) {
+        QImage image(200, 30, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        shapes.drawLine(painter, plain, {0, 0, 90, 30}, Qt::AlignLeft, text);
+        return image;
+    };
+    const QImage first = draw(QStringLiteral("a name that is too long to fit"));
+    EXPECT_NE(first, draw(QStringLiteral("another one, just as long as it")));
+    EXPECT_EQ(first, draw(QStringLiteral("a name that is too long to fit")));
+}
+
+TEST(GlyphRunCache, FollowsTheSystemsFont) {
+    GlyphRunCache shapes;
+    const QString text = QStringLiteral("Vantor");
+    const double before = shapes.lineWidth(plain, text);
+    {
+        const OtherFont twice(2.0);
+        EXPECT_NEAR(shapes.lineWidth(plain, text), 2 * before, 2);
+        EXPECT_NEAR(shapes.height(plain), 2 * GlyphRunCache().height(TextStyle{6.5}), 60);
+    }
+    EXPECT_DOUBLE_EQ(shapes.lineWidth(plain, text), before);
+}
+
+TEST(GlyphRunCache, TextThatReadsFromTheRightEndsAtTheRightEdge) {
+    const QString hebrew = QString::fromUtf8("\u05e9\u05dc\u05d5\u05dd");
+    const QImage image =
+        drawn(hebrew, 200, [](QPainter& painter, const QRectF& area, const QString& content) {
+            GlyphRunCache().drawLine(painter, plain, area, Qt::AlignRight | Qt::AlignVCenter,
+                                     content);
+        });
+    const double width = GlyphRunCache().lineWidth(plain, hebrew);
+    EXPECT_GT(width, 10);
+    EXPECT_GT(paintedPixels(image, QRectF(200 - width - 1, 0, width + 2, 40)), 0);
+    EXPECT_EQ(paintedPixels(image, QRectF(0, 0, 200 - width - 2, 40)), 0);
+    EXPECT_EQ(paintedPixels(image, QRectF(202, 0, 198, 40)), 0);
+}
+
+}  // namespace
+}  // namespace vantor::glyph_run_cache_test
