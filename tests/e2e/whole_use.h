@@ -28,7 +28,7 @@ class WholeUse {
     WholeUse(const AssistiveClient& client, Session session);
 
     void waitForAllCards() const;
-    /// The theme through all three, the interval's menu once opened, and the history.
+    /// The theme through all three, and the history.
     void changeSettings() const;
     void sort() const;
     void exportByTheOwnDialog() const;

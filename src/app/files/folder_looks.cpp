@@ -130,7 +130,9 @@ int makeFolder(const std::filesystem::path& folder) {
 }
 
 std::vector<SavePlace> findSavePlaces() {
-    std::vector<SavePlace> places{{"Home", QFile::encodeName(QDir::homePath()).toStdString()}};
+    const std::filesystem::path home = QFile::encodeName(QDir::homePath()).toStdString();
+    std::vector<SavePlace> places;
+    if (leadsToFolder(home)) places.push_back({"Home", home});
     for (const auto& [name, location] :
          {std::pair{"Documents", QStandardPaths::DocumentsLocation},
           std::pair{"Desktop", QStandardPaths::DesktopLocation},
@@ -141,6 +143,8 @@ std::vector<SavePlace> findSavePlaces() {
             places, [&](const SavePlace& place) { return place.folder == folder; });
         if (!folder.empty() && !isKnown && leadsToFolder(folder)) places.push_back({name, folder});
     }
+    // There must be one to begin at, also where the home folder is away or does not answer.
+    if (places.empty()) places.push_back({"Computer", "/"});
     return places;
 }
 

@@ -58,7 +58,7 @@ struct SavePlace {
     bool operator==(const SavePlace&) const = default;
 };
 
-/// The user's own that are there: home first, whatever there is.
+/// The user's own that are there, home first; the whole disk where there is none.
 std::vector<SavePlace> findSavePlaces();
 
 /// `file` with the ending of its kind where it has none; unless that names another existing file,

@@ -113,6 +113,12 @@ TEST_F(FolderLooks, PlacesAreThoseThatAreThere) {
               (std::vector<SavePlace>{home, {"Documents", pathOf(desk.path("Documents"))}}));
 }
 
+TEST_F(FolderLooks, WithoutAHomeFolderThePlaceIsTheWholeDisk) {
+    const DialogDesk desk;
+    ASSERT_TRUE(QDir(desk.home()).removeRecursively());
+    EXPECT_EQ(findSavePlaces(), (std::vector<SavePlace>{{"Computer", "/"}}));
+}
+
 TEST_F(FolderLooks, ANameIsCompletedUnlessThatIsAnotherQuestion) {
     EXPECT_EQ(completedName(path("a"), "json"), path("a.json"));
     EXPECT_EQ(completedName(path("a.txt"), "json"), path("a.txt"));
