@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTextDocumentFragment>
@@ -103,6 +104,15 @@ TEST_F(ProcessExplorerViewTest, AQueryThatMatchesNothingIsQuoted) {
         view.emptyState().state(),
         (EmptyState{QStringLiteral("No Matching Processes"), QStringLiteral("magnifyingglass"),
                     QStringLiteral("No process matches \u201Czzz\u201D.")}));
+}
+
+TEST_F(ProcessExplorerViewTest, TheFieldLeavesTheExportsKeysToTheMenu) {
+    QKeyEvent exports(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
+    QApplication::sendEvent(&view.filter(), &exports);
+    EXPECT_FALSE(exports.isAccepted());
+    QKeyEvent letter(QEvent::ShortcutOverride, Qt::Key_E, Qt::NoModifier, QStringLiteral("e"));
+    QApplication::sendEvent(&view.filter(), &letter);
+    EXPECT_TRUE(letter.isAccepted()) << "the field's own";
 }
 
 TEST_F(ProcessExplorerViewTest, SortAndFilterSurviveARefresh) {

@@ -1,6 +1,7 @@
 #include "ui/explorer/filter_field.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -19,7 +20,7 @@ constexpr double filterFieldSymbolSide = 14;
 constexpr double symbolLeft = 9;
 constexpr double filterFieldTextGap = 6;
 constexpr double filterFieldVerticalPadding = 8;
-constexpr double filterFieldGroundOpacity = 0.06;
+constexpr double filterFieldBackgroundOpacity = 0.06;
 constexpr double filterFieldBorderOpacity = 0.16;
 constexpr double focusWidth = 2;
 
@@ -54,6 +55,19 @@ void FilterField::adoptFont() {
     setFont(Typography::font(Typography::caption));
 }
 
+/// On X11 the toolkit takes Ctrl+E for the end of the line, before any command of the menu: here it
+/// stays the export's, as it is everywhere else in the window.
+bool FilterField::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        if (key->modifiers() == Qt::ControlModifier && key->key() == Qt::Key_E) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
 void FilterField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange) adoptDirection();
@@ -81,7 +95,7 @@ void FilterField::paintEvent(QPaintEvent* event) {
     const QRectF area = Pixels::snapped(painter, rect());
     QPainterPath background;
     background.addRoundedRect(area, corner, corner);
-    vantorBackground(painter, VantorTheme::faded(label, filterFieldGroundOpacity), background);
+    vantorBackground(painter, VantorTheme::faded(label, filterFieldBackgroundOpacity), background);
     const bool isFocused = hasFocus();
     const double width = isFocused ? focusWidth : Pixels::snappedLineWidth(painter, 1);
     const double inset = width / 2;

@@ -22,6 +22,7 @@ class FilterField : public QLineEdit {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     void adoptFont();
