@@ -20,18 +20,20 @@ double rate(std::uint64_t delta, double elapsed) {
     return std::isfinite(bytesPerSecond) ? bytesPerSecond : 0;
 }
 
+/// What is there already has been made UTF-8.
+void assignName(std::string& to, std::string_view name) {
+    if (to == name) return;
+    to = name;
+    makeUTF8(to);
+}
+
 void assignAddress(std::optional<std::string>& to, const std::string& address) {
     if (address.empty()) {
         to.reset();
     } else {
-        to = address;
-        makeUTF8(*to);  // a scope is an interface's name
+        if (!to) to.emplace();
+        assignName(*to, address);  // a scope is an interface's name
     }
-}
-
-void assignName(std::string& to, std::string_view name) {
-    to = name;
-    makeUTF8(to);
 }
 
 }  // namespace

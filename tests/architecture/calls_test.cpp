@@ -14,6 +14,7 @@ using testing::IsEmpty;
 
 TEST(Calls, HaveNoDefaultToFallBackTo) {
     EXPECT_THAT(findDefaults(VANTOR_SOURCE_DIR "/src/platform"), IsEmpty());
+    EXPECT_THAT(findDefaults(VANTOR_SOURCE_DIR "/src/platform/darwin"), IsEmpty());
 }
 
 TEST(Calls, MayBePureAndHaveADestructor) {
