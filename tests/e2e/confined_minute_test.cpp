@@ -49,11 +49,22 @@ class ConfinedMinute : public ExportScene {
         EXPECT_TRUE(second.endedNormally());
         EXPECT_EQ(second.exitStatus(), 0);
     }
+    bool hasRowsOnlyOf(const QString& process) const {
+        int count = 0;
+        for (const AccessibleElement& each : client_->walk(QStringLiteral("vantor"))) {
+            if (!each.name.contains(QStringLiteral(", PID "))) continue;
+            if (!each.name.startsWith(process)) return false;
+            ++count;
+        }
+        return count > 0;
+    }
     void searchAndCopy() {
         ASSERT_TRUE(eventually([this] { return program_->isActive(); }));
         const SpokenProgram spoken(*client_);
         desktop_.key(QStringLiteral("ctrl+f"));
         desktop_.type(QStringLiteral("openbox"));
+        // A row that is chosen before is not among those found, and so no longer chosen then.
+        EXPECT_TRUE(eventually([&] { return hasRowsOnlyOf(QStringLiteral("openbox")); }));
         desktop_.key(QStringLiteral("Tab"));
         desktop_.key(QStringLiteral("Right"));  // the other order
         desktop_.key(QStringLiteral("Tab"));

@@ -62,6 +62,9 @@ void makeEnvironmentSafe() {
     } else {
         qputenv("SESSION_MANAGER", managers);
     }
+    // The theme of GTK brings GTK's own accessibility with it. It has none of our windows to tell
+    // of, and announces itself with a call that waits up to 25 s for its answer.
+    qputenv("NO_AT_BRIDGE", "1");
 }
 
 }  // namespace vantor

@@ -9,7 +9,8 @@ namespace vantor {
 /// are pointed to, and where they are pointed nowhere they start a bus themselves; so it has to
 /// happen before the toolkit's application object is made, and before any thread. A session manager
 /// that does not take a connection at once is left out: its library would try for seconds. So is
-/// what leads into a folder of the user that does not answer, see HungFolders.
+/// what leads into a folder of the user that does not answer, see HungFolders. And the
+/// accessibility of another toolkit, which a theme may load, is left out; our own is not.
 void makeEnvironmentSafe();
 
 /// Those of a bus's addresses that are sockets of this machine.

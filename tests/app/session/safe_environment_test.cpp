@@ -54,6 +54,11 @@ TEST_F(SafeEnvironment, NamesNoBusRatherThanHavingOneStarted) {
     }
 }
 
+TEST_F(SafeEnvironment, LeavesOutTheAccessibilityOfGtk) {
+    makeEnvironmentSafe();
+    EXPECT_EQ(qgetenv("NO_AT_BRIDGE").toStdString(), "1");
+}
+
 TEST_F(SafeEnvironment, KeepsTheSocketsOfThisMachine) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "tcp:host=a;unix:path=/b");
     qputenv("AT_SPI_BUS_ADDRESS", "unix:path=/c,guid=1;tcp:host=d");
