@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "e2e/assistive_client.h"
+#include "e2e/copied_row.h"
 #include "e2e/desktop.h"
 #include "e2e/running_program.h"
 
@@ -127,16 +128,11 @@ TEST_F(ForScreenReaders, TheExplorerIsOperatedByKeyboardAlone) {
         return sizes.size() > 1 && std::ranges::is_sorted(sizes, std::ranges::greater());
     };
     EXPECT_TRUE(eventually(heaviestFirst)) << testing::PrintToString(rows());
-    // On to the rows: the second one is copied and put into the filter, which then finds it alone.
-    desktop_.key(QStringLiteral("Tab"));
-    desktop_.key(QStringLiteral("Down"));
-    desktop_.key(QStringLiteral("ctrl+c"));
     desktop_.key(QStringLiteral("ctrl+f"));
-    desktop_.key(QStringLiteral("ctrl+v"));
-    EXPECT_TRUE(eventually([this] {
+    ASSERT_TRUE(pastesACopiedRow(desktop_, [this] {
         look();
         return find("No Matching Processes") != nullptr;
-    })) << "a whole row is no process's name";
+    }));
     const QString message = find("No Matching Processes")->description;
     EXPECT_TRUE(message.contains(u'%')) << message.toStdString();
     EXPECT_TRUE(message.startsWith(QStringLiteral("No process matches \u201c")));

@@ -11,6 +11,7 @@
 
 #include "app/session/instance_world.h"
 
+#include "e2e/copied_row.h"
 #include "e2e/export_scene.h"
 #include "e2e/whole_use.h"
 
@@ -67,13 +68,9 @@ class ConfinedMinute : public ExportScene {
         EXPECT_TRUE(eventually([&] { return hasRowsOnlyOf(QStringLiteral("openbox")); }));
         desktop_.key(QStringLiteral("Tab"));
         desktop_.key(QStringLiteral("Right"));  // the other order
-        desktop_.key(QStringLiteral("Tab"));
-        desktop_.key(QStringLiteral("Down"));
-        desktop_.key(QStringLiteral("ctrl+c"));
         desktop_.key(QStringLiteral("ctrl+f"));
-        desktop_.key(QStringLiteral("ctrl+v"));
-        // A whole row is no process's name.
-        EXPECT_TRUE(eventually([&] { return spoken.finds("No Matching Processes"); }));
+        EXPECT_TRUE(
+            pastesACopiedRow(desktop_, [&] { return spoken.finds("No Matching Processes"); }));
         desktop_.key(QStringLiteral("Escape"));
         EXPECT_TRUE(eventually([&] { return !spoken.finds("No Matching Processes"); }));
     }
