@@ -68,6 +68,14 @@ void addPrograms(SimulatedMachine& machine) {
     }
 }
 
+class ThisVersion : public BundleInfo {
+  public:
+    std::optional<std::string> text(std::string_view key) const override {
+        if (key != "CFBundleShortVersionString") return std::nullopt;
+        return VANTOR_VERSION;
+    }
+};
+
 LivedMachine working(const char* name, std::shared_ptr<SimulatedMachine> machine) {
     addPrograms(*machine);
     return {QString::fromLatin1(name), machine, machine->clock()};
@@ -116,19 +124,28 @@ std::vector<LivedMachine> livedMachines() {
     return machines;
 }
 
-LivedDashboard::LivedDashboard(LivedMachine machine, ColorScheme scheme, int steps)
-    : machine_(std::move(machine)), world_(machine_.clock(), machine_.machine()) {
+LivedDashboard::LivedDashboard(Life life, ColorScheme scheme, int steps)
+    : life_(std::move(life)), world_(life_.clock, life_.machine) {
+    world_.metadata = AppMetadata(ThisVersion{});
     QApplication::setPalette(paletteOf(scheme));
-    machine_.clock()->setNow(std::chrono::hours(51) + 7min);
     world_.make();
     world_.view->setPalette(paletteOf(scheme));
     if (steps == 0) return;
     world_.open();
     for (int step = 0; step < steps; ++step) {
-        machine_.live(step);
+        life_.live(step);
         world_.advance(500ms);
     }
 }
+
+LivedDashboard::LivedDashboard(LivedMachine machine, ColorScheme scheme, int steps)
+    : LivedDashboard(
+          [&machine] {
+              machine.clock()->setNow(std::chrono::hours(51) + 7min);
+              return Life{machine.name(), machine.machine(), machine.clock(),
+                          [machine](int step) mutable { machine.live(step); }};
+          }(),
+          scheme, steps) {}
 
 int LivedDashboard::wholeHeight(int width) {
     const auto* area = world_.view->findChild<QScrollArea*>();

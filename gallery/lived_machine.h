@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -32,18 +33,28 @@ class LivedMachine {
 /// The machines that there are pictures of.
 std::vector<LivedMachine> livedMachines();
 
-/// A dashboard on such a machine after `steps` of its life; 0 shows what waits for readings.
+/// A dashboard on a machine after `steps` of its life; 0 shows what waits for readings.
 class LivedDashboard {
   public:
+    /// What is shown, and what makes half a second of its life.
+    struct Life {
+        QString name;
+        std::shared_ptr<Machine> machine;
+        std::shared_ptr<FakeClock> clock;
+        std::function<void(int step)> live;
+    };
+
+    LivedDashboard(Life life, ColorScheme scheme, int steps);
     LivedDashboard(LivedMachine machine, ColorScheme scheme, int steps);
 
+    const QString& name() const { return life_.name; }
     DashboardView& view() { return *world_.view; }
 
     /// How high the view must be to show everything.
     int wholeHeight(int width);
 
   private:
-    LivedMachine machine_;
+    Life life_;
     DashboardWorld world_;
 };
 

@@ -11,7 +11,7 @@
 #include "pictures.h"
 
 /// Shows every component and card in every state; or, with --pictures FOLDER, draws them and the
-/// dashboards of the simulated machines into files and ends.
+/// dashboards of recorded machines into files and ends.
 namespace {
 
 template <class Number>
@@ -59,7 +59,10 @@ int main(int argc, char** argv) {
     const QCommandLineOption fontScale(QStringLiteral("font-scale"),
                                        QStringLiteral("How much larger the system's font is."),
                                        QStringLiteral("factor"), QStringLiteral("1"));
-    parser.addOptions({pictures, widths, scales, fontScale});
+    const QCommandLineOption simulated(
+        QStringLiteral("simulated"),
+        QStringLiteral("Draw the dashboards of the simulated Macs as well."));
+    parser.addOptions({pictures, widths, scales, fontScale, simulated});
     parser.process(application);
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() * parser.value(fontScale).toDouble());
@@ -67,6 +70,6 @@ int main(int argc, char** argv) {
     if (!parser.isSet(pictures)) return showGallery();
     const bool isDone =
         vantor::takePictures({parser.value(pictures), numbers<int>(parser.value(widths)),
-                              numbers<double>(parser.value(scales))});
+                              numbers<double>(parser.value(scales)), parser.isSet(simulated)});
     return isDone ? 0 : 1;
 }

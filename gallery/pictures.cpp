@@ -8,6 +8,7 @@
 
 #include "gallery_view.h"
 #include "lived_machine.h"
+#include "recorded_life.h"
 
 namespace vantor {
 
@@ -40,9 +41,8 @@ QString suffix(int width, double scale, const PictureOptions& options) {
     return text;
 }
 
-bool takeDashboard(const LivedMachine& machine, ColorScheme scheme, int steps, const QString& name,
+bool takeDashboard(LivedDashboard& dashboard, ColorScheme scheme, const QString& name,
                    const PictureOptions& options) {
-    LivedDashboard dashboard(machine, scheme, steps);
     bool isSaved = true;
     for (const int width : options.widths) {
         for (const double scale : options.scales) {
@@ -71,12 +71,18 @@ bool takePictures(const PictureOptions& options) {
         const QString file =
             QStringLiteral("%1/gallery-%2.png").arg(options.folder, nameOf(scheme));
         isSaved = save(gallery, size, 1, file) && isSaved;
-        for (const LivedMachine& machine : livedMachines())
-            isSaved =
-                takeDashboard(machine, scheme, stepsOfLife, machine.name(), options) && isSaved;
-        isSaved =
-            takeDashboard(livedMachines().front(), scheme, 0, QStringLiteral("waiting"), options) &&
-            isSaved;
+        const auto take = [&](LivedDashboard& dashboard, const QString& name) {
+            isSaved = takeDashboard(dashboard, scheme, name, options) && isSaved;
+        };
+        for (const auto& dashboard : recordedDashboards(scheme, stepsOfLife))
+            take(*dashboard, dashboard->name());
+        if (!options.simulated) continue;
+        for (const LivedMachine& machine : livedMachines()) {
+            LivedDashboard dashboard(machine, scheme, stepsOfLife);
+            take(dashboard, machine.name());
+        }
+        LivedDashboard waiting(livedMachines().front(), scheme, 0);
+        take(waiting, QStringLiteral("waiting"));
     }
     return isSaved;
 }

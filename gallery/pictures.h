@@ -11,9 +11,10 @@ struct PictureOptions {
     QString folder;
     std::vector<int> widths{1280};
     std::vector<double> scales{1};
+    bool simulated = false;  ///< the dashboards of the simulated Macs, too
 };
 
-/// Draws the gallery and each simulated machine's dashboard, dark and light, into PNG files. False
+/// Draws the gallery and each recorded machine's dashboard, dark and light, into PNG files. False
 /// when one could not be written.
 bool takePictures(const PictureOptions& options);
 

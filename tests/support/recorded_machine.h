@@ -52,6 +52,8 @@ class RecordedMachine : public DerivedMachine {
     explicit RecordedMachine(const std::string& name);
     /// On a tree that others may share, and damage.
     explicit RecordedMachine(std::shared_ptr<const RecordedTree> tree);
+    /// On a clock that others go by, too; it is set to the recording's time.
+    RecordedMachine(std::shared_ptr<const RecordedTree> tree, std::shared_ptr<FakeClock> clock);
 
     /// Lets time pass; what has changed by then is what the recording's second pass says.
     void advance(double seconds);
@@ -66,8 +68,6 @@ class RecordedMachine : public DerivedMachine {
     WallClock& wallClock() override { return wallClock_; }
 
   private:
-    RecordedMachine(std::shared_ptr<const RecordedTree> tree, std::shared_ptr<FakeClock> clock);
-
     std::shared_ptr<const RecordedTree> tree_;
     std::shared_ptr<FakeClock> clock_;
     RecordedProcessInfo processInfo_;

@@ -44,7 +44,8 @@ class TestBundle : public BundleInfo {
 /// reading after the first says 40 %.
 struct DashboardWorld {
     const std::shared_ptr<FakeClock> clock;
-    const std::shared_ptr<SimulatedMachine> machine;
+    const std::shared_ptr<SimulatedMachine> machine;  ///< none when another kind of host is shown
+    const std::shared_ptr<Machine> host;
     const std::shared_ptr<FakeMainLoop> loop = std::make_shared<FakeMainLoop>(clock);
     const std::shared_ptr<FakeSerialQueueFactory> queues =
         std::make_shared<FakeSerialQueueFactory>();
@@ -53,8 +54,8 @@ struct DashboardWorld {
         std::make_shared<AppSettings>(defaults, std::make_shared<TestAppearance>());
     FakeExportPlatform user;  ///< is asked where to save
     const std::shared_ptr<SystemMonitor> monitor =
-        SystemMonitor::make(settings, machine, loop, queues, user.platform());
-    const AppMetadata metadata{TestBundle{}};
+        SystemMonitor::make(settings, host, loop, queues, user.platform());
+    AppMetadata metadata{TestBundle{}};
     int quits = 0;
     int firstFrames = 0;
     std::function<void()> onFirstLiveFrame = [this] { ++firstFrames; };
@@ -67,13 +68,15 @@ struct DashboardWorld {
     /// On another machine, which lives by that clock.
     DashboardWorld(std::shared_ptr<FakeClock> itsClock,
                    std::shared_ptr<SimulatedMachine> itsMachine)
-        : clock(std::move(itsClock)), machine(std::move(itsMachine)) {}
+        : clock(std::move(itsClock)), machine(std::move(itsMachine)), host(machine) {}
+    DashboardWorld(std::shared_ptr<FakeClock> itsClock, std::shared_ptr<Machine> itsHost)
+        : clock(std::move(itsClock)), host(std::move(itsHost)) {}
 
     /// Makes the view, without showing it yet.
     DashboardView& make() {
-        view = std::make_unique<DashboardView>(DashboardView::Environment{
-            settings, monitor, machine, loop, metadata, AdaptiveColumns{}, [this] { ++quits; },
-            [this] { onFirstLiveFrame(); }});
+        view = std::make_unique<DashboardView>(
+            DashboardView::Environment{settings, monitor, host, loop, metadata, AdaptiveColumns{},
+                                       [this] { ++quits; }, [this] { onFirstLiveFrame(); }});
         return *view;
     }
 
