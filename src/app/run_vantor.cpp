@@ -12,6 +12,7 @@
 #include "app/desktop.h"
 #include "app/files/qt_export_platform.h"
 #include "app/files/user_defaults.h"
+#include "app/session/instance_claim.h"
 #include "app/session/quit_watch.h"
 #include "app/session/safe_environment.h"
 #include "app/session/scarcity.h"
@@ -69,7 +70,7 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
     qInstallMessageHandler(endWhereToolkitGivesUp);
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("vantor"));
+    QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
     auto instance = std::make_unique<SingleInstance>(activationToken);
     if (instance->role() == SingleInstance::Role::second) return EXIT_SUCCESS;
     installViewAccessibility();

@@ -19,6 +19,19 @@ TEST_F(OnWayland, StartsAndShowsLiveFigures) {
     EXPECT_FALSE(program_.waitForFinished(0)) << program_.exitCode();
 }
 
+TEST_F(OnWayland, TheDesktopKnowsItsWindowByTheNameOfItsDesktopFile) {
+    QByteArray said;
+    environment_.insert(QStringLiteral("WAYLAND_DEBUG"), QStringLiteral("client"));
+    start();
+    const auto isNamed = [&] {
+        program_.waitForReadyRead(100);
+        said += program_.readAllStandardError();
+        return said.contains("set_app_id(\"com.kestrone.Vantor\")");
+    };
+    EXPECT_TRUE(eventually(isNamed, 30'000));
+    EXPECT_EQ(said.count("set_app_id("), said.count("set_app_id(\"com.kestrone.Vantor\")"));
+}
+
 TEST_F(OnWayland, ATrayThatComesLateHasTheItem) {
     const AssistiveClient client(address_);
     start();

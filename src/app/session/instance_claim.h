@@ -19,7 +19,8 @@ enum class ClaimOutcome {
 /// that allows it to (empty when there is none).
 using OnActivate = std::function<void(const QString& activationToken)>;
 
-/// The program's name on the bus.
+/// The program's name on the bus, and that of its desktop file: what a desktop finds its windows,
+/// its icon and its menu entry by.
 inline constexpr auto applicationIdentifier = "com.kestrone.Vantor";
 
 /// `text` if it can be a desktop's token (a short line of printable ASCII), else empty: it comes
