@@ -1,6 +1,6 @@
 # Whole machines recorded as text, see machines/README.md.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
-    vantor_add_tests(machines_tests LABEL core SOURCES
+    vantor_add_tests(machines_tests LABEL core LIBRARIES vantor_record_coding SOURCES
         documents/machine_snapshots_test.cpp
         machines/damaged_machines_test.cpp
         machines/machine_document.cpp
@@ -24,7 +24,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         documents/export_machines_program.cpp)
     vantor_set_up_test_target(export_machines_program)
     target_precompile_headers(export_machines_program REUSE_FROM vantor_test_headers)
-    target_link_libraries(export_machines_program PRIVATE vantor_test_support)
+    target_link_libraries(export_machines_program PRIVATE vantor_record_coding vantor_test_support)
     add_dependencies(core_tests export_machines_program)
     # The system's own Python first: that is the one whose packages the scripts install.
     find_program(VANTOR_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)

@@ -1,4 +1,4 @@
-vantor_add_tests(model_tests LABEL core SOURCES
+vantor_add_tests(model_tests LABEL core LIBRARIES vantor_record_coding SOURCES
     model/equality_test.cpp
     model/number_text_test.cpp
     model/placeholders_test.cpp
@@ -78,12 +78,12 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/storage/file_systems_test.cpp
         platform/linux/graphics/graphics_names_test.cpp
         platform/linux/storage/hidden_block_device_test.cpp
-        platform/linux/system/icu_name_order_test.cpp
         platform/linux/system/kernel_facts_test.cpp
         platform/linux/files/kernel_file_test.cpp
         platform/linux/files/kernel_list_file_test.cpp
         platform/linux/network/link_source_test.cpp
         platform/linux/graphics/linux_accelerators_test.cpp
+        platform/linux/system/libc_name_order_test.cpp
         platform/linux/confinement/linux_confinement_test.cpp
         platform/linux/graphics/linux_graphics_devices_test.cpp
         platform/linux/memory/linux_host_memory_test.cpp
@@ -143,6 +143,10 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/posix/posix_atomic_file_writer_test.cpp
         platform/posix/posix_local_calendar_test.cpp
         platform/posix/posix_shared_file_test.cpp)
+    if(ICU_FOUND)
+        target_sources(linux_tests PRIVATE
+            platform/linux/system/icu_name_order_test.cpp)
+    endif()
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.
     foreach(variant "" _OLD _USELESS _NO_SHUTDOWN _NO_HANDLE _NO_UTILIZATION)

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "platform/linux/linux_machine.h"
-#include "platform/linux/system/icu_name_order.h"
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/posix/posix_local_calendar.h"
 #include "platform/threads/threaded_serial_queue.h"
@@ -20,10 +19,6 @@ std::shared_ptr<AtomicFileWriter> makeNativeFileWriter() {
 
 std::shared_ptr<LocalCalendar> makeNativeLocalCalendar() {
     return std::make_shared<PosixLocalCalendar>();
-}
-
-std::unique_ptr<NameOrder> makeNativeNameOrder() {
-    return std::make_unique<ICUNameOrder>(languageOfNames());
 }
 
 std::shared_ptr<BackgroundQueueFactory> makeNativeQueueFactory(

@@ -3,11 +3,12 @@
 #include <unicode/ucol.h>
 #include <unicode/ustring.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <string_view>
 #include <utility>
+
+#include "platform/linux/system/key_ranks.h"
 
 namespace vantor {
 
@@ -57,18 +58,11 @@ std::string ICUNameOrder::keyOf(const std::string& name) {
 
 std::vector<std::uint32_t> ICUNameOrder::ranks(std::span<const std::string> names) {
     const bool isOpen = open();
-    std::vector<std::pair<std::string, std::size_t>> keys;
+    std::vector<std::string> keys;
     keys.reserve(names.size());
     for (const std::string& name : names)
-        keys.emplace_back(isOpen ? keyOf(name) : name, keys.size());
-    std::sort(keys.begin(), keys.end());
-    std::vector<std::uint32_t> ranks(names.size());
-    std::uint32_t rank = 0;
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        if (i > 0 && keys[i].first != keys[i - 1].first) ++rank;
-        ranks[keys[i].second] = rank;
-    }
-    return ranks;
+        keys.push_back(isOpen ? keyOf(name) : name);
+    return ranksOfKeys(std::move(keys));
 }
 
 std::string languageOfNames() {
