@@ -18,6 +18,7 @@ fail() {
     test_packages=(mold nlohmann-json3-dev qt6-svg-dev libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox trayer weston qt6-wayland qt6-gtk-platformtheme procps iproute2 dbus-daemon at-spi2-core python3-jsonschema strace)
     clang_packages=(clang libclang-rt-14-dev)
     macos_packages=(cmake ninja-build nlohmann-json3-dev binutils file llvm-14)
+    packaging_packages=(git dpkg-dev debhelper lintian nlohmann-json3-dev qt6-svg-dev libgtest-dev libgmock-dev fonts-inter fonts-dejavu-core)
     lint_packages=(git clang-format clang-tidy shellcheck)
 }
 
