@@ -14,13 +14,20 @@ install(FILES ${packaging}/vantor.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/snapshot.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vantor)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${VANTOR_DOCUMENTS_FOLDER})
 
-# A bus starts programs by their whole path, and the prefix is known when they are installed.
+# A bus starts programs by their whole path, and the prefix is known when they are installed. It takes
+# the line for a command, in which other characters than these may mean something.
 set(service ${CMAKE_CURRENT_BINARY_DIR}/${VANTOR_ID}.service)
 install(CODE "
-    set(folder \"${CMAKE_INSTALL_BINDIR}\")
-    cmake_path(ABSOLUTE_PATH folder BASE_DIRECTORY \"\${CMAKE_INSTALL_PREFIX}\")
-    set(VANTOR_PROGRAM \"\${folder}/vantor\")
-    configure_file(\"${packaging}/${VANTOR_ID}.service.in\" \"${service}\" @ONLY)")
+    set(program \"${CMAKE_INSTALL_BINDIR}/vantor\")
+    set(form \"${packaging}/${VANTOR_ID}.service.in\")
+    set(service \"${service}\")")
+install(CODE [[
+    cmake_path(ABSOLUTE_PATH program BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")
+    if(program MATCHES "[^A-Za-z0-9/._+-]")
+        string(REPLACE "'" "'\\''" program "${program}")
+        set(program "'${program}'")
+    endif()
+    configure_file("${form}" "${service}" @ONLY)]])
 install(FILES ${service} DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
 
 add_custom_target(uninstall

@@ -97,3 +97,7 @@ gtest_discover_tests(vantor_fault_tests DISCOVERY_TIMEOUT 60
     TEST_FILTER "HungHome.*:XServer.*"
     XML_OUTPUT_DIR ${VANTOR_TEST_RESULTS}/vantor_fault_tests
     PROPERTIES TIMEOUT ${VANTOR_TEST_TIMEOUT} LABELS e2e:vantor_fault_tests)
+
+add_test(NAME Install.GoesToAnyPrefixAndAwayAgain
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packaging/install.sh ${CMAKE_COMMAND} ${CMAKE_BINARY_DIR})
+set_tests_properties(Install.GoesToAnyPrefixAndAwayAgain PROPERTIES LABELS e2e:install)
