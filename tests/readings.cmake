@@ -3,6 +3,7 @@ vantor_add_tests(model_tests LABEL core LIBRARIES vantor_record_coding SOURCES
     model/number_text_test.cpp
     model/placeholders_test.cpp
     model/record_coding_test.cpp
+    model/record_fields_test.cpp
     model/record_values_test.cpp
     model/shared_text_test.cpp
     model/snapshot_document_test.cpp

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
-#include <vector>
+#include <string>
+#include <tuple>
+#include <type_traits>
 
 #include "model/filled_records.h"
 #include "model/power_read_result.h"
@@ -11,183 +14,71 @@ namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
+/// Another value that is as near as its type allows.
+template <class T>
+T changed(T value) {
+    if constexpr (isOptional<T>) {
+        value = changed(*value);
+    } else if constexpr (isList<T>) {
+        value.back() = changed(value.back());
+    } else if constexpr (std::is_same_v<T, bool>) {
+        value = !value;
+    } else if constexpr (std::is_floating_point_v<T>) {
+        value = std::nextafter(value, 0);
+    } else if constexpr (std::is_arithmetic_v<T>) {
+        ++value;
+    } else if constexpr (std::is_same_v<T, Timestamp>) {
+        value += Timestamp::duration{1};
+    } else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, SharedText>) {
+        value = std::string(value) + '?';
+    } else {
+        auto& first = value.*(std::get<0>(fieldsOf<T>).member);
+        first = changed(first);
+    }
+    return value;
+}
+
 template <class Record>
-struct Change {
-    const char* field;
-    void (*make)(Record&);
+class RecordEquality : public testing::Test {
+  protected:
+    const Record record_ = filled::record<Record>();
+
+    /// Changes one field after the other of a copy.
+    template <class Change>
+    void expectEachToCount(const Change& change) {
+        Record copy = record_;
+        EXPECT_EQ(copy, record_);
+        forEachField(copy, [&](const char* name, auto& field) {
+            const auto before = field;
+            if (change(field)) {
+                EXPECT_NE(copy, record_) << name;
+            }
+            field = before;
+            EXPECT_EQ(copy, record_) << name;
+            return true;
+        });
+    }
 };
 
-template <class Record>
-void expectEveryChangeToCount(const Record& record, const std::vector<Change<Record>>& changes) {
-    const Record copy = record;
-    EXPECT_EQ(copy, record);
-    for (const auto& [field, make] : changes) {
-        SCOPED_TRACE(field);
-        Record changed = record;
-        make(changed);
-        EXPECT_NE(changed, record);
-    }
+using Records = testing::Types<CPUStats, MemoryStats, NetworkInterfaceStats, NetworkStats, GPUStats,
+                               VolumeStats, ProcessStats, ProcessSample, SystemInfoStats,
+                               PowerStats, SystemSnapshot>;
+TYPED_TEST_SUITE(RecordEquality, Records);
+
+TYPED_TEST(RecordEquality, ComparesEveryFieldToTheLastBit) {
+    this->expectEachToCount([](auto& field) {
+        field = changed(field);
+        return true;
+    });
 }
 
-TEST(Equality, OfProcessorsComparesEveryField) {
-    expectEveryChangeToCount<CPUStats>(
-        filled::cpu(),
-        {
-            {"model", [](CPUStats& r) { r.model = "?"; }},
-            {"totalUsage", [](CPUStats& r) { r.totalUsage += 1e-15; }},
-            {"userUsage", [](CPUStats& r) { r.userUsage = 0; }},
-            {"systemUsage", [](CPUStats& r) { r.systemUsage = 0; }},
-            {"idleUsage", [](CPUStats& r) { r.idleUsage = 0; }},
-            {"perCoreUsage", [](CPUStats& r) { r.perCoreUsage.pop_back(); }},
-            {"logicalCoreCount", [](CPUStats& r) { ++r.logicalCoreCount; }},
-            {"physicalCoreCount", [](CPUStats& r) { ++r.physicalCoreCount; }},
-            {"loadAverage", [](CPUStats& r) { r.loadAverage.clear(); }},
-            {"nominalFrequencyHz", [](CPUStats& r) { r.nominalFrequencyHz.reset(); }},
-            {"temperatureCelsius", [](CPUStats& r) { r.temperatureCelsius = 0; }},
-        });
-}
-
-TEST(Equality, OfMemoryComparesEveryField) {
-    expectEveryChangeToCount<MemoryStats>(
-        filled::memory(), {
-                              {"totalBytes", [](MemoryStats& r) { ++r.totalBytes; }},
-                              {"usedBytes", [](MemoryStats& r) { ++r.usedBytes; }},
-                              {"activeBytes", [](MemoryStats& r) { ++r.activeBytes; }},
-                              {"wiredBytes", [](MemoryStats& r) { ++r.wiredBytes; }},
-                              {"compressedBytes", [](MemoryStats& r) { ++r.compressedBytes; }},
-                              {"cachedBytes", [](MemoryStats& r) { ++r.cachedBytes; }},
-                              {"availableBytes", [](MemoryStats& r) { ++r.availableBytes; }},
-                          });
-}
-
-TEST(Equality, OfInterfacesComparesEveryField) {
-    using R = NetworkInterfaceStats;
-    expectEveryChangeToCount<R>(
-        filled::interface(),
-        {
-            {"name", [](R& r) { r.name += "?"; }},
-            {"ipv4Address", [](R& r) { r.ipv4Address.reset(); }},
-            {"ipv6Address", [](R& r) { r.ipv6Address = ""; }},
-            {"receivedBytes", [](R& r) { ++r.receivedBytes; }},
-            {"sentBytes", [](R& r) { ++r.sentBytes; }},
-            {"downloadBytesPerSecond", [](R& r) { r.downloadBytesPerSecond = 0; }},
-            {"uploadBytesPerSecond", [](R& r) { r.uploadBytesPerSecond = 0; }},
-            {"isPointToPoint", [](R& r) { r.isPointToPoint = false; }},
-        });
-}
-
-TEST(Equality, OfNetworksComparesEveryField) {
-    using R = NetworkStats;
-    expectEveryChangeToCount<R>(
-        filled::network(),
-        {
-            {"hostname", [](R& r) { r.hostname += "?"; }},
-            {"primaryInterfaceName", [](R& r) { r.primaryInterfaceName.reset(); }},
-            {"primaryIPv4Address", [](R& r) { r.primaryIPv4Address.reset(); }},
-            {"primaryIPv6Address", [](R& r) { r.primaryIPv6Address.reset(); }},
-            {"downloadBytesPerSecond", [](R& r) { r.downloadBytesPerSecond = 0; }},
-            {"uploadBytesPerSecond", [](R& r) { r.uploadBytesPerSecond = 0; }},
-            {"interfaces", [](R& r) { r.interfaces[0].sentBytes = 0; }},
-        });
-}
-
-TEST(Equality, OfGraphicsDevicesComparesEveryField) {
-    using R = GPUStats;
-    expectEveryChangeToCount<R>(
-        filled::gpu(),
-        {
-            {"id", [](R& r) { r.id += "?"; }},
-            {"name", [](R& r) { r.name += "?"; }},
-            {"isUnifiedMemory", [](R& r) { r.isUnifiedMemory = false; }},
-            {"utilization", [](R& r) { r.utilization.reset(); }},
-            {"temperatureCelsius", [](R& r) { r.temperatureCelsius.reset(); }},
-            {"vramUsedBytes", [](R& r) { r.vramUsedBytes.reset(); }},
-            {"vramTotalBytes", [](R& r) { r.vramTotalBytes.reset(); }},
-            {"recommendedWorkingSetBytes", [](R& r) { r.recommendedWorkingSetBytes.reset(); }},
-        });
-}
-
-TEST(Equality, OfVolumesComparesEveryField) {
-    using R = VolumeStats;
-    expectEveryChangeToCount<R>(filled::volume(),
-                                {
-                                    {"name", [](R& r) { r.name += "?"; }},
-                                    {"path", [](R& r) { r.path += "?"; }},
-                                    {"totalBytes", [](R& r) { ++r.totalBytes; }},
-                                    {"availableBytes", [](R& r) { ++r.availableBytes; }},
-                                    {"isInternal", [](R& r) { r.isInternal = false; }},
-                                    {"isRemovable", [](R& r) { r.isRemovable = false; }},
-                                    {"isReadOnly", [](R& r) { r.isReadOnly = false; }},
-                                });
-}
-
-TEST(Equality, OfProcessesComparesEveryField) {
-    using R = ProcessStats;
-    expectEveryChangeToCount<R>(filled::process(),
-                                {
-                                    {"pid", [](R& r) { ++r.pid; }},
-                                    {"name", [](R& r) { r.name = "?"; }},
-                                    {"command", [](R& r) { r.command = "?"; }},
-                                    {"cpuPercent", [](R& r) { r.cpuPercent = 0; }},
-                                    {"residentMemoryBytes", [](R& r) { ++r.residentMemoryBytes; }},
-                                });
-}
-
-TEST(Equality, OfProcessSamplesComparesEveryList) {
-    using R = ProcessSample;
-    expectEveryChangeToCount<R>(filled::processSample(),
-                                {
-                                    {"all", [](R& r) { r.all.pop_back(); }},
-                                    {"sortedByCPU", [](R& r) { r.sortedByCPU.pop_back(); }},
-                                    {"sortedByMemory", [](R& r) { r.sortedByMemory.pop_back(); }},
-                                });
-}
-
-TEST(Equality, OfSystemsComparesEveryField) {
-    using R = SystemInfoStats;
-    expectEveryChangeToCount<R>(
-        filled::system(),
-        {
-            {"hostName", [](R& r) { r.hostName += "?"; }},
-            {"hardwareModel", [](R& r) { r.hardwareModel += "?"; }},
-            {"operatingSystem", [](R& r) { r.operatingSystem += "?"; }},
-            {"kernelVersion", [](R& r) { r.kernelVersion += "?"; }},
-            {"architecture", [](R& r) { r.architecture += "?"; }},
-            {"isRunningUnderRosetta", [](R& r) { r.isRunningUnderRosetta = false; }},
-            {"uptimeSeconds", [](R& r) { r.uptimeSeconds = 0; }},
-            {"thermalState", [](R& r) { r.thermalState = "Fair"; }},
-            {"lowPowerModeEnabled", [](R& r) { r.lowPowerModeEnabled = false; }},
-        });
-}
-
-TEST(Equality, OfBatteriesComparesEveryField) {
-    using R = PowerStats;
-    expectEveryChangeToCount<R>(
-        filled::power(), {
-                             {"name", [](R& r) { r.name += "?"; }},
-                             {"chargeFraction", [](R& r) { r.chargeFraction = 0; }},
-                             {"isCharging", [](R& r) { r.isCharging = false; }},
-                             {"isConnectedToAC", [](R& r) { r.isConnectedToAC = false; }},
-                             {"timeRemainingMinutes", [](R& r) { r.timeRemainingMinutes.reset(); }},
-                             {"cycleCount", [](R& r) { r.cycleCount.reset(); }},
-                         });
-}
-
-TEST(Equality, OfSnapshotsComparesEveryPart) {
-    using R = SystemSnapshot;
-    expectEveryChangeToCount<R>(
-        filled::snapshot(),
-        {
-            {"timestamp", [](R& r) { r.timestamp += std::chrono::milliseconds{1}; }},
-            {"cpu", [](R& r) { r.cpu.userUsage = 0; }},
-            {"memory", [](R& r) { r.memory.usedBytes = 0; }},
-            {"network", [](R& r) { r.network.hostname.clear(); }},
-            {"gpus", [](R& r) { r.gpus.clear(); }},
-            {"volumes", [](R& r) { r.volumes.clear(); }},
-            {"processes", [](R& r) { r.processes.push_back(r.processes.front()); }},
-            {"system", [](R& r) { r.system.uptimeSeconds = 0; }},
-            {"power", [](R& r) { r.power.reset(); }},
-        });
+TYPED_TEST(RecordEquality, TellsAnAbsentFieldAndAShorterListFromTheirValues) {
+    this->expectEachToCount([](auto& field) {
+        using Field = std::remove_cvref_t<decltype(field)>;
+        if constexpr (isOptional<Field>) field.reset();
+        if constexpr (isList<Field>) field.pop_back();
+        return isOptional<Field> || isList<Field>;
+    });
 }
 
 TEST(Equality, OfListsDependsOnTheirOrder) {

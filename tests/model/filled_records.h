@@ -1,68 +1,77 @@
 #pragma once
 
-#include "model/process_sample.h"
-#include "model/system_snapshot.h"
+#include <chrono>
+#include <string>
+#include <type_traits>
 
-/// One record of each kind with every field set, no two alike and none at its default, so that a
-/// field that is forgotten or taken for another shows.
+#include "model/record_fields.h"
+
+/// Records with every field set, no two values alike and none at its default, so that a field that
+/// is forgotten or taken for another shows. They follow from the tables of fields; what is written
+/// of them stands in tests/documents/agreed/filled.json.
 namespace vantor::filled {
 
-inline CPUStats cpu() {
-    return {"Processor 9",   0.5,           0.375, 0.125, 0.25, {0.75, 0.0625}, 8, 4,
-            {1.5, 2.5, 3.5}, 2'600'000'000, 61.5};
-}
+/// Fills one value after the other, each with the next number.
+class Filler {
+  public:
+    template <class T>
+    void fill(T& value, const std::string& name) {
+        if constexpr (isOptional<T>) {
+            fill(value.emplace(), name);
+        } else if constexpr (isList<T>) {
+            value.resize(2);
+            for (auto& element : value)
+                fill(element, name);
+        } else if constexpr (std::is_same_v<T, bool>) {
+            value = true;
+        } else if constexpr (std::is_floating_point_v<T>) {
+            value = ++number_ + 0.5;
+        } else if constexpr (std::is_arithmetic_v<T>) {
+            value = static_cast<T>(++number_);
+        } else if constexpr (std::is_same_v<T, Timestamp>) {
+            using namespace std::chrono;
+            value = sys_days{year{2026} / 11 / 14} + 17h + 53min + 42s;
+        } else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, SharedText>) {
+            value = name + ' ' + std::to_string(++number_);
+        } else {
+            forEachField(value, [this](const char* field, auto& member) {
+                fill(member, field);
+                return true;
+            });
+        }
+    }
 
-inline MemoryStats memory() {
-    return {700, 600, 300, 200, 101, 50, 99};
-}
+  private:
+    int number_ = 100;
+};
 
-inline NetworkInterfaceStats interface() {
-    return {"en0", "192.0.2.7", "2001:db8::7", 11, 12, 13.5, 14.5, true};
-}
-
-inline NetworkStats network() {
-    return {"host.example", "en1", "192.0.2.8", "2001:db8::8", 21.5, 22.5, {interface()}};
-}
-
-inline GPUStats gpu() {
-    return {"gpu:1", "Graphics 1", true, 0.3125, 55.5, 31, 32, 33};
-}
-
-inline VolumeStats volume() {
-    return {"Data", "/data", 41, 42, true, true, true};
-}
-
-inline ProcessStats process() {
-    return {4242, "worker", "/usr/bin/worker", 137.5, 51};
-}
-
-inline ProcessSample processSample() {
-    ProcessStats other = process();
-    other.pid = 4243;
-    ProcessStats third = process();
-    third.pid = 4244;
-    return {{process(), other, third}, {other}, {third, process()}};
-}
-
-inline SystemInfoStats system() {
-    return {"host", "Model 3", "System 1.2.3", "kernel 4", "arm64", true, 61.25, "Serious", true};
-}
-
-inline PowerStats power() {
-    return {"Battery 0", 0.875, true, true, 71, 72};
+template <class Record>
+Record record() {
+    Record filled{};
+    Filler().fill(filled, "");
+    return filled;
 }
 
 inline SystemSnapshot snapshot() {
-    using namespace std::chrono;
-    return {sys_days{year{2026} / 11 / 14} + hours{17} + minutes{53} + seconds{42},
-            cpu(),
-            memory(),
-            network(),
-            {gpu()},
-            {volume()},
-            {process()},
-            system(),
-            power()};
+    return record<SystemSnapshot>();
+}
+inline CPUStats cpu() {
+    return snapshot().cpu;
+}
+inline NetworkInterfaceStats interface() {
+    return snapshot().network.interfaces[0];
+}
+inline GPUStats gpu() {
+    return snapshot().gpus[0];
+}
+inline VolumeStats volume() {
+    return snapshot().volumes[0];
+}
+inline ProcessStats process() {
+    return snapshot().processes[0];
+}
+inline PowerStats power() {
+    return *snapshot().power;
 }
 
 }  // namespace vantor::filled

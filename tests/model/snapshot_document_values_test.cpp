@@ -5,13 +5,15 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
-#include <functional>
 #include <limits>
+#include <set>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "model/document_of.h"
 #include "model/filled_records.h"
+#include "model/record_walk.h"
 #include "model/utf8.h"
 
 /// How single numbers and texts stand in a snapshot's document, and which cannot.
@@ -20,6 +22,7 @@ namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
+using testing::IsSupersetOf;
 using testing::StartsWith;
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
@@ -100,44 +103,25 @@ TEST(SnapshotDocument, FailsForACPUTemperatureThatIsNotANumber) {
               "hold finite numbers only.");
 }
 
-struct UnwritableNumber {
-    const char* place;
-    std::function<double&(SystemSnapshot&)> value;
-};
-
 TEST(SnapshotDocument, FailsForAnyNumberThatIsNotFiniteAndSaysWhereItIs) {
-    const std::vector<UnwritableNumber> numbers{
-        {"cpu.totalUsage", [](auto& s) -> double& { return s.cpu.totalUsage; }},
-        {"cpu.userUsage", [](auto& s) -> double& { return s.cpu.userUsage; }},
-        {"cpu.systemUsage", [](auto& s) -> double& { return s.cpu.systemUsage; }},
-        {"cpu.idleUsage", [](auto& s) -> double& { return s.cpu.idleUsage; }},
-        {"cpu.perCoreUsage[1]", [](auto& s) -> double& { return s.cpu.perCoreUsage[1]; }},
-        {"cpu.loadAverage[2]", [](auto& s) -> double& { return s.cpu.loadAverage[2]; }},
-        {"cpu.temperatureCelsius", [](auto& s) -> double& { return *s.cpu.temperatureCelsius; }},
-        {"network.downloadBytesPerSecond",
-         [](auto& s) -> double& { return s.network.downloadBytesPerSecond; }},
-        {"network.uploadBytesPerSecond",
-         [](auto& s) -> double& { return s.network.uploadBytesPerSecond; }},
-        {"network.interfaces[0].downloadBytesPerSecond",
-         [](auto& s) -> double& { return s.network.interfaces[0].downloadBytesPerSecond; }},
-        {"network.interfaces[0].uploadBytesPerSecond",
-         [](auto& s) -> double& { return s.network.interfaces[0].uploadBytesPerSecond; }},
-        {"gpus[0].utilization", [](auto& s) -> double& { return *s.gpus[0].utilization; }},
-        {"gpus[0].temperatureCelsius",
-         [](auto& s) -> double& { return *s.gpus[0].temperatureCelsius; }},
-        {"processes[0].cpuPercent", [](auto& s) -> double& { return s.processes[0].cpuPercent; }},
-        {"system.uptimeSeconds", [](auto& s) -> double& { return s.system.uptimeSeconds; }},
-        {"power.chargeFraction", [](auto& s) -> double& { return s.power->chargeFraction; }},
-    };
-    for (const auto& [place, value] : numbers) {
-        for (const double number : {notANumber, infinite, -infinite}) {
-            SystemSnapshot snapshot = filled::snapshot();
-            value(snapshot) = number;
-            EXPECT_THAT(documentOf(snapshot),
-                        StartsWith(std::string("failed: The value of \"") + place + "\" is " +
-                                   (number == number ? "infinite," : "not a number,")));
+    SystemSnapshot snapshot = filled::snapshot();
+    std::set<std::string> places;
+    record_walk::forEachValue(snapshot, "", [&](const std::string& place, auto& value) {
+        if constexpr (std::is_same_v<decltype(value), double&>) {
+            places.insert(place);
+            const double before = value;
+            for (const double number : {notANumber, infinite, -infinite}) {
+                value = number;
+                EXPECT_THAT(documentOf(snapshot),
+                            StartsWith("failed: The value of \"" + place + "\" is " +
+                                       (number == number ? "infinite," : "not a number,")));
+            }
+            value = before;
         }
-    }
+    });
+    EXPECT_THAT(places, IsSupersetOf({"cpu.totalUsage", "cpu.perCoreUsage[1]",
+                                      "network.interfaces[0].uploadBytesPerSecond",
+                                      "gpus[0].utilization", "power.chargeFraction"}));
 }
 
 }  // namespace
