@@ -10,6 +10,7 @@
 
 #include "platform/posix/posix_atomic_file_writer.h"
 #include "platform/simulated/simulated_macs.h"
+#include "sampling/commit.h"
 #include "sampling/fake_export_platform.h"
 #include "sampling/fake_world.h"
 #include "support/recorded_machine.h"
@@ -71,7 +72,7 @@ class ReadingMonitor {
     void read() {
         monitor_->forceRefresh();
         settle();
-        clock_->wind(31ms);  // the commit's
+        clock_->wind(commitDelay);
         while (loop_->runDueTimer())
             settle();
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/simulated/simulated_graphics.h"
+#include "sampling/commit.h"
 #include "sampling/fake_world.h"
 
 /// Graphics devices on their way from the machine to the dashboard's state.
@@ -39,7 +40,7 @@ class GPUMonitoring : public testing::Test {
 
 TEST_F(GPUMonitoring, TheFirstReadingFillsTheSnapshotAndStartsTheHistory) {
     world.start();
-    world.advance(629ms);
+    world.advance(600ms + commitDelay - 1ms);
     EXPECT_THAT(gpus(), IsEmpty());
     world.advance(1ms);
     ASSERT_THAT(gpus(), SizeIs(1));
@@ -148,7 +149,7 @@ TEST_F(GPUMonitoring, ARefreshByHandWorksDuringAPause) {
     world.monitor->togglePause();
     setUtilization(0.75);
     world.monitor->forceRefresh();
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_THAT(world.histories().gpu, ElementsAre(0.12, 0.75));
 }
 
@@ -157,7 +158,7 @@ TEST_F(GPUMonitoring, ARefreshByHandDoesNotRelistTheDevices) {
     world.advance(700ms);
     removeGraphics();
     world.monitor->forceRefresh();
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_THAT(gpus(), SizeIs(1));
     EXPECT_EQ(world.machine->graphicsDevices().copies, 1);
 }

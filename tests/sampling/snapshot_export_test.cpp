@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "sampling/commit.h"
 #include "sampling/export_flow.h"
 
 /// The user saves the snapshot: question, background write, and an alert if it failed.
@@ -75,7 +76,7 @@ TEST_F(SnapshotExportFlowTest, WritesTheSnapshotOfTheConfirmationAndSaysNothing)
     world.queues->runNext(queueLabel("cpu"));
     monitor().receiveCPU(CPUStats::empty(), monitor().generation());
     world.loop->runPosted();
-    world.clock->wind(31ms);
+    world.clock->wind(commitDelay);
     while (world.loop->runDueTimer()) {
     }
     ASSERT_NE(world.state().snapshot, confirmed) << "sampling goes on during the write";
@@ -145,7 +146,7 @@ TEST_F(SnapshotExportFlowTest, ShowsAnAlertForANumberThatIsNotFiniteAndWritesNot
     CPUStats stats = CPUStats::empty();
     stats.temperatureCelsius = std::numeric_limits<double>::quiet_NaN();
     world.receiveCPU(stats);
-    world.advance(31ms);
+    world.advance(commitDelay);
     monitor().exportSnapshot();
     user.confirm("/chosen.json");
     finishWriting();

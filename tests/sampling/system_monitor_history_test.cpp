@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "sampling/commit.h"
 #include "sampling/fake_world.h"
 #include "sampling/sample_records.h"
 #include "support/named_row.h"
@@ -30,7 +31,7 @@ void commitReadings(FakeWorld& world, int count) {
         world.monitor->receiveMemory(memoryReading(1, 2), world.monitor->generation());
         world.monitor->receiveNetwork(networkReading(1, 2), world.monitor->generation());
         world.monitor->receiveGPUs(std::vector{gpuDevice("a", 0.5)}, world.monitor->generation());
-        world.advance(30ms);
+        world.advance(commitDelay);
     }
 }
 
@@ -143,7 +144,7 @@ TEST(SystemMonitor, ResultAfterALiveResizeWaitsForItsOwnCommit) {
     EXPECT_EQ(world.publications, 0);
     world.receiveCPU(cpuReading(0.1));
     EXPECT_EQ(world.publications, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.publications, 1);
 }
 
@@ -152,7 +153,7 @@ TEST(SystemMonitor, RepeatedLiveResizeSwitchIsIgnored) {
     world.receiveCPU(cpuReading(0.1));
     world.monitor->setDashboardLiveResizeActive(false);
     EXPECT_EQ(world.publications, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.publications, 1);
     EXPECT_FALSE(world.monitor->isDashboardLiveResizeActive());
 }

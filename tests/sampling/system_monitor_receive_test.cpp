@@ -4,6 +4,7 @@
 #include <chrono>
 #include <functional>
 
+#include "sampling/commit.h"
 #include "sampling/fake_world.h"
 #include "sampling/sample_records.h"
 #include "support/named_row.h"
@@ -30,7 +31,7 @@ class Receive : public testing::TestWithParam<ReceiveRow> {
 
 TEST_P(Receive, TakesAResultOfThePresentGeneration) {
     receive(0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.revisions().*GetParam().revision, 1u);
     EXPECT_EQ(world.publications, 1);
 }
@@ -82,7 +83,7 @@ TEST_P(ReceiveNothing, KeepsWhatIsThereAndSchedulesNoCommit) {
     FakeWorld world;
     for (const ReceiveRow& row : receiveRows)
         row.receive(*world.monitor, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     const DashboardState before = world.state();
     GetParam().receive(*world.monitor);
     EXPECT_EQ(world.loop->timerCount(), 0u);
@@ -122,9 +123,9 @@ TEST(SystemMonitor, CommitsThirtyMillisecondsAfterTheFirstResult) {
 TEST(SystemMonitor, ResultAfterACommitGetsACommitOfItsOwn) {
     FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
-    world.advance(30ms);
+    world.advance(commitDelay);
     world.receiveCPU(cpuReading(0.2));
-    world.advance(29ms);
+    world.advance(commitDelay - 1ms);
     EXPECT_EQ(world.publications, 1);
     world.advance(1ms);
     EXPECT_EQ(world.publications, 2);
@@ -135,7 +136,7 @@ TEST(SystemMonitor, LaterReadingWithinACommitReplacesTheEarlierOne) {
     FakeWorld world;
     world.receiveCPU(cpuReading(0.1));
     world.receiveCPU(cpuReading(0.2));
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state().snapshot.cpu, cpuReading(0.2));
     EXPECT_THAT(world.histories().cpu, ElementsAre(0.2));
     EXPECT_EQ(world.revisions().cpu, 1u);
@@ -146,7 +147,7 @@ TEST(SystemMonitor, LaterPowerResultReplacesTheEarlierOne) {
     world.monitor->receivePower(PowerReadResult::update(battery(0.5)), 0);
     world.monitor->receivePower(PowerReadResult::update(std::nullopt), 0);
     world.monitor->receivePower(PowerReadResult::failure(), 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state().snapshot.power, std::nullopt);
     EXPECT_EQ(world.publications, 0);
 }
@@ -163,10 +164,10 @@ TEST(SystemMonitor, PublishesOnceHoweverManyProvidersAnswer) {
 TEST(SystemMonitor, PublishesNothingWhenNothingChanged) {
     FakeWorld world;
     world.monitor->receiveSystemInfo(systemInfo("one"), 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     const DashboardState before = world.state();
     world.monitor->receiveSystemInfo(systemInfo("one"), 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state(), before);  // the timestamp too
     EXPECT_EQ(world.publications, 1);
 }
@@ -174,12 +175,12 @@ TEST(SystemMonitor, PublishesNothingWhenNothingChanged) {
 TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoVolumes) {
     FakeWorld world;
     world.monitor->receiveVolumes(std::vector<VolumeStats>{}, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.publications, 1);
     EXPECT_TRUE(world.state().answered.volumes);
     EXPECT_FALSE(world.state().answered.gpus);
     world.monitor->receiveVolumes(std::vector<VolumeStats>{}, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.publications, 1);
     EXPECT_EQ(world.revisions(), Revisions{});
 }
@@ -187,12 +188,12 @@ TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoVolumes) {
 TEST(SystemMonitor, ObserversAreToldOnceThatThereAreNoGraphicsDevices) {
     FakeWorld world;
     world.monitor->receiveGPUs(std::vector<GPUStats>{}, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.publications, 1);
     EXPECT_TRUE(world.state().answered.gpus);
     EXPECT_FALSE(world.state().answered.volumes);
     world.monitor->receiveGPUs(std::vector<GPUStats>{}, 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.publications, 1);
     EXPECT_EQ(world.revisions(), Revisions{});
 }
@@ -201,7 +202,7 @@ TEST(SystemMonitor, StampsTheSnapshotWithTheTimeOfTheCommit) {
     FakeWorld world;
     world.advance(5s);
     world.receiveCPU(cpuReading(0.1));
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state().snapshot.timestamp, world.machine->wallClock().now());
 }
 
@@ -219,9 +220,9 @@ TEST(SystemMonitor, APauseBeforeAnyReadingMakesNoQueues) {
 TEST(SystemMonitor, BatteryThatGoesCountsInTheSystemSection) {
     FakeWorld world;
     world.monitor->receivePower(PowerReadResult::update(battery(0.5)), 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     world.monitor->receivePower(PowerReadResult::update(std::nullopt), 0);
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state().snapshot.power, std::nullopt);
     EXPECT_EQ(world.revisions().system, 2u);
 }
@@ -231,7 +232,7 @@ TEST(SystemMonitor, CommitsWhatTheProcessorsSay) {
     world.start();
     world.advance(1s);
     const int publications = world.publications;
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state().snapshot.cpu.model, "Simulated Processor M1");
     EXPECT_EQ(world.state().snapshot.cpu.totalUsage, 0.4);
     EXPECT_THAT(world.state().snapshot.cpu.perCoreUsage, ElementsAre(0.4, 0.4, 0.4, 0.4));
@@ -242,7 +243,7 @@ TEST(SystemMonitor, CommitsWhatTheProcessorsSay) {
 TEST(SystemMonitor, CommitsWhatTheMemoryAndTheSystemSay) {
     FakeWorld world;
     world.start();
-    world.advance(30ms);
+    world.advance(commitDelay);
     EXPECT_EQ(world.state().snapshot.memory.totalBytes, std::uint64_t{16} << 30);
     EXPECT_EQ(world.state().snapshot.memory.usedBytes, std::uint64_t{7} << 30);
     EXPECT_THAT(world.histories().memory, ElementsAre(7.0 / 16.0));
@@ -253,7 +254,7 @@ TEST(SystemMonitor, CommitsWhatTheMemoryAndTheSystemSay) {
 TEST(SystemMonitor, KeepsTheLastReadingWhenTheProcessorsStopAnswering) {
     FakeWorld world;
     world.start();
-    world.advance(1030ms);
+    world.advance(1s + commitDelay);
     world.machine->hostProcessors().totalFails = true;
     const DashboardState before = world.state();
     world.advance(10s);
