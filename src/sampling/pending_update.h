@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <tuple>
+#include <utility>
 #include <vector>
 
+#include "model/power_read_result.h"
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
 
@@ -22,6 +24,30 @@ struct PendingUpdate {
     bool hasPowerUpdate = false;      ///< "no battery" is a result too
 
     bool isEmpty() const;
+
+    /// Takes a provider's result as the newest of that section. Returns false for one that changes
+    /// nothing: an absent record, an empty process list, a failure of power.
+    template <class Record>
+    bool put(std::optional<Record> PendingUpdate::*section, std::optional<Record>&& result) {
+        if (!result) return false;
+        this->*section = std::move(result);
+        return true;
+    }
+    template <class Record>
+    bool put(std::optional<Record> PendingUpdate::*section, Record&& result) {
+        return put(section, std::optional(std::move(result)));
+    }
+    bool put(std::optional<ProcessSample> PendingUpdate::*section, ProcessSample&& result) {
+        // An empty list is a failed listing: this very process exists.
+        if (result.all.empty()) return false;
+        return put(section, std::optional(std::move(result)));
+    }
+    bool put(std::optional<PowerStats> PendingUpdate::*section, const PowerReadResult& result) {
+        if (!result.isUpdate()) return false;
+        this->*section = result.stats();
+        hasPowerUpdate = true;
+        return true;
+    }
 };
 
 /// The sections that are there or not, in the order in which they are committed; power follows

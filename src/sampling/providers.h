@@ -14,10 +14,11 @@
 #include "probes/process_reader.h"
 #include "probes/storage_reader.h"
 #include "probes/system_info_reader.h"
+#include "sampling/pending_update.h"
 
 /// The table of providers. Each entry has what the sampler and the monitor need: the queue's label,
-/// the reader, how it is read and reset, how often and from which stage on. An incomplete entry
-/// does not compile.
+/// the reader, how it is read and reset, how often and from which stage on, and the section that
+/// its results are of. An incomplete entry does not compile.
 ///
 /// `minInterval`: seconds between two readings where the refresh interval is shorter. `stage`: 0
 /// for one that is read with the first tick; the others are staged in after it, in the order of
@@ -39,6 +40,7 @@ struct CPUProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.cpu";
     static constexpr double minInterval = 0;
     static constexpr int stage = 0;
+    static constexpr auto section = &PendingUpdate::cpu;
     using Reader = CPUReader;
 
     static Reader makeReader(const ReaderSources& sources) {
@@ -55,6 +57,7 @@ struct MemoryProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.memory";
     static constexpr double minInterval = 0;
     static constexpr int stage = 0;
+    static constexpr auto section = &PendingUpdate::memory;
     using Reader = MemoryReader;
 
     static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
@@ -65,6 +68,7 @@ struct NetworkProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.network";
     static constexpr double minInterval = 0;
     static constexpr int stage = 0;
+    static constexpr auto section = &PendingUpdate::network;
     using Reader = NetworkReader;
 
     static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
@@ -81,6 +85,7 @@ struct SystemInfoProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.system";
     static constexpr double minInterval = 5;
     static constexpr int stage = 0;
+    static constexpr auto section = &PendingUpdate::system;
     using Reader = SystemInfoReader;
 
     static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
@@ -93,6 +98,7 @@ struct ProcessProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.processes";
     static constexpr double minInterval = 0;
     static constexpr int stage = 1;
+    static constexpr auto section = &PendingUpdate::processSample;
     using Reader = ProcessReader;
 
     static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
@@ -104,6 +110,7 @@ struct GPUProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.gpu";
     static constexpr double minInterval = 0;
     static constexpr int stage = 2;
+    static constexpr auto section = &PendingUpdate::gpus;
     using Reader = GPUReader;
 
     static Reader makeReader(const ReaderSources& sources) {
@@ -116,6 +123,7 @@ struct VolumeProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.storage";
     static constexpr double minInterval = 15;
     static constexpr int stage = 4;
+    static constexpr auto section = &PendingUpdate::volumes;
     using Reader = StorageReader;
 
     static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
@@ -126,6 +134,7 @@ struct PowerProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.power";
     static constexpr double minInterval = 10;
     static constexpr int stage = 3;
+    static constexpr auto section = &PendingUpdate::power;
     using Reader = PowerReader;
 
     static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/export_platform.h"
@@ -78,14 +79,37 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
 
     /// What the providers' completions deliver to. A result of another generation, an absent one,
     /// an empty process list and a power failure change nothing.
-    void receiveCPU(std::optional<CPUStats> result, std::uint64_t generation);
-    void receiveMemory(std::optional<MemoryStats> result, std::uint64_t generation);
-    void receiveNetwork(std::optional<NetworkStats> result, std::uint64_t generation);
-    void receiveSystemInfo(SystemInfoStats result, std::uint64_t generation);
-    void receiveProcesses(ProcessSample result, std::uint64_t generation);
-    void receiveGPUs(std::optional<std::vector<GPUStats>> result, std::uint64_t generation);
-    void receiveVolumes(std::optional<std::vector<VolumeStats>> result, std::uint64_t generation);
-    void receivePower(const PowerReadResult& result, std::uint64_t generation);
+    template <class Provider, class Result>
+    void receive(Result result, std::uint64_t generation) {
+        if (generation != generation_) return;
+        if (pendingUpdate_.put(Provider::section, std::move(result))) scheduleCommit();
+    }
+
+    // The same under the names of the providers.
+    void receiveCPU(std::optional<CPUStats> result, std::uint64_t generation) {
+        receive<CPUProvider>(std::move(result), generation);
+    }
+    void receiveMemory(std::optional<MemoryStats> result, std::uint64_t generation) {
+        receive<MemoryProvider>(std::move(result), generation);
+    }
+    void receiveNetwork(std::optional<NetworkStats> result, std::uint64_t generation) {
+        receive<NetworkProvider>(std::move(result), generation);
+    }
+    void receiveSystemInfo(SystemInfoStats result, std::uint64_t generation) {
+        receive<SystemInfoProvider>(std::move(result), generation);
+    }
+    void receiveProcesses(ProcessSample result, std::uint64_t generation) {
+        receive<ProcessProvider>(std::move(result), generation);
+    }
+    void receiveGPUs(std::optional<std::vector<GPUStats>> result, std::uint64_t generation) {
+        receive<GPUProvider>(std::move(result), generation);
+    }
+    void receiveVolumes(std::optional<std::vector<VolumeStats>> result, std::uint64_t generation) {
+        receive<VolumeProvider>(std::move(result), generation);
+    }
+    void receivePower(PowerReadResult result, std::uint64_t generation) {
+        receive<PowerProvider>(std::move(result), generation);
+    }
 
   private:
     SystemMonitor(std::shared_ptr<AppSettings> settings, std::shared_ptr<Machine> machine,
@@ -114,9 +138,6 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     void requestFastProviders(bool force, std::uint64_t generation);
     void requestSlowProviders(bool force, std::uint64_t generation);
 
-    template <class Record>
-    void receive(std::optional<Record> PendingUpdate::*section, std::optional<Record>&& result,
-                 std::uint64_t generation);
     void scheduleCommit();
     void commitPendingUpdate();
     DashboardState copyOfState();

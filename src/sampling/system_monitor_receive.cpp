@@ -8,53 +8,6 @@
 /// times.
 namespace vantor {
 
-template <class Record>
-void SystemMonitor::receive(std::optional<Record> PendingUpdate::*section,
-                            std::optional<Record>&& result, std::uint64_t generation) {
-    if (generation != generation_ || !result) return;
-    pendingUpdate_.*section = std::move(result);
-    scheduleCommit();
-}
-
-void SystemMonitor::receiveCPU(std::optional<CPUStats> result, std::uint64_t generation) {
-    receive(&PendingUpdate::cpu, std::move(result), generation);
-}
-
-void SystemMonitor::receiveMemory(std::optional<MemoryStats> result, std::uint64_t generation) {
-    receive(&PendingUpdate::memory, std::move(result), generation);
-}
-
-void SystemMonitor::receiveNetwork(std::optional<NetworkStats> result, std::uint64_t generation) {
-    receive(&PendingUpdate::network, std::move(result), generation);
-}
-
-void SystemMonitor::receiveSystemInfo(SystemInfoStats result, std::uint64_t generation) {
-    receive(&PendingUpdate::system, std::optional(std::move(result)), generation);
-}
-
-void SystemMonitor::receiveProcesses(ProcessSample result, std::uint64_t generation) {
-    // An empty list is a failed listing: this very process exists.
-    if (result.all.empty()) return;
-    receive(&PendingUpdate::processSample, std::optional(std::move(result)), generation);
-}
-
-void SystemMonitor::receiveGPUs(std::optional<std::vector<GPUStats>> result,
-                                std::uint64_t generation) {
-    receive(&PendingUpdate::gpus, std::move(result), generation);
-}
-
-void SystemMonitor::receiveVolumes(std::optional<std::vector<VolumeStats>> result,
-                                   std::uint64_t generation) {
-    receive(&PendingUpdate::volumes, std::move(result), generation);
-}
-
-void SystemMonitor::receivePower(const PowerReadResult& result, std::uint64_t generation) {
-    if (generation != generation_ || !result.isUpdate()) return;
-    pendingUpdate_.power = result.stats();
-    pendingUpdate_.hasPowerUpdate = true;
-    scheduleCommit();
-}
-
 void SystemMonitor::scheduleCommit() {
     if (isDashboardLiveResizeActive_ || pendingCommitTask_) return;
     pendingCommitTask_ = std::make_shared<MainTask>(mainLoop_);

@@ -10,26 +10,6 @@ namespace vantor {
 
 namespace {
 
-/// What takes a provider's result on the main thread.
-template <class Provider>
-constexpr auto receiverOf = nullptr;
-template <>
-constexpr auto receiverOf<CPUProvider> = &SystemMonitor::receiveCPU;
-template <>
-constexpr auto receiverOf<MemoryProvider> = &SystemMonitor::receiveMemory;
-template <>
-constexpr auto receiverOf<NetworkProvider> = &SystemMonitor::receiveNetwork;
-template <>
-constexpr auto receiverOf<SystemInfoProvider> = &SystemMonitor::receiveSystemInfo;
-template <>
-constexpr auto receiverOf<ProcessProvider> = &SystemMonitor::receiveProcesses;
-template <>
-constexpr auto receiverOf<GPUProvider> = &SystemMonitor::receiveGPUs;
-template <>
-constexpr auto receiverOf<VolumeProvider> = &SystemMonitor::receiveVolumes;
-template <>
-constexpr auto receiverOf<PowerProvider> = &SystemMonitor::receivePower;
-
 /// A record that is the reader's own is copied before it leaves the provider's queue.
 template <class Record>
 std::optional<Record> ownedResult(const Record* record) {
@@ -54,7 +34,7 @@ void SystemMonitor::request(bool force, std::uint64_t generation) {
                         owned = ownedResult(
                             std::forward<SystemSampler::Result<Provider>>(result))]() mutable {
                 if (const auto self = weak.lock())
-                    (self.get()->*receiverOf<Provider>)(std::move(owned), generation);
+                    self->template receive<Provider>(std::move(owned), generation);
             });
         },
         {.includePointToPointInterfaces = settings_->includePointToPointInterfaces()});

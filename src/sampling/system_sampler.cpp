@@ -41,47 +41,6 @@ void SystemSampler::invalidate() {
     forEachProvider([this]<class Provider>(Provider) { slot<Provider>().gate->invalidate(); });
 }
 
-void SystemSampler::requestCPU(double minimumInterval, bool force,
-                               Completion<const CPUStats*> completion) {
-    request<CPUProvider>(minimumInterval, force, std::move(completion));
-}
-
-void SystemSampler::requestMemory(double minimumInterval, bool force,
-                                  Completion<std::optional<MemoryStats>> completion) {
-    request<MemoryProvider>(minimumInterval, force, std::move(completion));
-}
-
-void SystemSampler::requestNetwork(bool includePointToPointInterfaces, double minimumInterval,
-                                   bool force, Completion<const NetworkStats*> completion) {
-    request<NetworkProvider>(minimumInterval, force, std::move(completion),
-                             {.includePointToPointInterfaces = includePointToPointInterfaces});
-}
-
-void SystemSampler::requestSystemInfo(double minimumInterval, bool force,
-                                      Completion<const SystemInfoStats&> completion) {
-    request<SystemInfoProvider>(minimumInterval, force, std::move(completion));
-}
-
-void SystemSampler::requestProcesses(double minimumInterval, bool force,
-                                     Completion<ProcessSample> completion) {
-    request<ProcessProvider>(minimumInterval, force, std::move(completion));
-}
-
-void SystemSampler::requestGPUs(double minimumInterval, bool force,
-                                Completion<std::optional<std::vector<GPUStats>>> completion) {
-    request<GPUProvider>(minimumInterval, force, std::move(completion));
-}
-
-void SystemSampler::requestVolumes(double minimumInterval, bool force,
-                                   Completion<std::optional<std::vector<VolumeStats>>> completion) {
-    request<VolumeProvider>(minimumInterval, force, std::move(completion));
-}
-
-void SystemSampler::requestPower(double minimumInterval, bool force,
-                                 Completion<PowerReadResult> completion) {
-    request<PowerProvider>(minimumInterval, force, std::move(completion));
-}
-
 void SystemSampler::resetDeltaBaselines() {
     forEachProvider([this]<class Provider>(Provider) {
         if constexpr (HasDeltas<Provider>) {

@@ -2,13 +2,11 @@
 
 #include <cstddef>
 #include <memory>
-#include <optional>
 #include <string_view>
 #include <tuple>
 #include <utility>
 #include <vector>
 
-#include "model/gpu_stats.h"
 #include "platform/machine.h"
 #include "platform/serial_queue.h"
 #include "platform/unique_function.h"
@@ -51,19 +49,40 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     void request(double minimumInterval, bool force, Completion<Result<Provider>> completion,
                  ReadingOptions options = {});
 
-    void requestCPU(double minimumInterval, bool force, Completion<const CPUStats*> completion);
+    // The same under the names of the providers.
+    void requestCPU(double minimumInterval, bool force,
+                    Completion<Result<CPUProvider>> completion) {
+        request<CPUProvider>(minimumInterval, force, std::move(completion));
+    }
     void requestMemory(double minimumInterval, bool force,
-                       Completion<std::optional<MemoryStats>> completion);
+                       Completion<Result<MemoryProvider>> completion) {
+        request<MemoryProvider>(minimumInterval, force, std::move(completion));
+    }
     void requestNetwork(bool includePointToPointInterfaces, double minimumInterval, bool force,
-                        Completion<const NetworkStats*> completion);
+                        Completion<Result<NetworkProvider>> completion) {
+        request<NetworkProvider>(minimumInterval, force, std::move(completion),
+                                 {.includePointToPointInterfaces = includePointToPointInterfaces});
+    }
     void requestSystemInfo(double minimumInterval, bool force,
-                           Completion<const SystemInfoStats&> completion);
-    void requestProcesses(double minimumInterval, bool force, Completion<ProcessSample> completion);
+                           Completion<Result<SystemInfoProvider>> completion) {
+        request<SystemInfoProvider>(minimumInterval, force, std::move(completion));
+    }
+    void requestProcesses(double minimumInterval, bool force,
+                          Completion<Result<ProcessProvider>> completion) {
+        request<ProcessProvider>(minimumInterval, force, std::move(completion));
+    }
     void requestGPUs(double minimumInterval, bool force,
-                     Completion<std::optional<std::vector<GPUStats>>> completion);
+                     Completion<Result<GPUProvider>> completion) {
+        request<GPUProvider>(minimumInterval, force, std::move(completion));
+    }
     void requestVolumes(double minimumInterval, bool force,
-                        Completion<std::optional<std::vector<VolumeStats>>> completion);
-    void requestPower(double minimumInterval, bool force, Completion<PowerReadResult> completion);
+                        Completion<Result<VolumeProvider>> completion) {
+        request<VolumeProvider>(minimumInterval, force, std::move(completion));
+    }
+    void requestPower(double minimumInterval, bool force,
+                      Completion<Result<PowerProvider>> completion) {
+        request<PowerProvider>(minimumInterval, force, std::move(completion));
+    }
 
     /// Nothing is admitted from now on, and waiting runs end without an answer. Also what
     /// destruction does; but a run in progress keeps the sampler alive until it is over.

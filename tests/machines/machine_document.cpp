@@ -3,7 +3,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -74,6 +77,14 @@ json toJSON(SystemInfoStats stats) {
     return toJSON<SystemInfoStats>(std::as_const(stats));
 }
 
+/// The name of that provider's record in the documents.
+std::string keyOf(std::string_view label) {
+    const std::string name(label.substr(label.rfind('.') + 1));
+    static const std::map<std::string, std::string> others{{"gpu", "gpus"}, {"storage", "volumes"}};
+    const auto other = others.find(name);
+    return other == others.end() ? name : other->second;
+}
+
 json describeSecondPass(const std::string& name, bool includePointToPointInterfaces) {
     const auto machine = std::make_shared<RecordedMachine>(name);
     MachineWitness witness(machine, includePointToPointInterfaces);
@@ -90,19 +101,14 @@ MachineWitness::MachineWitness(std::shared_ptr<Machine> machine, bool includePoi
 
 json MachineWitness::ask() {
     json said;
-    const auto note = [&said](const char* provider) {
-        return [&said, provider](auto&& record) {
-            said[provider] = toJSON(std::forward<decltype(record)>(record));
-        };
-    };
-    sampler_->requestCPU(0, true, note("cpu"));
-    sampler_->requestMemory(0, true, note("memory"));
-    sampler_->requestNetwork(includePointToPointInterfaces_, 0, true, note("network"));
-    sampler_->requestSystemInfo(0, true, note("system"));
-    sampler_->requestProcesses(0, true, note("processes"));
-    sampler_->requestGPUs(0, true, note("gpus"));
-    sampler_->requestVolumes(0, true, note("volumes"));
-    sampler_->requestPower(0, true, note("power"));
+    forEachProvider([&]<class Provider>(Provider) {
+        sampler_->request<Provider>(
+            0, true,
+            [&said](auto&& record) {
+                said[keyOf(Provider::label)] = toJSON(std::forward<decltype(record)>(record));
+            },
+            {.includePointToPointInterfaces = includePointToPointInterfaces_});
+    });
     queues_.runWaiting();
     return said;
 }

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <string_view>
+#include <vector>
 
 #include "sampling/sampler_world.h"
 #include "support/named_row.h"
 
-/// What holds for each of the eight providers.
+/// What holds for each provider.
 namespace vantor::system_sampler_provider_test {
 namespace {
 
@@ -85,11 +87,16 @@ TEST_P(EachProvider, CountsTheCompletionAsPartOfTheRun) {
     EXPECT_EQ(world.gates[provider]->outstandingRuns(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(SystemSampler, EachProvider,
-                         testing::Values(ProviderRow{{"CPU"}, 0}, ProviderRow{{"Memory"}, 1},
-                                         ProviderRow{{"Network"}, 2}, ProviderRow{{"System"}, 3},
-                                         ProviderRow{{"Processes"}, 4}, ProviderRow{{"GPU"}, 5},
-                                         ProviderRow{{"Storage"}, 6}, ProviderRow{{"Power"}, 7}),
+std::vector<ProviderRow> everyProvider() {
+    std::vector<ProviderRow> rows;
+    for (const std::string_view label : SystemSampler::queueLabels()) {
+        const std::size_t index = rows.size();
+        rows.push_back({{label.data() + label.rfind('.') + 1}, index});
+    }
+    return rows;
+}
+
+INSTANTIATE_TEST_SUITE_P(SystemSampler, EachProvider, testing::ValuesIn(everyProvider()),
                          rowName<ProviderRow>);
 
 }  // namespace

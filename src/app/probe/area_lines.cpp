@@ -10,7 +10,10 @@
 #include <fstream>
 #include <iterator>
 #include <mutex>
+#include <optional>
+#include <string_view>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 #include "model/record_coding.h"
@@ -25,9 +28,15 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto patience = 20s;
-constexpr std::size_t areaCount = 8;
-constexpr std::array<const char*, areaCount> areaNames{"cpu",       "memory", "network", "system",
-                                                       "processes", "gpu",    "storage", "power"};
+constexpr std::size_t areaCount = std::tuple_size_v<AllProviders>;
+constexpr std::array<std::string_view, 4> areasOfEveryMachine{"cpu", "memory", "system",
+                                                              "processes"};
+
+/// The last part of the label of that provider's queue.
+std::string_view areaName(std::size_t area) {
+    const std::string_view label = SystemSampler::queueLabels()[area];
+    return label.substr(label.rfind('.') + 1);
+}
 
 template <class Record>
 std::string written(const Record& record) {
@@ -67,40 +76,40 @@ class Answers {
     std::array<std::string, areaCount> texts_;
 };
 
-std::string summary(const ProcessSample& sample) {
+template <class Record>
+std::string answerText(const Record& stats) {
+    return written(stats);
+}
+template <class Record>
+std::string answerText(const Record* stats) {
+    return stats ? written(*stats) : "absent";
+}
+template <class Record>
+std::string answerText(const std::optional<Record>& stats) {
+    return stats ? written(*stats) : "absent";
+}
+std::string answerText(const ProcessSample& sample) {
+    if (sample.all.empty()) return "absent";
     std::string text = std::to_string(sample.all.size()) + " in all";
     for (const auto* list : {&sample.sortedByCPU, &sample.sortedByMemory}) {
         if (!list->empty()) text += "\n" + std::string(41, ' ') + written(list->front());
     }
     return text;
 }
+std::string answerText(const PowerReadResult& result) {
+    if (!result.isUpdate()) return "absent";
+    return result.stats() ? written(*result.stats()) : "no battery";
+}
 
 std::array<std::string, areaCount> readAll(SystemSampler& sampler) {
     const auto answers = std::make_shared<Answers>();
-    sampler.requestCPU(0, true, [answers](const CPUStats* stats) {
-        answers->put(0, stats ? written(*stats) : "absent");
-    });
-    sampler.requestMemory(0, true, [answers](const std::optional<MemoryStats>& stats) {
-        answers->put(1, stats ? written(*stats) : "absent");
-    });
-    sampler.requestNetwork(true, 0, true, [answers](const NetworkStats* stats) {
-        answers->put(2, stats ? written(*stats) : "absent");
-    });
-    sampler.requestSystemInfo(
-        0, true, [answers](const SystemInfoStats& stats) { answers->put(3, written(stats)); });
-    sampler.requestProcesses(0, true, [answers](const ProcessSample& sample) {
-        answers->put(4, sample.all.empty() ? "absent" : summary(sample));
-    });
-    sampler.requestGPUs(0, true, [answers](const std::optional<std::vector<GPUStats>>& stats) {
-        answers->put(5, stats ? written(*stats) : "absent");
-    });
-    sampler.requestVolumes(0, true,
-                           [answers](const std::optional<std::vector<VolumeStats>>& stats) {
-                               answers->put(6, stats ? written(*stats) : "absent");
-                           });
-    sampler.requestPower(0, true, [answers](const PowerReadResult& result) {
-        if (!result.isUpdate()) return answers->put(7, "absent");
-        answers->put(7, result.stats() ? written(*result.stats()) : "no battery");
+    std::size_t area = 0;
+    forEachProvider([&]<class Provider>(Provider) {
+        sampler.request<Provider>(0, true,
+                                  [answers, place = area++](const auto& answer) {
+                                      answers->put(place, answerText(answer));
+                                  },
+                                  {.includePointToPointInterfaces = true});
     });
     return answers->wait();
 }
@@ -118,11 +127,16 @@ bool reportAreas(const std::shared_ptr<Machine>& machine, BackgroundQueueFactory
     readAll(*sampler);
     std::this_thread::sleep_for(1s);  // a second's worth of work and traffic
     const auto texts = readAll(*sampler);
-    for (std::size_t area = 0; area < areaCount; ++area)
-        report.line(areaNames[area], texts[area].empty() ? "no answer in time" : texts[area]);
-    const std::array always{texts[0], texts[1], texts[3], texts[4]};
-    return std::none_of(always.begin(), always.end(),
-                        [](const std::string& text) { return text.empty() || text == "absent"; });
+    bool isWhole = true;
+    for (std::size_t area = 0; area < areaCount; ++area) {
+        const std::string_view name = areaName(area);
+        const std::string& text = texts[area];
+        report.line(name, text.empty() ? "no answer in time" : text);
+        const bool isMissing = text.empty() || text == "absent";
+        if (isMissing && std::ranges::find(areasOfEveryMachine, name) != areasOfEveryMachine.end())
+            isWhole = false;
+    }
+    return isWhole;
 }
 
 bool reportServices(BackgroundQueueFactory& queues, Report& report) {
