@@ -52,6 +52,10 @@ QString uptime(double seconds) {
     return tail;
 }
 
+QString interval(double seconds, const QString& unit) {
+    return QString::number(seconds, 'g', 6) + u' ' + unit;
+}
+
 QString fixed(double value, int precision) {
     // The toolkit rounds exact halves up, where printf rounds them to even.
     constexpr std::size_t maxDigits = std::numeric_limits<double>::max_exponent10 + 32;

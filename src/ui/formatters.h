@@ -21,6 +21,9 @@ QString percent(double fraction, int precision);
 /// Days, hours and minutes: 42m, 3h 5m, 2d 0h 7m; "Unknown" for what cannot be a time.
 QString uptime(double seconds);
 
+/// The seconds between two readings with that unit behind: "0.5 s", "2 seconds".
+QString interval(double seconds, const QString& unit);
+
 /// `value` with `precision` decimals, the way printf's %.*f writes it in the C locale.
 QString fixed(double value, int precision);
 

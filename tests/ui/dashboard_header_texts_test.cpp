@@ -27,7 +27,8 @@ TEST(DashboardHeader, PauseBecomesResume) {
     EXPECT_EQ(utf8(paused().pauseSymbol()), "play.fill");
 }
 
-TEST(DashboardHeader, IntervalIsHalfASecondOrWholeOnes) {
+TEST(DashboardHeader, IntervalIsWrittenAsItIs) {
+    EXPECT_EQ(utf8(DashboardHeader::intervalText(0.25)), "0.25 s");
     EXPECT_EQ(utf8(DashboardHeader::intervalText(0.5)), "0.5 s");
     EXPECT_EQ(utf8(DashboardHeader::intervalText(1)), "1 s");
     EXPECT_EQ(utf8(DashboardHeader::intervalText(2)), "2 s");

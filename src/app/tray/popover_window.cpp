@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "app/window/window_system.h"
 #include "ui/components/make_child.h"
 #include "ui/theme.h"
 
@@ -25,8 +26,7 @@ constexpr qint64 justNow = 250;
 /// Popups grab the pointer and so close by themselves; only some window systems can place one
 /// without a parent window.
 Qt::WindowFlags kind() {
-    const bool isWayland = QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
-    const Qt::WindowFlags flags = isWayland ? Qt::Tool : Qt::Popup;
+    const Qt::WindowFlags flags = isWayland() ? Qt::Tool : Qt::Popup;
     return flags | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
 }
 

@@ -1,12 +1,12 @@
 #include "app/window/launch_stabilizer_view.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QLayout>
 
 #include <chrono>
 
 #include "app/window/dashboard_window.h"
+#include "app/window/window_system.h"
 #include "ui/components/make_child.h"
 
 namespace vantor {
@@ -18,13 +18,9 @@ using namespace std::chrono_literals;
 // Longer than between two steps of a slow drag, too short to be noticed.
 constexpr auto resizePause = 150ms;
 
-/// Whether windows can be made transparent; asking one that cannot is answered with a warning.
-bool hasOpacity() {
-    return !QGuiApplication::platformName().startsWith(QLatin1StringView("wayland"));
-}
-
 void setOpacity(QWidget& window, double opacity) {
-    if (hasOpacity()) window.setWindowOpacity(opacity);
+    // Asking a window that cannot be made transparent is answered with a warning.
+    if (!isWayland()) window.setWindowOpacity(opacity);
 }
 
 }  // namespace

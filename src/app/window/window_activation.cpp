@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "app/session/instance_claim.h"
+#include "app/window/window_system.h"
 #include "ui/components/make_child.h"
 
 namespace vantor {
@@ -69,14 +70,12 @@ QString activationTokenOfEnvironment() {
 }
 
 void bringToFront(QWidget& window, const QString& activationToken) {
-    const QString platform = QGuiApplication::platformName();
-    const bool isWayland = platform.startsWith(QStringLiteral("wayland"));
     // It is from there that the toolkit takes it for the next request, and then removes it.
-    if (isWayland && !activationToken.isEmpty())
+    if (isWayland() && !activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toLatin1());
     if (window.isMinimized()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
-    if (platform == u"xcb") makeChild<X11Activation>(&window);
+    if (QGuiApplication::platformName() == u"xcb") makeChild<X11Activation>(&window);
     // This is also what sends the change on its way: the toolkit holds requests back otherwise.
     raiseAndActivate(window);
 }

@@ -7,6 +7,8 @@
 
 #include <utility>
 
+#include "app/window/window_system.h"
+
 namespace vantor {
 
 namespace {
@@ -42,8 +44,7 @@ WindowGeometry::Surroundings WindowGeometry::Surroundings::ofToolkit() {
             areas.push_back(screen->availableGeometry());
         return areas;
     };
-    const bool isWayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-    return {availableAreas, !isWayland};
+    return {availableAreas, !isWayland()};
 }
 
 QString WindowGeometry::fileBeside(const QString& settingsFile) {

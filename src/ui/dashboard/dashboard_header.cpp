@@ -7,6 +7,7 @@
 #include "ui/components/make_child.h"
 #include "ui/dashboard/flow_layout.h"
 #include "ui/dashboard/horizontal_fit.h"
+#include "ui/formatters.h"
 #include "ui/theme.h"
 
 namespace vantor {
@@ -33,10 +34,9 @@ QString DashboardHeader::pauseSymbol() const {
 }
 
 QString DashboardHeader::intervalText(double seconds) {
-    if (seconds == 0.5) return QStringLiteral("0.5 s");
     // A setting can hold any number until the next load repairs it; it is used as 0.5 to 10.
-    const bool isShowable = std::isfinite(seconds) && std::abs(seconds) < 1e9;
-    return QString::number(isShowable ? std::llround(seconds) : 1) + QStringLiteral(" s");
+    const bool isShowable = std::isfinite(seconds) && std::abs(seconds) < 1e5;
+    return Formatters::interval(isShowable ? seconds : 1, QStringLiteral("s"));
 }
 
 DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_view subtitle,

@@ -34,7 +34,7 @@ struct DashboardHeader {
     QString pauseTitle() const;
     QString pauseSymbol() const;
 
-    /// "0.5 s" for half a second, whole seconds otherwise.
+    /// "0.5 s", "2 s"; "1 s" for what cannot be an interval.
     static QString intervalText(double seconds);
 };
 

@@ -1,6 +1,10 @@
 #include "ui/help/help_texts.h"
 
+#include <QStringList>
+
 #include <string_view>
+
+#include "settings/app_settings.h"
 
 namespace vantor {
 
@@ -8,6 +12,23 @@ namespace {
 
 QString text(std::string_view words) {
     return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+}
+
+/// "0.5, 1, 2, 5 or 10 seconds".
+QString offeredIntervals() {
+    QStringList numbers;
+    for (const double seconds : AppSettings::refreshIntervals)
+        numbers << QString::number(seconds);
+    const QString last = numbers.takeLast();
+    return QStringLiteral("%1 or %2 seconds").arg(numbers.join(QStringLiteral(", ")), last);
+}
+
+HelpSection liveMonitoring() {
+    return {QStringLiteral("Live Monitoring"),
+            QStringLiteral("Choose a refresh interval from %1. Pause stops periodic sampling, "
+                           "Refresh Now requests a fresh snapshot, and the charts keep only the "
+                           "configured bounded history.")
+                .arg(offeredIntervals())};
 }
 
 HelpSection dashboard(const PlatformWords& words) {
@@ -47,10 +68,7 @@ QString HelpTexts::summary(const PlatformWords& words) {
 }
 
 std::vector<HelpSection> HelpTexts::sections(const PlatformWords& words) {
-    return {{QStringLiteral("Live Monitoring"),
-             QStringLiteral("Choose a refresh interval from 0.5, 1, 2, 5 or 10 seconds. Pause "
-                            "stops periodic sampling, Refresh Now requests a fresh snapshot, and "
-                            "the charts keep only the configured bounded history.")},
+    return {liveMonitoring(),
             dashboard(words),
             processExplorer(words),
             menuBarAndWindows(words),

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "ui/cards/card_texts.h"
+#include "ui/formatters.h"
 
 namespace vantor {
 
@@ -16,10 +17,10 @@ QString SettingsForm::historyLabel() const {
 }
 
 QString SettingsForm::intervalLabel(double seconds) {
-    if (seconds == 0.5) return QStringLiteral("0.5 second");
-    if (seconds == 1) return QStringLiteral("1 second");
     if (!std::isfinite(seconds)) return CardTexts::unknownYet();
-    return QString::number(seconds, 'g', 6) + QStringLiteral(" seconds");
+    const bool isOne = seconds == 0.5 || seconds == 1;
+    return Formatters::interval(seconds,
+                                isOne ? QStringLiteral("second") : QStringLiteral("seconds"));
 }
 
 QStringList SettingsForm::intervalLabels() {
