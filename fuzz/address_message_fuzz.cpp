@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/linux/network/netlink_messages.h"
+#include "platform/linux/network/link_source.h"
 
 #include "require.h"
 
@@ -11,7 +11,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     LinkSource::Address address;
     LinkSource::Address reused;  // what it held before must not show
     reused.bytes.fill(9);
-    reused.isLinkScope = true;
     const AddressVerdict verdict = parseAddress(std::as_bytes(payload), address);
     require(parseAddress(std::as_bytes(payload), reused) == verdict);
     if (verdict != AddressVerdict::address) return 0;

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/linux/network/netlink_messages.h"
+#include "platform/linux/network/link_source.h"
 
 #include "require.h"
 

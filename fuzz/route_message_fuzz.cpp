@@ -1,4 +1,4 @@
-#include "platform/linux/network/netlink_messages.h"
+#include "platform/linux/network/route_source.h"
 
 #include "require.h"
 

@@ -82,9 +82,10 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/system/kernel_facts_test.cpp
         platform/linux/files/kernel_file_test.cpp
         platform/linux/files/kernel_list_file_test.cpp
+        platform/linux/network/link_messages_test.cpp
         platform/linux/network/link_source_test.cpp
         platform/linux/graphics/linux_accelerators_test.cpp
-        platform/linux/system/libc_name_order_test.cpp
+        platform/posix/libc_name_order_test.cpp
         platform/linux/confinement/linux_confinement_test.cpp
         platform/linux/graphics/linux_graphics_devices_test.cpp
         platform/linux/memory/linux_host_memory_test.cpp
@@ -146,7 +147,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/posix/posix_shared_file_test.cpp)
     if(ICU_FOUND)
         target_sources(linux_tests PRIVATE
-            platform/linux/system/icu_name_order_test.cpp)
+            platform/posix/icu_name_order_test.cpp)
     endif()
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.

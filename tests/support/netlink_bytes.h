@@ -86,10 +86,9 @@ inline rtmsg routeHeader(int family) {
     return header;
 }
 
-inline Bytes addressHeader(int family, unsigned index, int scope = RT_SCOPE_UNIVERSE) {
+inline Bytes addressHeader(int family, unsigned index) {
     ifaddrmsg header{};
     header.ifa_family = static_cast<std::uint8_t>(family);
-    header.ifa_scope = static_cast<std::uint8_t>(scope);
     header.ifa_index = index;
     return bytesOf(header);
 }

@@ -105,10 +105,9 @@ class RecordedLinks : public LinkSource {
         list.clear();
         return forEachLine(folder_ / "addresses", [&](std::istringstream& words) {
             Address address;
-            std::string text, scope;
-            if (!(words >> address.index >> text >> scope)) return false;
+            std::string text;
+            if (!(words >> address.index >> text)) return false;
             address.isIPv6 = text.find(':') != std::string::npos;
-            address.isLinkScope = scope == "link";
             list.push_back(address);
             const int family = address.isIPv6 ? AF_INET6 : AF_INET;
             return ::inet_pton(family, text.c_str(), list.back().bytes.data()) == 1;

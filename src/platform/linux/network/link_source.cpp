@@ -5,6 +5,8 @@
 #include <linux/rtnetlink.h>
 #include <sys/socket.h>
 
+#include <algorithm>
+#include <cstring>
 #include <utility>
 
 #include "platform/linux/network/netlink_messages.h"
@@ -12,6 +14,8 @@
 namespace vantor {
 
 namespace {
+
+constexpr std::size_t longestLinkName = 15;
 
 struct LinkRequest {
     nlmsghdr header{};
@@ -41,6 +45,26 @@ AddressRequest addressRequest() {
     request.header.nlmsg_type = RTM_GETADDR;
     request.body.ifa_family = AF_UNSPEC;
     return request;
+}
+
+void readName(NetlinkBytes value, std::string& name) {
+    const auto end = std::find(value.begin(), value.end(), std::byte{0});
+    const auto length = static_cast<std::size_t>(end - value.begin());
+    if (length > longestLinkName) return;
+    name.resize(length);
+    std::memcpy(name.data(), value.data(), length);
+}
+
+/// Kernels append fields to the statistics; the byte counts have always been the third and fourth.
+template <class Counter>
+bool readCounters(NetlinkBytes value, LinkSource::Link& link) {
+    const auto received = readNetlink<Counter>(value, 2 * sizeof(Counter));
+    const auto sent = readNetlink<Counter>(value, 3 * sizeof(Counter));
+    if (!received || !sent) return false;
+    link.receivedBytes = *received;
+    link.sentBytes = *sent;
+    link.hasCounters = true;
+    return true;
 }
 
 struct LinkReceiver : NetlinkDump::Receiver {
@@ -91,6 +115,51 @@ class LiveLinkSource : public LinkSource {
 };
 
 }  // namespace
+
+bool parseLink(NetlinkBytes payload, LinkSource::Link& link) {
+    const auto header = readNetlink<ifinfomsg>(payload);
+    if (!header) return false;
+    link.index = static_cast<std::uint32_t>(header->ifi_index);
+    link.flags = header->ifi_flags;
+    link.receivedBytes = 0;
+    link.sentBytes = 0;
+    link.hasCounters = false;
+    link.name.clear();
+    bool hasWideCounters = false;
+    return forEachNetlinkAttribute(
+        pastNetlink(payload, sizeof(ifinfomsg)), [&](int type, NetlinkBytes value) {
+            if (type == IFLA_IFNAME) {
+                readName(value, link.name);
+            } else if (type == IFLA_STATS64) {
+                hasWideCounters |= readCounters<std::uint64_t>(value, link);
+            } else if (type == IFLA_STATS && !hasWideCounters) {
+                readCounters<std::uint32_t>(value, link);
+            }
+        });
+}
+
+AddressVerdict parseAddress(NetlinkBytes payload, LinkSource::Address& address) {
+    const auto header = readNetlink<ifaddrmsg>(payload);
+    if (!header) return AddressVerdict::malformed;
+    address = {};
+    address.index = header->ifa_index;
+    address.isIPv6 = header->ifa_family == AF_INET6;
+    const std::size_t size = address.isIPv6 ? 16 : 4;
+    NetlinkBytes local;
+    NetlinkBytes other;
+    const bool isWhole = forEachNetlinkAttribute(pastNetlink(payload, sizeof(ifaddrmsg)),
+                                                 [&](int type, NetlinkBytes value) {
+                                                     if (value.size() != size) return;
+                                                     if (type == IFA_LOCAL) local = value;
+                                                     if (type == IFA_ADDRESS) other = value;
+                                                 });
+    if (!isWhole) return AddressVerdict::malformed;
+    if (!address.isIPv6 && header->ifa_family != AF_INET) return AddressVerdict::notOurs;
+    const NetlinkBytes bytes = local.empty() ? other : local;
+    if (bytes.empty()) return AddressVerdict::notOurs;
+    std::memcpy(address.bytes.data(), bytes.data(), bytes.size());
+    return AddressVerdict::address;
+}
 
 std::shared_ptr<LinkSource> makeLiveLinkSource(NetlinkDump::OpenSocket openSocket) {
     return std::make_shared<LiveLinkSource>(std::move(openSocket));

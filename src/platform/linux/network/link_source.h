@@ -1,8 +1,10 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,7 +29,6 @@ class LinkSource {
         std::uint32_t index = 0;  ///< of its link
         bool isIPv6 = false;
         std::array<std::uint8_t, 16> bytes = {};  ///< IPv4 in the first four
-        bool isLinkScope = false;
 
         bool operator==(const Address&) const = default;
     };
@@ -38,6 +39,18 @@ class LinkSource {
     virtual bool links(std::vector<Link>& list) = 0;
     virtual bool addresses(std::vector<Address>& list) = 0;
 };
+
+/// Reads the payload of an RTM_NEWLINK: index, name, flags, and the 64-bit counters or else the
+/// 32-bit ones. False when it is cut or malformed. A name that no link can have comes out empty.
+/// Pure; replaces all of `link`, reusing its storage.
+bool parseLink(std::span<const std::byte> payload, LinkSource::Link& link);
+
+enum class AddressVerdict { address, notOurs, malformed };
+
+/// Reads the payload of an RTM_NEWADDR: the machine's own end of the link (IFA_LOCAL), else
+/// IFA_ADDRESS, which on a point-to-point link is the other end. `notOurs` is another family, or an
+/// address without its bytes. Pure; replaces all of `address`.
+AddressVerdict parseAddress(std::span<const std::byte> payload, LinkSource::Address& address);
 
 /// From netlink, over a socket that is opened when first asked and kept.
 std::shared_ptr<LinkSource> makeLiveLinkSource(

@@ -33,7 +33,7 @@ class NetlinkDump {
     /// into the buffer, is asked for again, a few times. False when there is no whole list.
     bool dump(std::span<std::byte> request, Receiver& receiver);
 
-    /// A socket of NETLINK_ROUTE on which nobody waits longer than two seconds.
+    /// A socket of NETLINK_ROUTE whose reads time out after two seconds.
     static FileDescriptor openRouteSocket();
 
   private:

@@ -1,20 +1,25 @@
 #pragma once
 
+#include <linux/netlink.h>
+#include <linux/rtnetlink.h>
+
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <optional>
 #include <span>
 
-#include "platform/linux/network/link_source.h"
-#include "platform/linux/network/route_source.h"
-
 namespace vantor {
+
+using NetlinkBytes = std::span<const std::byte>;
 
 /// A message of a netlink datagram (linux/netlink.h), its header taken apart.
 struct NetlinkMessage {
     std::uint16_t type = 0;
     std::uint16_t flags = 0;
     std::uint32_t sequence = 0;
-    std::span<const std::byte> payload;  ///< within the datagram
+    NetlinkBytes payload;  ///< within the datagram
 };
 
 /// Walks the messages of one datagram. Pure.
@@ -22,29 +27,67 @@ class NetlinkMessages {
   public:
     enum class Step { message, end, malformed };
 
-    explicit NetlinkMessages(std::span<const std::byte> datagram) : rest_(datagram) {}
+    explicit NetlinkMessages(NetlinkBytes datagram) : rest_(datagram) {}
 
     /// After `end` or `malformed` there is nothing more.
     Step next(NetlinkMessage& message);
 
   private:
-    std::span<const std::byte> rest_;
+    NetlinkBytes rest_;
 };
 
-/// Reads the payload of an RTM_NEWLINK: index, name, flags, and the 64-bit counters or else the
-/// 32-bit ones. False when it is cut or malformed. A name that no link can have comes out empty.
-/// Pure; replaces all of `link`, reusing its storage.
-bool parseLink(std::span<const std::byte> payload, LinkSource::Link& link);
+/// A structure of the kernel's, which lies in the datagram at any address: it is copied out. Absent
+/// when it is cut. Pure, as the others here.
+template <class T>
+std::optional<T> readNetlink(NetlinkBytes bytes, std::size_t offset = 0) {
+    if (offset > bytes.size() || bytes.size() - offset < sizeof(T)) return std::nullopt;
+    T value;
+    std::memcpy(&value, bytes.data() + offset, sizeof value);
+    return value;
+}
 
-enum class AddressVerdict { address, notOurs, malformed };
+constexpr std::size_t netlinkAligned(std::size_t length) {
+    return (length + 3) & ~std::size_t{3};
+}
 
-/// Reads the payload of an RTM_NEWADDR: the machine's own end of the link (IFA_LOCAL), else
-/// IFA_ADDRESS, which on a point-to-point link is the other end. `notOurs` is another family, or an
-/// address without its bytes. Pure; replaces all of `address`.
-AddressVerdict parseAddress(std::span<const std::byte> payload, LinkSource::Address& address);
+/// What follows `length` bytes and the padding to the next multiple of four, which the last one of
+/// a list may lack.
+inline NetlinkBytes pastNetlink(NetlinkBytes bytes, std::size_t length) {
+    return bytes.subspan(std::min(netlinkAligned(length), bytes.size()));
+}
 
-/// Reads the payload of an RTM_NEWROUTE; of several next hops the first that is alive counts. False
-/// when it is cut or malformed. Pure; replaces all of `route`.
-bool parseRoute(std::span<const std::byte> payload, RouteSource::Route& route);
+/// Calls `visit(type, value)` for each attribute; false when they are malformed.
+template <class Visit>
+bool forEachNetlinkAttribute(NetlinkBytes rest, Visit visit) {
+    const std::byte* at = rest.data();
+    std::size_t left = rest.size();
+    while (left > 0) {
+        rtattr header;
+        if (left < sizeof header) return false;
+        std::memcpy(&header, at, sizeof header);
+        const std::size_t length = header.rta_len;
+        if (length < sizeof header || length > left) return false;
+        visit(header.rta_type & NLA_TYPE_MASK,
+              NetlinkBytes(at + sizeof header, length - sizeof header));
+        const std::size_t step = std::min(netlinkAligned(length), left);
+        at += step;
+        left -= step;
+    }
+    return true;
+}
+
+inline NetlinkMessages::Step NetlinkMessages::next(NetlinkMessage& message) {
+    if (rest_.empty()) return Step::end;
+    const auto header = readNetlink<nlmsghdr>(rest_);
+    if (!header || header->nlmsg_len < sizeof(nlmsghdr) || header->nlmsg_len > rest_.size()) {
+        return Step::malformed;
+    }
+    message.type = header->nlmsg_type;
+    message.flags = header->nlmsg_flags;
+    message.sequence = header->nlmsg_seq;
+    message.payload = rest_.subspan(sizeof(nlmsghdr), header->nlmsg_len - sizeof(nlmsghdr));
+    rest_ = pastNetlink(rest_, header->nlmsg_len);
+    return Step::message;
+}
 
 }  // namespace vantor

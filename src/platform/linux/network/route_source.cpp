@@ -31,6 +31,22 @@ RouteRequest ipv6RouteRequest() {
     return request;
 }
 
+std::uint32_t numberIn(NetlinkBytes value) {
+    return readNetlink<std::uint32_t>(value).value_or(0);
+}
+
+/// The interface of the first hop that is alive; 0 when there is none.
+std::uint32_t firstHop(NetlinkBytes rest) {
+    while (const auto hop = readNetlink<rtnexthop>(rest)) {
+        if (hop->rtnh_len < sizeof(rtnexthop) || hop->rtnh_len > rest.size()) return 0;
+        if ((hop->rtnh_flags & RTNH_F_DEAD) == 0) {
+            return static_cast<std::uint32_t>(hop->rtnh_ifindex);
+        }
+        rest = pastNetlink(rest, hop->rtnh_len);
+    }
+    return 0;
+}
+
 class DefaultRouteReceiver : public NetlinkDump::Receiver {
   public:
     DefaultRouteReceiver(std::string& name, int maxRoutes) : name_(name), maxRoutes_(maxRoutes) {}
@@ -93,6 +109,29 @@ class LiveRouteSource : public RouteSource {
 };
 
 }  // namespace
+
+bool parseRoute(NetlinkBytes payload, RouteSource::Route& route) {
+    const auto header = readNetlink<rtmsg>(payload);
+    if (!header) return false;
+    route = {};
+    route.family = header->rtm_family;
+    route.table = header->rtm_table;
+    constexpr unsigned unusable = RTNH_F_DEAD | RTM_F_CLONED;
+    const bool isUsable = header->rtm_type == RTN_UNICAST && (header->rtm_flags & unusable) == 0;
+    route.isDefault = isUsable && header->rtm_dst_len == 0;
+    return forEachNetlinkAttribute(pastNetlink(payload, sizeof(rtmsg)),
+                                   [&](int type, NetlinkBytes value) {
+                                       if (type == RTA_TABLE) {
+                                           route.table = numberIn(value);
+                                       } else if (type == RTA_PRIORITY) {
+                                           route.metric = numberIn(value);
+                                       } else if (type == RTA_OIF) {
+                                           route.index = numberIn(value);
+                                       } else if (type == RTA_MULTIPATH) {
+                                           route.index = firstHop(value);
+                                       }
+                                   });
+}
 
 std::shared_ptr<RouteSource> makeLiveRouteSource(NetlinkDump::OpenSocket openSocket,
                                                  int maxRoutes) {

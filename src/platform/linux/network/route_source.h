@@ -1,8 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "platform/linux/network/netlink_dump.h"
@@ -29,6 +30,10 @@ class RouteSource {
     /// failed. The loopback carries no default route.
     virtual bool ipv6DefaultInterface(std::string& name) = 0;
 };
+
+/// Reads the payload of an RTM_NEWROUTE; of several next hops the first that is alive counts. False
+/// when it is cut or malformed. Pure; replaces all of `route`.
+bool parseRoute(std::span<const std::byte> payload, RouteSource::Route& route);
 
 /// From netlink, over a socket that is opened when first asked and kept. The text in
 /// /proc/net/ipv6_route has the routes of all tables and does not tell which is whose.

@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/linux/network/netlink_messages.h"
 #include "support/fake_proc_kernel.h"
 
 namespace vantor::route_source_test {

@@ -1,4 +1,4 @@
-#include "platform/linux/system/icu_name_order.h"
+#include "platform/posix/icu_name_order.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

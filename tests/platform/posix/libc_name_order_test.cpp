@@ -1,4 +1,4 @@
-#include "platform/linux/system/libc_name_order.h"
+#include "platform/posix/libc_name_order.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

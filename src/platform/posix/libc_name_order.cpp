@@ -1,11 +1,11 @@
-#include "platform/linux/system/libc_name_order.h"
+#include "platform/posix/libc_name_order.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <utility>
 
-#include "platform/linux/system/key_ranks.h"
+#include "platform/posix/key_ranks.h"
 
 namespace vantor {
 

@@ -1,10 +1,10 @@
-#include "platform/linux/system/icu_name_order.h"
+#include "platform/posix/libc_name_order.h"
 #include "platform/native_machine.h"
 
 namespace vantor {
 
 std::unique_ptr<NameOrder> makeNativeNameOrder() {
-    return std::make_unique<ICUNameOrder>(languageOfNames());
+    return std::make_unique<LibcNameOrder>();
 }
 
 }  // namespace vantor

@@ -1,4 +1,4 @@
-#include "platform/linux/system/icu_name_order.h"
+#include "platform/posix/icu_name_order.h"
 
 #include <unicode/ucol.h>
 #include <unicode/ustring.h>
@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/linux/system/key_ranks.h"
+#include "platform/posix/key_ranks.h"
 
 namespace vantor {
 

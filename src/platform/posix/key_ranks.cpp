@@ -1,4 +1,4 @@
-#include "platform/linux/system/key_ranks.h"
+#include "platform/posix/key_ranks.h"
 
 #include <algorithm>
 #include <cstddef>
