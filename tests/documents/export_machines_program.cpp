@@ -21,7 +21,7 @@
 /// Exports the snapshots of all machines into a folder, and writes beside each of them what every
 /// value in it is, in a form that no JSON writer had a hand in: `place kind value` a line, the
 /// value being the 64 bits of a floating one, the digits of an integer, true or false, or the bytes
-/// of a text, in hexadecimal.
+/// of a text, in hexadecimal. `optional_keys` has the keys that a record may lack.
 namespace vantor {
 namespace {
 
@@ -73,6 +73,24 @@ void dumpInto(const std::filesystem::path& file, const SystemSnapshot& snapshot)
     dump(snapshot, "", out);
     out.close();
     if (!out) throw std::runtime_error("cannot write " + file.string());
+}
+
+/// The keys that may be missing: a line `object key` for each, the object by the key that it is
+/// under.
+template <class T>
+void listOptionalKeys(const std::string& name, std::ostream& out) {
+    if constexpr (isOptional<T> || isList<T>) {
+        listOptionalKeys<typename T::value_type>(name, out);
+    } else if constexpr (std::is_class_v<T> &&
+                         !std::is_null_pointer_v<std::remove_const_t<decltype(fieldsOf<T>)>>) {
+        const T record{};
+        forEachField(record, [&](const char* key, const auto& field) {
+            using Field = std::remove_cvref_t<decltype(field)>;
+            if (isOptional<Field>) out << name << ' ' << key << '\n';
+            listOptionalKeys<Field>(key, out);
+            return true;
+        });
+    }
 }
 
 /// Thousands of floating values of all magnitudes, and the ends of every integer.
@@ -132,6 +150,8 @@ void exportAll(const std::filesystem::path& folder) {
     writeDocument(folder, "extreme-numbers", extremeNumbers());
     writeDocument(folder, "odd-texts", oddTexts());
     writeDocument(folder, "stand-in", SystemSnapshot::empty());
+    std::ofstream keys(folder / "optional_keys");
+    listOptionalKeys<SystemSnapshot>("", keys);
 }
 
 }  // namespace
