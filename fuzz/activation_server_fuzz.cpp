@@ -14,7 +14,8 @@
 
 #include "require.h"
 
-/// What somebody says to the socket, piece by piece: each piece has its length in a byte before it.
+/// What a client writes to the socket, piece by piece: each piece has its length in a byte before
+/// it.
 namespace {
 
 using vantor::ActivationServer;
@@ -38,7 +39,7 @@ class Server {
         std::filesystem::remove_all(folder_, ignored);
     }
 
-    /// Whether the program came forward; whoever talks is always hung up on.
+    /// Whether the program came forward; every connection is closed in the end.
     bool hear(std::string_view input) {
         activations_ = 0;
         const vantor::FileDescriptor talker = vantor::connectedTo(path());

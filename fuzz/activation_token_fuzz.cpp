@@ -4,7 +4,7 @@
 
 #include "require.h"
 
-/// A token is told as bytes or as letters; it goes into the environment.
+/// A token comes as bytes or as letters; it goes into the environment.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vantor;
     using fuzz::require;
@@ -12,8 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool isToken = size <= 512 && std::all_of(text.begin(), text.end(), [](char c) {
                              return static_cast<signed char>(c) >= 0x20 && c != 0x7f;
                          });
-    for (const QString& told : {QString::fromLatin1(text), QString::fromUtf8(text)}) {
-        require(checkedToken(told) == (isToken ? told : QString()));
+    for (const QString& token : {QString::fromLatin1(text), QString::fromUtf8(text)}) {
+        require(checkedToken(token) == (isToken ? token : QString()));
     }
     const auto wide = QString::fromUtf16(reinterpret_cast<const char16_t*>(text.data()),
                                          static_cast<qsizetype>(size / sizeof(char16_t)));

@@ -8,7 +8,7 @@
 
 namespace vantor::fuzz {
 
-/// CPU clocks that say whatever they are told to.
+/// CPU clocks with any value.
 class LyingClocks : public ProcessClocks {
   public:
     std::map<std::int32_t, std::uint64_t> times{{0, 1}};

@@ -18,7 +18,7 @@
 
 namespace vantor::fuzz {
 
-/// A folder like /proc that says whatever it is told to. Made once for all inputs and emptied for
+/// A folder like /proc with any content. Made once for all inputs and emptied for
 /// each, because making folders takes longest.
 class LyingProc {
   public:

@@ -10,7 +10,7 @@
 #include "lying_proc.h"
 #include "require.h"
 
-/// A kernel that hands out numbers as it likes, and clocks that agree with nobody.
+/// A kernel that assigns identifiers in any order, and clocks with any value.
 namespace vantor {
 namespace {
 
@@ -82,7 +82,7 @@ class TrackerRun {
         clocks_->seconds += 1;
     }
 
-    /// Who was there and is not gone still is; whoever came has a clock.
+    /// Processes that were there and did not end still are; new ones have a clock.
     void judgeFollowed(const std::vector<std::int32_t>& before,
                        const std::vector<std::int32_t>& gone) const {
         const auto now = tracker_.pids();

@@ -7,7 +7,7 @@
 
 #include "require.h"
 
-/// Whoever calls over the session bus puts any values under any keys, ours among them.
+/// A caller over the session bus puts any values under any keys, ours among them.
 namespace vantor {
 namespace {
 
@@ -88,9 +88,9 @@ std::optional<QString> tokenUnder(const QVariantMap& data, QLatin1StringView key
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vantor;
     FuzzedDataProvider input(data, size);
-    const QVariantMap told = Caller(input).data();
-    const auto wayland = tokenUnder(told, waylandTokenKey);
-    const auto x11 = tokenUnder(told, x11TokenKey);
-    fuzz::require(tokenIn(told) == wayland.value_or(x11.value_or(QString())));
+    const QVariantMap sent = Caller(input).data();
+    const auto wayland = tokenUnder(sent, waylandTokenKey);
+    const auto x11 = tokenUnder(sent, x11TokenKey);
+    fuzz::require(tokenIn(sent) == wayland.value_or(x11.value_or(QString())));
     return 0;
 }
