@@ -17,7 +17,7 @@ constexpr std::size_t countersPerProcessor = 4;
 constexpr std::size_t loadAverageCount = 3;
 constexpr std::uint32_t processorCountLimit = std::uint32_t{1} << 30;
 
-/// Gives the kernel's array back, on every path.
+/// Releases the kernel's array on every path.
 class ArrayGuard {
   public:
     ArrayGuard(HostProcessors& host, const HostProcessors::ProcessorArray& array)

@@ -17,7 +17,7 @@ void sortRegistryStats(std::vector<RegistryStats>& stats);
 /// `metalDevices`. Entries at the places of `excluding` belong to other devices.
 ///
 /// By identifier, else by a name that leaves no doubt, else because there is one device and one
-/// entry and nothing speaks against it. Rather none than a wrong one.
+/// entry and nothing contradicts it. Rather none than a wrong one.
 std::optional<std::size_t> matchingRegistryStatsIndex(
     const MetalDeviceMetadata& device, std::size_t fallbackIndex, std::span<const RegistryStats> in,
     std::span<const MetalDeviceMetadata> metalDevices, std::span<const std::size_t> excluding);

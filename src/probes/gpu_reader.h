@@ -42,7 +42,7 @@ class GPUReader {
     GPUTemperatureSources temperatures_;
     std::vector<MetalDeviceMetadata> cachedMetalDevices_;
     std::optional<double> lastMetalMetadataRefreshUptime_;  ///< absent before the first
-    // Working storage, which says nothing between two reads.
+    // Working storage without meaning between two reads.
     std::vector<RegistryStats> registryStatsBuffer_;
     FlattenedStatistics flattenedValueBuffer_;
     std::vector<std::size_t> matchedRegistryIndexBuffer_;

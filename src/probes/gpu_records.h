@@ -18,7 +18,7 @@ struct MetalDeviceMetadata {
     bool operator==(const MetalDeviceMetadata&) const = default;
 };
 
-/// What one accelerator service of the registry says of itself.
+/// The properties of one accelerator service of the registry.
 struct RegistryStats {
     std::optional<std::uint64_t> registryEntryID;
     std::optional<double> utilization;       ///< busy fraction 0 to 1

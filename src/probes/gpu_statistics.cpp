@@ -23,7 +23,7 @@ bool hasTerm(std::string_view path, std::string_view term) {
     return path.find(term) != path.npos;
 }
 
-/// The first answer that `check(path, value)` gives, term by term and pair by pair.
+/// The first result that `check(path, value)` returns, term by term and pair by pair.
 template <class Check>
 auto firstPassing(const FlattenedStatistics& pairs, std::span<const std::string_view> terms,
                   Check check) -> decltype(check(std::string_view{}, 0.0)) {

@@ -10,7 +10,7 @@
 namespace vantor {
 
 /// Where a graphics device's temperature comes from when its driver publishes none. Called on the
-/// graphics provider's queue; by default nobody knows anything.
+/// graphics provider's queue; by default every temperature is absent.
 struct GPUTemperatureSources {
     /// Of the graphics processor that is part of the machine's chip.
     std::function<std::optional<double>()> hardware = [] { return std::optional<double>(); };

@@ -8,9 +8,9 @@
 
 namespace vantor {
 
-/// The machine's temperature sensors, shared by whoever asks for a temperature, in degrees Celsius;
-/// absent when no sensor tells a plausible one. Keeps the machine alive. Any thread, several at
-/// once: what is known of the sensors is kept by the machine, once for all who ask.
+/// The machine's temperature sensors, shared by all readers of a temperature, in degrees Celsius;
+/// absent when no sensor has a plausible one. Keeps the machine alive. Any thread, several at
+/// once: what is known of the sensors is kept by the machine, once for all readers.
 class HardwareTemperatureReader {
   public:
     explicit HardwareTemperatureReader(std::shared_ptr<Machine> machine)

@@ -20,7 +20,7 @@ ByteCount sum(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
     return first ? checkedSum(*first, c) : std::nullopt;
 }
 
-/// Gives the port back, on every path.
+/// Releases the port on every path.
 class PortGuard {
   public:
     explicit PortGuard(HostMemory& host) : host_(host), port_(host.acquirePort()) {}

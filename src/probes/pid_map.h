@@ -64,7 +64,8 @@ class PIDMap {
         if (size_ == 0) return;
         std::size_t hole = placeOf(pid);
         if (keys_[hole] != pid) return;
-        // Whoever was pushed past this place by it moves back, so that searches may end at a gap.
+        // Entries that were pushed past this place by it move back, so that searches may end at a
+        // gap.
         for (std::size_t next = after(hole); keys_[next] != 0; next = after(next)) {
             const std::size_t home = homeOf(keys_[next]);
             const std::size_t mask = keys_.size() - 1;
@@ -85,10 +86,10 @@ class PIDMap {
         }
     }
 
-    /// Gives back what more than `count` entries, or those that are there, would need.
+    /// Frees what more than `count` entries, or those that are there, would need.
     void shrink(std::size_t count) { rebuild(placesFor(std::max(count, size_))); }
 
-    /// Gives all storage back.
+    /// Frees all storage.
     void reset() { *this = PIDMap{}; }
 
   private:

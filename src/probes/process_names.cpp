@@ -17,7 +17,7 @@ std::string_view written(std::span<const char> buffer, int count) {
     return bytes.substr(0, bytes.find('\0'));
 }
 
-/// Keeps the texts that are there when they say the same.
+/// Keeps the texts that are there when they are equal.
 void assign(ProcessMetadata& metadata, std::string_view name, std::string_view command) {
     if (metadata.name.string() == name && metadata.command.string() == command) return;
     if (name == command) {

@@ -15,9 +15,9 @@ namespace vantor {
 /// memory, and the 18 heaviest by each.
 ///
 /// One thread at a time: the sampler calls it on the process provider's queue only. A process is
-/// told from another that got its identifier by its start time. Names and paths are looked up when
-/// a process is first seen, soon again, and then every ten seconds, because that is the expensive
-/// part; where the system knows that nothing is new, once a minute.
+/// distinguished by its start time from another with the same identifier. Names and paths are
+/// looked up when a process is first seen, soon again, and then every ten seconds, because that is
+/// the expensive part; where the system knows that nothing is new, once a minute.
 class ProcessReader {
   public:
     explicit ProcessReader(std::shared_ptr<Machine> machine);
@@ -29,7 +29,7 @@ class ProcessReader {
     /// Forgets the times, so that the next call takes a baseline again; names stay known.
     void resetDeltas();
 
-    /// The working storage, for whoever watches its size.
+    /// The working storage, for tests and diagnostics that watch its size.
     const ProcessStorage& storage() const { return storage_; }
 
   private:

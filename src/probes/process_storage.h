@@ -32,7 +32,7 @@ class ProcessStorage {
     std::int64_t maximumPIDCapacity() const { return maximumPIDCapacity_; }
 
     /// Looks whether the storage is oversized for `active` processes at `now` (seconds of uptime),
-    /// and gives it back when it has been for 30 seconds.
+    /// and frees it when it has been for 30 seconds.
     void trim(std::size_t active, double now);
 
     /// Forgets everything but the names.

@@ -11,7 +11,7 @@
 namespace vantor {
 
 /// The places of the heaviest entries of a list, heaviest first, found by bounded insertion: one
-/// look at each entry, no sorting of all. `weigh` gives what is compared; equals go by lower pid.
+/// look at each entry, no sorting of all. `weigh` returns what is compared; equals go by lower pid.
 template <class Weigh>
 class TopN {
   public:

@@ -51,8 +51,8 @@ int countColor(const QImage& picture, const QRect& area, const QColor& color) {
 
 Desktop::Desktop(QSize screen) : environment_(QProcessEnvironment::systemEnvironment()) {
     const QString size = QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height());
-    // Unless it is told not to, it starts anew when its last client leaves, and throws out who was
-    // just coming.
+    // Without this option it resets when its last client leaves, and disconnects one that is
+    // just connecting.
     server_.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                    QStringLiteral("0"), size, QStringLiteral("-nolisten"), QStringLiteral("tcp"),

@@ -58,8 +58,8 @@ class Desktop {
     /// The title of the window that has the keyboard.
     QString activeTitle() const;
 
-    /// Whether server and window manager still run, and all windows there are: for who has to find
-    /// out why something did not happen.
+    /// Whether server and window manager still run, and all windows there are: for the message of a
+    /// test that waited in vain.
     QString condition();
 
     /// A file in the home folder.

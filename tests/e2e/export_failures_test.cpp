@@ -9,7 +9,7 @@
 
 #include "e2e/export_scene.h"
 
-/// Exports that cannot work: the user is told, the file of before stays, and the next one works.
+/// Exports that fail: an alert is shown, the old file stays, and the next export works.
 namespace vantor::export_failures_test {
 namespace {
 

@@ -16,7 +16,7 @@
 #include "e2e/export_scene.h"
 
 /// A volume that hangs, named in the save dialog: the window goes on, and the program ends when it
-/// is told to.
+/// is asked to.
 namespace vantor::hung_volume_test {
 namespace {
 
@@ -154,7 +154,7 @@ TEST_F(HungVolume, TheProgramEndsWhenItIsToldTo) {
     EXPECT_EQ(program_->exitStatus(), 0);
 }
 
-/// The kernel waits for an answer that the server owes it, whoever has asked: what is left has no
+/// The kernel waits for the answer that the server owes it, for every caller: what is left has no
 /// window and no connection.
 TEST_F(HungVolume, ThatHasTakenTheQuestionLeavesNothingToBeSeenOfTheProgram) {
     hang(Manner::keepsQuestions);

@@ -8,7 +8,7 @@
 #include "e2e/program_fixture.h"
 
 /// Too little of what every program needs: it goes on or says in a line why it cannot, and ends
-/// when it is told to.
+/// when it is asked to.
 namespace vantor::scarcity_test {
 namespace {
 

@@ -8,8 +8,8 @@
 
 namespace vantor {
 
-/// The program as who uses it through a screen reader alone operates it: by roles and names,
-/// without a keyboard and without a place on the screen.
+/// The program as a user of a screen reader operates it: by roles and names, without a keyboard and
+/// without a place on the screen.
 class SpokenProgram {
   public:
     /// `client` must outlive it.

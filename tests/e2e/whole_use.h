@@ -9,7 +9,7 @@
 
 namespace vantor {
 
-/// What is done with the program beside looking at it, by who has neither keyboard nor screen; so
+/// All that a user does with the program, by assistive technology, without keyboard or pointer; so
 /// it is the same on every display. Each act waits until it shows, and fails the test if it never
 /// does.
 class WholeUse {
@@ -20,7 +20,7 @@ class WholeUse {
         QString folder;     ///< for what is exported
         QString documents;  ///< what the save dialog proposes first
         /// Presses the key that confirms, where there is a keyboard: the tray's panel is not among
-        /// what a screen reader is told of.
+        /// what a screen reader is notified of.
         std::function<void()> confirm{};
     };
 

@@ -24,7 +24,7 @@ ChipPlatform detectPlatform(KernelValues& values);
 ChipFamily chipFamilyOf(std::string_view brand);
 
 /// The controller's keys for the sensors of that family, in the order to be read; empty for those
-/// whose keys nobody knows.
+/// whose keys are unknown.
 std::span<const std::string_view> cpuTemperatureKeys(ChipFamily family);
 std::span<const std::string_view> gpuTemperatureKeys(ChipFamily family);
 

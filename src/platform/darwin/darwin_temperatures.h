@@ -23,7 +23,7 @@ class DarwinTemperatures : public Temperatures {
     bool isAppleSilicon() { return platform().isAppleSilicon; }
 
     /// The controller's keys for the chip's sensors; empty on machines without Apple silicon and
-    /// for chips whose keys nobody knows.
+    /// for chips whose keys are unknown.
     SMCTemperatureReader::Keys cachedAppleSiliconCPUKeys() {
         return cpuTemperatureKeys(platform().family);
     }

@@ -8,7 +8,7 @@
 namespace vantor {
 
 /// The temperature sensors of a Mac's event system. Its functions are found at run time, because no
-/// public header has them; whoever found them passes them to the calls. Any thread.
+/// public header has them; the caller that found them passes them to the calls. Any thread.
 ///
 /// macOS: the functions of the I/O framework that the members are named after.
 class HIDEventSystem {

@@ -33,7 +33,7 @@ class OwnedObject {
     Object object_;
 };
 
-/// Gives the objects of a list back and leaves it empty, its storage kept.
+/// Releases the objects of a list and leaves it empty, its storage kept.
 class OwnedList {
   public:
     OwnedList(HIDEventSystem& system, std::vector<Object>& objects)

@@ -39,9 +39,9 @@ class InterfaceCalls {
 
     virtual ~InterfaceCalls() = default;
 
-    /// The shape of sysctl: gives 0 and sets `size` to the value's size, or gives an errno value.
-    /// An empty buffer only asks for the size; one that is too small gives ENOMEM. The path
-    /// {4, 17, 0, 0, 6, 0} is the list of interfaces with their 64-bit counters, as messages.
+    /// The shape of sysctl: returns 0 and sets `size` to the value's size, or returns an errno
+    /// value. An empty buffer only asks for the size; one that is too small returns ENOMEM. The
+    /// path {4, 17, 0, 0, 6, 0} is the list of interfaces with their 64-bit counters, as messages.
     virtual int sysctl(std::span<const int> path, std::span<std::byte> buffer,
                        std::size_t& size) = 0;
 

@@ -8,7 +8,7 @@ namespace vantor {
 
 /// One message of the list of interfaces with their 64-bit counters (the if_msghdr2 of <net/if.h>
 /// on macOS). Little-endian; every message of the list begins with its length, version and type,
-/// and those of another version or type are for somebody else.
+/// and those of another version or type are skipped.
 namespace interface_message {
 
 inline constexpr std::size_t headerSize = 4;

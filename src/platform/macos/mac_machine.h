@@ -26,7 +26,7 @@
 
 namespace vantor {
 
-/// The Mac that the program runs on. Every call is answered here and by nobody else: see
+/// The Mac that the program runs on. Every call is answered here and by no base class: see
 /// answered_calls.cpp.
 class MacMachine final : public Machine {
   public:

@@ -12,7 +12,7 @@
 
 namespace vantor {
 
-/// A main loop that moves only when told: tests of minutes take microseconds.
+/// A main loop whose time is manual: tests of minutes take microseconds.
 class FakeMainLoop : public MainLoop {
   public:
     explicit FakeMainLoop(std::shared_ptr<FakeClock> clock) : clock_(std::move(clock)) {}
@@ -21,7 +21,7 @@ class FakeMainLoop : public MainLoop {
     TimerID runAfter(std::chrono::nanoseconds delay, Task task) override;
     void cancel(TimerID timer) override;
 
-    /// Runs what is posted now, but not what that posts; gives how many tasks ran.
+    /// Runs what is posted now, but not what that posts. Returns how many tasks ran.
     std::size_t runPosted();
 
     /// Runs the first timer that is due by now, if any.

@@ -12,7 +12,8 @@
 
 namespace vantor {
 
-/// Queues whose tasks run on the caller's thread when told, label by label. Single-threaded.
+/// Queues whose tasks run on the caller's thread when a test runs them, label by label.
+/// Single-threaded.
 ///
 /// The waiting tasks belong to the factory: like those of a real queue, they outlive it.
 class FakeSerialQueueFactory : public SerialQueueFactory {
@@ -30,7 +31,7 @@ class FakeSerialQueueFactory : public SerialQueueFactory {
     /// Runs the oldest waiting task of that queue; false when there is none.
     bool runNext(std::string_view label);
 
-    /// Runs everything that waits now, queue by queue; gives how many tasks ran.
+    /// Runs everything that waits now, queue by queue. Returns how many tasks ran.
     std::size_t runWaiting();
 
   private:

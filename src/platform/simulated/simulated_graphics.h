@@ -29,7 +29,7 @@ SimulatedAccelerators::RawDictionary nestedStatistics(int levels);
 /// level down.
 SimulatedAccelerators::RawDictionary manyStatistics(int count);
 
-/// A figure under a name that says its unit, and what it comes to.
+/// A figure under a name that contains its unit, and its expected value.
 struct StatisticWithUnit {
     std::string key;
     double value;

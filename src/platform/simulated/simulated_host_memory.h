@@ -16,7 +16,7 @@ class SimulatedHostMemory : public HostMemory {
 
     bool statisticsFail = false;
     bool pageSizeFails = false;
-    std::size_t wordCount = 38;  ///< how many words the call says it filled
+    std::size_t wordCount = 38;  ///< returned as the number of words filled
 
     int portsOutstanding = 0;
     std::size_t wordsOffered = 0;  ///< the size of the last buffer

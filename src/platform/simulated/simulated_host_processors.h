@@ -22,7 +22,7 @@ class SimulatedHostProcessors : public HostProcessors {
     std::vector<Ticks> processors;
 
     bool totalFails = false;
-    std::size_t totalCounters = 4;  ///< how many counters the call says it filled
+    std::size_t totalCounters = 4;  ///< returned as the number of counters filled
     bool processorsFail = false;
     bool processorsAnswerNoArray = false;
     std::optional<std::uint32_t> claimedProcessorCount;  ///< instead of the true one

@@ -58,7 +58,7 @@ class SimulatedInterfaceCalls : public InterfaceCalls {
     bool addressListIsEmpty = false;
     std::vector<Entry> extraEntries;  ///< in front of the list of addresses
 
-    /// Told of each buffer that is offered; 0 is the question for the size.
+    /// Called with the size of each buffer that is offered; 0 asks for the size needed.
     std::function<void(std::size_t)> onSysctl;
 
     int addressListsOutstanding = 0;
@@ -78,7 +78,7 @@ class SimulatedInterfaceCalls : public InterfaceCalls {
     void list(const Interface& interface);
 
     std::vector<Entry> entries_;
-    std::vector<const Address*> listed_;  ///< an entry's address says which one it is
+    std::vector<const Address*> listed_;  ///< an entry's address identifies it
 };
 
 }  // namespace vantor

@@ -27,7 +27,7 @@ class SimulatedProcessTable : public ProcessTable {
     /// Answers of the listing with and without a buffer instead of the true ones.
     std::optional<int> claimedCount;
     std::optional<int> claimedListed;
-    int infoSize = taskAllInfoSize;  ///< what taskAllInfo says it filled
+    int infoSize = taskAllInfoSize;  ///< returned as the size that taskAllInfo filled
     std::optional<int> claimedPathLength;
     std::optional<int> claimedNameLength;
     std::optional<Timebase> nativeTimebase = Timebase{1, 1};

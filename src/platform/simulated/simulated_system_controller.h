@@ -21,12 +21,12 @@ class SimulatedSystemController : public SystemController {
     struct Fault {
         int error = 0;                      ///< of the call itself
         std::uint8_t result = 0;            ///< of the record
-        std::optional<std::size_t> length;  ///< told instead of the record's 80 bytes
+        std::optional<std::size_t> length;  ///< returned instead of the record's 80 bytes
     };
     struct Key {
         std::uint32_t type = 0;
         std::vector<std::byte> bytes;        ///< 32 at most
-        std::optional<std::uint32_t> size;   ///< told instead of the number of bytes
+        std::optional<std::uint32_t> size;   ///< returned instead of the number of bytes
         Fault keyInfoFault, readBytesFault;  ///< of the commands
     };
     /// One call of callStructMethod that came through a connection of this controller's.

@@ -60,7 +60,7 @@ class ProcessorSensors {
     static double monotonicSeconds();
 
     List listNotOlderThan(double seconds);
-    /// What `read` makes of a list that has something in the group that `select` gives.
+    /// What `read` makes of a list that has something in the group that `select` returns.
     template <class Select, class Read>
     std::optional<double> hottest(Select select, Read read);
 

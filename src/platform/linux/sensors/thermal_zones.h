@@ -13,7 +13,7 @@ namespace vantor {
 
 /// The temperatures, in thousandths of a degree Celsius, at which a zone begins to be cooled by
 /// slowing down, is about to be too hot, and has the machine switched off. Trip points of the type
-/// "active" turn on fans and say nothing about the machine's state.
+/// "active" turn on fans and do not describe the machine's state.
 struct ThermalTrips {
     std::optional<std::int64_t> passive;
     std::optional<std::int64_t> hot;

@@ -35,7 +35,7 @@ inline constexpr unsigned long cfCompareWidthInsensitive = 256;
 
 /// The functions and constants of Core Foundation that are used, each null where it was not found.
 /// Members are named after the functions, without their prefix. What "create" and "copy" give is
-/// the caller's to release; what "get" gives is borrowed from the object that it came from.
+/// the caller's to release; what "get" returns is owned by the object that it came from.
 /// Allocators are null, which is the default one.
 struct CoreFoundationTable {
     CFTypeRef (*retain)(CFTypeRef) = nullptr;

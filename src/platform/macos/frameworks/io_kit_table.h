@@ -13,7 +13,7 @@ using KernelResult = int;        ///< 0 = success
 /// The functions of the I/O Kit framework that are used, each null where it was not found. Members
 /// are named after the functions, without their prefix.
 struct IOKitTable {
-    /// Owned, and given away by whoever looks services up with it, whatever comes of that.
+    /// Owned; a look-up of services consumes it, also when it fails.
     CFTypeRef (*serviceMatching)(const char* className) = nullptr;
     MachPort (*serviceGetMatchingService)(MachPort mainPort, CFTypeRef matching) = nullptr;
     KernelResult (*serviceGetMatchingServices)(MachPort mainPort, CFTypeRef matching,

@@ -48,7 +48,8 @@ class PropertyConversion {
     /// Another reference to an object that is borrowed.
     RetainedReference share(CFTypeRef object) const;
 
-    /// Whether objects can be told apart and given back. Without that nothing should be asked for.
+    /// Whether objects' types can be queried and objects released. Without that nothing should be
+    /// requested.
     bool isUsable() const { return table_.getTypeID && table_.release; }
     bool canMakeTexts() const { return isUsable() && table_.stringCreateWithBytes; }
 

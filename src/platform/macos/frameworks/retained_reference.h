@@ -4,7 +4,7 @@
 
 namespace vantor {
 
-/// Owns one reference to an object of a framework and gives it back exactly once.
+/// Owns one reference to an object of a framework and releases it exactly once.
 class RetainedReference {
   public:
     using Release = void (*)(const void*);
@@ -32,7 +32,7 @@ class RetainedReference {
     void reset() {
         if (object_) release_(std::exchange(object_, nullptr));
     }
-    /// Gives the reference to whoever takes it.
+    /// Transfers the reference to the caller, who releases it.
     const void* giveAway() { return std::exchange(object_, nullptr); }
 
   private:

@@ -21,7 +21,7 @@ class MacGraphicsDevices : public GraphicsDevices {
     explicit MacGraphicsDevices(std::shared_ptr<const Frameworks> frameworks);
 
     void copyAllDevices(std::vector<Device>& devices) override;
-    /// Told of the devices that were copied last.
+    /// Receives the devices that were copied last.
     std::optional<std::uint64_t> systemDefaultDevice() override;
 
   private:

@@ -13,7 +13,7 @@ void MacHostMemory::releasePort(Port port) {
 }
 
 std::optional<std::size_t> MacHostMemory::vmStatistics(Port port, std::span<std::uint32_t> words) {
-    // The kernel is told the room and fills in what it has of the record, an older one less.
+    // The kernel takes the size offered and fills in what it has of the record, an older one less.
     auto count = static_cast<mach_msg_type_number_t>(words.size());
     auto* const info = reinterpret_cast<host_info64_t>(words.data());
     if (::host_statistics64(port, HOST_VM_INFO64, info, &count) != KERN_SUCCESS) {

@@ -9,7 +9,7 @@ namespace vantor {
 
 namespace {
 
-// More than anybody has mounted: an enumeration that says nothing else has come to no end.
+// More than anybody has mounted: an enumeration that returns more does not end.
 constexpr int maxUnreadable = 1000;
 
 }  // namespace

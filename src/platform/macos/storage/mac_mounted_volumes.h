@@ -36,7 +36,7 @@ class MacMountedVolumes : public MountedVolumes {
         bool wasMissing;  ///< and was listed all the same
     };
 
-    /// Adds the volume behind a URL; false when its path cannot be told.
+    /// Adds the volume behind a URL; false when its path cannot be read.
     bool add(CFTypeRef url, std::vector<Volume>& volumes);
     void addMissing(std::vector<Found> before, std::vector<Volume>& volumes);
     /// The dictionary of those values of the volume that there are. Keys may be null.

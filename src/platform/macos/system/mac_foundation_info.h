@@ -21,7 +21,7 @@ class MacFoundationInfo {
     /// Since version 12.0.
     std::optional<bool> isLowPowerModeEnabled() const;
     std::optional<ProcessInfo::Version> operatingSystemVersion() const;
-    /// Into storage that is reused; false, and `name` empty, when it is not told.
+    /// Into storage that is reused; false, and `name` empty, when there is none.
     ///
     /// May ask the network's name servers, and take as long as these do.
     bool hostName(std::string& name) const;

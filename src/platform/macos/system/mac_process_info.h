@@ -13,7 +13,7 @@ namespace vantor {
 /// kernel names the version and the host; a thermal state is then unknown, and the low-power mode
 /// off.
 ///
-/// The uptime stands still while the machine sleeps, in every place that it is told.
+/// The uptime does not count while the machine sleeps, in every call that returns it.
 class MacProcessInfo : public ProcessInfo {
   public:
     explicit MacProcessInfo(std::shared_ptr<const Frameworks> frameworks);
