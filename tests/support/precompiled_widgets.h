@@ -1,5 +1,6 @@
 // Belongs to the library that the precompiled headers are made for.
 #pragma once
 
-#include "../../cmake/precompiled_toolkit.h"
 #include "support/precompiled.h"
+
+#include "../../cmake/precompiled_toolkit.h"
