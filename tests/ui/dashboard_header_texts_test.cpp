@@ -27,8 +27,7 @@ TEST(DashboardHeader, PauseBecomesResume) {
     EXPECT_EQ(utf8(paused().pauseSymbol()), "play.fill");
 }
 
-TEST(DashboardHeader, IntervalIsWrittenAsItIs) {
-    EXPECT_EQ(utf8(DashboardHeader::intervalText(0.25)), "0.25 s");
+TEST(DashboardHeader, IntervalIsHalfASecondOrWholeOnes) {
     EXPECT_EQ(utf8(DashboardHeader::intervalText(0.5)), "0.5 s");
     EXPECT_EQ(utf8(DashboardHeader::intervalText(1)), "1 s");
     EXPECT_EQ(utf8(DashboardHeader::intervalText(2)), "2 s");

@@ -1,5 +1,5 @@
-#include "platform/posix/libc_name_order.h"
 #include "platform/native_machine.h"
+#include "platform/posix/libc_name_order.h"
 
 namespace vantor {
 

@@ -36,7 +36,8 @@ QString DashboardHeader::pauseSymbol() const {
 QString DashboardHeader::intervalText(double seconds) {
     // A setting can hold any number until the next load repairs it; it is used as 0.5 to 10.
     const bool isShowable = std::isfinite(seconds) && std::abs(seconds) < 1e5;
-    return Formatters::interval(isShowable ? seconds : 1, QStringLiteral("s"));
+    const auto whole = static_cast<double>(isShowable ? std::llround(seconds) : 1);
+    return Formatters::interval(seconds == 0.5 ? seconds : whole, QStringLiteral("s"));
 }
 
 DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
