@@ -8,6 +8,7 @@ target_link_libraries(strict_program PRIVATE vantor_app vantor_warnings)
 
 # The program itself, in a real X server with a window manager.
 add_executable(vantor_e2e_tests
+    e2e/actions_test.cpp
     e2e/assistive_client.cpp
     e2e/assistive_test.cpp
     e2e/bus_tray_test.cpp

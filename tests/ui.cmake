@@ -90,10 +90,12 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/tray/menu_bar_commands_test.cpp
     app/readable_texts_test.cpp
     app/vantor_app_test.cpp
+    app/vantor_app_actions_test.cpp
     # Without.
     app/app_delegate_test.cpp
     app/app_commands_test.cpp
     app/session/changing_bus_test.cpp
+    app/session/command_line_test.cpp
     app/window/launch_stabilizer_test.cpp
     app/session/local_claim_test.cpp
     app/qt_alerts_test.cpp

@@ -8,10 +8,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 #include "app/desktop.h"
 #include "app/files/qt_export_platform.h"
 #include "app/files/user_defaults.h"
+#include "app/session/command_line.h"
 #include "app/session/instance_claim.h"
 #include "app/session/quit_watch.h"
 #include "app/session/safe_environment.h"
@@ -47,10 +49,21 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
     if (type == QtCriticalMsg) endWhereToolkitGivesUp(type, context, message);
 }
 
+/// Prints what it is to print; the exit status where there is nothing else to do.
+std::optional<int> statusWithoutRunning(const CommandLine& line) {
+    if (line.kind == CommandLine::Kind::run) return std::nullopt;
+    const bool isMistake = line.kind == CommandLine::Kind::mistake;
+    std::fputs(line.text.c_str(), isMistake ? stderr : stdout);
+    return isMistake ? CommandLine::mistakeStatus : EXIT_SUCCESS;
+}
+
 }  // namespace
 
 int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
               const std::shared_ptr<Confinement>& confinement) {
+    // First of all: the answer needs neither a display nor a disk.
+    const auto line = CommandLine::of({argv + std::min(argc, 1), argv + argc});
+    if (const auto status = statusWithoutRunning(line)) return *status;
     // They keep their place, also where that does not answer: nothing waits for them.
     const QString settingsFile = userSettingsFile();
     makeEnvironmentSafe();
@@ -71,7 +84,7 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
-    auto instance = std::make_unique<SingleInstance>(activationToken);
+    auto instance = std::make_unique<SingleInstance>(Activation{line.action, activationToken});
     if (instance->role() == SingleInstance::Role::second) return EXIT_SUCCESS;
     installViewAccessibility();
 
@@ -83,14 +96,14 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
                                        nativeDesktopTraits(),
                                        {},
                                        confinement});
-    instance->setOnActivate([&](const QString& token) { vantor->reopen(token); });
+    instance->setOnActivate([&](const Activation& asked) { vantor->perform(asked); });
     const QuitWatch quitWatch(application, watchdog);
     const TerminationSignals terminationSignals([] { QApplication::quit(); });
     const SessionEnd sessionEnd(application, [&] { vantor->saveState(); });
     using Listening = Confinement::Listening;
     confinement->confineForRunning(instance->mayBeginToListen() ? Listening::mayBegin
                                                                 : Listening::isOver);
-    vantor->openDashboard();
+    vantor->begin(line.action);
     const int status = QApplication::exec();
     watchdog.ending();
     instance.reset();  // a program started from now on is the first

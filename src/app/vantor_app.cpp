@@ -28,16 +28,9 @@ constexpr auto settlingTime = 4s;
 // windows are gone by then, so none of them freezes.
 constexpr auto writePatience = DefaultsFile::endPatience;
 
-/// Preferences that are read late take effect late, except for those that the user has changed by
-/// then: otherwise windows would show other values than the stored ones.
 std::shared_ptr<AppSettings> loadSettings(const std::shared_ptr<DefaultsFile>& defaults) {
     defaults->waitForRead();
-    auto settings =
-        std::make_shared<AppSettings>(defaults, std::make_shared<QtApplicationAppearance>());
-    defaults->setOnLateRead([weak = std::weak_ptr(settings)] {
-        if (const auto held = weak.lock()) held->takeUpStored();
-    });
-    return settings;
+    return std::make_shared<AppSettings>(defaults, std::make_shared<QtApplicationAppearance>());
 }
 
 }  // namespace
@@ -67,6 +60,7 @@ VantorApp::VantorApp(Environment environment)
                  [this] { monitor_->exportSnapshot(); }, [this] { openSettings(); },
                  [this] { openHelp(); }, quit_},
                 environment.desktop.hasOneMenuBar) {
+    defaults_->setOnLateRead([this] { takeUpLateSettings(); });
     // Read too late, they are for the next start: a window that the user looks at stays in place.
     frames_->waitForRead();
     // Whether the last window ends the program is asked each time.
@@ -100,7 +94,7 @@ std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& i
         // one. Scripts and tests can watch it from outside.
         if (DashboardWindow* const window = dashboardWindow())
             window->setWindowIconText(QStringLiteral("Vantor"));
-        mainLoop_->runAfter(settlingTime, [] { giveBackUnusedMemory(); });
+        scheduleSettling();
     };
     auto window = std::make_unique<DashboardWindow>(
         DashboardView::Environment{settings_, monitor_, machine_, mainLoop_, metadata_,
@@ -113,7 +107,19 @@ std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& i
     return window;
 }
 
-void VantorApp::openSettings() {
+void VantorApp::scheduleSettling() {
+    mainLoop_->runAfter(settlingTime, [] { giveBackUnusedMemory(); });
+}
+
+/// Preferences that are read late take effect late, except for those that the user has changed by
+/// then: otherwise windows would show other values than the stored ones.
+void VantorApp::takeUpLateSettings() {
+    settings_->takeUpStored();
+    // A program that began in the background may have to do without its tray item after all.
+    if (menuBar_ && !menuBar_->hasStatusItem() && !hasVisibleWindow()) openDashboard();
+}
+
+void VantorApp::openSettings(const QString& activationToken) {
     if (!monitor_) return;
     if (!settingsWindow_) {
         auto view = std::make_unique<SettingsView>(SettingsView::Environment{
@@ -123,7 +129,7 @@ void VantorApp::openSettings() {
             std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view));
         commands_.addTo(settingsWindow_.get());
     }
-    settingsWindow_->open();
+    settingsWindow_->open(activationToken);
 }
 
 void VantorApp::openHelp() {

@@ -12,6 +12,7 @@
 #include "app/app_delegate.h"
 #include "app/build_info.h"
 #include "app/desktop.h"
+#include "app/session/app_action.h"
 #include "app/tray/menu_bar_controller.h"
 #include "app/tray/status_bar.h"
 #include "app/window/content_window.h"
@@ -65,9 +66,17 @@ class VantorApp : public QObject {
     virtual void openDashboard() = 0;
     virtual DashboardWindow* dashboardWindow() = 0;
 
-    void openSettings();
+    void openSettings(const QString& activationToken = {});
     void openHelp();
     void openAbout();
+
+    /// The program's start for `action`: with the dashboard, or in the background without any
+    /// window, where something can lead back to it.
+    void begin(AppAction action);
+
+    /// What the user asks for from outside. Figures are paused and refreshed where the program is,
+    /// and what needs a window comes forward.
+    void perform(const Activation& activation);
 
     /// The user started the program again, or clicked its icon; the token lets it come forward.
     void reopen(const QString& activationToken);
@@ -110,6 +119,10 @@ class VantorApp : public QObject {
     bool hasVisibleWindow() const;
     void lastWindowClosed();
     void statusBarChanged();
+    void beginInBackground();
+    void takeUpLateSettings();
+    void scheduleSettling();
+    void hideInTray();
     void finishWriting();
     void waitForTray(std::chrono::milliseconds patience);
 

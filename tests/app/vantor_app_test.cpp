@@ -238,12 +238,14 @@ TEST_F(VantorAppTest, WithoutADisplayItSaysSoInASentenceAndEndsInsteadOfAborting
               "vantor: no display could be opened; please start it from a desktop session.\n");
 }
 
-TEST_F(VantorAppTest, ArgumentsOfTheToolkitAreNotHandedOn) {
+TEST_F(VantorAppTest, ArgumentsOfTheToolkitAreRefusedInALine) {
     const Outcome run = runProgram({QStringLiteral("answering"), QStringLiteral("-platform"),
                                     QStringLiteral("there is none of this name")},
                                    folder.path());
     ASSERT_TRUE(run.ended) << run.errors.toStdString();
-    EXPECT_EQ(run.status, 7) << run.errors.toStdString();
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.errors.toStdString(),
+              "vantor: unknown option '-platform'; 'vantor --help' lists the options.\n");
 }
 
 TEST_F(VantorAppTest, SettingsAndHelpOpenLargeEnoughForALargeFont) {

@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cerrno>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 #include "app/session/local_socket.h"
@@ -13,13 +15,23 @@ namespace vantor {
 
 namespace {
 
-const QByteArray verb = "activate ";
 constexpr qsizetype maxRequestSize = 1024;
+
+/// What a line without its end asks for; none where it is no request.
+std::optional<Activation> activationIn(const QByteArray& line) {
+    const qsizetype space = line.indexOf(' ');
+    if (space < 0) return std::nullopt;
+    const auto action = actionNamed({line.constData(), static_cast<std::size_t>(space)});
+    if (!action) return std::nullopt;
+    return Activation{*action, checkedToken(QString::fromLatin1(line.mid(space + 1)))};
+}
 
 }  // namespace
 
-QByteArray ActivationServer::request(const QString& token) {
-    return verb + token.toLatin1() + '\n';
+QByteArray ActivationServer::request(const Activation& activation) {
+    const std::string_view name = nameOf(activation.action);
+    return QByteArray(name.data(), static_cast<qsizetype>(name.size())) + ' ' +
+           activation.token.toLatin1() + '\n';
 }
 
 ActivationServer::ActivationServer(QByteArray path, OnActivate onActivate)
@@ -68,15 +80,11 @@ void ActivationServer::read(Place talker) {
     if (count > 0) talker->said.append(bytes.data(), count);
     const auto end = talker->said.indexOf('\n');
     if (count > 0 && end < 0 && talker->said.size() < maxRequestSize) return;
-    const bool isRequest = end >= verb.size() && talker->said.startsWith(verb);
-    const QString token =
-        isRequest
-            ? checkedToken(QString::fromLatin1(talker->said.mid(verb.size(), end - verb.size())))
-            : QString();
-    if (isRequest) [[maybe_unused]]
+    const auto asked = end < 0 ? std::nullopt : activationIn(talker->said.left(end));
+    if (asked) [[maybe_unused]]
         const auto told = ::write(talker->socket.get(), &promise, 1);
     hangUp(talker);
-    if (isRequest) onActivate_(token);
+    if (asked) onActivate_(*asked);
 }
 
 void ActivationServer::hangUp(Place talker) {

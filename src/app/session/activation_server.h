@@ -14,18 +14,18 @@
 
 namespace vantor {
 
-/// Listens on a local socket for starts of the program that want this one to come forward.
+/// Listens on a local socket for starts of the program that ask this one for something.
 ///
-/// A request is one line; the answer is one byte and the end of the connection. A client that sends
-/// anything else, too much, nothing for a second, or that connects beside too many others, is
-/// disconnected. Main thread.
+/// A request is one line, an action and a token; the answer is one byte and the end of the
+/// connection. A client that sends anything else, too much, nothing for a second, or that connects
+/// beside too many others, is disconnected. Main thread.
 class ActivationServer {
   public:
     static constexpr char promise = '+';
     static constexpr std::chrono::milliseconds patience{1000};
     static constexpr std::size_t maxTalkers = 8;
 
-    static QByteArray request(const QString& token);
+    static QByteArray request(const Activation& activation);
 
     /// A former file at `path` is removed; the caller knows that no process uses it.
     ActivationServer(QByteArray path, OnActivate onActivate);

@@ -5,19 +5,20 @@
 
 #include <functional>
 
+#include "app/session/app_action.h"
+
 namespace vantor {
 
 /// The result of claiming to be the one program of a session.
 enum class ClaimOutcome {
     owned,        ///< there is no other; later starts will find this program
-    handedOver,   ///< another one is running, and has confirmed to come forward
+    handedOver,   ///< another one is running, and has confirmed
     noAnswer,     ///< another one is running, but does not answer in time
     unavailable,  ///< cannot be determined
 };
 
-/// Called on the main thread when another start asks this program to come forward, with the token
-/// that allows it to (empty when there is none).
-using OnActivate = std::function<void(const QString& activationToken)>;
+/// Called on the main thread with what another start, or a peer on the bus, asks for.
+using OnActivate = std::function<void(const Activation& activation)>;
 
 /// The program's name on the bus, and that of its desktop file: what a desktop finds its windows,
 /// its icon and its menu entry by.

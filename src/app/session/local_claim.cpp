@@ -37,11 +37,11 @@ LocalClaim::LocalClaim(const QString& folder, const QString& display, OnActivate
     std::signal(SIGPIPE, SIG_IGN);
 }
 
-ClaimOutcome LocalClaim::claim(const QString& token, const QDeadlineTimer& deadline) {
+ClaimOutcome LocalClaim::claim(const Activation& activation, const QDeadlineTimer& deadline) {
     for (;;) {
         const ClaimOutcome outcome = take();
         if (outcome != ClaimOutcome::noAnswer) return outcome;
-        const Answer answer = ask(token, deadline);
+        const Answer answer = ask(activation, deadline);
         if (answer == Answer::yes) return ClaimOutcome::handedOver;
         if (answer == Answer::none || deadline.hasExpired()) return ClaimOutcome::noAnswer;
         // The other program is just starting or ending.
@@ -68,10 +68,11 @@ ClaimOutcome LocalClaim::take() {
     return ClaimOutcome::unavailable;
 }
 
-LocalClaim::Answer LocalClaim::ask(const QString& token, const QDeadlineTimer& deadline) const {
+LocalClaim::Answer LocalClaim::ask(const Activation& activation,
+                                   const QDeadlineTimer& deadline) const {
     const FileDescriptor socket = connectedTo(base_ + ".socket");
     if (!socket) return Answer::gone;
-    const QByteArray request = ActivationServer::request(token);
+    const QByteArray request = ActivationServer::request(activation);
     if (::write(socket.get(), request.constData(), static_cast<size_t>(request.size())) !=
         request.size()) {
         return Answer::gone;

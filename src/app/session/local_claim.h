@@ -21,14 +21,14 @@ class LocalClaim {
     LocalClaim(const QString& folder, const QString& display, OnActivate onActivate);
 
     /// Takes no longer than until `deadline`.
-    ClaimOutcome claim(const QString& token, const QDeadlineTimer& deadline);
+    ClaimOutcome claim(const Activation& activation, const QDeadlineTimer& deadline);
 
     /// The same, without asking a running program.
     ClaimOutcome take();
 
   private:
     enum class Answer { yes, none, gone };
-    Answer ask(const QString& token, const QDeadlineTimer& deadline) const;
+    Answer ask(const Activation& activation, const QDeadlineTimer& deadline) const;
 
     QByteArray base_;  // of both paths
     OnActivate onActivate_;

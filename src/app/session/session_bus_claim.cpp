@@ -4,10 +4,13 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QVariantMap>
 
 #include <algorithm>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 #include "ui/components/make_child.h"
@@ -40,8 +43,59 @@ QString name() {
     return QString::fromLatin1(applicationIdentifier);
 }
 
+/// Of a message of any peer, no more is looked at than a desktop sends.
+QVariantMap firstEntriesOf(const QVariant& platformData) {
+    constexpr int most = 32;
+    QVariantMap entries;
+    const auto dictionary = platformData.value<QDBusArgument>();
+    if (dictionary.currentType() != QDBusArgument::MapType) return entries;
+    dictionary.beginMap();
+    for (int i = 0; i < most && !dictionary.atEnd(); ++i) {
+        QString key;
+        QDBusVariant value;
+        dictionary.beginMapEntry();
+        dictionary >> key >> value;
+        dictionary.endMapEntry();
+        entries.insert(key, value.variant());
+    }
+    return entries;
+}
+
+/// What a call asks for; none where there is no such action, or not with these parameters.
+std::optional<AppAction> actionAskedFor(const QVariantList& arguments) {
+    constexpr qsizetype longestName = 64;
+    const QString name = arguments.at(0).toString();
+    const auto parameters = arguments.at(1).value<QDBusArgument>();
+    if (name.size() > longestName || parameters.currentType() != QDBusArgument::ArrayType)
+        return std::nullopt;
+    parameters.beginArray();
+    if (!parameters.atEnd()) return std::nullopt;
+    return actionNamed(name.toStdString());
+}
+
 int busPatience(const QDeadlineTimer& deadline) {
     return static_cast<int>(std::clamp<qint64>(deadline.remainingTime(), 1, 60'000));
+}
+
+QDBusMessage requestFor(const Activation& activation) {
+    const QString& token = activation.token;
+    const QVariantMap platformData =
+        token.isEmpty() ? QVariantMap()
+                        : QVariantMap{{waylandTokenKey, token}, {x11TokenKey, token}};
+    const bool isActivate = activation.action == AppAction::activate;
+    auto request = QDBusMessage::createMethodCall(
+        name(), objectPath, interfaceName,
+        isActivate ? QStringLiteral("Activate") : QStringLiteral("ActivateAction"));
+    if (isActivate) {
+        request.setArguments({platformData});
+    } else {
+        const std::string_view action = nameOf(activation.action);
+        request.setArguments(
+            {QString::fromLatin1(action.data(), static_cast<qsizetype>(action.size())),
+             QVariantList(), platformData});
+    }
+    request.setAutoStartService(false);
+    return request;
 }
 
 QDBusMessage nameRequest(uint flags) {
@@ -70,10 +124,16 @@ class SessionBusClaim::Application : public QDBusVirtualObject {
         const bool isAction = method == u"ActivateAction" && signature == u"sava{sv}";
         const bool isOpen = method == u"Open" && signature == u"asa{sv}";
         if (!isActivate && !isAction && !isOpen) return false;
+        const QVariantList arguments = message.arguments();
+        const auto action = isAction ? actionAskedFor(arguments) : AppAction::activate;
         // First: the caller waits for it, and coming forward may take a moment.
-        if (message.isReplyRequired()) connection.send(message.createReply());
-        // There are no files to open and no actions: both come forward only.
-        if (!isOpen) onActivate_(tokenIn(qdbus_cast<QVariantMap>(message.arguments().constLast())));
+        if (message.isReplyRequired())
+            connection.send(action ? message.createReply()
+                                   : message.createErrorReply(QDBusError::InvalidArgs,
+                                                              QStringLiteral("No such action")));
+        // There are no files to open.
+        if (action && !isOpen)
+            onActivate_({*action, tokenIn(firstEntriesOf(arguments.constLast()))});
         return true;
     }
 
@@ -155,11 +215,9 @@ void SessionBusClaim::waitInLine() {
     });
 }
 
-ClaimOutcome SessionBusClaim::claim(const QString& token, const QDeadlineTimer& deadline) {
+ClaimOutcome SessionBusClaim::claim(const Activation& activation, const QDeadlineTimer& deadline) {
     if (!connect()) return ClaimOutcome::unavailable;
-    const QVariantMap platformData =
-        token.isEmpty() ? QVariantMap()
-                        : QVariantMap{{waylandTokenKey, token}, {x11TokenKey, token}};
+    QDBusMessage request = requestFor(activation);
     do {
         const Name found = requestName(deadline);
         if (found == Name::ours) {
@@ -167,11 +225,7 @@ ClaimOutcome SessionBusClaim::claim(const QString& token, const QDeadlineTimer& 
             return ClaimOutcome::owned;
         }
         if (found == Name::unknown) return ClaimOutcome::unavailable;
-        auto activate = QDBusMessage::createMethodCall(name(), objectPath, interfaceName,
-                                                       QStringLiteral("Activate"));
-        activate.setArguments({platformData});
-        activate.setAutoStartService(false);
-        const QDBusMessage reply = connection_->call(activate, QDBus::Block, busPatience(deadline));
+        const QDBusMessage reply = connection_->call(request, QDBus::Block, busPatience(deadline));
         if (reply.type() == QDBusMessage::ReplyMessage) return ClaimOutcome::handedOver;
         const auto error = QDBusError(reply).type();
         // Otherwise the owner has just ended, and the name may be free now.

@@ -25,7 +25,7 @@ class SessionBusClaim {
     ~SessionBusClaim();
 
     /// To be called once. Takes no longer than until `deadline`, provided that the bus works.
-    ClaimOutcome claim(const QString& token, const QDeadlineTimer& deadline);
+    ClaimOutcome claim(const Activation& activation, const QDeadlineTimer& deadline);
 
     /// From now on owns the name, or queues for it until its owner leaves; and joins a bus that is
     /// not there yet, or was lost, trying again after half a second, doubling up to a minute.

@@ -14,26 +14,27 @@ SingleInstance::Surroundings SingleInstance::Surroundings::ofProcess() {
     return {sessionBusAddress(), privateRuntimeFolder(), displayName()};
 }
 
-SingleInstance::SingleInstance(const QString& activationToken, const Surroundings& surroundings)
-    : role_(claim(checkedToken(activationToken), surroundings)) {}
+SingleInstance::SingleInstance(const Activation& activation, const Surroundings& surroundings)
+    : role_(claim({activation.action, checkedToken(activation.token)}, surroundings)) {}
 
 SingleInstance::~SingleInstance() = default;
 
-SingleInstance::Role SingleInstance::claim(const QString& token, const Surroundings& surroundings) {
+SingleInstance::Role SingleInstance::claim(const Activation& activation,
+                                           const Surroundings& surroundings) {
     const QDeadlineTimer deadline(surroundings.patience);
-    const auto onActivate = [this](const QString& received) { activate(received); };
+    const auto onActivate = [this](const Activation& received) { activate(received); };
     auto outcome = ClaimOutcome::unavailable;
     if (!surroundings.runtimeFolder.isEmpty()) {
         local_ = std::make_unique<LocalClaim>(surroundings.runtimeFolder, surroundings.display,
                                               onActivate);
-        outcome = local_->claim(token, deadline);
+        outcome = local_->claim(activation, deadline);
         if (outcome == ClaimOutcome::handedOver) return Role::second;
     }
     if (!surroundings.busAddress.isEmpty()) {
         bus_ = std::make_unique<SessionBusClaim>(surroundings.busAddress, onActivate);
         // A program that has not answered here will not answer there.
         if (outcome != ClaimOutcome::noAnswer &&
-            bus_->claim(token, deadline) == ClaimOutcome::handedOver) {
+            bus_->claim(activation, deadline) == ClaimOutcome::handedOver) {
             bus_.reset();
             local_.reset();
             return Role::second;
@@ -53,14 +54,17 @@ void SingleInstance::holdLocally() {
 
 void SingleInstance::setOnActivate(OnActivate onActivate) {
     onActivate_ = std::move(onActivate);
-    if (onActivate_ && waiting_) onActivate_(*std::exchange(waiting_, nullptr));
+    if (!onActivate_) return;
+    for (const Activation& activation : std::exchange(waiting_, {}))
+        onActivate_(activation);
 }
 
-void SingleInstance::activate(const QString& token) {
+void SingleInstance::activate(const Activation& activation) {
+    constexpr std::size_t most = 16;
     if (onActivate_) {
-        onActivate_(token);
-    } else {
-        waiting_ = std::make_unique<QString>(token);
+        onActivate_(activation);
+    } else if (waiting_.size() < most) {
+        waiting_.push_back(activation);
     }
 }
 

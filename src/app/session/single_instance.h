@@ -6,6 +6,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "app/session/back_off.h"
 #include "app/session/instance_claim.h"
@@ -15,8 +16,8 @@ namespace vantor {
 class LocalClaim;
 class SessionBusClaim;
 
-/// Makes the program the only one in its user's session: the first one goes on, a second start asks
-/// it to come forward and is to end.
+/// Makes the program the only one in its user's session: the first one goes on, a second start
+/// hands over to it what it was started for, and is to end.
 ///
 /// The first one holds a lock in the user's runtime folder, and listens on a socket there: one
 /// program a display, whatever becomes of any bus. Where there is a session bus, it owns the name
@@ -44,8 +45,8 @@ class SingleInstance {
         static Surroundings ofProcess();
     };
 
-    /// Claims to be the first, or hands `activationToken` over to the first.
-    explicit SingleInstance(const QString& activationToken,
+    /// Claims to be the first, or hands `activation` over to the first.
+    explicit SingleInstance(const Activation& activation,
                             const Surroundings& surroundings = Surroundings::ofProcess());
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
@@ -56,16 +57,16 @@ class SingleInstance {
     /// Whether another program still has a lock or name that this one waits for.
     bool mayBeginToListen() const { return localRetry_.isActive(); }
 
-    /// Called at later starts; at once for one that came before this call.
+    /// Called for later starts; at once for those that came before this call.
     void setOnActivate(OnActivate onActivate);
 
   private:
-    void activate(const QString& token);
-    Role claim(const QString& token, const Surroundings& surroundings);
+    void activate(const Activation& activation);
+    Role claim(const Activation& activation, const Surroundings& surroundings);
     void holdLocally();
 
     OnActivate onActivate_;
-    std::unique_ptr<QString> waiting_;  // the token of a start before setOnActivate
+    std::vector<Activation> waiting_;  // before setOnActivate
     std::unique_ptr<SessionBusClaim> bus_;
     std::unique_ptr<LocalClaim> local_;
     BackOff localBackOff_;

@@ -25,13 +25,13 @@ ContentWindow::ContentWindow(const QString& title, std::unique_ptr<QWidget> cont
     resize(ideal.boundedTo(room).expandedTo(smallest));
 }
 
-void ContentWindow::open() {
+void ContentWindow::open(const QString& activationToken) {
     if (!wasShown_) {
         wasShown_ = true;
         const QRect room = screen()->availableGeometry();
         move(room.center() - rect().center());
     }
-    bringToFront(*this, {});
+    bringToFront(*this, activationToken);
     content_->setFocus();
 }
 

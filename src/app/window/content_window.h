@@ -16,8 +16,8 @@ class ContentWindow : public QWidget {
 
     QWidget& content() { return *content_; }
 
-    /// Shows it, or brings it to the front.
-    void open();
+    /// Shows it, or brings it to the front; the token allows that, where there is one.
+    void open(const QString& activationToken = {});
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

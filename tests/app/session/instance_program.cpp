@@ -13,10 +13,11 @@
 #include "app/window/window_geometry.h"
 #include "platform/native_machine.h"
 
-/// A program of which there is one: says "first" and then, for each later start, "activated" and
-/// its token; or says "second" and ends. With a window, which keeps its place and has the title of
-/// the second argument, if "window" is said; with "hanging" it never answers.
-/// PATIENCE_OF_INSTANCE, in the environment, are milliseconds.
+/// A program of which there is one: says "first" and then, for each later start, "activated" or the
+/// name of what else it was started for, and its token; or says "second" and ends. With a window,
+/// which keeps its place and has the title of the second argument, if "window" is said; with
+/// "hanging" it never answers. PATIENCE_OF_INSTANCE, in the environment, are milliseconds;
+/// ACTION_OF_INSTANCE is what it is started for.
 int main(int argc, char** argv) {
     const std::string_view manner = argc > 1 ? argv[1] : "";
     const QString token = vantor::activationTokenOfEnvironment();
@@ -29,7 +30,9 @@ int main(int argc, char** argv) {
     auto surroundings = vantor::SingleInstance::Surroundings::ofProcess();
     if (const int patience = qEnvironmentVariableIntValue("PATIENCE_OF_INSTANCE"))
         surroundings.patience = std::chrono::milliseconds(patience);
-    vantor::SingleInstance instance(token, surroundings);
+    const auto action = vantor::actionNamed(qgetenv("ACTION_OF_INSTANCE").toStdString());
+    vantor::SingleInstance instance({action.value_or(vantor::AppAction::activate), token},
+                                    surroundings);
     if (instance.role() == vantor::SingleInstance::Role::second) {
         say(QStringLiteral("second"));
         return 0;
@@ -46,9 +49,13 @@ int main(int argc, char** argv) {
     frames->waitForRead();
     auto geometry = std::make_unique<vantor::WindowGeometry>(window, "Vantor.LegacyDashboard",
                                                              frames, mainLoop);
-    instance.setOnActivate([&](const QString& received) {
-        if (manner == "window") vantor::bringToFront(window, received);
-        say(QStringLiteral("activated ") + received);
+    instance.setOnActivate([&](const vantor::Activation& asked) {
+        if (manner == "window") vantor::bringToFront(window, asked.token);
+        const auto name = vantor::nameOf(asked.action);
+        const QString what = asked.action == vantor::AppAction::activate
+                                 ? QStringLiteral("activated")
+                                 : QString::fromUtf8(name.data(), qsizetype(name.size()));
+        say(what + u' ' + asked.token);
     });
     const vantor::TerminationSignals handling([] { QCoreApplication::exit(0); });
     if (manner == "window") window.show();

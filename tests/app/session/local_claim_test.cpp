@@ -32,7 +32,8 @@ class LocalClaimTest : public testing::Test {
 
     std::unique_ptr<LocalClaim> make(const QString& display = QStringLiteral(":0")) {
         return std::make_unique<LocalClaim>(
-            folder.path(), display, [this](const QString& token) { tokens.push_back(token); });
+            folder.path(), display,
+            [this](const Activation& asked) { tokens.push_back(asked.token); });
     }
     static ClaimOutcome claim(LocalClaim& which, int milliseconds = 50) {
         return which.claim({}, QDeadlineTimer(milliseconds));

@@ -37,7 +37,8 @@ void quitAndGetStuck() {
 /// The whole program on a machine whose first processor reading asks it to quit with status 7, and
 /// then answers ("answering") or never does ("hanging"). Says "quitting" when it asks. Or the
 /// reading gets its main thread stuck in a read of standard input, out of the blue ("stuck") or
-/// when it is about to quit ("quitting"); says "stuck" then.
+/// when it is about to quit ("quitting"); says "stuck" then. What follows are the program's own
+/// arguments.
 int main(int argc, char** argv) {
     const std::string_view manner = argc > 1 ? argv[1] : "";
     const bool hangs = manner == "hanging";
@@ -50,7 +51,7 @@ int main(int argc, char** argv) {
                 QCoreApplication::instance(), [quits] { quits ? quitAndGetStuck() : getStuck(); },
                 Qt::QueuedConnection);
         };
-        return vantor::runVantor(argc, argv, machine);
+        return vantor::runVantor(argc - 1, argv + 1, machine);
     }
     machine->hostProcessors().onTotalTicks = [hangs, asked = std::make_shared<bool>(false)] {
         if (*asked) return;
@@ -61,5 +62,5 @@ int main(int argc, char** argv) {
             QCoreApplication::instance(), [] { QCoreApplication::exit(7); }, Qt::QueuedConnection);
         if (hangs) hang();
     };
-    return vantor::runVantor(argc, argv, machine);
+    return vantor::runVantor(argc - 1, argv + 1, machine);
 }

@@ -60,6 +60,18 @@ TEST_P(SingleInstanceTest, HandsItsTokenOver) {
     EXPECT_EQ(first.says(), "activated");
 }
 
+TEST_P(SingleInstanceTest, HandsOverWhatItWasStartedForWithItsToken) {
+    session.set("XDG_ACTIVATION_TOKEN", QStringLiteral("t"));
+    Start first(session.environment());
+    ASSERT_EQ(first.says(), "first");
+    for (const char* const action :
+         {"pause", "resume", "refresh", "export", "settings", "background"}) {
+        Start second(session.with("ACTION_OF_INSTANCE", QString::fromLatin1(action)));
+        EXPECT_EQ(second.says(), "second");
+        EXPECT_EQ(first.says(), action + QByteArray(" t"));
+    }
+}
+
 TEST_P(SingleInstanceTest, OfManyThatStartTogetherOneRemains) {
     std::vector<std::unique_ptr<Start>> starts;
     for (int i = 0; i < 4; ++i)
@@ -183,9 +195,31 @@ TEST_F(ApplicationOnTheBus, AnswersAsAnApplicationDoes) {
     EXPECT_EQ(call("Open", {QStringList{QStringLiteral("file:///etc/passwd")}, none}).type(),
               QDBusMessage::ReplyMessage);
     const QVariantMap data{{QStringLiteral("desktop-startup-id"), QStringLiteral("by-action")}};
-    EXPECT_EQ(call("ActivateAction", {QStringLiteral("new"), QVariantList(), data}).type(),
+    EXPECT_EQ(call("ActivateAction", {QStringLiteral("export"), QVariantList(), data}).type(),
               QDBusMessage::ReplyMessage);
-    EXPECT_EQ(first->says(), "activated by-action") << "and nothing for the files";
+    EXPECT_EQ(first->says(), "export by-action") << "and nothing for the files";
+}
+
+TEST_F(ApplicationOnTheBus, RefusesActionsThatItDoesNotHave) {
+    const auto action = [this](const QString& name, const QVariantList& parameters) {
+        return call("ActivateAction", {name, parameters, none}).type();
+    };
+    for (const QString& name : {QStringLiteral("new"), QStringLiteral("Pause"), QString(),
+                                QStringLiteral("quit"), QString(1'000'000, u'p')})
+        EXPECT_EQ(action(name, {}), QDBusMessage::ErrorMessage) << name.left(9).toStdString();
+    EXPECT_EQ(action(QStringLiteral("pause"), {42}), QDBusMessage::ErrorMessage)
+        << "none has a parameter";
+    EXPECT_EQ(action(QStringLiteral("pause"), {}), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(first->says(), "pause") << "and nothing for the others";
+}
+
+TEST_F(ApplicationOnTheBus, LooksAtNoMoreOfAMessageThanADesktopSends) {
+    QVariantMap many;
+    for (int i = 0; i < 50'000; ++i)
+        many.insert(QStringLiteral("a%1").arg(i), i);
+    many.insert(QStringLiteral("activation-token"), QStringLiteral("late"));
+    EXPECT_EQ(call("Activate", {many}).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(first->says(), "activated");
 }
 
 TEST_F(ApplicationOnTheBus, DescribesItself) {
