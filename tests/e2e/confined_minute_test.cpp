@@ -42,7 +42,7 @@ class ConfinedMinute : public ExportScene {
                             QStringLiteral("DBUS_SESSION_BUS_ADDRESS=") + address_,
                             QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1")};
         if (!variable.isEmpty()) through += variable;
-        return through + QStringList{QStringLiteral(VANTOR_STRICT_PROGRAM)};
+        return through + RunningProgram::instead(QStringLiteral(VANTOR_STRICT_PROGRAM));
     }
     void startOnceMore() {
         RunningProgram second(desktop_, strictly({}));

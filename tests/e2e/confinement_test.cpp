@@ -17,7 +17,7 @@ namespace {
 
 QStringList strictly(const QStringList& environment = {}) {
     return QStringList{QStringLiteral("env")} + environment +
-           QStringList{QStringLiteral(VANTOR_STRICT_PROGRAM)};
+           RunningProgram::instead(QStringLiteral(VANTOR_STRICT_PROGRAM));
 }
 
 class Confined : public ExportScene {

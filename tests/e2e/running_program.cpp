@@ -40,6 +40,10 @@ RunningProgram::RunningProgram(Desktop& desktop, QStringList through) : desktop_
     process_.waitForStarted(toolPatience);
 }
 
+QStringList RunningProgram::instead(const QString& file) {
+    return {QStringLiteral("sh"), QStringLiteral("-c"), QStringLiteral("exec '%1'").arg(file)};
+}
+
 RunningProgram::~RunningProgram() {
     if (!isRunning()) return;
     process_.kill();

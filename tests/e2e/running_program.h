@@ -15,6 +15,10 @@ class RunningProgram {
     /// Starts it, through another program if one is named: with its arguments, the last of which
     /// is then the file of the program under test. That other one has to become it (exec).
     explicit RunningProgram(Desktop& desktop, QStringList through = {});
+
+    /// What another one is to be called with, to become the program of that file and not the one
+    /// under test: the latter's file would be an argument.
+    static QStringList instead(const QString& file);
     ~RunningProgram();
 
     /// Until it has a window and has drawn live figures. What it came to is printed when it never
