@@ -23,6 +23,7 @@ add_executable(vantor_e2e_tests
     e2e/hung_volume_test.cpp
     e2e/known_calls_test.cpp
     e2e/lifecycle_test.cpp
+    e2e/login_test.cpp
     e2e/main.cpp
     e2e/main_thread_files_test.cpp
     e2e/program_test.cpp

@@ -268,10 +268,12 @@ add_dependencies(core_tests vantor_probe)
 vantor_add_tests(settings_tests LABEL core SOURCES
     settings/app_settings_test.cpp
     settings/appearance_test.cpp
+    settings/autostart_entry_test.cpp
     settings/damaged_defaults_test.cpp
     settings/defaults_file_test.cpp
     settings/full_disk_test.cpp
     settings/ini_text_test.cpp
+    settings/login_item_test.cpp
     settings/settings_loading_test.cpp
     settings/stored_settings_test.cpp)
 

@@ -39,6 +39,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/process_mini_list_test.cpp
     ui/repaint_test.cpp
     ui/not_saved_view_test.cpp
+    ui/settings_login_test.cpp
     ui/settings_look_test.cpp
     ui/settings_view_test.cpp
     ui/system_card_test.cpp
@@ -92,6 +93,7 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/vantor_app_test.cpp
     app/vantor_app_actions_test.cpp
     # Without.
+    app/files/autostart_test.cpp
     app/app_delegate_test.cpp
     app/app_commands_test.cpp
     app/session/changing_bus_test.cpp

@@ -12,6 +12,8 @@ struct DesktopTraits {
     bool hasOneMenuBar = false;
     /// A click on the icon of a running program activates it, and starts no second one.
     bool reopensByActivation = false;
+    /// Programs are opened at login by entries in the user's folder for configuration.
+    bool opensByAutostartEntries = false;
 };
 
 // Those of the desktop that the program is built for; each has a file of its own.

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "app/desktop.h"
+#include "app/files/autostart.h"
 #include "app/files/qt_export_platform.h"
 #include "app/files/user_defaults.h"
 #include "app/session/command_line.h"
@@ -66,6 +67,8 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
     if (const auto status = statusWithoutRunning(line)) return *status;
     // They keep their place, also where that does not answer: nothing waits for them.
     const QString settingsFile = userSettingsFile();
+    const DesktopTraits desktop = nativeDesktopTraits();
+    const QString autostartFile = desktop.opensByAutostartEntries ? userAutostartFile() : QString();
     makeEnvironmentSafe();
     if (isLocalDisplayMissing()) {
         sayThatThereIsNoDisplay();
@@ -93,9 +96,10 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
                                        makeNativeStatusBar(),
                                        [] { QApplication::quit(); },
                                        makeQtExportPlatform(),
-                                       nativeDesktopTraits(),
+                                       desktop,
                                        {},
-                                       confinement});
+                                       confinement,
+                                       autostartFile});
     instance->setOnActivate([&](const Activation& asked) { vantor->perform(asked); });
     const QuitWatch quitWatch(application, watchdog);
     const TerminationSignals terminationSignals([] { QApplication::quit(); });

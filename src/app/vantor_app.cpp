@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "app/files/autostart.h"
 #include "app/files/user_defaults.h"
 #include "app/legacy_vantor_app.h"
 #include "app/modern_vantor_app.h"
@@ -44,6 +45,7 @@ VantorApp::VantorApp(Environment environment)
       frames_(openDefaults(WindowGeometry::fileBeside(environment.settingsFile), mainLoop_, queues_,
                            "com.kestrone.Vantor.windows")),
       settings_(loadSettings(defaults_)),
+      loginItem_(openLoginItem(environment.autostartFile, mainLoop_, queues_)),
       monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_,
                                    std::move(environment.exportPlatform))),
       statusBar_(std::move(environment.statusBar)),
@@ -124,7 +126,8 @@ void VantorApp::openSettings(const QString& activationToken) {
     if (!settingsWindow_) {
         auto view = std::make_unique<SettingsView>(SettingsView::Environment{
             settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); },
-            std::shared_ptr<Published<std::string>>(defaults_, &defaults_->notSaved())});
+            std::shared_ptr<Published<std::string>>(defaults_, &defaults_->notSaved()),
+            loginItem_});
         settingsWindow_ =
             std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view));
         commands_.addTo(settingsWindow_.get());

@@ -28,6 +28,7 @@
 #include "sampling/system_monitor.h"
 #include "settings/app_settings.h"
 #include "settings/defaults_file.h"
+#include "settings/login_item.h"
 #include "ui/app_metadata.h"
 #include "ui/menu_bar/menu_bar_dashboard_view.h"
 
@@ -56,6 +57,7 @@ class VantorApp : public QObject {
         DesktopTraits desktop{};
         TrayPatience trayPatience{};
         std::shared_ptr<const Confinement> confinement{};  ///< of this process, if there is any
+        QString autostartFile{};  ///< empty: opening at login is not offered
     };
 
     VantorApp(const VantorApp&) = delete;
@@ -132,6 +134,7 @@ class VantorApp : public QObject {
     std::shared_ptr<DefaultsFile> defaults_;
     std::shared_ptr<DefaultsFile> frames_;  // of windows
     std::shared_ptr<AppSettings> settings_;
+    std::shared_ptr<LoginItem> loginItem_;  // null where that is not offered
     std::shared_ptr<SystemMonitor> monitor_;
     std::shared_ptr<StatusBar> statusBar_;
     TrayPatience trayPatience_;

@@ -30,6 +30,9 @@ class SharedFile {
     /// the folder where there is none.
     virtual std::optional<DescribedError> write(std::string_view bytes) = 0;
 
+    /// Absent when there is no file now. A symbolic link there is removed itself.
+    virtual std::optional<DescribedError> remove() = 0;
+
     /// Gives the file another name beside its place, which then is free.
     virtual std::optional<DescribedError> putAside() = 0;
 

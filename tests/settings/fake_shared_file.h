@@ -25,6 +25,11 @@ class FakeSharedFile : public SharedFile {
         bytes = content;
         return std::nullopt;
     }
+    std::optional<DescribedError> remove() override {
+        if (writeError) return DescribedError{*writeError};
+        bytes.reset();
+        return std::nullopt;
+    }
     std::optional<DescribedError> putAside() override {
         if (asideError) return DescribedError{*asideError};
         aside = std::exchange(bytes, std::nullopt);

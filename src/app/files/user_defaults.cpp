@@ -12,11 +12,15 @@
 
 namespace vantor {
 
-QString userSettingsFile() {
+QString userConfigurationFolder() {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     // Relative to the current folder, it would be another one at each start.
     if (QDir::isRelativePath(folder)) folder = QDir::homePath() + QStringLiteral("/.config");
-    return folder + QStringLiteral("/vantor/settings.ini");
+    return folder;
+}
+
+QString userSettingsFile() {
+    return userConfigurationFolder() + QStringLiteral("/vantor/settings.ini");
 }
 
 std::shared_ptr<DefaultsFile> openDefaults(const QString& file, std::shared_ptr<MainLoop> mainLoop,

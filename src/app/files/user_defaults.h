@@ -11,9 +11,11 @@
 
 namespace vantor {
 
-/// The file for the user's preferences, in the folder for configuration, which the environment may
-/// place elsewhere (XDG_CONFIG_HOME). A place there that is not absolute is ignored. Does not
-/// access the disk.
+/// The user's folder for configuration, which the environment may place elsewhere
+/// (XDG_CONFIG_HOME). A place there that is not absolute is ignored. Does not access the disk.
+QString userConfigurationFolder();
+
+/// The file for the user's preferences, in that folder.
 QString userSettingsFile();
 
 /// Begins to read a file of preferences of this machine.

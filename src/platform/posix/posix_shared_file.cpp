@@ -114,6 +114,11 @@ std::optional<DescribedError> PosixSharedFile::write(std::string_view bytes) {
     return failure;
 }
 
+std::optional<DescribedError> PosixSharedFile::remove() {
+    if (::unlink(path_.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR) return std::nullopt;
+    return because(errno);
+}
+
 std::optional<DescribedError> PosixSharedFile::putAside() {
     const auto target = behindLinks(path_);
     for (int i = 1; i <= maxFilesAside; ++i) {

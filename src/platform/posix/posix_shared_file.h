@@ -24,6 +24,7 @@ class PosixSharedFile : public SharedFile {
 
     Reading read(std::size_t most) override;
     std::optional<DescribedError> write(std::string_view bytes) override;
+    std::optional<DescribedError> remove() override;
     std::optional<DescribedError> putAside() override;
     void withoutOthers(const std::function<void()>& work) override;
 

@@ -1,5 +1,6 @@
 #include "ui/settings/settings_view.h"
 
+#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -20,6 +21,7 @@ namespace {
 constexpr QSize smallest(480, 480);
 constexpr double settingsIdealWidth = 520;
 constexpr double settingsIdealHeight = 560;
+constexpr double settingsLoginHeight = 40;  // what that row adds
 constexpr double widestForm = 680;
 
 QString wordsOf(std::string_view words) {
@@ -128,6 +130,17 @@ void SettingsView::addToggles(CompatibleFormSection& section) {
     menuBar_ = makeChild<ToggleRowView>(&section, QStringLiteral("Show menu bar dashboard"), place,
                                         [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
     section.add(menuBar_, ToggleRowView::outset);
+    if (environment_.loginItem) addLogin(section, place);
+}
+
+void SettingsView::addLogin(CompatibleFormSection& section, ToggleRowView::Switch place) {
+    login_ = makeChild<LoginRowView>(
+        &section, place, [item = environment_.loginItem](bool isOn) { item->set(isOn); });
+    section.add(login_, LoginRowView::outset);
+    auto& state = environment_.loginItem->state();
+    login_->show(state.value());
+    observations_.push_back(
+        state.observe([this](const LoginState& found) { login_->show(found); }));
 }
 
 void SettingsView::addData(QFormLayout& form) {
@@ -201,13 +214,21 @@ void SettingsView::show(const SettingsForm& form) {
     menuBar_->show(form.showMenuBar);
 }
 
+bool SettingsView::event(QEvent* event) {
+    const bool isLookedAt =
+        event->type() == QEvent::Show || event->type() == QEvent::WindowActivate;
+    if (isLookedAt && environment_.loginItem) environment_.loginItem->look();
+    return BackgroundView::event(event);
+}
+
 QSize SettingsView::minimumSizeHint() const {
     const int bar = scroll_->verticalScrollBar()->sizeHint().width();
     return smallest.expandedTo({scroll_->widget()->minimumSizeHint().width() + bar, 0});
 }
 
 QSize SettingsView::sizeHint() const {
-    return QSize(Typography::scaled(settingsIdealWidth), Typography::scaled(settingsIdealHeight))
+    const double height = settingsIdealHeight + (login_ ? settingsLoginHeight : 0);
+    return QSize(Typography::scaled(settingsIdealWidth), Typography::scaled(height))
         .expandedTo(minimumSizeHint());
 }
 

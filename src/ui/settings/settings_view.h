@@ -10,6 +10,7 @@
 #include "platform/machine.h"
 #include "platform/published.h"
 #include "settings/app_settings.h"
+#include "settings/login_item.h"
 #include "ui/app_metadata.h"
 #include "ui/components/capsule_button.h"
 #include "ui/components/menu_picker.h"
@@ -18,6 +19,7 @@
 #include "ui/components/toggle_row.h"
 #include "ui/drawing/background_view.h"
 #include "ui/settings/compatible_form.h"
+#include "ui/settings/login_row_view.h"
 #include "ui/settings/not_saved_view.h"
 #include "ui/settings/settings_form.h"
 
@@ -38,6 +40,7 @@ class SettingsView : public BackgroundView {
         std::function<void()> onExport;  ///< none: the button is disabled
         /// Why the settings are not saved, empty while they are; none: not shown.
         std::shared_ptr<Published<std::string>> notSaved{};
+        std::shared_ptr<LoginItem> loginItem{};  ///< none: opening at login is not offered
     };
 
     explicit SettingsView(Environment environment, QWidget* parent = nullptr);
@@ -57,6 +60,11 @@ class SettingsView : public BackgroundView {
     ToggleRowView& menuBar() { return *menuBar_; }
     CapsuleButtonView& exportButton() { return *export_; }
     NotSavedView& notSaved() { return *notSaved_; }
+    LoginRowView* login() { return login_; }  ///< null where it is not offered
+
+  protected:
+    /// Others may have changed what opens at login meanwhile.
+    bool event(QEvent* event) override;
 
   private:
     QWidget* makeForm(QWidget* content);
@@ -66,6 +74,7 @@ class SettingsView : public BackgroundView {
     void addMonitoring(QFormLayout& form);
     void addIntervalAndHistory(CompatibleFormSection& section);
     void addToggles(CompatibleFormSection& section);
+    void addLogin(CompatibleFormSection& section, ToggleRowView::Switch place);
     void addData(QFormLayout& form);
     void addAbout(QFormLayout& form);
     void addValue(CompatibleFormSection& section, const QString& label, const QString& value);
@@ -87,6 +96,7 @@ class SettingsView : public BackgroundView {
     ToggleRowView* pointToPoint_ = nullptr;
     ToggleRowView* menuBar_ = nullptr;
     CapsuleButtonView* export_ = nullptr;
+    LoginRowView* login_ = nullptr;
     NotSavedView* notSaved_ = nullptr;
     std::vector<Subscription> observations_;
 };

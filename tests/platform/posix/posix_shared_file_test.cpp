@@ -86,6 +86,17 @@ TEST_F(PosixSharedFileTest, PutsItAsideUnderTheNextNameThatIsFree) {
     EXPECT_EQ(contentOf(folder.path() / "settings.ini.damaged-2"), "second");
 }
 
+TEST_F(PosixSharedFileTest, RemovesItAndNothingThatALinkLeadsTo) {
+    EXPECT_EQ(errorOf(file().remove()), "") << "there is none";
+    EXPECT_EQ(errorOf(at(folder.path() / "none" / "settings.ini").remove()), "");
+    writeFile(folder.path() / "real", "kept");
+    fs::create_symlink("real", path);
+    EXPECT_EQ(errorOf(file().remove()), "");
+    EXPECT_THAT(folder.names(), ElementsAre("real"));
+    fs::create_directory(path);
+    EXPECT_NE(errorOf(file().remove()), "");
+}
+
 TEST_F(PosixSharedFileTest, PutsAsideWhatALinkLeadsTo) {
     fs::create_directory(folder.path() / "other");
     writeFile(folder.path() / "other" / "real.ini", "damage");

@@ -1,0 +1,53 @@
+#include "ui/settings/login_row_view.h"
+
+#include <QAccessible>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/components/make_child.h"
+
+namespace vantor {
+
+LoginRowView::LoginRowView(ToggleRowView::Switch place, std::function<void(bool)> onChange,
+                           QWidget* parent)
+    : QWidget(parent),
+      toggle_(makeChild<ToggleRowView>(this, QStringLiteral("Open at login"), place,
+                                       std::move(onChange))),
+      problem_(makeChild<ParagraphView>(this, QString(), Typography::caption, QFont::Normal,
+                                        TextLineView::Tone::secondary)) {
+    auto* column = makeLayout<QVBoxLayout>(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(toggle_);
+    problem_->setContentsMargins(outset, 0, outset, outset);
+    problem_->setVisible(false);
+    column->addWidget(problem_);
+}
+
+void LoginRowView::show(const LoginState& state) {
+    toggle_->show(state.isOn);
+    const QString problem = QString::fromStdString(state.problem);
+    if (problem == problem_->text()) return;
+    problem_->setText(problem);
+    problem_->setVisible(!problem.isEmpty());
+    makeRoomForProblem();
+    if (problem.isEmpty() || !QAccessible::isActive()) return;
+    QAccessibleEvent news(problem_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&news);
+}
+
+/// A fixed height, as the form around it gives rows no less than that. The label's own answer is
+/// never below its least height, so that one is taken away first.
+void LoginRowView::makeRoomForProblem() {
+    problem_->setMinimumHeight(0);
+    problem_->setFixedHeight(std::max(0, problem_->heightForWidth(width())));
+}
+
+void LoginRowView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    makeRoomForProblem();
+}
+
+}  // namespace vantor
