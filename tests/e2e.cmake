@@ -10,6 +10,7 @@ target_link_libraries(strict_program PRIVATE vantor_app vantor_warnings)
 add_executable(vantor_e2e_tests
     e2e/actions_test.cpp
     e2e/assistive_client.cpp
+    e2e/appearance_test.cpp
     e2e/assistive_test.cpp
     e2e/bus_tray_test.cpp
     e2e/confined_minute_test.cpp
@@ -39,6 +40,7 @@ add_executable(vantor_e2e_tests
     e2e/whole_use.cpp
     support/fake_notifier_tray.cpp
     support/fake_portal.cpp
+    support/fake_settings_portal.cpp
     support/served_folder.cpp)
 vantor_set_up_test_target(vantor_e2e_tests)
 target_precompile_headers(vantor_e2e_tests REUSE_FROM vantor_widget_test_headers)

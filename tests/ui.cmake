@@ -117,6 +117,7 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/window/window_placement_test.cpp)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     target_sources(app_tests PRIVATE
+        app/appearance/portal_appearance_test.cpp
         app/files/folder_looks_test.cpp
         app/files/linux_save_dialogs_test.cpp
         app/files/patient_questions_test.cpp
@@ -126,7 +127,8 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         app/files/save_panel_test.cpp
         app/files/save_panel_folders_test.cpp
         support/fake_notifier_tray.cpp
-        support/fake_portal.cpp)
+        support/fake_portal.cpp
+        support/fake_settings_portal.cpp)
 endif()
 target_compile_definitions(app_tests PRIVATE
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
@@ -137,6 +139,7 @@ add_dependencies(app_tests ending_program instance_program quitting_program)
 # What is chosen on a Mac is compiled wherever the tests are.
 if(NOT CMAKE_SYSTEM_NAME STREQUAL "Darwin")
     add_library(vantor_mac_desktop OBJECT
+        ${CMAKE_SOURCE_DIR}/src/app/appearance/mac_desktop_appearance.cpp
         ${CMAKE_SOURCE_DIR}/src/app/mac_desktop.cpp
         ${CMAKE_SOURCE_DIR}/src/app/mac_display.cpp
         ${CMAKE_SOURCE_DIR}/src/app/files/mac_native_save_dialogs.cpp)

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/appearance/native_desktop_appearance.h"
 #include "app/desktop.h"
 #include "app/files/autostart.h"
 #include "app/files/qt_export_platform.h"
@@ -99,6 +100,7 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
                                        desktop,
                                        {},
                                        confinement,
+                                       makeNativeDesktopAppearance(),
                                        autostartFile});
     instance->setOnActivate([&](const Activation& asked) { vantor->perform(asked); });
     const QuitWatch quitWatch(application, watchdog);

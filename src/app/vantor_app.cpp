@@ -29,9 +29,11 @@ constexpr auto settlingTime = 4s;
 // windows are gone by then, so none of them freezes.
 constexpr auto writePatience = DefaultsFile::endPatience;
 
-std::shared_ptr<AppSettings> loadSettings(const std::shared_ptr<DefaultsFile>& defaults) {
+std::shared_ptr<AppSettings> loadSettings(const std::shared_ptr<DefaultsFile>& defaults,
+                                          std::shared_ptr<DesktopAppearance> desktop) {
     defaults->waitForRead();
-    return std::make_shared<AppSettings>(defaults, std::make_shared<QtApplicationAppearance>());
+    return std::make_shared<AppSettings>(
+        defaults, std::make_shared<QtApplicationAppearance>(std::move(desktop)));
 }
 
 }  // namespace
@@ -44,7 +46,7 @@ VantorApp::VantorApp(Environment environment)
                              "com.kestrone.Vantor.settings")),
       frames_(openDefaults(WindowGeometry::fileBeside(environment.settingsFile), mainLoop_, queues_,
                            "com.kestrone.Vantor.windows")),
-      settings_(loadSettings(defaults_)),
+      settings_(loadSettings(defaults_, std::move(environment.appearance))),
       loginItem_(openLoginItem(environment.autostartFile, mainLoop_, queues_)),
       monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_,
                                    std::move(environment.exportPlatform))),

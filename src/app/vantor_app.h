@@ -10,6 +10,7 @@
 
 #include "app/app_commands.h"
 #include "app/app_delegate.h"
+#include "app/appearance/desktop_appearance.h"
 #include "app/build_info.h"
 #include "app/desktop.h"
 #include "app/session/app_action.h"
@@ -57,6 +58,7 @@ class VantorApp : public QObject {
         DesktopTraits desktop{};
         TrayPatience trayPatience{};
         std::shared_ptr<const Confinement> confinement{};  ///< of this process, if there is any
+        std::shared_ptr<DesktopAppearance> appearance{};   ///< none: the toolkit's palette
         QString autostartFile{};  ///< empty: opening at login is not offered
     };
 

@@ -26,9 +26,27 @@ double luminance(const QColor& color) {
 
 }  // namespace
 
+bool isDark(ColorScheme scheme) {
+    return scheme == ColorScheme::dark || scheme == ColorScheme::highContrastDark;
+}
+
+bool hasHighContrast(ColorScheme scheme) {
+    return scheme == ColorScheme::highContrastDark || scheme == ColorScheme::highContrastLight;
+}
+
+ColorScheme colorScheme(const QPalette& palette) {
+    const QColor window = palette.color(QPalette::Window);
+    const bool isDark = window.lightnessF() < 0.5f;
+    const QRgb ground = isDark ? qRgb(0, 0, 0) : qRgb(255, 255, 255);
+    const QRgb text = isDark ? qRgb(255, 255, 255) : qRgb(0, 0, 0);
+    if (window.rgba() == ground && palette.color(QPalette::WindowText).rgba() == text &&
+        palette.color(QPalette::PlaceholderText).rgba() == text)
+        return isDark ? ColorScheme::highContrastDark : ColorScheme::highContrastLight;
+    return isDark ? ColorScheme::dark : ColorScheme::light;
+}
+
 ColorScheme colorScheme(const QWidget& widget) {
-    const QColor window = widget.palette().color(QPalette::Window);
-    return window.lightnessF() < 0.5f ? ColorScheme::dark : ColorScheme::light;
+    return colorScheme(widget.palette());
 }
 
 namespace VantorTheme {
@@ -57,7 +75,10 @@ QColor red() {
 
 QLinearGradient background(ColorScheme scheme, const QRectF& area) {
     QLinearGradient gradient(area.topLeft(), area.bottomRight());
-    if (scheme == ColorScheme::dark) {
+    if (hasHighContrast(scheme)) {
+        for (const double place : {0.0, 0.5, 1.0})
+            gradient.setColorAt(place, isDark(scheme) ? Qt::black : Qt::white);
+    } else if (scheme == ColorScheme::dark) {
         gradient.setColorAt(0, rgb(0.035, 0.045, 0.07));
         gradient.setColorAt(0.5, rgb(0.055, 0.04, 0.09));
         gradient.setColorAt(1, rgb(0.03, 0.06, 0.075));
@@ -69,17 +90,32 @@ QLinearGradient background(ColorScheme scheme, const QRectF& area) {
     return gradient;
 }
 
-// The opacities keep small secondary text at a contrast of at least 5.5 to 1 on a card.
+// The opacities keep small secondary text at a contrast of at least 5.5 to 1 on a card; with high
+// contrast, of 10 to 1.
 QColor primaryLabel(ColorScheme scheme) {
+    if (hasHighContrast(scheme)) return isDark(scheme) ? rgb(1, 1, 1) : rgb(0, 0, 0);
     return scheme == ColorScheme::dark ? rgb(1, 1, 1, 0.92) : rgb(0, 0, 0, 0.87);
 }
 
 QColor secondaryLabel(ColorScheme scheme) {
+    if (hasHighContrast(scheme)) return isDark(scheme) ? rgb(1, 1, 1, 0.8) : rgb(0, 0, 0, 0.75);
     return scheme == ColorScheme::dark ? rgb(1, 1, 1, 0.6) : rgb(0, 0, 0, 0.6);
 }
 
 QColor card(ColorScheme scheme) {
+    if (hasHighContrast(scheme)) return isDark(scheme) ? rgb(0, 0, 0) : rgb(1, 1, 1);
     return scheme == ColorScheme::dark ? rgb(0.075, 0.085, 0.115, 0.96) : rgb(1, 1, 1, 0.9);
+}
+
+QColor line(ColorScheme scheme, double opacity) {
+    constexpr double clear = 0.6;  // 7 to 1 on black, 5 to 1 on white
+    return faded(primaryLabel(scheme), hasHighContrast(scheme) ? clear : opacity);
+}
+
+QColor track(ColorScheme scheme, double opacity) {
+    if (!hasHighContrast(scheme)) return faded(primaryLabel(scheme), opacity);
+    // A little more than 3 to 1: accents lie beside it.
+    return faded(primaryLabel(scheme), isDark(scheme) ? 0.38 : 0.44);
 }
 
 QColor over(const QColor& color, const QColor& background) {
@@ -108,6 +144,15 @@ QColor labelOn(const QColor& fill, ColorScheme scheme) {
 
 void vantorBackground(QPainter& painter, const QColor& color, const QPainterPath& shape) {
     painter.fillPath(shape, color);
+}
+
+void vantorOutline(QPainter& painter, const QPainterPath& shape, ColorScheme scheme) {
+    if (!hasHighContrast(scheme)) return;
+    // Inside the shape, half of the stroke lies without.
+    painter.save();
+    painter.setClipPath(shape, Qt::IntersectClip);
+    painter.strokePath(shape, QPen(VantorTheme::line(scheme, 1), 2));
+    painter.restore();
 }
 
 void vantorForeground(QPainter& painter, const QColor& color) {

@@ -6,13 +6,19 @@
 #include <QPainterPath>
 
 class QFormLayout;
+class QPalette;
 class QWidget;
 
 namespace vantor {
 
-enum class ColorScheme { dark, light };
+enum class ColorScheme { dark, light, highContrastDark, highContrastLight };
 
-/// The colour scheme that a widget is shown in, as its palette tells.
+bool isDark(ColorScheme scheme);
+bool hasHighContrast(ColorScheme scheme);
+
+/// The colour scheme that a widget is shown in, as its palette tells. High contrast is a palette of
+/// black and white alone, placeholders included.
+ColorScheme colorScheme(const QPalette& palette);
 ColorScheme colorScheme(const QWidget& widget);
 
 /// The accents and the background; constants, sRGB.
@@ -35,6 +41,14 @@ QColor secondaryLabel(ColorScheme scheme);
 /// What cards are filled with; the background shows through a little.
 QColor card(ColorScheme scheme);
 
+/// The label's colour, as faint as told, for what bounds or divides; with high contrast, clearly
+/// seen.
+QColor line(ColorScheme scheme, double opacity);
+
+/// The same for what a figure or a switch has not filled; with high contrast seen, but not taken
+/// for what is filled.
+QColor track(ColorScheme scheme, double opacity);
+
 /// `color` as it looks over an opaque background.
 QColor over(const QColor& color, const QColor& background);
 
@@ -48,6 +62,9 @@ QColor labelOn(const QColor& fill, ColorScheme scheme);
 
 /// Fills `shape` with `color` behind what is painted next.
 void vantorBackground(QPainter& painter, const QColor& color, const QPainterPath& shape);
+
+/// With high contrast, the edge of a control that is otherwise told by what it is filled with.
+void vantorOutline(QPainter& painter, const QPainterPath& shape, ColorScheme scheme);
 
 /// Sets what text and lines are painted with.
 void vantorForeground(QPainter& painter, const QColor& color);

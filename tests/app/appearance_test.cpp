@@ -67,6 +67,62 @@ TEST_F(AppearanceTest, FollowingTheSystemBringsItsOwnPaletteBack) {
     }
 }
 
+/// A desktop that says how programs should look.
+struct ToldAppearance : DesktopAppearance {
+    Published<DesktopLook>& look() override { return told; }
+    Published<DesktopLook> told{DesktopLook{}};
+};
+
+class FollowedLook : public AppearanceTest {
+  protected:
+    using Scheme = DesktopLook::Scheme;
+
+    ColorScheme shown(Scheme scheme, bool hasHighContrast = false) {
+        desktop->told.set({scheme, hasHighContrast});
+        settleEvents();
+        expectReadable();
+        return colorScheme(window);
+    }
+    const std::shared_ptr<ToldAppearance> desktop = std::make_shared<ToldAppearance>();
+    QtApplicationAppearance followed{desktop};
+};
+
+TEST_F(FollowedLook, SystemIsAsTheDesktopSays) {
+    followed.followSystem();
+    EXPECT_EQ(shown(Scheme::dark), ColorScheme::dark);
+    EXPECT_EQ(shown(Scheme::light), ColorScheme::light);
+    EXPECT_EQ(shown(Scheme::dark, true), ColorScheme::highContrastDark);
+    EXPECT_EQ(shown(Scheme::light, true), ColorScheme::highContrastLight);
+}
+
+TEST_F(FollowedLook, WhereTheDesktopSaysNothingSystemIsTheToolkits) {
+    QApplication::setPalette(QPalette());
+    const QPalette own = QApplication::palette();
+    const ColorScheme usual = colorScheme(own);
+    followed.followSystem();
+    EXPECT_EQ(shown(Scheme::dark), ColorScheme::dark);
+    EXPECT_EQ(shown(Scheme::unknown), usual);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), own.color(QPalette::Base));
+    EXPECT_EQ(shown(Scheme::unknown, true),
+              isDark(usual) ? ColorScheme::highContrastDark : ColorScheme::highContrastLight);
+}
+
+TEST_F(FollowedLook, AChosenThemeStaysAndTakesTheContrastAlone) {
+    followed.forceLight();
+    EXPECT_EQ(shown(Scheme::dark), ColorScheme::light);
+    EXPECT_EQ(shown(Scheme::dark, true), ColorScheme::highContrastLight);
+    followed.forceDark();
+    EXPECT_EQ(shown(Scheme::light, true), ColorScheme::highContrastDark);
+    EXPECT_EQ(shown(Scheme::light), ColorScheme::dark);
+}
+
+TEST_F(FollowedLook, WhatIsKnownBeforeTheChoiceCounts) {
+    desktop->told.set({Scheme::dark, true});
+    followed.followSystem();
+    settleEvents();
+    EXPECT_EQ(colorScheme(window), ColorScheme::highContrastDark);
+}
+
 TEST_F(AppearanceTest, TheSettingChangesTheDashboardWhileItIsOpen) {
     DashboardWorld world;
     AppSettings settings(world.defaults, std::make_shared<QtApplicationAppearance>());

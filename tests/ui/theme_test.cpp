@@ -105,6 +105,47 @@ TEST(VantorTheme, SmallTextCanBeReadOnACard) {
     }
 }
 
+TEST(VantorTheme, WithHighContrastTextsAndWhatBoundsThemStandOut) {
+    for (const ColorScheme scheme :
+         {ColorScheme::highContrastDark, ColorScheme::highContrastLight}) {
+        const QColor card = VantorTheme::card(scheme);
+        EXPECT_EQ(card.alpha(), 255);
+        for (const auto& stop : VantorTheme::background(scheme, QRectF(0, 0, 1, 1)).stops()) {
+            EXPECT_EQ(stop.second, card) << "cards are told by their borders";
+        }
+        EXPECT_EQ(contrast(VantorTheme::primaryLabel(scheme), card), 21);
+        EXPECT_GE(contrast(over(VantorTheme::secondaryLabel(scheme), card), card), 7);
+        for (const double opacity : {0.02, 0.08, 0.16, 1.0}) {
+            EXPECT_GE(contrast(over(VantorTheme::line(scheme, opacity), card), card), 3);
+            EXPECT_GE(contrast(over(VantorTheme::track(scheme, opacity), card), card), 3);
+        }
+    }
+}
+
+TEST(VantorTheme, WithoutHighContrastLinesAndTracksAreAsFaintAsTold) {
+    for (const ColorScheme scheme : schemes) {
+        const QColor faint = VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.08);
+        EXPECT_EQ(VantorTheme::line(scheme, 0.08), faint);
+        EXPECT_EQ(VantorTheme::track(scheme, 0.08), faint);
+    }
+}
+
+TEST(VantorTheme, HighContrastIsAPaletteOfBlackAndWhiteAlone) {
+    QPalette palette;
+    const auto schemeOf = [&](const QColor& ground, const QColor& text, const QColor& faint) {
+        palette.setColor(QPalette::Window, ground);
+        palette.setColor(QPalette::WindowText, text);
+        palette.setColor(QPalette::PlaceholderText, faint);
+        return colorScheme(palette);
+    };
+    EXPECT_EQ(schemeOf(Qt::black, Qt::white, Qt::white), ColorScheme::highContrastDark);
+    EXPECT_EQ(schemeOf(Qt::white, Qt::black, Qt::black), ColorScheme::highContrastLight);
+    EXPECT_EQ(schemeOf(Qt::white, Qt::black, QColor(0, 0, 0, 128)), ColorScheme::light)
+        << "a toolkit's usual palette may be that plain";
+    EXPECT_EQ(schemeOf(Qt::black, Qt::white, Qt::gray), ColorScheme::dark);
+    EXPECT_EQ(schemeOf(QColor(1, 1, 1), Qt::white, Qt::white), ColorScheme::dark);
+}
+
 TEST(VantorTheme, SmallTextCanBeReadOnTheWindow) {
     for (const ColorScheme scheme : schemes) {
         for (const auto& stop : VantorTheme::background(scheme, QRectF(0, 0, 1, 1)).stops()) {

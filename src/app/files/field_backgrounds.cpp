@@ -77,8 +77,8 @@ void FieldBackgrounds::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const ColorScheme scheme = colorScheme(*this);
     const QColor label = VantorTheme::primaryLabel(scheme);
-    const QColor fill = scheme == ColorScheme::light ? VantorTheme::card(scheme)
-                                                     : VantorTheme::faded(label, backgroundOpacity);
+    const QColor fill =
+        !isDark(scheme) ? VantorTheme::card(scheme) : VantorTheme::faded(label, backgroundOpacity);
     for (const QWidget* const part : parts_) {
         if (!part->isVisible()) continue;
         const QRect place(part->mapTo(parentWidget(), QPoint()), part->size());
@@ -90,7 +90,7 @@ void FieldBackgrounds::paintEvent(QPaintEvent*) {
         const double width = hasKeyboard ? frameFocusWidth : Pixels::snappedLineWidth(painter, 1);
         const double inset = width / 2;
         painter.setPen(
-            QPen(hasKeyboard ? VantorTheme::blue() : VantorTheme::faded(label, frameBorderOpacity),
+            QPen(hasKeyboard ? VantorTheme::blue() : VantorTheme::line(scheme, frameBorderOpacity),
                  width));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset),

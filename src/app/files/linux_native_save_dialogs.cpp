@@ -5,7 +5,7 @@
 #include "app/files/linux_save_dialogs.h"
 #include "app/files/native_save_dialogs.h"
 #include "app/qt_main_loop.h"
-#include "app/session/session_places.h"
+#include "app/session/bus_line.h"
 #include "app/session/termination_signals.h"
 #include "platform/native_machine.h"
 
@@ -20,13 +20,6 @@ void prepareDiskThread() {
 #ifdef CLOSE_RANGE_UNSHARE
     ::close_range(0, ~0U, CLOSE_RANGE_UNSHARE);
 #endif
-}
-
-QDBusConnection connectToSessionBus(const QString& name) {
-    const QString address = sessionBusAddress();
-    // For an invalid address the toolkit would make no connection, and cache that by its name.
-    if (address.isEmpty()) return QDBusConnection(name);
-    return QDBusConnection::connectToBus(address, name);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class LinuxSaveDialogs : public SaveDialogs {
     struct Surroundings {
         std::shared_ptr<PatientQuestions> disk;
         std::shared_ptr<PatientQuestions> bus;
-        PortalSaveDialog::Connect connect;
+        BusLine::Connect connect;
         std::chrono::milliseconds patience = PortalSaveDialog::usualPatience;
     };
 

@@ -95,23 +95,8 @@ std::optional<std::filesystem::path> fileOfURI(const QString& uri) {
     return std::filesystem::path(*bytes);
 }
 
-/// A connection that ends with its last user, on whichever thread that is.
-class PortalSaveDialog::Line {
-  public:
-    Line(const Connect& connect, QString name) : name_(std::move(name)), bus_(connect(name_)) {}
-    Line(const Line&) = delete;
-    Line& operator=(const Line&) = delete;
-    ~Line() { QDBusConnection::disconnectFromBus(name_); }
-
-    QDBusConnection& bus() { return bus_; }
-
-  private:
-    QString name_;
-    QDBusConnection bus_;
-};
-
 PortalSaveDialog::PortalSaveDialog(Request request, std::shared_ptr<PatientQuestions> questions,
-                                   Connect connect, std::chrono::milliseconds patience)
+                                   BusLine::Connect connect, std::chrono::milliseconds patience)
     : request_(std::move(request)),
       questions_(std::move(questions)),
       connect_(std::move(connect)),
@@ -133,9 +118,9 @@ PortalSaveDialog::~PortalSaveDialog() {
 
 void PortalSaveDialog::begin(std::function<void(const Outcome&)> onEnd) {
     onEnd_ = std::move(onEnd);
-    connecting_ = questions_->ask<std::shared_ptr<Line>>(
-        [connect = connect_, name = token_] { return std::make_shared<Line>(connect, name); },
-        [this](const std::optional<std::shared_ptr<Line>>& line) {
+    connecting_ = questions_->ask<std::shared_ptr<BusLine>>(
+        [connect = connect_, name = token_] { return std::make_shared<BusLine>(connect, name); },
+        [this](const std::optional<std::shared_ptr<BusLine>>& line) {
             if (!line || !(*line)->bus().isConnected()) return end({PortalEnd::unavailable, {}});
             line_ = *line;
             askWhetherItIsThere();

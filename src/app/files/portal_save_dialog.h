@@ -15,6 +15,7 @@
 
 #include "app/files/bus_signal.h"
 #include "app/files/patient_questions.h"
+#include "app/session/bus_line.h"
 
 namespace vantor {
 
@@ -60,16 +61,13 @@ class PortalSaveDialog {
         std::filesystem::path file;
     };
 
-    /// Makes a connection of that name to the session's bus. On a thread of its own.
-    using Connect = std::function<QDBusConnection(const QString& name)>;
-
     /// How long the portal may take to confirm that it shows a dialog.
     static constexpr std::chrono::milliseconds usualPatience{1500};
 
     static QString service() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
 
-    PortalSaveDialog(Request request, std::shared_ptr<PatientQuestions> questions, Connect connect,
-                     std::chrono::milliseconds patience = usualPatience);
+    PortalSaveDialog(Request request, std::shared_ptr<PatientQuestions> questions,
+                     BusLine::Connect connect, std::chrono::milliseconds patience = usualPatience);
     PortalSaveDialog(const PortalSaveDialog&) = delete;
     PortalSaveDialog& operator=(const PortalSaveDialog&) = delete;
     /// Closes the dialog; `onEnd` is not called any more.
@@ -80,8 +78,6 @@ class PortalSaveDialog {
     void begin(std::function<void(const Outcome&)> onEnd);
 
   private:
-    class Line;
-
     void askWhetherItIsThere();
     void askForDialog();
     void listenTo(const QString& handle);
@@ -93,12 +89,12 @@ class PortalSaveDialog {
 
     Request request_;
     std::shared_ptr<PatientQuestions> questions_;
-    Connect connect_;
+    BusLine::Connect connect_;
     std::chrono::milliseconds patience_;
     std::function<void(const Outcome&)> onEnd_;
 
     PatientQuestions::Question connecting_;
-    std::shared_ptr<Line> line_;
+    std::shared_ptr<BusLine> line_;
     QString portal_;  // its unique name
     QString token_;
     QString handle_;  // of the request; empty while there is none

@@ -76,7 +76,7 @@ void PopoverWindow::open(const QRect& anchor) {
 void PopoverWindow::paintEvent(QPaintEvent* event) {
     const ColorScheme scheme = colorScheme(*this);
     const QColor background = palette().color(QPalette::Window);
-    const QColor line = VantorTheme::faded(VantorTheme::primaryLabel(scheme), 0.2);
+    const QColor line = VantorTheme::line(scheme, 0.2);
     QPainter(this).fillRect(event->rect(), VantorTheme::over(line, background));
 }
 

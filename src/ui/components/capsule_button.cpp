@@ -114,6 +114,7 @@ void CapsuleButtonView::paintBackground(ViewPainter& painter) const {
     capsule.addRoundedRect(area, area.height() / 2, area.height() / 2);
     vantorBackground(
         painter, VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), opacity), capsule);
+    vantorOutline(painter, capsule, painter.scheme());
     if (hasFocus() && ring_.isShown()) {
         FocusRing::paint(painter, area, area.height() / 2, palette());
     }

@@ -101,7 +101,9 @@ QString DashboardCardView::summary() const {
 }
 
 QColor DashboardCardView::borderColor() const {
-    return VantorTheme::faded(header_->card().accent, 0.16);
+    const ColorScheme scheme = colorScheme(*this);
+    return hasHighContrast(scheme) ? VantorTheme::line(scheme, 1)
+                                   : VantorTheme::faded(header_->card().accent, 0.16);
 }
 
 }  // namespace vantor

@@ -51,7 +51,7 @@ QSize RingGaugeView::sizeHint() const {
 
 void RingGaugeView::paintRing(ViewPainter& painter, const RingGaugeGeometry& geometry,
                               double width) const {
-    const QColor track = VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), 0.08);
+    const QColor track = VantorTheme::track(painter.scheme(), 0.08);
     const DevicePixels pixels(painter);
     const double scale = pixels.scale();
     painter.rings().draw(

@@ -78,6 +78,7 @@ void SegmentButton::paintEvent(QPaintEvent*) {
             painter,
             VantorTheme::faded(label, isChecked() ? chosenOpacity : segmentedPickerHoverOpacity),
             shape);
+        if (isChecked()) vantorOutline(painter, shape, scheme);
     }
     if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, area, radius, palette());
     vantorForeground(painter, isChecked() ? label : VantorTheme::secondaryLabel(scheme));
@@ -150,6 +151,7 @@ void SegmentedPicker::paintEvent(QPaintEvent*) {
                      VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)),
                                         segmentedPickerTrackOpacity),
                      shape);
+    vantorOutline(painter, shape, colorScheme(*this));
 }
 
 }  // namespace vantor

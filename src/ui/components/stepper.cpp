@@ -206,6 +206,7 @@ void StepperView::paintEvent(QPaintEvent*) {
     QPainterPath capsule;
     capsule.addRoundedRect(area, radius, radius);
     vantorBackground(painter, VantorTheme::faded(label, stepperGroundOpacity), capsule);
+    vantorOutline(painter, capsule, colorScheme(*this));
     painter.save();
     painter.setClipPath(capsule);
     for (const Half half : {Half::less, Half::more})
@@ -215,7 +216,7 @@ void StepperView::paintEvent(QPaintEvent*) {
     const double line = Pixels::snappedLineWidth(painter, 1);
     painter.fillRect(Pixels::snapped(painter, {middle - line / 2, area.top() + dividerInset, line,
                                                area.height() - 2 * dividerInset}),
-                     VantorTheme::faded(label, dividerOpacity));
+                     VantorTheme::line(colorScheme(*this), dividerOpacity));
     if (hasFocus() && ring_.isShown()) FocusRing::paint(painter, area, radius, palette());
 }
 

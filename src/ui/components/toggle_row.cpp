@@ -137,11 +137,13 @@ void ToggleRowView::paintEvent(QPaintEvent*) {
 void ToggleRowView::paintSwitch(QPainter& painter) const {
     const QRectF area = Pixels::snapped(painter, switchArea());
     const double radius = area.height() / 2;
-    const QColor label = VantorTheme::primaryLabel(colorScheme(*this));
+    const ColorScheme scheme = colorScheme(*this);
     QPainterPath track;
     track.addRoundedRect(area, radius, radius);
-    const QColor off = VantorTheme::faded(label, underMouse() ? toggleRowHoverOpacity : offOpacity);
+    const QColor off =
+        VantorTheme::track(scheme, underMouse() ? toggleRowHoverOpacity : offOpacity);
     vantorBackground(painter, isChecked() ? VantorTheme::blue() : off, track);
+    vantorOutline(painter, track, scheme);
     const double side = area.height() - 2 * knobInset;
     const bool isKnobAtRight = isChecked() != isRightToLeft();
     QPainterPath knob;

@@ -36,9 +36,8 @@ void paintUsageBar(ViewPainter& painter, const QRectF& bounds, const UsageBar& b
     auto geometry =
         UsageBarGeometry::make(Pixels::snapped(painter, painter.leading(whole)), bar.value);
     if (painter.isMirrored()) geometry.fill.moveRight(geometry.track.right());
-    fillCapsule(
-        painter, geometry.track,
-        VantorTheme::faded(VantorTheme::primaryLabel(painter.scheme()), usageBarTrackOpacity));
+    fillCapsule(painter, geometry.track,
+                VantorTheme::track(painter.scheme(), usageBarTrackOpacity));
     if (geometry.fill.width() > 0) {
         fillCapsule(painter, geometry.fill, VantorTheme::faded(bar.accent, usageBarFillOpacity));
     }

@@ -88,7 +88,7 @@ void DashboardHeaderView::show(double refreshInterval, bool isPaused) {
 }
 
 QColor DashboardHeaderView::borderColor() const {
-    return VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)), 0.08);
+    return VantorTheme::line(colorScheme(*this), 0.08);
 }
 
 }  // namespace vantor

@@ -54,10 +54,9 @@ void SlimScrollBar::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath shape;
     shape.addRoundedRect(handle, radius, radius);
-    vantorBackground(painter,
-                     VantorTheme::faded(VantorTheme::primaryLabel(colorScheme(*this)),
-                                        active ? activeOpacity : restingOpacity),
-                     shape);
+    vantorBackground(
+        painter, VantorTheme::track(colorScheme(*this), active ? activeOpacity : restingOpacity),
+        shape);
 }
 
 LegacyVantorScrollView::LegacyVantorScrollView(Qt::Orientations axes, QWidget* parent)

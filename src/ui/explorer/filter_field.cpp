@@ -100,7 +100,7 @@ void FilterField::paintEvent(QPaintEvent* event) {
     const double width = isFocused ? focusWidth : Pixels::snappedLineWidth(painter, 1);
     const double inset = width / 2;
     painter.setPen(QPen(isFocused ? palette().color(QPalette::Highlight)
-                                  : VantorTheme::faded(label, filterFieldBorderOpacity),
+                                  : VantorTheme::line(scheme, filterFieldBorderOpacity),
                         width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), corner - inset,

@@ -59,8 +59,7 @@ void FormRowsView::paintEvent(QPaintEvent*) {
     if (style_ == FormStyle::plain) return;
     QPainter painter(this);
     const ColorScheme scheme = colorScheme(*this);
-    const QColor line =
-        VantorTheme::faded(VantorTheme::primaryLabel(scheme), compatibleFormBorderOpacity);
+    const QColor line = VantorTheme::line(scheme, compatibleFormBorderOpacity);
     CardChrome::paint(painter, rect(), scheme, line, groupCorner);
     const double thin = Pixels::snappedLineWidth(painter, 1);
     for (std::size_t i = 1; i < rows_.size(); ++i) {

@@ -78,9 +78,9 @@ QSize NotSavedView::minimumSizeHint() const {
 
 void NotSavedView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
-    const QColor primary = VantorTheme::primaryLabel(painter.scheme());
     const double thin = Pixels::snappedLineWidth(painter, 1);
-    painter.fillRect(QRectF(0, 0, width(), thin), VantorTheme::faded(primary, notSavedLineOpacity));
+    painter.fillRect(QRectF(0, 0, width(), thin),
+                     VantorTheme::line(painter.scheme(), notSavedLineOpacity));
     const QSizeF text = notSavedTextSize(*this, text_, width());
     const double symbol = notSavedSymbol();
     // In the middle, as the form is, and as one.

@@ -24,7 +24,7 @@ struct PortalWorld {
 
     void startPortal(Manner manner = Manner::honest) { portal.emplace(bus.address(), manner); }
 
-    PortalSaveDialog::Connect connector() const {
+    BusLine::Connect connector() const {
         return [address = bus.address()](const QString& name) {
             return QDBusConnection::connectToBus(address, name);
         };
