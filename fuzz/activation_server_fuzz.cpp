@@ -18,16 +18,18 @@
 /// it.
 namespace {
 
+using vantor::Activation;
 using vantor::ActivationServer;
+using vantor::AppAction;
 using vantor::fuzz::require;
 
 class Server {
   public:
     Server() {
         require(::mkdtemp(folder_.data()) != nullptr);
-        server_.emplace(path(), [this](const QString& token) {
+        server_.emplace(path(), [this](const Activation& asked) {
             ++activations_;
-            token_ = token;
+            asked_ = asked;
         });
         require(server_->isListening());
     }
@@ -39,7 +41,7 @@ class Server {
         std::filesystem::remove_all(folder_, ignored);
     }
 
-    /// Whether the program came forward; every connection is closed in the end.
+    /// Whether the program was asked for something; every connection is closed in the end.
     bool hear(std::string_view input) {
         activations_ = 0;
         const vantor::FileDescriptor talker = vantor::connectedTo(path());
@@ -67,7 +69,7 @@ class Server {
         return activations_ == 1;
     }
 
-    const QString& token() const { return token_; }
+    const Activation& asked() const { return asked_; }
 
   private:
     QByteArray path() const { return QByteArray::fromStdString(folder_ + "/socket"); }
@@ -75,7 +77,7 @@ class Server {
     std::string folder_ = (std::filesystem::temp_directory_path() / "vantor-fuzz-XXXXXX").string();
     std::optional<ActivationServer> server_;
     int activations_ = 0;
-    QString token_;
+    Activation asked_;
 };
 
 /// The application object is the toolkit's, which wants one for events.
@@ -93,12 +95,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static Program program;
     Server& server = program.server;
     const auto text = vantor::fuzz::textOf(data, size);
-    if (server.hear(text)) require(vantor::checkedToken(server.token()) == server.token());
+    if (server.hear(text)) {
+        const Activation& asked = server.asked();
+        require(vantor::checkedToken(asked.token) == asked.token);
+        require(vantor::actionNamed(vantor::nameOf(asked.action)) == asked.action);
+    }
 
-    // The same as a token, by the program's own request.
+    // The same as a token, by the program's own request, for each action in turn.
     const QString token = vantor::checkedToken(QString::fromLatin1(text.substr(0, 200)));
-    const QByteArray request = ActivationServer::request(token);
+    const auto action = static_cast<AppAction>(size % 7);
+    const QByteArray request = ActivationServer::request({action, token});
     const std::string piece = static_cast<char>(request.size()) + request.toStdString();
-    require(server.hear(piece) && server.token() == token);
+    require(server.hear(piece));
+    require(server.asked().action == action && server.asked().token == token);
     return 0;
 }
