@@ -14,7 +14,7 @@
 namespace vantor::login_test {
 namespace {
 
-constexpr char login[] = "Open at login";
+constexpr char login[] = "Open at Login";
 
 class Login : public ProgramOnADesktop {
   protected:

@@ -47,7 +47,7 @@ TEST_F(SettingsLogin, ShowsWhatIsThereWhenItIsOpened) {
     open();
     goOn();
     EXPECT_TRUE(toggle().isChecked());
-    EXPECT_EQ(utf8(toggle().text()), "Open at login");
+    EXPECT_EQ(utf8(toggle().text()), "Open at Login");
     EXPECT_TRUE(hasNothingToScroll());
 }
 

@@ -13,7 +13,7 @@ namespace vantor {
 LoginRowView::LoginRowView(ToggleRowView::Switch place, std::function<void(bool)> onChange,
                            QWidget* parent)
     : QWidget(parent),
-      toggle_(makeChild<ToggleRowView>(this, QStringLiteral("Open at login"), place,
+      toggle_(makeChild<ToggleRowView>(this, QStringLiteral("Open at Login"), place,
                                        std::move(onChange))),
       problem_(makeChild<ParagraphView>(this, QString(), Typography::caption, QFont::Normal,
                                         TextLineView::Tone::secondary)) {
