@@ -27,7 +27,7 @@ class Desktop:
                     "XDG_RUNTIME_DIR": folder, "LANG": "C.UTF-8", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
         reader, writer = os.pipe()
         self.start("Xvfb", "-displayfd", str(writer), "-screen", "0", "%dx%dx24" % SCREEN, "-nolisten", "tcp",
-                   "-noreset", pass_fds=(writer,))
+                   "-noreset", "-r", pass_fds=(writer,))
         self.env["DISPLAY"] = ":" + os.read(reader, 16).decode().strip()
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
         self.env["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()

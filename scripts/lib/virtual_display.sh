@@ -9,7 +9,7 @@ start_virtual_display() {
     need_command Xvfb xvfb
     virtual_display_file=$(mktemp)
     # The server picks a free number itself and says which.
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$virtual_display_file" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset -r 3>"$virtual_display_file" 2>/dev/null &
     virtual_display_pid=$!
     local tries=0
     until [ -s "$virtual_display_file" ]; do

@@ -51,12 +51,12 @@ int countColor(const QImage& picture, const QRect& area, const QColor& color) {
 
 Desktop::Desktop(QSize screen) : environment_(QProcessEnvironment::systemEnvironment()) {
     const QString size = QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height());
-    // Without this option it resets when its last client leaves, and disconnects one that is
-    // just connecting.
+    // Without -noreset it resets when its last client leaves, and disconnects one that is just
+    // connecting; without -r it repeats a key whose release comes late on a busy machine.
     server_.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                    QStringLiteral("0"), size, QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                   QStringLiteral("-noreset")});
+                   QStringLiteral("-noreset"), QStringLiteral("-r")});
     if (!server_.waitForReadyRead(toolPatience)) return;
     const QString number = QString::fromLatin1(server_.readLine()).trimmed();
     environment_.insert(QStringLiteral("DISPLAY"), u':' + number);
@@ -172,6 +172,21 @@ QString Desktop::activeTitle() const {
     return run(QStringLiteral("xdotool"),
                {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")})
         .trimmed();
+}
+
+qint64 Desktop::processorWait(qint64 process) const {
+    qint64 nanoseconds = 0;
+    for (const qint64 id : {QCoreApplication::applicationPid(), process, sessionBus_.processId(),
+                            server_.processId(), windowManager_.processId()}) {
+        const QString threads = QStringLiteral("/proc/%1/task").arg(id);
+        for (const QString& thread : QDir(threads).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QFile file(threads + u'/' + thread + QStringLiteral("/schedstat"));
+            if (!file.open(QIODevice::ReadOnly)) continue;
+            // Time on a processor, time waiting for one, number of turns.
+            nanoseconds += file.readAll().split(' ').value(1).toLongLong();
+        }
+    }
+    return nanoseconds / 1'000'000;
 }
 
 QString Desktop::condition() {

@@ -62,6 +62,11 @@ class Desktop {
     /// test that waited in vain.
     QString condition();
 
+    /// How long the threads of this process, of the desktop's own and of one more have waited for
+    /// a processor until now, in milliseconds: how much of a delay is the machine's. 0 where the
+    /// kernel does not count it.
+    qint64 processorWait(qint64 process) const;
+
     /// A file in the home folder.
     QString path(const QString& name) const { return home_.filePath(name); }
 
