@@ -93,6 +93,7 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/vantor_app_test.cpp
     app/vantor_app_actions_test.cpp
     # Without.
+    app/build_info_test.cpp
     app/files/autostart_test.cpp
     app/app_delegate_test.cpp
     app/app_commands_test.cpp

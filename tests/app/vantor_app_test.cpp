@@ -13,7 +13,6 @@
 #include <memory>
 #include <thread>
 
-#include "app/build_info.h"
 #include "app/tray/fake_status_bar.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sampling/fake_export_platform.h"
@@ -27,13 +26,6 @@ namespace vantor::vantor_app_test {
 namespace {
 
 using namespace std::chrono_literals;
-
-TEST(BuildInfo, HasTheVersionAndTheBuildOfThisProgram) {
-    EXPECT_EQ(BuildInfo().text("CFBundleShortVersionString"), VANTOR_VERSION);
-    EXPECT_EQ(BuildInfo().text("CFBundleVersion"), VANTOR_BUILD_NUMBER);
-    EXPECT_EQ(BuildInfo().text("CFBundleName"), std::nullopt);
-    EXPECT_EQ(BuildInfo().text(""), std::nullopt);
-}
 
 class VantorAppTest : public testing::Test {
   protected:
