@@ -30,6 +30,12 @@ class SessionBus {
 
   private:
     void start(const QStringList& arguments) {
+        // What it starts, above all the accessibility bus, keeps its sockets in the user's folders:
+        // two buses of one user would share them, and each would be asked for the other's.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* const folder : {"HOME", "XDG_RUNTIME_DIR", "XDG_CACHE_HOME"})
+            environment.insert(QString::fromLatin1(folder), home_.path());
+        process_.setProcessEnvironment(environment);
         process_.setStandardErrorFile(QProcess::nullDevice());
         process_.start(QStringLiteral("dbus-daemon"),
                        QStringList{QStringLiteral("--session"), QStringLiteral("--nofork"),
@@ -39,6 +45,7 @@ class SessionBus {
             address_ = QString::fromLatin1(process_.readLine()).trimmed();
     }
 
+    QTemporaryDir home_;
     QProcess process_;
     QString address_;
 };
