@@ -79,7 +79,9 @@ TEST_F(Scarcity, WithTooFewFilesItEndsWhenItIsToldTo) {
 }
 
 TEST_F(Scarcity, WithNoFileLeftItGoesOnAndEndsWhenItIsToldTo) {
-    start();
+    startAfter(QStringLiteral(":"));
+    ASSERT_TRUE(program_->waitForLiveData());
+    ASSERT_TRUE(eventually([this] { return program_->isActive(); }));
     limit(QStringLiteral("--nofile=10"));
     openEverything();
     expectAnHonestEnd(QStringLiteral("no file"));
