@@ -36,7 +36,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
                 ${CMAKE_SOURCE_DIR}
                 ${CMAKE_CURRENT_BINARY_DIR}/compared_documents)
         set_tests_properties(ExportedDocuments.AreTheSameWhateverCompilerAndOptimisationBuiltTheWriter
-            PROPERTIES TIMEOUT 300 LABELS core)
+            PROPERTIES TIMEOUT 900 LABELS core)
     endif()
     if(VANTOR_PYTHON)
         add_test(NAME ExportedDocuments.FitTheirSchemaAndReadBackTheSame
