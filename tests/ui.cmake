@@ -21,6 +21,7 @@ target_precompile_headers(vantor_widget_testing REUSE_FROM vantor_widget_test_he
 vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     # With the monitor's records: first, so that these share batches, and a record that changes spares
     # the others.
+    ui/absence_test.cpp
     ui/accessibility_test.cpp
     ui/cpu_card_test.cpp
     ui/cpu_card_view_test.cpp

@@ -28,6 +28,13 @@ int count(const QImage& image, const QRectF& area, Matches&& matches) {
 }  // namespace
 
 QPalette paletteOf(ColorScheme scheme) {
+    if (hasHighContrast(scheme)) {
+        const QColor ground = isDark(scheme) ? Qt::black : Qt::white;
+        const QColor label = isDark(scheme) ? Qt::white : Qt::black;
+        QPalette palette(label, ground, label, label, label, label, label, ground, ground);
+        palette.setColor(QPalette::PlaceholderText, label);
+        return palette;
+    }
     const bool dark = scheme == ColorScheme::dark;
     QPalette palette(dark ? QColor(40, 44, 54) : QColor(230, 234, 242),
                      dark ? QColor(14, 17, 24) : QColor(240, 243, 250));

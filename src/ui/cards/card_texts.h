@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "ui/components/metric_row.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 
@@ -22,17 +23,26 @@ inline QString notPublished() {
     return QStringLiteral("Not published");
 }
 
-inline QString temperature(std::optional<double> celsius) {
-    return celsius ? Formatters::fixed(*celsius, 0) + QStringLiteral(" °C") : notPublished();
+inline std::optional<QString> temperature(std::optional<double> celsius) {
+    if (!celsius) return std::nullopt;
+    return Formatters::fixed(*celsius, 0) + QStringLiteral(" °C");
 }
 
-inline QString bytes(std::optional<std::uint64_t> count) {
-    return count ? Formatters::bytes(*count) : notPublished();
+inline std::optional<QString> bytes(std::optional<std::uint64_t> count) {
+    if (!count) return std::nullopt;
+    return Formatters::bytes(*count);
 }
 
-/// A text of the machine's, or `otherwise` where it is empty.
-inline QString orElse(const std::string& text, const QString& otherwise) {
-    return text.empty() ? otherwise : shownText(text);
+/// A text of the machine's; absent where it is empty.
+inline std::optional<QString> known(const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    return shownText(text);
+}
+
+/// A row with a figure, or with the words for its absence.
+inline MetricRow row(const QString& label, const std::optional<QString>& figure,
+                     const QString& absence, std::optional<QColor> color) {
+    return {label, figure.value_or(absence), std::move(color), !figure};
 }
 
 }  // namespace vantor::CardTexts

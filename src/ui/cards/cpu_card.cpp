@@ -43,21 +43,21 @@ RingGauge CPUCard::gauge() const {
 }
 
 std::array<MetricRow, 4> CPUCard::rows() const {
-    const auto share = [&](double value) {
-        return isWaiting() ? CardTexts::unknownYet() : Formatters::percent(value, 1);
-    };
     const QString absent = isWaiting() ? CardTexts::unknownYet() : CardTexts::notPublished();
-    const QString nominal =
-        stats.nominalFrequencyHz
-            ? Formatters::fixed(static_cast<double>(*stats.nominalFrequencyHz) / 1e9, 2) +
-                  QStringLiteral(" GHz")
-            : absent;
-    const QString temperature =
-        stats.temperatureCelsius ? CardTexts::temperature(stats.temperatureCelsius) : absent;
-    return {MetricRow{QStringLiteral("User"), share(stats.userUsage), VantorTheme::orange()},
-            MetricRow{QStringLiteral("System"), share(stats.systemUsage), VantorTheme::blue()},
-            MetricRow{QStringLiteral("Nominal"), nominal, VantorTheme::pink()},
-            MetricRow{QStringLiteral("Temperature"), temperature, VantorTheme::purple()}};
+    const auto share = [&](double value) {
+        return isWaiting() ? std::nullopt : std::optional(Formatters::percent(value, 1));
+    };
+    std::optional<QString> nominal;
+    if (stats.nominalFrequencyHz) {
+        nominal = Formatters::fixed(static_cast<double>(*stats.nominalFrequencyHz) / 1e9, 2) +
+                  QStringLiteral(" GHz");
+    }
+    using CardTexts::row;
+    return {row(QStringLiteral("User"), share(stats.userUsage), absent, VantorTheme::orange()),
+            row(QStringLiteral("System"), share(stats.systemUsage), absent, VantorTheme::blue()),
+            row(QStringLiteral("Nominal"), nominal, absent, VantorTheme::pink()),
+            row(QStringLiteral("Temperature"), CardTexts::temperature(stats.temperatureCelsius),
+                absent, VantorTheme::purple())};
 }
 
 QString CPUCard::loadAverageText() const {

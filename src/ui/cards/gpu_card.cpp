@@ -48,18 +48,17 @@ RingGauge GPUCard::gauge() const {
 
 std::array<MetricRow, 3> GPUCard::rows() const {
     const bool isKnown = !gpus.empty();
-    const auto text = [&](const QString& known) {
-        return isKnown ? known : CardTexts::unknownYet();
-    };
+    const QString absent = isKnown ? CardTexts::notPublished() : CardTexts::unknownYet();
     const GPUStats none;
     const GPUStats& gpu = isKnown ? gpus.front() : none;
-    return {MetricRow{QStringLiteral("Temperature"),
-                      text(CardTexts::temperature(gpu.temperatureCelsius)), VantorTheme::orange()},
+    using CardTexts::row;
+    return {row(QStringLiteral("Temperature"), CardTexts::temperature(gpu.temperatureCelsius),
+                absent, VantorTheme::orange()),
             // Without a dot its label would not be aligned with the other two.
-            MetricRow{QStringLiteral("VRAM Used"), text(CardTexts::bytes(gpu.vramUsedBytes)),
-                      VantorTheme::purple()},
-            MetricRow{QStringLiteral("VRAM Total"), text(CardTexts::bytes(gpu.vramTotalBytes)),
-                      VantorTheme::blue()}};
+            row(QStringLiteral("VRAM Used"), CardTexts::bytes(gpu.vramUsedBytes), absent,
+                VantorTheme::purple()),
+            row(QStringLiteral("VRAM Total"), CardTexts::bytes(gpu.vramTotalBytes), absent,
+                VantorTheme::blue())};
 }
 
 EmptyState GPUCard::emptyState(const PlatformWords& platform) {

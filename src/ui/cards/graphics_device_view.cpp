@@ -39,6 +39,7 @@ GraphicsDeviceBlock GraphicsDeviceBlock::of(const GPUStats& gpu, const PlatformW
                                      : QStringLiteral("Discrete graphics");
     block.utilization =
         gpu.utilization ? Formatters::percent(*gpu.utilization, 1) : CardTexts::notPublished();
+    block.isLoadKnown = gpu.utilization.has_value();
     if (gpu.recommendedWorkingSetBytes) {
         block.workingSet = Formatters::bytes(*gpu.recommendedWorkingSetBytes);
     }
@@ -87,16 +88,25 @@ void GraphicsDeviceView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     const double step = lineHeight(this) + lineSpacing;
     QRectF line(0, 0, width(), lineHeight(this));
-    const auto drawPair = [&](const TextStyle& style, const QString& label, const QString& value) {
-        painter.primary();
+    const auto drawPair = [&](const TextStyle& style, const QString& label, const QString& value,
+                              bool isKnown = true) {
+        if (isKnown) {
+            painter.primary();
+        } else {
+            painter.secondary();
+        }
         painter.figures(style, line, Qt::AlignRight | Qt::AlignVCenter, value);
         const double used = painter.figuresWidth(style, value);
-        if (style == graphicsDeviceDetailStyle) painter.secondary();
+        if (style == graphicsDeviceDetailStyle) {
+            painter.secondary();
+        } else {
+            painter.primary();
+        }
         painter.line(style, line.adjusted(0, 0, -used - graphicsDeviceTextGap, 0),
                      Qt::AlignLeft | Qt::AlignVCenter, label);
         line.translate(0, step);
     };
-    drawPair(graphicsDeviceNameStyle, block_.name, block_.utilization);
+    drawPair(graphicsDeviceNameStyle, block_.name, block_.utilization, block_.isLoadKnown);
     drawPair(graphicsDeviceDetailStyle, block_.kind, {});
     if (!block_.note.isEmpty()) drawPair(graphicsDeviceDetailStyle, block_.note, {});
     if (block_.workingSet)

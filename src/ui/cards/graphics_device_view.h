@@ -15,6 +15,7 @@ struct GraphicsDeviceBlock {
     QString name;
     QString kind;
     QString utilization;
+    bool isLoadKnown = false;
     std::optional<QString> workingSet;
     QString note;  ///< what sets its load apart from that of other devices; empty for nothing
 

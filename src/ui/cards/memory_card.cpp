@@ -42,13 +42,15 @@ RingGauge MemoryCard::gauge() const {
 
 std::array<MetricRow, 4> MemoryCard::rows() const {
     const auto size = [&](std::uint64_t count) {
-        return isWaiting() ? CardTexts::unknownYet() : Formatters::bytes(count);
+        return isWaiting() ? std::nullopt : std::optional(Formatters::bytes(count));
     };
-    return {
-        MetricRow{QStringLiteral("Active"), size(stats.activeBytes), VantorTheme::blue()},
-        MetricRow{QStringLiteral("Wired"), size(stats.wiredBytes), VantorTheme::pink()},
-        MetricRow{QStringLiteral("Compressed"), size(stats.compressedBytes), VantorTheme::orange()},
-        MetricRow{QStringLiteral("Available"), size(stats.availableBytes), VantorTheme::green()}};
+    const auto row = [&](const QString& label, std::uint64_t count, const QColor& color) {
+        return CardTexts::row(label, size(count), CardTexts::unknownYet(), color);
+    };
+    return {row(QStringLiteral("Active"), stats.activeBytes, VantorTheme::blue()),
+            row(QStringLiteral("Wired"), stats.wiredBytes, VantorTheme::pink()),
+            row(QStringLiteral("Compressed"), stats.compressedBytes, VantorTheme::orange()),
+            row(QStringLiteral("Available"), stats.availableBytes, VantorTheme::green())};
 }
 
 MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)

@@ -21,10 +21,6 @@ constexpr std::size_t interfacesRow = 3;
 // A container host has hundreds; a tool tip must not cover the screen.
 constexpr std::size_t maxHelpLines = 16;
 
-QString addressText(const std::optional<std::string>& address) {
-    return CardTexts::orElse(address.value_or(std::string{}), QStringLiteral("Not assigned"));
-}
-
 LabeledSparkline sparkline(const QString& label, const QColor& color) {
     return {label, CardTexts::unknownYet(), {}, color};
 }
@@ -56,27 +52,25 @@ QString NetworkCard::uploadText() const {
 
 SpeedTile NetworkCard::downloadTile() const {
     return {QStringLiteral("Download"), downloadText(), QStringLiteral("arrow.down"),
-            VantorTheme::green()};
+            VantorTheme::green(), isWaiting()};
 }
 
 SpeedTile NetworkCard::uploadTile() const {
     return {QStringLiteral("Upload"), uploadText(), QStringLiteral("arrow.up"),
-            VantorTheme::orange()};
+            VantorTheme::orange(), isWaiting()};
 }
 
 std::array<MetricRow, 4> NetworkCard::rows() const {
-    const auto known = [&](const QString& text) {
-        return isWaiting() ? CardTexts::unknownYet() : text;
+    const auto row = [&](const QString& label, const std::string& text, const QString& absence) {
+        return CardTexts::row(label, isWaiting() ? std::nullopt : CardTexts::known(text),
+                              isWaiting() ? CardTexts::unknownYet() : absence, std::nullopt);
     };
-    return {MetricRow{QStringLiteral("Hostname"),
-                      known(CardTexts::orElse(stats.hostname, QStringLiteral("Unknown"))),
-                      std::nullopt},
-            MetricRow{QStringLiteral("IPv4"), known(addressText(stats.primaryIPv4Address)),
-                      std::nullopt},
-            MetricRow{QStringLiteral("IPv6"), known(addressText(stats.primaryIPv6Address)),
-                      std::nullopt},
-            MetricRow{QStringLiteral("Interfaces"), known(QString::number(stats.interfaces.size())),
-                      std::nullopt}};
+    const QString unassigned = QStringLiteral("Not assigned");
+    return {
+        row(QStringLiteral("Hostname"), stats.hostname, QStringLiteral("Unknown")),
+        row(QStringLiteral("IPv4"), stats.primaryIPv4Address.value_or(std::string{}), unassigned),
+        row(QStringLiteral("IPv6"), stats.primaryIPv6Address.value_or(std::string{}), unassigned),
+        row(QStringLiteral("Interfaces"), std::to_string(stats.interfaces.size()), {})};
 }
 
 QString NetworkCard::interfacesHelp() const {

@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
@@ -38,18 +40,23 @@ QColor SystemCard::thermalColor(const std::string& state, ColorScheme scheme) {
 }
 
 std::array<MetricRow, 6> SystemCard::rows() const {
-    const auto row = [&](const QString& label, const QString& value) {
-        return MetricRow{label, isWaiting() ? CardTexts::unknownYet() : value, VantorTheme::blue()};
+    const auto row = [&](const QString& label, const std::optional<QString>& value) {
+        return CardTexts::row(label, isWaiting() ? std::nullopt : value,
+                              isWaiting() ? CardTexts::unknownYet() : QStringLiteral("Unknown"),
+                              VantorTheme::blue());
     };
-    const auto text = [](const std::string& value) {
-        return CardTexts::orElse(value, QStringLiteral("Unknown"));
-    };
+    using CardTexts::known;
+    std::optional<QString> uptime;
+    if (stats.uptimeSeconds >= 0 && std::isfinite(stats.uptimeSeconds))
+        uptime = Formatters::uptime(stats.uptimeSeconds);
+    // The record's own word where nobody tells the state.
+    const bool hasState = stats.thermalState != "Unknown";
     return {
-        row(QStringLiteral("Operating System"), text(stats.operatingSystem)),
-        row(QStringLiteral("Kernel Build"), text(stats.kernelVersion)),
-        row(QStringLiteral("Architecture"), text(stats.architecture)),
-        row(QStringLiteral("Uptime"), Formatters::uptime(stats.uptimeSeconds)),
-        row(QStringLiteral("Thermal State"), text(stats.thermalState)),
+        row(QStringLiteral("Operating System"), known(stats.operatingSystem)),
+        row(QStringLiteral("Kernel Build"), known(stats.kernelVersion)),
+        row(QStringLiteral("Architecture"), known(stats.architecture)),
+        row(QStringLiteral("Uptime"), uptime),
+        row(QStringLiteral("Thermal State"), hasState ? known(stats.thermalState) : std::nullopt),
         row(QStringLiteral("Low Power Mode"),
             stats.lowPowerModeEnabled ? QStringLiteral("Enabled") : QStringLiteral("Disabled"))};
 }

@@ -47,7 +47,11 @@ void LabeledSparklineView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     const double textHeight = std::ceil(painter.lineHeight(labeledSparklineTextStyle));
     const QRectF text(0, 0, width(), textHeight);
-    painter.primary();
+    if (sparkline_.values.empty()) {
+        painter.secondary();
+    } else {
+        painter.primary();
+    }
     painter.figures(labeledSparklineTextStyle, text, Qt::AlignRight | Qt::AlignTop,
                     sparkline_.value);
     const double valueWidth = painter.figuresWidth(labeledSparklineTextStyle, sparkline_.value);

@@ -62,7 +62,11 @@ void MetricRowView::paintEvent(QPaintEvent*) {
         vantorBackground(painter, *row_.color, dot);
     }
     const double valueWidth = painter.figuresWidth(metricRowValueStyle, row_.value);
-    painter.primary();
+    if (row_.isAbsent) {
+        painter.secondary();
+    } else {
+        painter.primary();
+    }
     // Neither a long label nor a long value may take the whole row.
     const double beside = width() - geometry.labelLeft - metricRowSpacing -
                           painter.lineWidth(metricRowLabelStyle, row_.label);

@@ -14,6 +14,7 @@ struct MetricRow {
     QString label;
     QString value;
     std::optional<QColor> color;
+    bool isAbsent = false;  ///< the value says that there is none, and is quieter
 
     bool operator==(const MetricRow&) const = default;
 };

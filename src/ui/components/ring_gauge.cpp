@@ -67,7 +67,11 @@ void RingGaugeView::paintEvent(QPaintEvent*) {
     const double titleHeight = painter.lineHeight(ringGaugeTitleStyle);
     const double detailHeight = painter.lineHeight(ringGaugeDetailStyle);
     const double top = (height() - titleHeight - ringGaugeTextSpacing - detailHeight) / 2;
-    painter.primary();
+    if (std::isnan(gauge_.value)) {
+        painter.secondary();
+    } else {
+        painter.primary();
+    }
     painter.figures(ringGaugeTitleStyle, QRectF(0, top, this->width(), titleHeight),
                     Qt::AlignHCenter, gauge_.title);
     painter.secondary();

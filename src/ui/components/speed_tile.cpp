@@ -70,7 +70,7 @@ void SpeedTileView::paintEvent(QPaintEvent*) {
     const double top = (height() - titleHeight - speedTileTextSpacing - valueHeight) / 2;
     painter.secondary();
     painter.line(speedTileTitleStyle, {left, top, across, titleHeight}, Qt::AlignLeft, tile_.title);
-    painter.primary();
+    if (!tile_.isAbsent) painter.primary();
     painter.figures(speedTileValueStyle,
                     {left, top + titleHeight + speedTileTextSpacing, across, valueHeight},
                     Qt::AlignLeft, tile_.value);

@@ -15,6 +15,7 @@ struct SpeedTile {
     QString value;
     QString icon;  ///< a symbol's name
     QColor color;
+    bool isAbsent = false;  ///< the value says that there is none, and is quieter
 
     bool operator==(const SpeedTile&) const = default;
 };

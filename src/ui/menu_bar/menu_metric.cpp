@@ -71,7 +71,7 @@ void MenuMetricView::paintEvent(QPaintEvent*) {
     painter.line(menuMetricTitleStyle,
                  {menuMetricHorizontalPadding, menuMetricVerticalPadding, across, titleHeight},
                  Qt::AlignLeft, metric_.title);
-    painter.primary();
+    if (!std::isnan(metric_.fraction)) painter.primary();
     const double valueTop = menuMetricVerticalPadding + titleHeight;
     painter.figures(menuMetricValueStyle,
                     {menuMetricHorizontalPadding, valueTop, across, valueHeight}, Qt::AlignLeft,
