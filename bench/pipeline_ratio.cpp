@@ -70,7 +70,7 @@ class Commits {
         update.cpu = CPUStats::empty();
         update.cpu->totalUsage = ++ticks_ * 1e-6;
         update.processSample = sample_;
-        sink = applyUpdate(std::move(update), next_, 120, Timestamp{}) ? 1 : 0;
+        sink = applyUpdate(std::move(update), next_, 120, Timestamp{}, 0) ? 1 : 0;
         std::swap(state_, next_);
     }
     const DashboardState& state() const { return state_; }

@@ -48,6 +48,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/app_metadata_test.cpp
     ui/byte_count_formatter_test.cpp
     ui/capsule_button_test.cpp
+    ui/chart_view_test.cpp
     ui/compatible_form_test.cpp
     ui/core_activity_test.cpp
     ui/dashboard_card_test.cpp

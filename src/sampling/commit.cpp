@@ -29,12 +29,20 @@ bool dropOldest(std::vector<double>& history, std::size_t limit) {
 void followHistoryDevice(const std::vector<GPUStats>& gpus, DashboardState& state) {
     if (!gpus.empty() && state.gpuHistoryDeviceID != gpus.front().id) {
         state.histories.gpu.clear();
+        state.histories.times.gpu.clear();
         state.gpuHistoryDeviceID = gpus.front().id;
     } else if (gpus.empty() && state.gpuHistoryDeviceID) {
         state.histories.gpu.clear();
+        state.histories.times.gpu.clear();
         state.gpuHistoryDeviceID.reset();
     }
 }
+
+/// What a sample needs to go into its history.
+struct SampleMoment {
+    std::size_t limit;
+    double uptime;
+};
 
 /// How a section's result has changed the state.
 enum class Change {
@@ -45,39 +53,43 @@ enum class Change {
 
 // One `commitSection` for each section, found by its type: one that is missing does not compile.
 
-Change commitSection(CPUStats&& cpu, DashboardState& state, std::size_t limit) {
+Change commitSection(CPUStats&& cpu, DashboardState& state, const SampleMoment& moment) {
     std::swap(state.snapshot.cpu, cpu);
-    appendToHistory(state.snapshot.cpu.totalUsage, state.histories.cpu, limit);
+    appendToHistory(state.snapshot.cpu.totalUsage, state.histories.cpu, moment.limit);
+    appendToHistory(moment.uptime, state.histories.times.cpu, moment.limit);
     return Change::revised;
 }
 
-Change commitSection(MemoryStats&& memory, DashboardState& state, std::size_t limit) {
+Change commitSection(MemoryStats&& memory, DashboardState& state, const SampleMoment& moment) {
     state.snapshot.memory = memory;
-    appendToHistory(usedFraction(memory), state.histories.memory, limit);
+    appendToHistory(usedFraction(memory), state.histories.memory, moment.limit);
+    appendToHistory(moment.uptime, state.histories.times.memory, moment.limit);
     return Change::revised;
 }
 
-Change commitSection(NetworkStats&& network, DashboardState& state, std::size_t limit) {
-    appendToHistory(network.downloadBytesPerSecond, state.histories.download, limit);
-    appendToHistory(network.uploadBytesPerSecond, state.histories.upload, limit);
+Change commitSection(NetworkStats&& network, DashboardState& state, const SampleMoment& moment) {
+    appendToHistory(network.downloadBytesPerSecond, state.histories.download, moment.limit);
+    appendToHistory(network.uploadBytesPerSecond, state.histories.upload, moment.limit);
+    appendToHistory(moment.uptime, state.histories.times.network, moment.limit);
     state.snapshot.network = std::move(network);
     return Change::revised;
 }
 
-Change commitSection(SystemInfoStats&& system, DashboardState& state, std::size_t) {
+Change commitSection(SystemInfoStats&& system, DashboardState& state, const SampleMoment&) {
     if (system == state.snapshot.system) return Change::none;
     state.snapshot.system = std::move(system);
     return Change::revised;
 }
 
-Change commitSection(ProcessSample&& sample, DashboardState& state, std::size_t) {
+Change commitSection(ProcessSample&& sample, DashboardState& state, const SampleMoment&) {
     state.snapshot.processes = std::move(sample.all);
     state.processesByCPU = std::move(sample.sortedByCPU);
     state.processesByMemory = std::move(sample.sortedByMemory);
     return Change::revised;
 }
 
-Change commitSection(std::vector<GPUStats>&& gpus, DashboardState& state, std::size_t limit) {
+Change commitSection(std::vector<GPUStats>&& gpus, DashboardState& state,
+                     const SampleMoment& moment) {
     // That there is nothing is to be published too, once.
     const bool isFirst = !std::exchange(state.answered.gpus, true);
     const bool isEqual = gpus == state.snapshot.gpus;
@@ -85,13 +97,17 @@ Change commitSection(std::vector<GPUStats>&& gpus, DashboardState& state, std::s
     if (!isEqual) state.snapshot.gpus = std::move(gpus);
     const auto& current = state.snapshot.gpus;
     const bool moves = !current.empty() && current.front().utilization.has_value();
-    if (moves) appendToHistory(*current.front().utilization, state.histories.gpu, limit);
+    if (moves) {
+        appendToHistory(*current.front().utilization, state.histories.gpu, moment.limit);
+        appendToHistory(moment.uptime, state.histories.times.gpu, moment.limit);
+    }
     // An unchanged list still moves the graph on while there is a utilization to draw.
     if (!isEqual || moves) return Change::revised;
     return isFirst ? Change::told : Change::none;
 }
 
-Change commitSection(std::vector<VolumeStats>&& volumes, DashboardState& state, std::size_t) {
+Change commitSection(std::vector<VolumeStats>&& volumes, DashboardState& state,
+                     const SampleMoment&) {
     const bool isFirst = !std::exchange(state.answered.volumes, true);
     if (volumes == state.snapshot.volumes) return isFirst ? Change::told : Change::none;
     state.snapshot.volumes = std::move(volumes);
@@ -131,20 +147,23 @@ void appendToHistory(double value, std::vector<double>& history, std::size_t lim
 bool trimHistories(Histories& histories, std::size_t limit) {
     bool trimmed = false;
     for (auto* history : {&histories.cpu, &histories.memory, &histories.download, &histories.upload,
-                          &histories.gpu}) {
+                          &histories.gpu, &histories.times.cpu, &histories.times.memory,
+                          &histories.times.network, &histories.times.gpu}) {
         trimmed = dropOldest(*history, limit) || trimmed;
     }
     return trimmed;
 }
 
-bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now) {
+bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now,
+                 double uptime) {
     state.snapshot.timestamp = now;
     bool changed = false;
     std::size_t place = 0;
     const auto apply = [&](auto section) {
         const auto revision = sectionRevisions[place++];
         if (auto& result = update.*section)
-            changed |= note(commitSection(std::move(*result), state, limit), revision, state);
+            changed |=
+                note(commitSection(std::move(*result), state, {limit, uptime}), revision, state);
     };
     std::apply([&](auto... section) { (apply(section), ...); }, pendingSections);
     if (update.hasPowerUpdate)

@@ -25,8 +25,10 @@ void appendToHistory(double value, std::vector<double>& history, std::size_t lim
 /// Drops the oldest values beyond `limit` from each history; false when none was longer.
 bool trimHistories(Histories& histories, std::size_t limit);
 
-/// Folds `update` into `state` and stamps it with `now`; false when nothing changed (the state's
-/// timestamp is then not worth publishing). The update's records are moved from.
-bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now);
+/// Folds `update` into `state` and stamps it with `now`, and its new samples with
+/// `uptime`, seconds; false when nothing changed (the state's timestamp is then not worth
+/// publishing). The update's records are moved from.
+bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now,
+                 double uptime);
 
 }  // namespace vantor

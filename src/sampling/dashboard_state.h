@@ -10,6 +10,17 @@
 
 namespace vantor {
 
+/// When each sample of a history was committed, in seconds of the machine's uptime: pauses and
+/// other intervals make the distances uneven.
+struct HistoryTimes {
+    std::vector<double> cpu;
+    std::vector<double> memory;
+    std::vector<double> network;  ///< of download and of upload
+    std::vector<double> gpu;
+
+    bool operator==(const HistoryTimes&) const = default;
+};
+
 /// The bounded series that the charts draw, each oldest first.
 struct Histories {
     std::vector<double> cpu;       ///< total usage, 0 to 1
@@ -17,6 +28,7 @@ struct Histories {
     std::vector<double> download;  ///< bytes per second
     std::vector<double> upload;
     std::vector<double> gpu;  ///< utilization of one device, 0 to 1
+    HistoryTimes times;
 
     bool operator==(const Histories&) const = default;
 };

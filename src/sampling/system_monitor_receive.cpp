@@ -24,7 +24,7 @@ void SystemMonitor::commitPendingUpdate() {
     if (update.isEmpty()) return;
     DashboardState next = copyOfState();
     if (applyUpdate(std::move(update), next, historyLimit(settings_->historyLength()),
-                    machine_->wallClock().now())) {
+                    machine_->wallClock().now(), machine_->processInfo().systemUptime())) {
         dashboardState_.publish(next);
     }
     spareState_ = std::move(next);

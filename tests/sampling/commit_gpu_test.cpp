@@ -13,7 +13,7 @@ using testing::IsEmpty;
 bool applyGPUs(std::vector<GPUStats> gpus, DashboardState& state) {
     PendingUpdate update;
     update.gpus = std::move(gpus);
-    return applyUpdate(std::move(update), state, 30, Timestamp{});
+    return applyUpdate(std::move(update), state, 30, Timestamp{}, 5);
 }
 
 TEST(GPUCommit, FirstDeviceGivesTheHistoryItsValues) {
@@ -95,6 +95,7 @@ TEST(GPUCommit, ChangedLaterDeviceKeepsTheHistory) {
     applyGPUs({gpuDevice("a", 0.5), gpuDevice("b", 0.9)}, state);
     EXPECT_TRUE(applyGPUs({gpuDevice("a", 0.6), gpuDevice("c", 0.1)}, state));
     EXPECT_THAT(state.histories.gpu, ElementsAre(0.5, 0.6));
+    EXPECT_THAT(state.histories.times.gpu, ElementsAre(5, 5));
 }
 
 TEST(GPUCommit, ListThatBecomesEmptyForgetsDeviceAndHistory) {

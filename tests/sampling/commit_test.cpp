@@ -20,7 +20,7 @@ constexpr std::size_t limit = 30;
 constexpr Timestamp noon{std::chrono::hours{12}};
 
 bool apply(PendingUpdate update, DashboardState& state) {
-    return applyUpdate(std::move(update), state, limit, noon);
+    return applyUpdate(std::move(update), state, limit, noon, 90);
 }
 
 struct LimitRow : NamedRow {
@@ -97,6 +97,7 @@ TEST(Commit, CPUReadingReplacesTheRecordAndGoesIntoItsHistory) {
     expected.snapshot.timestamp = noon;
     expected.snapshot.cpu = cpuReading(0.25);
     expected.histories.cpu = {0.25};
+    expected.histories.times.cpu = {90};
     expected.revisions.cpu = 1;
     EXPECT_EQ(state, expected);
 }
@@ -126,6 +127,23 @@ INSTANTIATE_TEST_SUITE_P(
                     MemoryRow{{"NothingInstalled"}, 5, 0, 0.0},
                     MemoryRow{{"LargestNumbers"}, UINT64_MAX / 2, UINT64_MAX, 0.5}),
     rowName<MemoryRow>);
+
+TEST(Commit, EachSampleKeepsTheUptimeOfItsCommit) {
+    DashboardState state;
+    for (const double uptime : {10.0, 11.0, 700.0}) {
+        PendingUpdate update;
+        update.cpu = cpuReading(0.5);
+        update.network = networkReading(3, 4);
+        if (uptime > 10) update.memory = memoryReading(1, 2);
+        applyUpdate(std::move(update), state, 2, noon, uptime);
+    }
+    EXPECT_THAT(state.histories.times.cpu, ElementsAre(11, 700));
+    EXPECT_THAT(state.histories.times.memory, ElementsAre(11, 700));
+    EXPECT_THAT(state.histories.times.network, ElementsAre(11, 700));
+    EXPECT_THAT(state.histories.times.gpu, IsEmpty());
+    EXPECT_TRUE(trimHistories(state.histories, 1));
+    EXPECT_THAT(state.histories.times.cpu, ElementsAre(700));
+}
 
 TEST(Commit, NetworkReadingGoesIntoTwoHistories) {
     DashboardState state;

@@ -23,8 +23,8 @@ constexpr std::size_t cpuCardProcessRows = 5;
 }  // namespace
 
 CPUCard CPUCard::of(const DashboardState& state) {
-    return {state.snapshot.cpu, state.histories.cpu, state.processesByCPU, state.revisions.cpu,
-            state.revisions.processes};
+    return {state.snapshot.cpu,  state.histories.cpu,       state.processesByCPU,
+            state.revisions.cpu, state.revisions.processes, state.histories.times.cpu};
 }
 
 DashboardCard CPUCard::frame() const {
@@ -104,7 +104,7 @@ void CPUCardView::show(const CPUCard& card) {
         header().setToolTip(toolTipText(shownText(card.stats.model)));
         figures_->show(card.gauge(), card.rows());
         loadAverage_->show(card.loadAverageText());
-        history_->show(card.history, card.gauge().title);
+        history_->show(card.history, card.gauge().title, card.historyTimes);
         cores_->show(card.stats.perCoreUsage);
         revision_ = card.revision;
     }

@@ -25,6 +25,7 @@ struct CPUCard {
     std::span<const ProcessStats> processes;
     std::uint64_t revision = 0;
     std::uint64_t processRevision = 0;
+    std::span<const double> historyTimes = {};
 
     static CPUCard of(const DashboardState& state);
 

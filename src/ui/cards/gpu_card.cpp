@@ -25,7 +25,8 @@ QString words(std::string_view text) {
 }  // namespace
 
 GPUCard GPUCard::of(const DashboardState& state) {
-    return {state.snapshot.gpus, state.histories.gpu, state.revisions.gpu, !state.answered.gpus};
+    return {state.snapshot.gpus, state.histories.gpu, state.revisions.gpu, !state.answered.gpus,
+            state.histories.times.gpu};
 }
 
 DashboardCard GPUCard::frame() const {
@@ -106,7 +107,7 @@ void GPUCardView::show(const GPUCard& card) {
     emptyState_->setVisible(card.isEmpty());
     filled_->setVisible(!card.isEmpty());
     figures_->show(card.gauge(), card.rows());
-    history_->show(card.history, card.gauge().title);
+    history_->show(card.history, card.gauge().title, card.historyTimes);
     showDevices(card.gpus);
 }
 

@@ -24,6 +24,7 @@ struct GPUCard {
     std::span<const double> history;  ///< of the first device, which the gauge shows too
     std::uint64_t revision = 0;
     bool isWaiting = true;  ///< not read yet: whether there are any is unknown
+    std::span<const double> historyTimes = {};
 
     static GPUCard of(const DashboardState& state);
 

@@ -22,8 +22,8 @@ double usedFraction(const MemoryStats& stats) {
 }  // namespace
 
 MemoryCard MemoryCard::of(const DashboardState& state) {
-    return {state.snapshot.memory, state.histories.memory, state.processesByMemory,
-            state.revisions.memory, state.revisions.processes};
+    return {state.snapshot.memory,  state.histories.memory,    state.processesByMemory,
+            state.revisions.memory, state.revisions.processes, state.histories.times.memory};
 }
 
 DashboardCard MemoryCard::frame() const {
@@ -76,7 +76,7 @@ void MemoryCardView::show(const MemoryCard& card) {
     if (card.revision != revision_) {
         showCard(card.frame());
         figures_->show(card.gauge(), card.rows());
-        history_->show(card.history, card.gauge().title);
+        history_->show(card.history, card.gauge().title, card.historyTimes);
         revision_ = card.revision;
     }
     if (card.processRevision != processRevision_) {

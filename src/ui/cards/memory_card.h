@@ -23,6 +23,7 @@ struct MemoryCard {
     std::span<const ProcessStats> processes;
     std::uint64_t revision = 0;
     std::uint64_t processRevision = 0;
+    std::span<const double> historyTimes = {};
 
     static MemoryCard of(const DashboardState& state);
 

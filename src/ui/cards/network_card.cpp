@@ -29,7 +29,7 @@ LabeledSparkline sparkline(const QString& label, const QColor& color) {
 
 NetworkCard NetworkCard::of(const DashboardState& state) {
     return {state.snapshot.network, state.histories.download, state.histories.upload,
-            state.revisions.network};
+            state.revisions.network, state.histories.times.network};
 }
 
 DashboardCard NetworkCard::frame() const {
@@ -123,8 +123,8 @@ void NetworkCardView::show(const NetworkCard& card) {
     showCard(card.frame());
     downloadTile_->show(card.downloadTile());
     uploadTile_->show(card.uploadTile());
-    downloadHistory_->show(card.downloadText(), card.downloadHistory);
-    uploadHistory_->show(card.uploadText(), card.uploadHistory);
+    downloadHistory_->show(card.downloadText(), card.downloadHistory, card.historyTimes);
+    uploadHistory_->show(card.uploadText(), card.uploadHistory, card.historyTimes);
     const auto rows = card.rows();
     for (std::size_t i = 0; i < rows.size(); ++i)
         rows_[i]->show(rows[i]);

@@ -20,6 +20,7 @@ struct NetworkCard {
     std::span<const double> downloadHistory;
     std::span<const double> uploadHistory;
     std::uint64_t revision = 0;
+    std::span<const double> historyTimes = {};
 
     static NetworkCard of(const DashboardState& state);
 

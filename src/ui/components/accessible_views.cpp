@@ -8,7 +8,6 @@
 
 #include "ui/components/dashboard_card.h"
 #include "ui/components/painted_view.h"
-#include "ui/components/tool_tip_text.h"
 
 namespace vantor {
 
@@ -129,7 +128,7 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
     /// only.
     QString description() const {
         const QString value = view_.accessibleValueText();
-        const QString help = readToolTip(view_.toolTip());
+        const QString help = view_.accessibleHelp();
         if (value.isEmpty() || help.isEmpty() || value == help) {
             return value.isEmpty() ? help : value;
         }

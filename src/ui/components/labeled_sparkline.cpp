@@ -4,6 +4,7 @@
 
 #include "ui/components/sparkline.h"
 #include "ui/drawing/view_painter.h"
+#include "ui/formatters.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -19,11 +20,13 @@ constexpr TextStyle labeledSparklineTextStyle{Typography::caption2};
 }  // namespace
 
 LabeledSparklineView::LabeledSparklineView(LabeledSparkline sparkline, QWidget* parent)
-    : PaintedView(parent), sparkline_(std::move(sparkline)) {
+    : ChartView(Formatters::rate, parent), sparkline_(std::move(sparkline)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void LabeledSparklineView::show(const QString& value, std::span<const double> values) {
+void LabeledSparklineView::show(const QString& value, std::span<const double> values,
+                                std::span<const double> times) {
+    adoptTimes(times);
     sparkline_.value = value;
     sparkline_.values.assign(values.begin(), values.end());
     update();
@@ -59,10 +62,13 @@ void LabeledSparklineView::paintEvent(QPaintEvent*) {
     painter.line(labeledSparklineTextStyle,
                  text.adjusted(0, 0, -valueWidth - labeledSparklineSpacing, 0),
                  Qt::AlignLeft | Qt::AlignTop, sparkline_.label);
-    paintSparkline(painter,
-                   {0, textHeight + labeledSparklineSpacing, text.width(),
-                    height() - textHeight - labeledSparklineSpacing},
-                   sparkline_.values, sparkline_.color, std::nullopt);
+    paintSparkline(painter, chartArea(), sparkline_.values, sparkline_.color, std::nullopt);
+    paintReading(painter);
+}
+
+QRectF LabeledSparklineView::chartArea() const {
+    const double top = textHeight() + labeledSparklineSpacing;
+    return {0, top, static_cast<double>(width()), height() - top};
 }
 
 }  // namespace vantor

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "ui/components/painted_view.h"
+#include "ui/components/chart_view.h"
 
 namespace vantor {
 
@@ -20,22 +20,26 @@ struct LabeledSparkline {
     bool operator==(const LabeledSparkline&) const = default;
 };
 
-/// Draws it across its whole width; the chart is 54 points high (more with a larger system font).
-class LabeledSparklineView : public PaintedView {
+/// Draws a series of rates across its whole width; the chart is 54 points high (more with a larger
+/// system font).
+class LabeledSparklineView : public ChartView {
   public:
     explicit LabeledSparklineView(LabeledSparkline sparkline, QWidget* parent = nullptr);
 
-    /// Shows other values under the same label.
-    void show(const QString& value, std::span<const double> values);
+    /// Shows other values under the same label, of those times in seconds where they are known.
+    void show(const QString& value, std::span<const double> values,
+              std::span<const double> times = {});
     const LabeledSparkline& sparkline() const { return sparkline_; }
 
-    QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
     QString accessibleLabel() const override { return sparkline_.label; }
-    QString accessibleValueText() const override { return sparkline_.value; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
   protected:
+    std::span<const double> samples() const override { return sparkline_.values; }
+    std::optional<std::pair<double, double>> fixedRange() const override { return std::nullopt; }
+    QString newestText() const override { return sparkline_.value; }
+    QRectF chartArea() const override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

@@ -1,5 +1,7 @@
 #include "ui/components/painted_view.h"
 
+#include "ui/components/tool_tip_text.h"
+
 namespace vantor {
 
 namespace {
@@ -18,6 +20,10 @@ void announce(PaintedView& view, int row, QAccessible::Event kind) {
 }
 
 }  // namespace
+
+QString PaintedView::accessibleHelp() const {
+    return readToolTip(toolTip());
+}
 
 std::optional<AccessibleRange> PaintedView::accessibleRange() const {
     const auto fraction = accessibleFraction();

@@ -27,6 +27,9 @@ class PaintedView : public QWidget {
     virtual QString accessibleLabel() const = 0;
     virtual QString accessibleValueText() const { return {}; }
 
+    /// What explains it: its tool tip.
+    virtual QString accessibleHelp() const;
+
     /// Where it shows a share of a whole: that share, 0 to 1.
     virtual std::optional<double> accessibleFraction() const { return std::nullopt; }
 

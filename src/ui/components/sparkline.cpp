@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/drawing/device_pixels.h"
+#include "ui/formatters.h"
 #include "ui/theme.h"
 #include "ui/typography.h"
 
@@ -48,14 +49,16 @@ void paintSparkline(ViewPainter& painter, const QRectF& area, std::span<const do
 }
 
 SparklineView::SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent)
-    : PaintedView(parent),
+    : ChartView([](double share) { return Formatters::percent(share, 1); }, parent),
       label_(std::move(label)),
       sparkline_(std::move(sparkline)),
       height_(height) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void SparklineView::show(std::span<const double> values, const QString& value) {
+void SparklineView::show(std::span<const double> values, const QString& value,
+                         std::span<const double> times) {
+    adoptTimes(times);
     sparkline_.values.assign(values.begin(), values.end());
     value_ = value;
     update();
@@ -70,6 +73,7 @@ QSize SparklineView::sizeHint() const {
 void SparklineView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this);
     paintSparkline(painter, rect(), sparkline_.values, sparkline_.accent, sparkline_.fixedRange);
+    paintReading(painter);
 }
 
 }  // namespace vantor

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "ui/components/painted_view.h"
+#include "ui/components/chart_view.h"
 #include "ui/drawing/view_painter.h"
 
 namespace vantor {
@@ -37,22 +37,28 @@ struct SparklineGeometry {
 void paintSparkline(ViewPainter& painter, const QRectF& area, std::span<const double> values,
                     const QColor& accent, std::optional<std::pair<double, double>> fixedRange);
 
-/// Draws a series across its whole width, 62 points high by default.
-class SparklineView : public PaintedView {
+/// Draws a series of shares across its whole width, 62 points high by default.
+class SparklineView : public ChartView {
   public:
     SparklineView(QString label, Sparkline sparkline, int height, QWidget* parent = nullptr);
 
-    /// Shows other values in the same style. `value` is the newest one, as a screen reader says it.
-    void show(std::span<const double> values, const QString& value);
+    /// Shows other values in the same style. `value` is the newest one, as a screen reader says it;
+    /// `times` are those of the values, in seconds, where they are known.
+    void show(std::span<const double> values, const QString& value,
+              std::span<const double> times = {});
     const Sparkline& sparkline() const { return sparkline_; }
 
-    QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
     QString accessibleLabel() const override { return label_; }
-    QString accessibleValueText() const override { return value_; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:
+    std::span<const double> samples() const override { return sparkline_.values; }
+    std::optional<std::pair<double, double>> fixedRange() const override {
+        return sparkline_.fixedRange;
+    }
+    QString newestText() const override { return value_; }
+    QRectF chartArea() const override { return rect(); }
     void paintEvent(QPaintEvent* event) override;
 
   private:

@@ -12,6 +12,7 @@
 #include "ui/cards/network_card.h"
 #include "ui/cards/storage_card.h"
 #include "ui/cards/system_card.h"
+#include "ui/components/chart_view.h"
 #include "ui/components/make_child.h"
 #include "ui/components/text_line.h"
 #include "ui/dashboard/dashboard_header.h"
@@ -101,6 +102,10 @@ void DashboardView::addCards(QWidget* content) {
     for (QWidget* card : std::initializer_list<QWidget*>{cpuCard_, memoryCard_, networkCard_,
                                                          gpuCard_, storageCard_, systemCard_}) {
         grid->addWidget(card);
+    }
+    for (QWidget* part : content->findChildren<QWidget*>()) {
+        auto* const chart = dynamic_cast<ChartView*>(part);
+        if (chart) chart->setClock([&versions] { return versions.systemUptime(); });
     }
     auto* column = static_cast<QVBoxLayout*>(content->layout());
     column->addLayout(grid);
