@@ -128,7 +128,43 @@ TEST_F(CoreActivityViewTest, CellsHaveRoundedCornersAndANumber) {
     EXPECT_LT(colorAt(image, 0.5, 0.5).alpha(), 128);
     const QRectF number(90, 6, 20, 14);
     EXPECT_LT(pixelsLike(image, number, VantorTheme::green()), 20 * 14);
-    EXPECT_EQ(pixelsLike(image, QRectF(20, 2, 60, 22), VantorTheme::green()), 60 * 22);
+    EXPECT_EQ(pixelsLike(image, QRectF(20, 2, 50, 22), VantorTheme::green()), 50 * 22);
+}
+
+/// How wide the letters of the first cell are.
+int lettersWidth(const QImage& image, int cellWidth) {
+    int width = 0;
+    for (int x = 3; x < cellWidth - 3; ++x) {
+        if (pixelsLike(image, QRectF(x, 5, 1, 16), VantorTheme::green()) < 16) ++width;
+    }
+    return width;
+}
+
+TEST_F(CoreActivityViewTest, AWideCellSaysItsShareBesideItsNumber) {
+    EXPECT_EQ(utf8(CoreActivity::text(2, 0.424)), "3  42%");
+    const int wide = lettersWidth(drawn({1, 1}), 198);
+    EXPECT_GT(wide, 20);
+    const int narrow = lettersWidth(drawn(std::vector<double>(14, 1)), 24);
+    EXPECT_GT(narrow, 1);
+    EXPECT_LT(narrow, 12) << "the number alone";
+}
+
+TEST_F(CoreActivityViewTest, ANewShareIsPaintedWhereItIsSaid) {
+    view.show(std::array{0.001, 0.001});
+    view.resize(400, 26);
+    view.setVisible(true);
+    settleEvents();
+    PaintCount paints;
+    paints.watch(view);
+    view.show(std::array{0.008, 0.001});
+    settleEvents();
+    EXPECT_EQ(paints.take(), 1);
+    view.resize(40, 26);
+    settleEvents();
+    paints.take();
+    view.show(std::array{0.001, 0.001});
+    settleEvents();
+    EXPECT_EQ(paints.take(), 0);
 }
 
 TEST_F(CoreActivityViewTest, GrowsByARowWhereOneIsNotEnough) {

@@ -24,6 +24,7 @@ constexpr double cellCorner = 4;
 // An ordinary screen cannot draw digits of less than 9 pixels legibly.
 constexpr TextStyle numberStyle{7, QFont::Bold, 9};
 constexpr double idleBelow = 0.01;
+constexpr double cellTextPadding = 5;
 
 }  // namespace
 
@@ -34,6 +35,10 @@ QColor CoreActivity::fill(double usage) {
 
 QString CoreActivity::help(std::size_t index, double usage) {
     return QStringLiteral("Core %1: ").arg(index + 1) + Formatters::percent(usage, 1);
+}
+
+QString CoreActivity::text(std::size_t index, double usage) {
+    return QString::number(index + 1) + QStringLiteral("  ") + Formatters::percent(usage, 0);
 }
 
 CoreGridGeometry CoreGridGeometry::make(std::size_t count, double width, double scale) {
@@ -82,18 +87,43 @@ void CoreActivityView::show(std::span<const double> usage) {
     const bool sameCount = usage.size() == usage_.size();
     if (!sameCount) {
         usage_.assign(usage.begin(), usage.end());
+        textWidth_.reset();
         updateGeometry();
         update();
         announceValue();
         return;
     }
     const auto grid = gridFor(width());
+    const bool withShares = hasShares(grid);
     for (std::size_t i = 0; i < usage.size(); ++i) {
-        if (CoreActivity::fill(usage[i]) == CoreActivity::fill(usage_[i])) continue;
+        if (looksTheSame(usage_[i], usage[i], withShares)) continue;
         update(placeOf(grid.cell(i)));
     }
     usage_.assign(usage.begin(), usage.end());
     announceValue();
+}
+
+/// All cells say their share, or none: the widest text decides, so that nothing jumps.
+bool CoreActivityView::hasShares(const CoreGridGeometry& grid) const {
+    if (usage_.empty()) return false;
+    if (!textWidth_) {
+        const QFontMetricsF metrics(Typography::font(numberStyle), this);
+        textWidth_ = Typography::digitTextWidth(CoreActivity::text(usage_.size() - 1, 1), metrics);
+    }
+    return grid.cellWidth >= *textWidth_ + 2 * cellTextPadding;
+}
+
+bool CoreActivityView::looksTheSame(double before, double after, bool hasShares) const {
+    if (CoreActivity::fill(before) != CoreActivity::fill(after)) return false;
+    const auto shown = [](double usage) {
+        return std::nearbyint(std::clamp(usage, 0.0, 1.0) * 100);
+    };
+    return !hasShares || shown(before) == shown(after);
+}
+
+void CoreActivityView::changeEvent(QEvent* event) {
+    PaintedView::changeEvent(event);
+    if (event->type() == QEvent::ApplicationFontChange) textWidth_.reset();
 }
 
 CoreGridGeometry CoreActivityView::gridFor(double width) const {
@@ -147,22 +177,24 @@ bool CoreActivityView::event(QEvent* event) {
 void CoreActivityView::paintEvent(QPaintEvent* event) {
     ViewPainter painter(*this);
     const auto grid = gridFor(width());
+    const bool withShares = hasShares(grid);
     for (std::size_t i = 0; i < usage_.size(); ++i) {
         const QRectF cell = grid.cell(i);
-        if (event->region().intersects(placeOf(cell))) paintCell(painter, cell, i);
+        if (event->region().intersects(placeOf(cell))) paintCell(painter, cell, i, withShares);
     }
 }
 
-void CoreActivityView::paintCell(ViewPainter& painter, const QRectF& cell,
-                                 std::size_t index) const {
+void CoreActivityView::paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index,
+                                 bool hasShare) const {
     const QColor fill = CoreActivity::fill(usage_[index]);
     const QRectF area = Pixels::snapped(painter, painter.leading(cell));
     QPainterPath shape;
     shape.addRoundedRect(area, cellCorner, cellCorner);
     vantorBackground(painter, fill, shape);
     vantorForeground(painter, VantorTheme::labelOn(fill, painter.scheme()));
-    painter.figures(numberStyle, Pixels::snapped(painter, cell),
-                    Qt::AlignHCenter | Qt::AlignVCenter, QString::number(index + 1));
+    painter.figures(
+        numberStyle, Pixels::snapped(painter, cell), Qt::AlignHCenter | Qt::AlignVCenter,
+        hasShare ? CoreActivity::text(index, usage_[index]) : QString::number(index + 1));
 }
 
 }  // namespace vantor

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -20,6 +21,9 @@ namespace vantor {
 struct CoreActivity {
     static QColor fill(double usage);  ///< a processor below 1 % counts as idle
     static QString help(std::size_t index, double usage);
+
+    /// What a cell says where it is wide enough: "3  42%".
+    static QString text(std::size_t index, double usage);
 };
 
 /// How the cells of `count` processors share a width: as few rows as cells of a readable width
@@ -57,14 +61,19 @@ class CoreActivityView : public PaintedView {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
 
   private:
     CoreGridGeometry gridFor(double width) const;
     QRect placeOf(QRectF cell) const;
-    void paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index) const;
+    void paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index,
+                   bool hasShare) const;
+    bool hasShares(const CoreGridGeometry& grid) const;
+    bool looksTheSame(double before, double after, bool hasShares) const;
 
     std::vector<double> usage_;
+    mutable std::optional<double> textWidth_;  ///< of the longest text, once needed
 };
 
 }  // namespace vantor
