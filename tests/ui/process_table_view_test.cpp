@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTextDocumentFragment>
@@ -89,6 +91,91 @@ TEST_F(ProcessExplorerViewTest, ARowsHelpGoesWhenAnotherProcessTakesItsPlace) {
     while (QToolTip::isVisible() && !patience.hasExpired(5000))
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
     EXPECT_FALSE(QToolTip::isVisible()) << utf8(QToolTip::text());
+}
+
+TEST_F(ProcessExplorerViewTest, AClickOnATitleSortsAsTheControlDoes) {
+    showProcesses();
+    open();
+    ProcessTableView& table = view.table();
+    const auto columns = ProcessColumns::make(table.width(), 16, 1);
+    const QPointF memory(columns.memoryText.right() - 4, 8);
+    const QImage before = rendered(table, table.size());
+    sendMouse(table, QEvent::MouseButtonPress, memory);
+    EXPECT_EQ(view.sortMode(), SortMode::memory);
+    EXPECT_EQ(view.picker().choice(), 1);
+    EXPECT_EQ(firstName(), "clock");
+    const QImage after = rendered(table, table.size());
+    const auto titles = [](const QImage& image, const QRectF& column) {
+        return paintedPixels(image, QRectF(column.left() - 8, 0, column.width() + 8, 22));
+    };
+    EXPECT_GT(titles(after, columns.memoryText), titles(before, columns.memoryText));
+    EXPECT_LT(titles(after, columns.cpuText), titles(before, columns.cpuText));
+    sendMouse(table, QEvent::MouseButtonPress, {columns.cpuBar.center().x(), 8});
+    EXPECT_EQ(view.sortMode(), SortMode::cpu);
+    sendMouse(table, QEvent::MouseButtonPress, {columns.pid.center().x(), 8});
+    EXPECT_EQ(view.sortMode(), SortMode::cpu);
+    click(view.picker().button(1));
+    EXPECT_EQ(rendered(table, table.size()), after) << "the arrow follows the control";
+}
+
+TEST_F(ProcessExplorerViewTest, TitlesAndBarsExplainThemselves) {
+    showProcesses();
+    open();
+    ProcessTableView& table = view.table();
+    const auto columns = ProcessColumns::make(table.width(), 16, 1);
+    const double row = table.accessibleRowArea(1).center().y();
+    EXPECT_TRUE(
+        table.helpAt({columns.cpuText.right() - 2, 5}).startsWith(u"100% is one processor"));
+    EXPECT_EQ(utf8(table.helpAt({columns.cpuBar.center().x(), row})),
+              "A full bar is the largest of the processes shown.");
+    EXPECT_EQ(utf8(table.helpAt({columns.name.left(), row})), "/usr/bin/browser");
+    EXPECT_TRUE(table.helpAt({columns.pid.center().x(), 5}).isEmpty());
+    table.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(utf8(table.helpAt({table.width() - columns.cpuBar.center().x(), row})),
+              "A full bar is the largest of the processes shown.");
+}
+
+TEST_F(ProcessExplorerViewTest, TheCommandFollowsTheNameWhereThereIsRoom) {
+    showProcesses();
+    const auto namePixels = [this](int width) {
+        const QImage image = rendered(view.table(), QSize(width, view.table().sizeHint().height()));
+        const auto columns = ProcessColumns::make(width, 16, 1);
+        QRectF name(view.table().accessibleRowArea(1));
+        name.setLeft(columns.name.left() + 62);
+        name.setRight(columns.name.right());
+        return paintedPixels(image, name);
+    };
+    EXPECT_GT(namePixels(900), 100);
+    EXPECT_EQ(namePixels(512), 0);
+}
+
+TEST_F(ProcessExplorerViewTest, ARowsMenuCopiesAndFilters) {
+    showProcesses();
+    open();
+    ProcessTableView& table = view.table();
+    const auto choose = [&](QContextMenuEvent::Reason reason, int entry) {
+        const QPoint middle = table.accessibleRowArea(1).center();
+        QContextMenuEvent event(reason, middle, table.mapToGlobal(middle));
+        QCoreApplication::sendEvent(&table, &event);
+        auto* const menu = table.findChild<QMenu*>();
+        if (!menu) return std::string("no menu");
+        QAction* const action = menu->actions().at(entry);
+        const std::string title = utf8(action->text());
+        action->trigger();
+        menu->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return title + ": " + utf8(QGuiApplication::clipboard()->text());
+    };
+    EXPECT_EQ(choose(QContextMenuEvent::Keyboard, 0), "no menu") << "no row is chosen";
+    EXPECT_EQ(choose(QContextMenuEvent::Mouse, 0),
+              "Copy: browser\t11\t45.0%\t1.5 MB\t/usr/bin/browser");
+    EXPECT_EQ(table.currentRow(), 1u);
+    EXPECT_EQ(choose(QContextMenuEvent::Keyboard, 1), "Copy Name: browser");
+    EXPECT_EQ(choose(QContextMenuEvent::Keyboard, 2), "Copy Path: /usr/bin/browser");
+    EXPECT_EQ(choose(QContextMenuEvent::Keyboard, 4), "Filter by This Name: /usr/bin/browser");
+    wait(150ms);
+    EXPECT_EQ(utf8(view.debouncedQuery()), "browser");
+    EXPECT_EQ(table.rowCount(), 1u);
 }
 
 TEST_F(ProcessExplorerViewTest, HostileNamesAreDrawnOnOneLine) {

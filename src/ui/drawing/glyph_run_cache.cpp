@@ -98,12 +98,12 @@ bool GlyphRunCache::layOutFigures(Face& face, const QString& text) {
     return true;
 }
 
-const GlyphRunCache::Shape& GlyphRunCache::shapeOf(const Face& face, const QString& text,
-                                                   int room) {
-    const ShapeKey key{face.index, room, text};
+const GlyphRunCache::Shape& GlyphRunCache::shapeOf(const Face& face, const QString& text, int room,
+                                                   Qt::TextElideMode cut) {
+    const ShapeKey key{face.index, room, cut, text};
     if (const Shape* const kept = shapes_.object(key)) return *kept;
     QString line = shownText(text.left(Typography::maxLineLength));
-    if (room != uncut) line = QFontMetricsF(face.font).elidedText(line, Qt::ElideRight, room);
+    if (room != uncut) line = QFontMetricsF(face.font).elidedText(line, cut, room);
     auto shape = std::make_unique<Shape>();
     QTextLayout layout(line, face.font);
     layout.beginLayout();
@@ -127,16 +127,16 @@ void GlyphRunCache::draw(QPainter& painter, const Shape& shape, QPointF place) c
 }
 
 void GlyphRunCache::drawLine(QPainter& painter, const TextStyle& style, const QRectF& area,
-                             Qt::Alignment alignment, const QString& text) {
+                             Qt::Alignment alignment, const QString& text, Qt::TextElideMode cut) {
     if (text.isEmpty() || !(area.width() > 0)) return;
     const Face& face = faceOf(style);
     if (text.size() > Typography::maxLineLength) {
-        drawLine(painter, style, area, alignment, text.left(Typography::maxLineLength));
+        drawLine(painter, style, area, alignment, text.left(Typography::maxLineLength), cut);
         return;
     }
     const Shape* shape = &shapeOf(face, text, uncut);
     if (shape->width > area.width())
-        shape = &shapeOf(face, text, static_cast<int>(std::floor(area.width())));
+        shape = &shapeOf(face, text, static_cast<int>(std::floor(area.width())), cut);
     draw(painter, *shape, {left(area, alignment, shape->width), top(area, alignment, face.height)});
 }
 

@@ -30,7 +30,8 @@ class GlyphRunCache {
     /// Draws one line in the painter's pen, cut with an ellipsis where it does not fit. Control
     /// characters and line breaks in it are drawn as blanks.
     void drawLine(QPainter& painter, const TextStyle& style, const QRectF& area,
-                  Qt::Alignment alignment, const QString& text);
+                  Qt::Alignment alignment, const QString& text,
+                  Qt::TextElideMode cut = Qt::ElideRight);
 
     /// Draws figures in the painter's pen: whole, and with equally wide digits.
     void drawFigures(QPainter& painter, const TextStyle& style, const QRectF& area,
@@ -47,10 +48,11 @@ class GlyphRunCache {
     struct ShapeKey {
         std::size_t face = 0;
         int room = 0;  // what it is cut to, in whole points; -1 where it is not
+        Qt::TextElideMode cut = Qt::ElideRight;
         QString text;
         bool operator==(const ShapeKey&) const = default;
         friend std::size_t qHash(const ShapeKey& key, std::size_t seed) {
-            return qHashMulti(seed, key.face, key.room, key.text);
+            return qHashMulti(seed, key.face, key.room, static_cast<int>(key.cut), key.text);
         }
     };
     struct Figure {
@@ -74,7 +76,8 @@ class GlyphRunCache {
     static Face makeFace(const TextStyle& style, std::size_t index);
     static Figure makeFigure(const Face& face, QChar character);
     static const Figure& figureOf(Face& face, QChar character);
-    const Shape& shapeOf(const Face& face, const QString& text, int room);
+    const Shape& shapeOf(const Face& face, const QString& text, int room,
+                         Qt::TextElideMode cut = Qt::ElideRight);
     bool layOutFigures(Face& face, const QString& text);
     void draw(QPainter& painter, const Shape& shape, QPointF place) const;
     template <class Visit>

@@ -26,8 +26,8 @@ Qt::Alignment ViewPainter::leading(Qt::Alignment alignment) const {
 }
 
 void ViewPainter::line(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
-                       const QString& text) {
-    kit_->shapes.drawLine(*this, style, leading(area), leading(alignment), text);
+                       const QString& text, Qt::TextElideMode cut) {
+    kit_->shapes.drawLine(*this, style, leading(area), leading(alignment), text, cut);
 }
 
 void ViewPainter::figures(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,

@@ -37,7 +37,7 @@ class ViewPainter : public QPainter {
         return kit_->shapes.lineWidth(style, text);
     }
     void line(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
-              const QString& text);
+              const QString& text, Qt::TextElideMode cut = Qt::ElideRight);
     void figures(const TextStyle& style, const QRectF& area, Qt::Alignment alignment,
                  const QString& text);
 

@@ -51,6 +51,7 @@ void ProcessExplorerView::build(const ProcessInfo& versions) {
         labels << sortModeLabel(mode);
     const auto onChange = [this](int choice) {
         sortMode_ = allSortModes.at(static_cast<std::size_t>(choice));
+        table_->showSort(sortMode_);
         refresh();
     };
     picker_ = makeChild<SegmentedPicker>(this, QStringLiteral("Sort"), labels, onChange);
@@ -59,6 +60,8 @@ void ProcessExplorerView::build(const ProcessInfo& versions) {
 
     content_ = makeInnerLayout<QStackedLayout>();
     table_ = makeChild<ProcessTableView>(this, processSymbol(versions));
+    table_->setActions({[this](SortMode mode) { picker_->choose(static_cast<int>(mode)); },
+                        [this](const QString& name) { filter_->setText(name); }});
     emptyState_ = makeChild<EmptyStateView>(this, ProcessExplorer::noProcesses());
     content_->addWidget(table_);
     content_->addWidget(emptyState_);

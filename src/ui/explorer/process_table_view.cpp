@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QStringList>
 #include <QToolTip>
 
@@ -12,8 +10,6 @@
 #include <cmath>
 
 #include "ui/components/reveal.h"
-#include "ui/components/tool_tip_text.h"
-#include "ui/explorer/process_columns.h"
 #include "ui/shown_text.h"
 #include "ui/typography.h"
 
@@ -56,8 +52,13 @@ void ProcessTableView::show(std::span<const ProcessRow> rows) {
     for (std::size_t i = 0; i < std::max(before, rows_.size()); ++i) {
         const bool isSame = i < before && i < rows_.size() && rows_[i] == old[i];
         if (isSame) continue;
-        update(rowArea(i).toAlignedRect().adjusted(0, -static_cast<int>(rowSpacing / 2), 0,
-                                                   static_cast<int>(rowSpacing / 2)));
+        // Names and commands stay from tick to tick: mostly, the figures alone are painted.
+        const bool isSameProcess = i < before && i < rows_.size() && rows_[i].pid == old[i].pid &&
+                                   rows_[i].name == old[i].name &&
+                                   rows_[i].command == old[i].command;
+        const QRectF changed = isSameProcess ? figuresArea(i) : rowArea(i);
+        update(changed.toAlignedRect().adjusted(0, -static_cast<int>(rowSpacing / 2), 0,
+                                                static_cast<int>(rowSpacing / 2)));
         announceRow(static_cast<int>(i));
     }
     if (before != rows_.size()) announceRowCount();
@@ -93,6 +94,22 @@ QRectF ProcessTableView::rowArea(std::size_t index) const {
             rowHeight()};
 }
 
+ProcessColumns ProcessTableView::columns() const {
+    return ProcessColumns::make(width(), rowHeight(), Typography::lengthScale());
+}
+
+/// All of a row but its name.
+QRectF ProcessTableView::figuresArea(std::size_t index) const {
+    QRectF area = rowArea(index);
+    const double name = columns().name.right();
+    if (isRightToLeft()) {
+        area.setRight(area.right() - name);
+    } else {
+        area.setLeft(name);
+    }
+    return area;
+}
+
 std::optional<std::size_t> ProcessTableView::rowAt(QPointF place) const {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (rowArea(i).adjusted(0, -rowSpacing / 2, 0, rowSpacing / 2).contains(place)) return i;
@@ -107,6 +124,12 @@ QSize ProcessTableView::sizeHint() const {
 
 QSize ProcessTableView::minimumSizeHint() const {
     return {Typography::scaled(420), sizeHint().height()};
+}
+
+void ProcessTableView::showSort(SortMode mode) {
+    if (mode == sort_) return;
+    sort_ = mode;
+    update(0, 0, width(), static_cast<int>(std::ceil(rowArea(0).top())));
 }
 
 QStringList ProcessTableView::rowTexts(std::size_t index) const {
@@ -134,9 +157,13 @@ void ProcessTableView::setCurrentRow(std::optional<std::size_t> row) {
 void ProcessTableView::copyCurrentRow() const {
     const auto current = currentRow();
     if (!current) return;
-    QStringList texts = rowTexts(*current);
-    texts << rows_[*current].command;
-    QApplication::clipboard()->setText(texts.join(u'\t'));
+    QApplication::clipboard()->setText(rowText(*current));
+}
+
+QString ProcessTableView::rowText(std::size_t index) const {
+    QStringList texts = rowTexts(index);
+    texts << rows_.at(index).command;
+    return texts.join(u'\t');
 }
 
 QString ProcessTableView::accessibleValueText() const {
@@ -159,12 +186,6 @@ QRect ProcessTableView::accessibleRowArea(int row) const {
 
 bool ProcessTableView::isAccessibleRowChosen(int row) const {
     return row >= 0 && currentRow() == static_cast<std::size_t>(row);
-}
-
-void ProcessTableView::mousePressEvent(QMouseEvent* event) {
-    ring_.mousePressed();
-    if (event->button() == Qt::LeftButton) setCurrentRow(rowAt(event->position()));
-    PaintedView::mousePressEvent(event);
 }
 
 void ProcessTableView::keyPressEvent(QKeyEvent* event) {
@@ -217,20 +238,6 @@ void ProcessTableView::focusInEvent(QFocusEvent* event) {
 void ProcessTableView::focusOutEvent(QFocusEvent* event) {
     PaintedView::focusOutEvent(event);
     update();
-}
-
-bool ProcessTableView::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
-    const auto* help = static_cast<QHelpEvent*>(event);
-    if (const auto row = rowAt(help->pos())) {
-        helpPID_ = rows_[*row].pid;
-        QToolTip::showText(help->globalPos(), toolTipText(rows_[*row].command), this,
-                           rowArea(*row).toAlignedRect());
-    } else {
-        helpPID_.reset();
-        QToolTip::hideText();
-    }
-    return true;
 }
 
 }  // namespace vantor

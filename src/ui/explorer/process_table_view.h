@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "ui/components/focus_ring.h"
 #include "ui/components/painted_view.h"
 #include "ui/drawing/view_painter.h"
+#include "ui/explorer/process_columns.h"
 #include "ui/explorer/process_explorer.h"
 #include "ui/typography.h"
 
@@ -22,7 +24,24 @@ namespace vantor {
 /// the rows that changed; to assistive technology each is an element of its own.
 class ProcessTableView : public PaintedView {
   public:
+    /// What the user asks of the table and others do.
+    struct Actions {
+        std::function<void(SortMode)> sort;
+        std::function<void(const QString& name)> filter;
+    };
+
     explicit ProcessTableView(QString symbol, QWidget* parent = nullptr);
+
+    void setActions(Actions actions) { actions_ = std::move(actions); }
+
+    /// Marks the column that the rows are sorted by.
+    void showSort(SortMode mode);
+
+    /// The column whose title is there, where a click sorts by it.
+    std::optional<SortMode> titleAt(QPointF place) const;
+
+    /// What explains a place: a title, a bar, or the command of a row.
+    QString helpAt(QPointF place) const;
 
     void show(std::span<const ProcessRow> rows);
     std::size_t rowCount() const { return rows_.size(); }
@@ -49,6 +68,7 @@ class ProcessTableView : public PaintedView {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -75,12 +95,20 @@ class ProcessTableView : public PaintedView {
     double rowHeight() const;
     QRectF rowArea(std::size_t index) const;
     std::optional<std::size_t> rowAt(QPointF place) const;
+    ProcessColumns columns() const;
+    QRectF figuresArea(std::size_t index) const;
+    double fromLeading(double x) const { return isRightToLeft() ? width() - x : x; }
+    QString rowText(std::size_t index) const;
     void paintHeader(ViewPainter& painter) const;
-    void paintRow(ViewPainter& painter, std::size_t index) const;
+    void paintTitle(ViewPainter& painter, SortMode mode, const QRectF& area) const;
+    void paintRow(ViewPainter& painter, std::size_t index, bool hasName) const;
+    void paintName(ViewPainter& painter, const Row& row, const QRectF& area) const;
     void paintCurrent(ViewPainter& painter, const QRectF& area) const;
     bool moveBy(Qt::Key key);
 
     QString symbol_;
+    Actions actions_;
+    SortMode sort_ = SortMode::cpu;
     std::vector<Row> rows_;
     std::optional<std::int32_t> currentPID_;
     std::optional<std::int32_t> helpPID_;  ///< the tool tip's process, while it is shown
