@@ -51,6 +51,7 @@ VantorApp::VantorApp(Environment environment)
       monitor_(SystemMonitor::make(settings_, machine_, mainLoop_, queues_,
                                    std::move(environment.exportPlatform))),
       statusBar_(std::move(environment.statusBar)),
+      hasTray_(std::make_shared<Published<bool>>(statusBar_->isAvailable())),
       trayPatience_(environment.trayPatience),
       confinement_(std::move(environment.confinement)),
       quit_(std::move(environment.quit)),
@@ -128,8 +129,8 @@ void VantorApp::openSettings(const QString& activationToken) {
     if (!settingsWindow_) {
         auto view = std::make_unique<SettingsView>(SettingsView::Environment{
             settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); },
-            std::shared_ptr<Published<std::string>>(defaults_, &defaults_->notSaved()),
-            loginItem_});
+            std::shared_ptr<Published<std::string>>(defaults_, &defaults_->notSaved()), loginItem_,
+            hasTray_});
         settingsWindow_ =
             std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view));
         commands_.addTo(settingsWindow_.get());
@@ -185,6 +186,7 @@ void VantorApp::lastWindowClosed() {
 void VantorApp::statusBarChanged() {
     cancelTask(wayBackTask_);
     hasClosedWithoutTray_ = false;
+    hasTray_->set(statusBar_->isAvailable());
     if (!statusBar_->isAvailable()) waitForTray(trayPatience_.afterLoss);
 }
 

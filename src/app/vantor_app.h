@@ -139,6 +139,7 @@ class VantorApp : public QObject {
     std::shared_ptr<LoginItem> loginItem_;  // null where that is not offered
     std::shared_ptr<SystemMonitor> monitor_;
     std::shared_ptr<StatusBar> statusBar_;
+    const std::shared_ptr<Published<bool>> hasTray_;
     TrayPatience trayPatience_;
     std::shared_ptr<const Confinement> confinement_;
     std::function<void()> quit_;

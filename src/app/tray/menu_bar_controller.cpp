@@ -1,5 +1,7 @@
 #include "app/tray/menu_bar_controller.h"
 
+#include <QStringList>
+
 #include "ui/menu_bar/menu_bar_dashboard.h"
 
 namespace vantor {
@@ -32,11 +34,36 @@ void MenuBarController::installStatusItem() {
     if (item_) return;
     item_ = statusBar_->makeItem({QStringLiteral("Vantor"), QStringLiteral("waveform.path.ecg"),
                                   [this](QRect area) { togglePopover(area); },
-                                  [this] { return menu(); }});
+                                  [this] { return menu(); }, [this] { return toolTip(); }});
+    followFigures();
+}
+
+void MenuBarController::followFigures() {
+    const auto tell = [this](const Timestamp& moment) {
+        const auto since = moment - toldFigures_;
+        // A clock that was set back must not stop it.
+        if (since >= Timestamp::duration::zero() && since < toolTipInterval) return;
+        toldFigures_ = moment;
+        item_->toolTipChanged();
+    };
+    figuresObservation_ = monitor_->dashboardStateStream().observe(
+        [tell](const DashboardState& state) { tell(state.snapshot.timestamp); });
+}
+
+QString MenuBarController::toolTip() const {
+    const auto now = MenuBarDashboard::of(monitor_->dashboardState(), monitor_->isPaused());
+    const auto figure = [](const QString& title, const QString& value) {
+        return title + u' ' + value;
+    };
+    return QStringList{
+        figure(now.cpu.title, now.cpu.value), figure(now.memory.title, now.memory.value),
+        figure(now.download.title, now.download.value), figure(now.upload.title, now.upload.value)}
+        .join(QStringLiteral(", "));
 }
 
 void MenuBarController::removeStatusItem() {
     popover_.reset();
+    figuresObservation_.cancel();
     item_.reset();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QRect>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -46,13 +47,24 @@ class MenuBarController {
     /// The entries of the item's plain menu, for desktops that show nothing else.
     std::vector<StatusMenuEntry> menu() const;
 
+    /// The figures, as the item's tool tip says them.
+    QString toolTip() const;
+
+    /// No desktop is told more often that the tool tip has changed: each time, it may read all of
+    /// the item, its pictures included.
+    static constexpr std::chrono::seconds toolTipInterval{5};
+
   private:
+    void followFigures();
+
     std::shared_ptr<StatusBar> statusBar_;
     Actions actions_;
     MakeContent makeContent_;
     std::shared_ptr<AppSettings> settings_;
     std::shared_ptr<SystemMonitor> monitor_;
     Subscription settingObservation_;
+    Subscription figuresObservation_;
+    Timestamp toldFigures_{};  ///< when the item was told of the last ones
     std::unique_ptr<StatusItem> item_;
     std::unique_ptr<PopoverWindow> popover_;
 };

@@ -62,7 +62,8 @@ constexpr auto itemDescription =
     "    <method name=\"Scroll\">\n"
     "      <arg type=\"i\" name=\"delta\" direction=\"in\"/>\n"
     "      <arg type=\"s\" name=\"orientation\" direction=\"in\"/>\n"
-    "    </method>\n";
+    "    </method>\n"
+    "    <signal name=\"NewToolTip\"/>\n";
 
 BusPixmap pixmapOf(const QIcon& icon, int side) {
     const QImage image =
@@ -100,34 +101,6 @@ QString nameOf(int number) {
 
 }  // namespace
 
-QDBusArgument& operator<<(QDBusArgument& out, const BusPixmap& pixmap) {
-    out.beginStructure();
-    out << pixmap.width << pixmap.height << pixmap.bytes;
-    out.endStructure();
-    return out;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& in, BusPixmap& pixmap) {
-    in.beginStructure();
-    in >> pixmap.width >> pixmap.height >> pixmap.bytes;
-    in.endStructure();
-    return in;
-}
-
-QDBusArgument& operator<<(QDBusArgument& out, const BusToolTip& toolTip) {
-    out.beginStructure();
-    out << toolTip.iconName << toolTip.pixmaps << toolTip.title << toolTip.text;
-    out.endStructure();
-    return out;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& in, BusToolTip& toolTip) {
-    in.beginStructure();
-    in >> toolTip.iconName >> toolTip.pixmaps >> toolTip.title >> toolTip.text;
-    in.endStructure();
-    return in;
-}
-
 QRect areaOfPress(QPoint point) {
     constexpr QSize spot(1, 1);
     // Desktops that do not know the place send this.
@@ -154,28 +127,33 @@ class NotifierItem::Face : public BusObject {
           pixmaps_(tile()) {}
 
     bool wasRead() const { return wasRead_; }
+    bool takeUnseenRead() { return std::exchange(wasReadSince_, false); }
 
   protected:
     QVariantMap properties() const override {
         wasRead_ = true;
+        wasReadSince_ = true;
         const QString title = item_.content_.title;
         const auto none = QVariant::fromValue(QList<BusPixmap>());
-        return {{QStringLiteral("Category"), QStringLiteral("ApplicationStatus")},
-                {QStringLiteral("Id"), QStringLiteral("vantor")},
-                {QStringLiteral("Title"), title},
-                {QStringLiteral("Status"), QStringLiteral("Active")},
-                {QStringLiteral("WindowId"), 0},
-                {QStringLiteral("IconThemePath"), QString()},
-                {QStringLiteral("IconName"), QString()},
-                {QStringLiteral("IconPixmap"), QVariant::fromValue(pixmaps_)},
-                {QStringLiteral("OverlayIconName"), QString()},
-                {QStringLiteral("OverlayIconPixmap"), none},
-                {QStringLiteral("AttentionIconName"), QString()},
-                {QStringLiteral("AttentionIconPixmap"), none},
-                {QStringLiteral("AttentionMovieName"), QString()},
-                {QStringLiteral("ToolTip"), QVariant::fromValue(BusToolTip{{}, {}, title, {}})},
-                {QStringLiteral("ItemIsMenu"), false},
-                {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(menuPath))}};
+        return {
+            {QStringLiteral("Category"), QStringLiteral("ApplicationStatus")},
+            {QStringLiteral("Id"), QStringLiteral("vantor")},
+            {QStringLiteral("Title"), title},
+            {QStringLiteral("Status"), QStringLiteral("Active")},
+            {QStringLiteral("WindowId"), 0},
+            {QStringLiteral("IconThemePath"), QString()},
+            {QStringLiteral("IconName"), QString()},
+            {QStringLiteral("IconPixmap"), QVariant::fromValue(pixmaps_)},
+            {QStringLiteral("OverlayIconName"), QString()},
+            {QStringLiteral("OverlayIconPixmap"), none},
+            {QStringLiteral("AttentionIconName"), QString()},
+            {QStringLiteral("AttentionIconPixmap"), none},
+            {QStringLiteral("AttentionMovieName"), QString()},
+            {QStringLiteral("ToolTip"),
+             QVariant::fromValue(BusToolTip{
+                 {}, {}, title, item_.content_.toolTip ? item_.content_.toolTip() : QString()})},
+            {QStringLiteral("ItemIsMenu"), false},
+            {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(menuPath))}};
     }
 
     std::optional<QVariantList> call(const QString& method, const QString& signature,
@@ -201,6 +179,7 @@ class NotifierItem::Face : public BusObject {
     NotifierItem& item_;
     QList<BusPixmap> pixmaps_;
     mutable bool wasRead_ = false;
+    mutable bool wasReadSince_ = false;  // the last signal
 };
 
 QString NotifierItem::watcherService() {
@@ -288,6 +267,12 @@ void NotifierItem::look() {
             decide(Standing::refused);
         }
     });
+}
+
+void NotifierItem::toolTipChanged() {
+    if (!face_->takeUnseenRead()) return;
+    bus_.send(QDBusMessage::createSignal(itemPath, QStringLiteral("org.kde.StatusNotifierItem"),
+                                         QStringLiteral("NewToolTip")));
 }
 
 void NotifierItem::decide(Standing standing) {

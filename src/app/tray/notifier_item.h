@@ -10,27 +10,10 @@
 #include <memory>
 
 #include "app/tray/bus_menu.h"
+#include "app/tray/notifier_values.h"
 #include "app/tray/status_bar.h"
 
 namespace vantor {
-
-/// A picture as it is sent: four bytes for each pixel, alpha first.
-struct BusPixmap {
-    int width = 0;
-    int height = 0;
-    QByteArray bytes;
-};
-QDBusArgument& operator<<(QDBusArgument& out, const BusPixmap& pixmap);
-const QDBusArgument& operator>>(const QDBusArgument& in, BusPixmap& pixmap);
-
-struct BusToolTip {
-    QString iconName;
-    QList<BusPixmap> pixmaps;
-    QString title;
-    QString text;
-};
-QDBusArgument& operator<<(QDBusArgument& out, const BusToolTip& toolTip);
-const QDBusArgument& operator>>(const QDBusArgument& in, BusToolTip& toolTip);
 
 /// Makes a connection of that name to the session's bus.
 using BusConnector = std::function<QDBusConnection(const QString& name)>;
@@ -64,6 +47,9 @@ class NotifierItem : public StatusItem {
 
     /// Asks once more, while nothing is decided.
     void look();
+
+    /// Notifies the desktop, unless it has not even read the last one.
+    void toolTipChanged() override;
 
   private:
     class Face;

@@ -1,5 +1,6 @@
 #include "app/tray/qt_status_bar.h"
 
+#include <QEvent>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
@@ -16,9 +17,28 @@ namespace {
 
 /// An icon in the tray of an X display.
 class EmbeddedItem : public StatusItem {
+    /// The toolkit tells the icon before it shows the tool tip.
+    class ToolTipFilter : public QObject {
+      public:
+        ToolTipFilter(QSystemTrayIcon& icon, std::function<QString()> text)
+            : icon_(icon), text_(std::move(text)) {}
+
+      protected:
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::ToolTip && text_)
+                icon_.setToolTip(QStringLiteral("Vantor\n") + text_());
+            return false;
+        }
+
+      private:
+        QSystemTrayIcon& icon_;
+        std::function<QString()> text_;
+    };
+
   public:
     explicit EmbeddedItem(StatusItemContent content)
-        : content_(std::move(content)), icon_(productIcon()) {
+        : content_(std::move(content)), icon_(productIcon()), toolTip_(icon_, content_.toolTip) {
+        icon_.installEventFilter(&toolTip_);
         icon_.setToolTip(content_.title);
         QObject::connect(&menu_, &QMenu::aboutToShow, &icon_, [this] { fill(); });
         fill();
@@ -43,6 +63,7 @@ class EmbeddedItem : public StatusItem {
     StatusItemContent content_;
     QMenu menu_;
     QSystemTrayIcon icon_;
+    ToolTipFilter toolTip_;
 };
 
 QString lookoutName() {
@@ -72,6 +93,9 @@ class QtStatusBar::Item : public StatusItem {
 
     void look() {
         if (onBus_) onBus_->look();
+    }
+    void toolTipChanged() override {
+        if (shown_) shown_->toolTipChanged();
     }
     bool has(NotifierItem::Standing standing) const {
         return onBus_ && onBus_->standing() == standing;

@@ -23,12 +23,17 @@ struct StatusItemContent {
     std::function<void(QRect area)> onPress;
     /// Called each time before the menu opens.
     std::function<std::vector<StatusMenuEntry>()> menu;
+    /// Called when somebody asks for it; none: the title.
+    std::function<QString()> toolTip = {};
 };
 
 /// An item in the status bar, for as long as the object lives. Main thread.
 class StatusItem {
   public:
     virtual ~StatusItem() = default;
+
+    /// Its tool tip says something else now. Desktops that keep what they were told ask again.
+    virtual void toolTipChanged() {}
 };
 
 /// The desktop's tray. It may not be there yet, or not any more: items are made all the same and

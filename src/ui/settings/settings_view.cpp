@@ -22,6 +22,7 @@ constexpr QSize smallest(480, 480);
 constexpr double settingsIdealWidth = 520;
 constexpr double settingsIdealHeight = 560;
 constexpr double settingsLoginHeight = 40;  // what that row adds
+constexpr double settingsNoteHeight = 28;
 constexpr double widestForm = 680;
 
 QString wordsOf(std::string_view words) {
@@ -127,20 +128,35 @@ void SettingsView::addToggles(CompatibleFormSection& section) {
         &section, QStringLiteral("Include point-to-point and tunnel interfaces"), place,
         [s = settings](bool isOn) { s->setIncludePointToPointInterfaces(isOn); });
     section.add(pointToPoint_, ToggleRowView::outset);
-    menuBar_ = makeChild<ToggleRowView>(&section, QStringLiteral("Show menu bar dashboard"), place,
-                                        [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
-    section.add(menuBar_, ToggleRowView::outset);
+    menuBar_ = makeChild<NotedToggleRow>(&section, QStringLiteral("Show menu bar dashboard"), place,
+                                         [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
+    section.add(menuBar_, NotedToggleRow::outset);
+    followTray();
     if (environment_.loginItem) addLogin(section, place);
 }
 
+void SettingsView::followTray() {
+    if (!environment_.hasTray) return;
+    const auto tell = [this](const bool& hasTray) {
+        menuBar_->tell(hasTray ? QString()
+                               : QStringLiteral("This desktop has no tray to show it in."));
+    };
+    tell(environment_.hasTray->value());
+    observations_.push_back(environment_.hasTray->observe(tell));
+}
+
 void SettingsView::addLogin(CompatibleFormSection& section, ToggleRowView::Switch place) {
-    login_ = makeChild<LoginRowView>(
-        &section, place, [item = environment_.loginItem](bool isOn) { item->set(isOn); });
-    section.add(login_, LoginRowView::outset);
+    login_ =
+        makeChild<NotedToggleRow>(&section, QStringLiteral("Open at Login"), place,
+                                  [item = environment_.loginItem](bool isOn) { item->set(isOn); });
+    section.add(login_, NotedToggleRow::outset);
     auto& state = environment_.loginItem->state();
-    login_->show(state.value());
-    observations_.push_back(
-        state.observe([this](const LoginState& found) { login_->show(found); }));
+    const auto show = [this](const LoginState& found) {
+        login_->show(found.isOn);
+        login_->tell(QString::fromStdString(found.problem));
+    };
+    show(state.value());
+    observations_.push_back(state.observe(show));
 }
 
 void SettingsView::addData(QFormLayout& form) {
@@ -227,7 +243,9 @@ QSize SettingsView::minimumSizeHint() const {
 }
 
 QSize SettingsView::sizeHint() const {
-    const double height = settingsIdealHeight + (login_ ? settingsLoginHeight : 0);
+    const bool hasNote = environment_.hasTray && !environment_.hasTray->value();
+    const double height = settingsIdealHeight + (login_ ? settingsLoginHeight : 0) +
+                          (hasNote ? settingsNoteHeight : 0);
     return QSize(Typography::scaled(settingsIdealWidth), Typography::scaled(height))
         .expandedTo(minimumSizeHint());
 }

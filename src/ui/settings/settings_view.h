@@ -19,8 +19,8 @@
 #include "ui/components/toggle_row.h"
 #include "ui/drawing/background_view.h"
 #include "ui/settings/compatible_form.h"
-#include "ui/settings/login_row_view.h"
 #include "ui/settings/not_saved_view.h"
+#include "ui/settings/noted_toggle_row.h"
 #include "ui/settings/settings_form.h"
 
 class QFormLayout;
@@ -41,6 +41,8 @@ class SettingsView : public BackgroundView {
         /// Why the settings are not saved, empty while they are; none: not shown.
         std::shared_ptr<Published<std::string>> notSaved{};
         std::shared_ptr<LoginItem> loginItem{};  ///< none: opening at login is not offered
+        /// Whether the desktop has a tray; none: taken for granted.
+        std::shared_ptr<Published<bool>> hasTray{};
     };
 
     explicit SettingsView(Environment environment, QWidget* parent = nullptr);
@@ -57,10 +59,11 @@ class SettingsView : public BackgroundView {
     CompatibleLabeledContent& historyRow() { return *historyRow_; }
     StepperView& history() { return *history_; }
     ToggleRowView& pointToPoint() { return *pointToPoint_; }
-    ToggleRowView& menuBar() { return *menuBar_; }
+    ToggleRowView& menuBar() { return menuBar_->toggle(); }
+    ParagraphView& menuBarNote() { return menuBar_->problem(); }
     CapsuleButtonView& exportButton() { return *export_; }
     NotSavedView& notSaved() { return *notSaved_; }
-    LoginRowView* login() { return login_; }  ///< null where it is not offered
+    NotedToggleRow* login() { return login_; }  ///< null where it is not offered
 
   protected:
     /// Others may have changed what opens at login meanwhile.
@@ -74,6 +77,7 @@ class SettingsView : public BackgroundView {
     void addMonitoring(QFormLayout& form);
     void addIntervalAndHistory(CompatibleFormSection& section);
     void addToggles(CompatibleFormSection& section);
+    void followTray();
     void addLogin(CompatibleFormSection& section, ToggleRowView::Switch place);
     void addData(QFormLayout& form);
     void addAbout(QFormLayout& form);
@@ -94,9 +98,9 @@ class SettingsView : public BackgroundView {
     CompatibleLabeledContent* historyRow_ = nullptr;
     StepperView* history_ = nullptr;
     ToggleRowView* pointToPoint_ = nullptr;
-    ToggleRowView* menuBar_ = nullptr;
+    NotedToggleRow* menuBar_ = nullptr;
     CapsuleButtonView* export_ = nullptr;
-    LoginRowView* login_ = nullptr;
+    NotedToggleRow* login_ = nullptr;
     NotSavedView* notSaved_ = nullptr;
     std::vector<Subscription> observations_;
 };

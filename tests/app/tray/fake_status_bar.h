@@ -15,7 +15,7 @@ class FakeStatusBar : public StatusBar {
     std::unique_ptr<StatusItem> makeItem(StatusItemContent content) override {
         content_ = std::move(content);
         ++*items_;
-        return std::make_unique<Item>(items_);
+        return std::make_unique<Item>(items_, toolTipChanges_);
     }
 
     void setThere(bool isThere) {
@@ -23,22 +23,27 @@ class FakeStatusBar : public StatusBar {
         if (onChange_) onChange_();
     }
     int items() const { return *items_; }
+    int toolTipChanges() const { return *toolTipChanges_; }
     const StatusItemContent& content() const { return content_; }
 
   private:
     class Item : public StatusItem {
       public:
-        explicit Item(std::shared_ptr<int> count) : count_(std::move(count)) {}
+        Item(std::shared_ptr<int> count, std::shared_ptr<int> toolTipChanges)
+            : count_(std::move(count)), toolTipChanges_(std::move(toolTipChanges)) {}
         ~Item() override { --*count_; }
+        void toolTipChanged() override { ++*toolTipChanges_; }
 
       private:
         std::shared_ptr<int> count_;
+        std::shared_ptr<int> toolTipChanges_;
     };
 
     bool isThere_ = true;
     std::function<void()> onChange_;
     StatusItemContent content_;
     std::shared_ptr<int> items_ = std::make_shared<int>(0);
+    std::shared_ptr<int> toolTipChanges_ = std::make_shared<int>(0);
 };
 
 }  // namespace vantor

@@ -124,6 +124,37 @@ TEST_P(MenuBarOf, ThePlainMenuHasTheFiguresAndTheSameActions) {
     EXPECT_TRUE(app->settingsWindow()->isVisible());
 }
 
+TEST_P(MenuBarOf, TheToolTipSaysTheFiguresOfTheMomentItIsAskedFor) {
+    start();
+    EXPECT_EQ(utf8(tray->content().toolTip()), "CPU —, Memory —, Download —, Upload —");
+    CPUStats busy = CPUStats::empty();
+    busy.totalUsage = 0.42;
+    SystemMonitor& monitor = app->monitor();
+    monitor.receiveCPU(busy, monitor.generation());
+    const auto says = [this](const char* figures) {
+        return handleEventsUntil(
+            [&] { return tray->content().toolTip().startsWith(QString::fromUtf8(figures)); });
+    };
+    EXPECT_TRUE(says("CPU 42%, Memory "));
+    const int told = tray->toolTipChanges();
+    EXPECT_EQ(told, 1);
+    busy.totalUsage = 0.5;
+    monitor.receiveCPU(busy, monitor.generation());
+    EXPECT_TRUE(says("CPU 50%"));
+    EXPECT_EQ(tray->toolTipChanges(), told) << "no desktop is to read the item with every tick";
+}
+
+TEST_P(MenuBarOf, SettingsSayWhereThereIsNoTray) {
+    tray->setThere(false);
+    start();
+    app->openSettings();
+    auto& view = dynamic_cast<SettingsView&>(app->settingsWindow()->content());
+    EXPECT_TRUE(view.menuBarNote().isVisible());
+    EXPECT_EQ(utf8(view.menuBarNote().text()), "This desktop has no tray to show it in.");
+    tray->setThere(true);
+    EXPECT_FALSE(view.menuBarNote().isVisible());
+}
+
 TEST_P(MenuBarOf, ReopeningCreatesTheWindowAndThenBringsItForward) {
     start();
     app->reopen({});

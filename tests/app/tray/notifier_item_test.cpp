@@ -4,6 +4,7 @@
 #include <QDBusMetaType>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -74,6 +75,36 @@ TEST_F(NotifierItemTest, SaysWhatItIs) {
     const QVariantMap all = tray->properties();
     EXPECT_EQ(utf8(all.value(QStringLiteral("Title")).toString()), "Vantor");
     EXPECT_EQ(all.size(), 16);
+}
+
+TEST_F(NotifierItemTest, ItsToolTipIsMadeWhenItIsReadAndAnnouncedToThoseWhoReadTheLastOne) {
+    const auto read = [this] {
+        return utf8(qdbus_cast<BusToolTip>(tray->property(QStringLiteral("ToolTip"))).text);
+    };
+    QTimer heard;
+    heard.setSingleShot(true);
+    heard.setInterval(1h);
+    QDBusConnection host = QDBusConnection::connectToBus(bus.address(), QStringLiteral("host"));
+    ASSERT_TRUE(host.connect({}, QStringLiteral("/StatusNotifierItem"),
+                             QStringLiteral("org.kde.StatusNotifierItem"),
+                             QStringLiteral("NewToolTip"), &heard, SLOT(start())));
+    EXPECT_EQ(read(), "CPU 1%");
+    toolTip = QStringLiteral("CPU 2%");
+    item->toolTipChanged();
+    EXPECT_TRUE(handleEventsUntil([&] { return heard.isActive(); }));
+    heard.stop();
+    item->toolTipChanged();
+    tray->items();
+    // Its signal would have come before this answer.
+    host.call(QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")));
+    settleEvents();
+    EXPECT_FALSE(heard.isActive()) << "nobody has read it since";
+    EXPECT_EQ(read(), "CPU 2%");
+    item->toolTipChanged();
+    EXPECT_TRUE(handleEventsUntil([&] { return heard.isActive(); }));
+    QDBusConnection::disconnectFromBus(QStringLiteral("host"));
 }
 
 TEST_F(NotifierItemTest, HasItsTileInTheSizesOfPanels) {

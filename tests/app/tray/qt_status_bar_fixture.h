@@ -52,7 +52,7 @@ class QtStatusBarTest : public testing::Test {
     void makeItem() {
         item = bar->makeItem({QStringLiteral("Vantor"), QStringLiteral("waveform.path.ecg"),
                               [this](QRect area) { presses.push_back(area); },
-                              [this] { return entries; }});
+                              [this] { return entries; }, [this] { return toolTip; }});
     }
     void startTray(Manner manner = Manner::honest) {
         tray.reset();
@@ -85,6 +85,7 @@ class QtStatusBarTest : public testing::Test {
     int changes = 0;
     std::vector<QRect> presses;
     std::vector<StatusMenuEntry> entries;
+    QString toolTip = QStringLiteral("CPU 1%");
     std::optional<FakeNotifierTray> tray;
     std::unique_ptr<QtStatusBar> bar;
     std::unique_ptr<StatusItem> item;  // ends before the bar

@@ -1,4 +1,4 @@
-#include "ui/settings/login_row_view.h"
+#include "ui/settings/noted_toggle_row.h"
 
 #include <QAccessible>
 #include <QVBoxLayout>
@@ -10,11 +10,10 @@
 
 namespace vantor {
 
-LoginRowView::LoginRowView(ToggleRowView::Switch place, std::function<void(bool)> onChange,
-                           QWidget* parent)
+NotedToggleRow::NotedToggleRow(const QString& label, ToggleRowView::Switch place,
+                               std::function<void(bool)> onChange, QWidget* parent)
     : QWidget(parent),
-      toggle_(makeChild<ToggleRowView>(this, QStringLiteral("Open at Login"), place,
-                                       std::move(onChange))),
+      toggle_(makeChild<ToggleRowView>(this, label, place, std::move(onChange))),
       problem_(makeChild<ParagraphView>(this, QString(), Typography::caption, QFont::Normal,
                                         TextLineView::Tone::secondary)) {
     auto* column = makeLayout<QVBoxLayout>(this);
@@ -26,9 +25,7 @@ LoginRowView::LoginRowView(ToggleRowView::Switch place, std::function<void(bool)
     column->addWidget(problem_);
 }
 
-void LoginRowView::show(const LoginState& state) {
-    toggle_->show(state.isOn);
-    const QString problem = QString::fromStdString(state.problem);
+void NotedToggleRow::tell(const QString& problem) {
     if (problem == problem_->text()) return;
     problem_->setText(problem);
     problem_->setVisible(!problem.isEmpty());
@@ -40,12 +37,12 @@ void LoginRowView::show(const LoginState& state) {
 
 /// A fixed height, as the form around it gives rows no less than that. The label's own answer is
 /// never below its least height, so that one is taken away first.
-void LoginRowView::makeRoomForProblem() {
+void NotedToggleRow::makeRoomForProblem() {
     problem_->setMinimumHeight(0);
     problem_->setFixedHeight(std::max(0, problem_->heightForWidth(width())));
 }
 
-void LoginRowView::resizeEvent(QResizeEvent* event) {
+void NotedToggleRow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     makeRoomForProblem();
 }

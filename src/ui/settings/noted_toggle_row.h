@@ -2,22 +2,22 @@
 
 #include <QWidget>
 
-#include "settings/login_item.h"
 #include "ui/components/paragraph.h"
 #include "ui/components/toggle_row.h"
 
 namespace vantor {
 
-/// The switch for opening the program at login, and under it, quietly, why it did not do what it
-/// was told. Assistive technology is notified of that.
-class LoginRowView : public QWidget {
+/// A switch, and under it, quietly, why it does not do what it says. Assistive technology is
+/// notified of that.
+class NotedToggleRow : public QWidget {
   public:
     static constexpr int outset = ToggleRowView::outset;
 
-    LoginRowView(ToggleRowView::Switch place, std::function<void(bool)> onChange,
-                 QWidget* parent = nullptr);
+    NotedToggleRow(const QString& label, ToggleRowView::Switch place,
+                   std::function<void(bool)> onChange, QWidget* parent = nullptr);
 
-    void show(const LoginState& state);
+    void show(bool isOn) { toggle_->show(isOn); }
+    void tell(const QString& problem);  ///< empty for none
 
     ToggleRowView& toggle() { return *toggle_; }
     ParagraphView& problem() { return *problem_; }
