@@ -4,6 +4,15 @@
 
 namespace vantor {
 
+/// What figures stand for whose names come from another system. Empty where they are at home.
+struct FigureMeanings {
+    std::string_view nominal;
+    std::string_view wired;
+    std::string_view compressed;
+    std::string_view thermalState;
+    std::string_view lowPowerMode;
+};
+
 /// The texts that name the platform; everything else the program says is the same everywhere.
 struct PlatformWords {
     std::string_view systemName;
@@ -20,6 +29,7 @@ struct PlatformWords {
     std::string_view graphicsInterface;  ///< what publishes graphics figures beside the driver
     std::string_view graphicsTelemetry;  ///< what graphics figures are collected from
     std::string_view quitKeys;           ///< what the user presses to quit, as a text spells it
+    FigureMeanings meanings{};
 };
 
 }  // namespace vantor

@@ -7,8 +7,12 @@
 #include <QScrollBar>
 
 #include "platform/native_machine.h"
+#include "ui/cards/cpu_card.h"
+#include "ui/cards/memory_card.h"
+#include "ui/cards/system_card.h"
 #include "ui/cut_texts.h"
 #include "ui/dashboard/scroll_view.h"
+#include "ui/formatters.h"
 #include "ui/gestures.h"
 #include "ui/views_world.h"
 
@@ -86,20 +90,55 @@ TEST_F(HelpViewTest, SaysItsTextLetterByLetterOnAMac) {
     }
 }
 
-TEST(HelpTexts, OnLinuxOnlyTheNamesOfThePlatformAreOthers) {
+TEST(HelpTexts, OnLinuxTheNamesOfThePlatformAreOthersAndTheNumbersAreExplained) {
     const auto machine = makeNativeMachine();
     const PlatformWords& words = machine->words();
     if (words.systemName != "Linux") GTEST_SKIP() << "the words are another system's";
     EXPECT_EQ(utf8(HelpTexts::summary(words)), replaced(macSummary, "macOS", "Linux"));
     const auto sections = HelpTexts::sections(words);
-    ASSERT_EQ(sections.size(), macSections().size());
-    for (std::size_t i = 0; i < sections.size(); ++i) {
+    ASSERT_EQ(sections.size(), macSections().size() + 1);
+    for (std::size_t i = 0; i < macSections().size(); ++i) {
         std::string agreed = replaced(macSections()[i].second, "macOS libproc", "Linux procfs");
         agreed = replaced(agreed, "Metal or the", "NVML or the");
         agreed = replaced(agreed, "Command-Q", "Ctrl+Q");
         EXPECT_EQ(utf8(sections[i].title), macSections()[i].first);
         EXPECT_EQ(utf8(sections[i].text), agreed);
     }
+    EXPECT_EQ(utf8(sections.back().title), "What the Numbers Mean");
+    const std::string text = utf8(sections.back().text);
+    for (const std::string_view meaning :
+         {words.meanings.nominal, words.meanings.wired, words.meanings.compressed,
+          words.meanings.thermalState, words.meanings.lowPowerMode}) {
+        EXPECT_FALSE(meaning.empty());
+        EXPECT_NE(text.find(meaning), std::string::npos) << meaning;
+    }
+    EXPECT_NE(text.find("1 GB is 1,073,741,824 bytes"), std::string::npos);
+    EXPECT_EQ(utf8(Formatters::bytes(1'073'741'824)), "1 GB");
+    EXPECT_EQ(utf8(Formatters::rate(1'000'000'000)), "1 GB/s");
+}
+
+TEST(HelpTexts, TheSameSentencesAreTheHelpOfTheFigures) {
+    const FigureMeanings meanings{"of the nominal", "of the wired", "of the compressed",
+                                  "of the state", "of the mode"};
+    ViewsWorld world;
+    CPUCardView cpu(world.machine->processInfo());
+    cpu.explain(meanings);
+    EXPECT_EQ(utf8(cpu.row(2).row().label), "Nominal");
+    EXPECT_EQ(utf8(cpu.row(2).toolTip()), "of the nominal");
+    MemoryCardView memory(world.machine->processInfo());
+    memory.explain(meanings);
+    EXPECT_EQ(utf8(memory.figures().row(1).toolTip()), "of the wired");
+    EXPECT_EQ(utf8(memory.figures().row(2).toolTip()), "of the compressed");
+    SystemCardView system(world.machine->processInfo());
+    system.explain(meanings);
+    std::vector<std::string> helps;
+    for (QWidget* child : system.findChildren<QWidget*>()) {
+        const auto* const row = dynamic_cast<MetricRowView*>(child);
+        if (row && !row->toolTip().isEmpty())
+            helps.push_back(utf8(row->row().label + QStringLiteral(": ") + row->toolTip()));
+    }
+    EXPECT_EQ(helps, (std::vector<std::string>{"Thermal State: of the state",
+                                               "Low Power Mode: of the mode"}));
 }
 
 TEST_F(HelpViewTest, StandsInTheOrderOfTheTextWithItsDistances) {

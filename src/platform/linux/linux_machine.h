@@ -88,7 +88,18 @@ class LinuxMachine : public Machine {
         .processInterface = "procfs",
         .graphicsInterface = "NVML",
         .graphicsTelemetry = "DRM + NVML",
-        .quitKeys = "Ctrl+Q"};
+        .quitKeys = "Ctrl+Q",
+        .meanings = {
+            .nominal = "Nominal is the frequency that the processor is made for, as its driver or "
+                       "its name tells it, not the present one.",
+            .wired = "Wired is memory that cannot be moved out: the kernel's own and what programs "
+                     "have locked.",
+            .compressed = "Compressed is the memory that zram and zswap keep compressed pages in.",
+            .thermalState = "Thermal State compares the thermal zones with their own limits: Fair "
+                            "where the kernel begins to slow down, Serious where it is nearly too "
+                            "hot, Critical where it switches off.",
+            .lowPowerMode = "Low Power Mode is on while the firmware's profile or the processors' "
+                            "own preference is to save power."}};
 };
 
 }  // namespace vantor

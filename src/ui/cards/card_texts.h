@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "ui/components/metric_row.h"
 #include "ui/formatters.h"
@@ -37,6 +38,11 @@ inline std::optional<QString> bytes(std::optional<std::uint64_t> count) {
 inline std::optional<QString> known(const std::string& text) {
     if (text.empty()) return std::nullopt;
     return shownText(text);
+}
+
+/// A text of the platform's.
+inline QString text(std::string_view words) {
+    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
 }
 
 /// A row with a figure, or with the words for its absence.

@@ -98,6 +98,11 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     body().addStretch();
 }
 
+void CPUCardView::explain(const FigureMeanings& meanings) {
+    constexpr std::size_t nominalRow = 2;
+    row(nominalRow).explain(CardTexts::text(meanings.nominal));
+}
+
 void CPUCardView::show(const CPUCard& card) {
     if (card.revision != revision_) {
         showCard(card.frame());

@@ -6,6 +6,7 @@
 
 #include "model/cpu_stats.h"
 #include "model/process_stats.h"
+#include "platform/platform_words.h"
 #include "platform/process_info.h"
 #include "sampling/dashboard_state.h"
 #include "ui/cards/core_activity.h"
@@ -49,6 +50,9 @@ class CPUCardView : public DashboardCardView {
 
     /// Shows the card unless it is the one shown already.
     void show(const CPUCard& card);
+
+    /// Says in help texts what the figures mean.
+    void explain(const FigureMeanings& meanings);
 
     /// The last revision shown.
     std::uint64_t revision() const { return revision_; }

@@ -72,6 +72,13 @@ MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
     body().addStretch();
 }
 
+void MemoryCardView::explain(const FigureMeanings& meanings) {
+    constexpr std::size_t wiredRow = 1;
+    constexpr std::size_t compressedRow = 2;
+    figures_->row(wiredRow).explain(CardTexts::text(meanings.wired));
+    figures_->row(compressedRow).explain(CardTexts::text(meanings.compressed));
+}
+
 void MemoryCardView::show(const MemoryCard& card) {
     if (card.revision != revision_) {
         showCard(card.frame());

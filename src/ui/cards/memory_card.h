@@ -6,6 +6,7 @@
 
 #include "model/memory_stats.h"
 #include "model/process_stats.h"
+#include "platform/platform_words.h"
 #include "platform/process_info.h"
 #include "sampling/dashboard_state.h"
 #include "ui/cards/gauge_and_rows.h"
@@ -45,6 +46,9 @@ class MemoryCardView : public DashboardCardView {
 
     /// Shows the card unless it is the one shown already.
     void show(const MemoryCard& card);
+
+    /// Says in help texts what the figures mean.
+    void explain(const FigureMeanings& meanings);
 
     GaugeAndRowsView& figures() { return *figures_; }
     SparklineView& history() { return *history_; }

@@ -18,6 +18,7 @@ namespace {
 
 constexpr int systemCardRowSpacing = 10;
 constexpr std::size_t thermalRow = 4;
+constexpr std::size_t lowPowerRow = 5;
 
 }  // namespace
 
@@ -79,6 +80,11 @@ SystemCardView::SystemCardView(const ProcessInfo& versions, QWidget* parent)
     colorThermalState();
 }
 
+void SystemCardView::explain(const FigureMeanings& meanings) {
+    rows_[thermalRow]->explain(CardTexts::text(meanings.thermalState));
+    rows_[lowPowerRow]->explain(CardTexts::text(meanings.lowPowerMode));
+}
+
 void SystemCardView::show(const SystemCard& card) {
     if (card.revision == revision_) return;
     revision_ = card.revision;
@@ -88,7 +94,6 @@ void SystemCardView::show(const SystemCard& card) {
     const auto rows = card.rows();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (i != thermalRow) rows_[i]->show(rows[i]);
-        rows_[i]->setToolTip(toolTipText(rows[i].value));
     }
     MetricRow thermal = rows[thermalRow];
     thermal.color = SystemCard::thermalColor(thermalState_, colorScheme(*this));

@@ -6,6 +6,7 @@
 
 #include "model/power_stats.h"
 #include "model/system_info_stats.h"
+#include "platform/platform_words.h"
 #include "platform/process_info.h"
 #include "sampling/dashboard_state.h"
 #include "ui/cards/power_view.h"
@@ -42,6 +43,9 @@ class SystemCardView : public DashboardCardView {
 
     /// Shows the card unless it is the one shown already.
     void show(const SystemCard& card);
+
+    /// Says in help texts what the figures mean.
+    void explain(const FigureMeanings& meanings);
 
     MetricRowView& row(std::size_t index) { return *rows_.at(index); }
     PowerView& power() { return *power_; }

@@ -1,5 +1,7 @@
 #include "ui/components/metric_row.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 
@@ -33,10 +35,22 @@ MetricRowView::MetricRowView(MetricRow row, QWidget* parent)
 void MetricRowView::show(const MetricRow& row) {
     if (row == row_) return;
     row_ = row;
-    constexpr qsizetype alwaysFits = 24;
-    setToolTip(row.value.size() > alwaysFits ? toolTipText(row.value) : QString());
+    adoptHelp();
     update();
     announceValue();
+}
+
+void MetricRowView::explain(const QString& help) {
+    help_ = help;
+    adoptHelp();
+}
+
+void MetricRowView::adoptHelp() {
+    constexpr qsizetype alwaysFits = 24;
+    QStringList parts;
+    if (row_.value.size() > alwaysFits) parts << row_.value;
+    if (!help_.isEmpty()) parts << help_;
+    setToolTip(toolTipText(parts.join(u'\n')));
 }
 
 QSize MetricRowView::sizeHint() const {

@@ -35,6 +35,9 @@ class MetricRowView : public PaintedView {
     void show(const MetricRow& row);
     const MetricRow& row() const { return row_; }
 
+    /// What the figure means, as help.
+    void explain(const QString& help);
+
     QString accessibleLabel() const override { return row_.label; }
     QString accessibleValueText() const override { return row_.value; }
     QSize sizeHint() const override;
@@ -44,7 +47,10 @@ class MetricRowView : public PaintedView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void adoptHelp();
+
     MetricRow row_;
+    QString help_;
 };
 
 }  // namespace vantor

@@ -99,6 +99,9 @@ void DashboardView::addCards(QWidget* content) {
     gpuCard_ = makeChild<GPUCardView>(content, words);
     storageCard_ = makeChild<StorageCardView>(content, words);
     systemCard_ = makeChild<SystemCardView>(content, versions);
+    cpuCard_->explain(words.meanings);
+    memoryCard_->explain(words.meanings);
+    systemCard_->explain(words.meanings);
     for (QWidget* card : std::initializer_list<QWidget*>{cpuCard_, memoryCard_, networkCard_,
                                                          gpuCard_, storageCard_, systemCard_}) {
         grid->addWidget(card);

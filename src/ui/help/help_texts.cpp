@@ -2,7 +2,9 @@
 
 #include <QStringList>
 
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "settings/app_settings.h"
 
@@ -58,6 +60,22 @@ HelpSection menuBarAndWindows(const PlatformWords& words) {
                 .arg(text(words.quitKeys))};
 }
 
+/// Where the names of figures come from another system.
+std::optional<HelpSection> numbers(const FigureMeanings& meanings) {
+    QStringList sentences;
+    for (const std::string_view meaning : {meanings.nominal, meanings.wired, meanings.compressed,
+                                           meanings.thermalState, meanings.lowPowerMode}) {
+        if (!meaning.empty()) sentences << text(meaning);
+    }
+    if (sentences.isEmpty()) return std::nullopt;
+    sentences << QStringLiteral(
+        "Amounts of memory and storage count in steps of 1024, so that 1 GB is 1,073,741,824 "
+        "bytes, as the kernel hands memory out; rates count in steps of 1000, as networks do. A "
+        "process's CPU share is of one processor: 100% is one kept busy, and a process on several "
+        "has more.");
+    return HelpSection{QStringLiteral("What the Numbers Mean"), sentences.join(u' ')};
+}
+
 }  // namespace
 
 QString HelpTexts::summary(const PlatformWords& words) {
@@ -68,15 +86,18 @@ QString HelpTexts::summary(const PlatformWords& words) {
 }
 
 std::vector<HelpSection> HelpTexts::sections(const PlatformWords& words) {
-    return {liveMonitoring(),
-            dashboard(words),
-            processExplorer(words),
-            menuBarAndWindows(words),
-            {QStringLiteral("Export and Privacy"),
-             QStringLiteral("All monitoring is performed locally. Vantor does not perform "
-                            "analytics, public-IP lookups or automatic data transmission. A JSON "
-                            "snapshot is written only when you explicitly choose Export and "
-                            "select a destination.")}};
+    std::vector<HelpSection> all{
+        liveMonitoring(),
+        dashboard(words),
+        processExplorer(words),
+        menuBarAndWindows(words),
+        {QStringLiteral("Export and Privacy"),
+         QStringLiteral("All monitoring is performed locally. Vantor does not perform "
+                        "analytics, public-IP lookups or automatic data transmission. A JSON "
+                        "snapshot is written only when you explicitly choose Export and "
+                        "select a destination.")}};
+    if (auto meaning = numbers(words.meanings)) all.push_back(std::move(*meaning));
+    return all;
 }
 
 }  // namespace vantor
