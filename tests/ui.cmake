@@ -61,6 +61,7 @@ vantor_add_tests(ui_tests WIDGETS LABEL ui LIBRARIES vantor_ui Qt6::Svg SOURCES
     ui/layouts_test.cpp
     ui/menu_picker_test.cpp
     ui/metric_row_test.cpp
+    ui/neighbours_test.cpp
     ui/path_data_test.cpp
     ui/pixels_test.cpp
     ui/rasters_test.cpp

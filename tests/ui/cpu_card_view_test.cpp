@@ -147,8 +147,10 @@ TEST_F(CPUCardViewTest, GaugeStandsBesideTheRows) {
 TEST_F(CPUCardViewTest, PartsStandInTheirOrder) {
     showCard();
     open();
-    EXPECT_LT(view.gauge().geometry().bottom(), view.loadAverage().geometry().top());
-    EXPECT_LT(view.loadAverage().geometry().bottom(), view.history().geometry().top());
+    EXPECT_LT(view.row(3).geometry().bottom(), view.loadAverage().geometry().top());
+    EXPECT_LE(view.loadAverage().geometry().bottom(), view.gauge().geometry().bottom());
+    const int gauge = view.gauge().mapTo(&view, QPoint(0, view.gauge().height())).y();
+    EXPECT_LT(gauge, view.history().geometry().top());
     EXPECT_LT(view.history().geometry().bottom(), view.cores().geometry().top());
     EXPECT_LT(view.cores().geometry().bottom(), view.processes().geometry().top());
 }

@@ -136,17 +136,16 @@ TEST_F(ProcessExplorerViewTest, TitlesAndBarsExplainThemselves) {
 }
 
 TEST_F(ProcessExplorerViewTest, TheCommandFollowsTheNameWhereThereIsRoom) {
-    showProcesses();
-    const auto namePixels = [this](int width) {
-        const QImage image = rendered(view.table(), QSize(width, view.table().sizeHint().height()));
-        const auto columns = ProcessColumns::make(width, 16, 1);
-        QRectF name(view.table().accessibleRowArea(1));
-        name.setLeft(columns.name.left() + 62);
-        name.setRight(columns.name.right());
-        return paintedPixels(image, name);
+    open();
+    const auto drawn = [this](const std::string& name, const char* command) {
+        state.processesByCPU = {process(11, name, 1)};
+        state.processesByCPU.front().command = command;
+        showProcesses();
+        return rendered(view.table(), view.table().size());
     };
-    EXPECT_GT(namePixels(900), 100);
-    EXPECT_EQ(namePixels(512), 0);
+    EXPECT_NE(drawn("browser", "/usr/bin/browser"), drawn("browser", "/opt/own/browser"));
+    const std::string wide(60, 'w');
+    EXPECT_EQ(drawn(wide, "/usr/bin/browser"), drawn(wide, "/opt/own/browser"));
 }
 
 TEST_F(ProcessExplorerViewTest, ARowsMenuCopiesAndFilters) {

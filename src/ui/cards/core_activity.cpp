@@ -145,7 +145,8 @@ QString CoreActivityView::accessibleValueText() const {
 }
 
 int CoreActivityView::heightForWidth(int width) const {
-    return static_cast<int>(std::ceil(gridFor(width).height()));
+    const double cells = gridFor(width).height();
+    return static_cast<int>(std::ceil(heightRule_ ? heightRule_(cells) : cells));
 }
 
 QSize CoreActivityView::sizeHint() const {

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -49,6 +50,10 @@ class CoreActivityView : public PaintedView {
     explicit CoreActivityView(QWidget* parent = nullptr);
 
     void show(std::span<const double> usage);
+
+    /// Makes its own height out of that of the cells, so that what follows stands on a certain
+    /// line.
+    void setHeightRule(std::function<double(double cells)> rule) { heightRule_ = std::move(rule); }
     std::size_t count() const { return usage_.size(); }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
@@ -72,6 +77,7 @@ class CoreActivityView : public PaintedView {
     bool hasShares(const CoreGridGeometry& grid) const;
     bool looksTheSame(double before, double after, bool hasShares) const;
 
+    std::function<double(double)> heightRule_;
     std::vector<double> usage_;
     mutable std::optional<double> textWidth_;  ///< of the longest text, once needed
 };

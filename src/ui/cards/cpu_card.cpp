@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
@@ -76,7 +78,8 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     body().addWidget(figures_);
     loadAverage_ = makeChild<TextLineView>(this, card.loadAverageText(), Typography::caption,
                                            QFont::Normal, TextLineView::Tone::secondary);
-    body().addWidget(loadAverage_);
+    // Beside the ring, so that the chart begins where the neighbour's does.
+    figures_->addLine(loadAverage_);
     // The whole range, not the values' own: an idle machine must look idle.
     history_ = makeChild<SparklineView>(this, QStringLiteral("CPU history"),
                                         Sparkline{{}, VantorTheme::cyan(), std::pair{0.0, 1.0}},
@@ -94,8 +97,15 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
         this,
         ProcessMiniList{QStringLiteral("Top CPU Processes"), {}, ProcessMiniList::Metric::cpu},
         cpuCardProcessRows, processSymbol(versions));
-    body().addWidget(processes_);
-    body().addStretch();
+    processes_->fillHeight();
+    body().addWidget(processes_, 1);
+    // The list's title stands on a line of the neighbour's list, which begins beside the cells.
+    cores_->setHeightRule([this, activity](double cells) {
+        const double before = activity->itemAt(0)->sizeHint().height() + sectionSpacing;
+        const double pitch = processes_->pitch();
+        const double whole = before + cells + body().spacing();
+        return std::ceil(whole / pitch) * pitch - before - body().spacing();
+    });
 }
 
 void CPUCardView::explain(const FigureMeanings& meanings) {

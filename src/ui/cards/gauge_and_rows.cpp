@@ -21,15 +21,19 @@ GaugeAndRowsView::GaugeAndRowsView(const RingGauge& gauge, std::span<const Metri
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(gaugeSpacing);
     whole->addWidget(gauge_, 0, Qt::AlignVCenter);
-    auto* column = makeInnerLayout<QVBoxLayout>();
-    column->setSpacing(gaugeAndRowsRowSpacing);
-    column->addStretch();
+    column_ = makeInnerLayout<QVBoxLayout>();
+    column_->setSpacing(gaugeAndRowsRowSpacing);
+    column_->addStretch();
     for (const MetricRow& row : rows) {
         rows_.push_back(makeChild<MetricRowView>(this, row));
-        column->addWidget(rows_.back());
+        column_->addWidget(rows_.back());
     }
-    column->addStretch();
-    whole->addLayout(column, 1);
+    column_->addStretch();
+    whole->addLayout(column_, 1);
+}
+
+void GaugeAndRowsView::addLine(QWidget* line) {
+    column_->insertWidget(column_->count() - 1, line);
 }
 
 void GaugeAndRowsView::show(const RingGauge& gauge, std::span<const MetricRow> rows) {

@@ -10,8 +10,8 @@ namespace vantor {
 namespace {
 
 constexpr int memoryCardChartHeight = 62;
-// As many as make this card about as high as its neighbour, which has cells for its cores instead.
-constexpr std::size_t memoryCardProcessRows = 9;
+// At least; beside a higher card it has more.
+constexpr std::size_t memoryCardProcessRows = 5;
 
 double usedFraction(const MemoryStats& stats) {
     if (stats.totalBytes == 0) return 0;
@@ -68,8 +68,8 @@ MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
         ProcessMiniList{
             QStringLiteral("Top Memory Processes"), {}, ProcessMiniList::Metric::memory},
         memoryCardProcessRows, processSymbol(versions));
-    body().addWidget(processes_);
-    body().addStretch();
+    processes_->fillHeight();
+    body().addWidget(processes_, 1);
 }
 
 void MemoryCardView::explain(const FigureMeanings& meanings) {

@@ -22,6 +22,10 @@ namespace {
 constexpr double processMiniListRowSpacing = 8;
 constexpr double symbolWidth = 14;
 constexpr double processMiniListSymbolGap = 8;
+// More than any neighbour makes room for.
+constexpr std::size_t mostFillingRows = 14;
+// A multiple of it is a whole number of device pixels at 125 % and 150 %, too.
+constexpr double evenStep = 4;
 
 QString waitingText() {
     return QStringLiteral("Waiting for process data…");
@@ -53,7 +57,8 @@ ProcessMiniListView::ProcessMiniListView(const ProcessMiniList& list, std::size_
 }
 
 void ProcessMiniListView::show(std::span<const ProcessStats> processes) {
-    const auto shown = processes.first(std::min(processes.size(), rowLimit_));
+    const std::size_t most = fillsHeight_ ? std::max(mostFillingRows, rowLimit_) : rowLimit_;
+    const auto shown = processes.first(std::min(processes.size(), most));
     std::vector<Row> rows;
     rows.reserve(shown.size());
     for (const ProcessStats& process : shown) {
@@ -66,27 +71,45 @@ void ProcessMiniListView::show(std::span<const ProcessStats> processes) {
     announceValue();
 }
 
+void ProcessMiniListView::setRowLimit(std::size_t rows) {
+    if (rows == rowLimit_) return;
+    rowLimit_ = rows;
+    updateGeometry();
+}
+
+void ProcessMiniListView::fillHeight() {
+    fillsHeight_ = true;
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+std::size_t ProcessMiniListView::rowCount() const {
+    if (!fillsHeight_) return rows_.size();
+    const double room = (height() + processMiniListRowSpacing) / pitch() - 1;
+    const auto fitting = static_cast<std::size_t>(std::max(0.0, std::floor(room)));
+    return std::min(rows_.size(), std::max(fitting, rowLimit_));
+}
+
 QString ProcessMiniListView::accessibleValueText() const {
     if (rows_.empty()) return waitingText();
     QStringList texts;
-    for (const Row& row : rows_)
+    for (const Row& row : std::span(rows_).first(rowCount()))
         texts << isolatedText(row.name) + u' ' + row.value;
     return texts.join(QStringLiteral(", "));
 }
 
-double ProcessMiniListView::titleHeight() const {
-    return QFontMetricsF(Typography::font(processMiniListNameStyle), this).height();
+double ProcessMiniListView::rowHeight() const {
+    const double text =
+        std::max(QFontMetricsF(Typography::font(processMiniListNameStyle), this).height(),
+                 QFontMetricsF(Typography::font(processMiniListValueStyle), this).height());
+    return std::ceil(text / evenStep) * evenStep;
 }
 
-double ProcessMiniListView::rowHeight() const {
-    return std::max(QFontMetricsF(Typography::font(processMiniListNameStyle), this).height(),
-                    QFontMetricsF(Typography::font(processMiniListValueStyle), this).height());
+double ProcessMiniListView::pitch() const {
+    return rowHeight() + processMiniListRowSpacing;
 }
 
 QRectF ProcessMiniListView::rowArea(std::size_t index) const {
-    const double step = rowHeight() + processMiniListRowSpacing;
-    return {0, titleHeight() + processMiniListRowSpacing + step * static_cast<double>(index),
-            static_cast<double>(width()), rowHeight()};
+    return {0, pitch() * static_cast<double>(index + 1), static_cast<double>(width()), rowHeight()};
 }
 
 QSize ProcessMiniListView::sizeHint() const {
@@ -100,7 +123,7 @@ QSize ProcessMiniListView::minimumSizeHint() const {
 bool ProcessMiniListView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
+    for (std::size_t i = 0; i < rowCount(); ++i) {
         if (!rowArea(i).contains(help->pos())) continue;
         QToolTip::showText(help->globalPos(), toolTipText(rows_[i].command), this,
                            rowArea(i).toAlignedRect());
@@ -115,18 +138,18 @@ void ProcessMiniListView::paintEvent(QPaintEvent*) {
     const QColor secondary = VantorTheme::secondaryLabel(painter.scheme());
     vantorForeground(painter, secondary);
     const double across = width();
+    QRectF area = rowArea(0);
     painter.line(processMiniListNameStyle,
                  {0, 0, across, painter.lineHeight(processMiniListNameStyle)}, Qt::AlignLeft,
                  title_);
-    QRectF area = rowArea(0);
     if (rows_.empty()) {
         painter.line(processMiniListNameStyle, area, Qt::AlignLeft | Qt::AlignVCenter,
                      waitingText());
         return;
     }
     const double symbol = symbolWidth * Typography::lengthScale();
-    const double step = area.height() + processMiniListRowSpacing;
-    for (const Row& row : rows_) {
+    const double step = pitch();
+    for (const Row& row : std::span(rows_).first(rowCount())) {
         // However high a name's combining marks are stacked, they do not reach the rows beside it.
         painter.setClipRect(
             area.adjusted(0, -processMiniListRowSpacing / 2, 0, processMiniListRowSpacing / 2));

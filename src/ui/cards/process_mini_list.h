@@ -26,8 +26,8 @@ struct ProcessMiniList {
 /// What stands before a process; older systems lack the finer one.
 QString processSymbol(const ProcessInfo& versions);
 
-/// Draws the list with room for a fixed number of rows, so that the card does not change its height
-/// when the first processes arrive.
+/// Draws the list with room for a number of rows, so that the card does not change its height when
+/// the first processes arrive.
 class ProcessMiniListView : public PaintedView {
   public:
     /// `symbol` stands before each row.
@@ -37,7 +37,15 @@ class ProcessMiniListView : public PaintedView {
     /// Shows other processes under the same title.
     void show(std::span<const ProcessStats> processes);
     std::size_t rowLimit() const { return rowLimit_; }
-    std::size_t rowCount() const { return rows_.size(); }
+    void setRowLimit(std::size_t rows);
+
+    /// Takes all the height that it is offered and shows as many rows as that has room for.
+    void fillHeight();
+    std::size_t rowCount() const;
+
+    /// From the title to the first row, and from each row to the next: whole device pixels at the
+    /// usual scales.
+    double pitch() const;
 
     QAccessible::Role accessibleRole() const override { return QAccessible::List; }
     QString accessibleLabel() const override { return title_; }
@@ -57,7 +65,6 @@ class ProcessMiniListView : public PaintedView {
         bool operator==(const Row&) const = default;
     };
 
-    double titleHeight() const;
     double rowHeight() const;
     QRectF rowArea(std::size_t index) const;
 
@@ -65,6 +72,7 @@ class ProcessMiniListView : public PaintedView {
     ProcessMiniList::Metric metric_;
     std::size_t rowLimit_;
     QString symbol_;
+    bool fillsHeight_ = false;
     std::vector<Row> rows_;
 };
 

@@ -9,9 +9,23 @@ int AdaptiveColumns::count(double available) const {
     return std::max(1, static_cast<int>(std::floor((available + spacing) / (minimum + spacing))));
 }
 
-double AdaptiveColumns::width(double available) const {
+int AdaptiveColumns::balancedCount(double available, int items) const {
     const int columns = count(available);
+    if (columns < 3 || items <= columns) return columns;
+    const int rows = (items + columns - 1) / columns;
+    const int even = (items + rows - 1) / rows;
+    // What the even ones fill exactly is theirs: the used width of a width is used in the same way.
+    const bool isFilled = std::abs(even * (maximum + spacing) - spacing - available) < 1;
+    return items % columns == 1 || isFilled ? even : columns;
+}
+
+double AdaptiveColumns::width(double available, int columns) const {
     return std::clamp((available - spacing * (columns - 1)) / columns, 0.0, maximum);
+}
+
+double AdaptiveColumns::usedWidth(double available, int items) const {
+    const int columns = balancedCount(available, items);
+    return columns * (width(available, columns) + spacing) - spacing;
 }
 
 AdaptiveGridLayout::AdaptiveGridLayout(AdaptiveColumns columns, QWidget* parent)
@@ -23,11 +37,18 @@ QSize AdaptiveGridLayout::sizeHint() const {
 }
 
 int AdaptiveGridLayout::layOut(const QRect& area, bool place) const {
-    const auto columns = static_cast<std::size_t>(columns_.count(area.width()));
-    const int width = static_cast<int>(std::floor(columns_.width(area.width())));
+    const int itemCount = static_cast<int>(items().size());
+    const int columnCount = columns_.balancedCount(area.width(), itemCount);
+    const auto columns = static_cast<std::size_t>(columnCount);
+    const double exact = columns_.width(area.width(), columnCount);
     const int spacing = static_cast<int>(columns_.spacing);
-    const int used = (width + spacing) * static_cast<int>(columns) - spacing;
-    const int left = area.left() + std::max(0, (area.width() - used) / 2);
+    const double used = columns_.usedWidth(area.width(), itemCount);
+    const double left = area.left() + std::max(0.0, (area.width() - used) / 2);
+    // Both outer edges are those of the area; what does not divide makes a column a point wider.
+    const auto edge = [&](int column) {
+        return static_cast<int>(std::lround(left + column * (exact + spacing)));
+    };
+    const int width = static_cast<int>(std::floor(exact));
     int top = area.top();
     for (std::size_t first = 0; first < items().size(); first += columns) {
         const std::size_t last = std::min(first + columns, items().size());
@@ -39,7 +60,7 @@ int AdaptiveGridLayout::layOut(const QRect& area, bool place) const {
         }
         for (std::size_t i = first; place && i < last; ++i) {
             const int column = static_cast<int>(i - first);
-            const QRect cell(left + column * (width + spacing), top, width, height);
+            const QRect cell(edge(column), top, edge(column + 1) - spacing - edge(column), height);
             placeItem(*items()[i], cell, area);
         }
         top += height + (last < items().size() ? spacing : 0);

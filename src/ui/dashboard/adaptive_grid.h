@@ -12,7 +12,16 @@ struct AdaptiveColumns {
 
     /// At least one, however narrow the space.
     int count(double available) const;
-    double width(double available) const;
+
+    /// For that many items: fewer columns where the last row would have one item alone.
+    int balancedCount(double available, int items) const;
+
+    /// Of one of as many as fit, and of one of `columns`.
+    double width(double available) const { return width(available, count(available)); }
+    double width(double available, int columns) const;
+
+    /// Of all columns and the space between them.
+    double usedWidth(double available, int items) const;
 
     bool operator==(const AdaptiveColumns&) const = default;
 };

@@ -15,6 +15,7 @@
 #include "ui/components/chart_view.h"
 #include "ui/components/make_child.h"
 #include "ui/components/text_line.h"
+#include "ui/dashboard/aligned_column.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/dashboard/horizontal_fit.h"
 #include "ui/dashboard/scroll_view.h"
@@ -30,6 +31,7 @@ constexpr int outerPadding = 20;
 constexpr int paddingUnderMenuBar = 6;
 constexpr int partSpacing = 18;
 constexpr int footerGap = 16;
+constexpr int cardCount = 6;
 constexpr int footerSpacing = 4;
 constexpr double headerBreakpoint = 900;
 constexpr double footerBreakpoint = 720;
@@ -52,7 +54,9 @@ std::optional<double> DashboardView::breakpoint(double legacy) const {
 
 void DashboardView::build() {
     auto* content = makeChild<QWidget>(this);
-    auto* column = makeLayout<QVBoxLayout>(content);
+    auto* column =
+        std::make_unique<AlignedColumn>(environment_.dashboardColumns, cardCount, content)
+            .release();
     column->setContentsMargins(outerPadding, outerPadding, outerPadding, outerPadding);
     column->setSpacing(partSpacing);
     addHeader(content);

@@ -83,7 +83,9 @@ double ProcessTableView::rowHeight() const {
     rowHeightFont_ = systemFont;
     const double text = QFontMetricsF(Typography::font(nameStyle), this).height();
     const double figures = QFontMetricsF(Typography::font(figureStyle), this).height();
-    rowHeight_ = std::ceil(std::max(text, figures));
+    // With the spacing, a whole number of device pixels at 125 % and 150 %, too.
+    constexpr double evenStep = 4;
+    rowHeight_ = std::ceil(std::max(text, figures) / evenStep) * evenStep;
     return *rowHeight_;
 }
 

@@ -1,0 +1,183 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+#include "ui/cpu_samples.h"
+#include "ui/dashboard_view_fixture.h"
+
+/// What stands side by side begins and ends on the same lines.
+namespace vantor::neighbours_test {
+namespace {
+
+using testing::Each;
+
+/// How much two colours differ.
+int distance(QRgb one, QRgb other) {
+    return std::abs(qRed(one) - qRed(other)) + std::abs(qGreen(one) - qGreen(other)) +
+           std::abs(qBlue(one) - qBlue(other));
+}
+
+class Neighbours : public DashboardViewTest, public testing::WithParamInterface<double> {
+  protected:
+    void open(QSize size) {
+        world.open(size);
+        world.goLive();
+        world.advance(std::chrono::seconds(5));
+        DashboardState state = world.monitor->dashboardState();
+        state.snapshot.processes = manyProcesses();
+        for (int i = 0; i < 12; ++i)
+            state.snapshot.processes.push_back(process(100 + i, "worker", 0.1));
+        state.processesByCPU = state.processesByMemory = state.snapshot.processes;
+        ++state.revisions.processes;
+        world.monitor->dashboardStateStream().set(state);
+        world.settle();
+        QWidget& content = *scrollArea().widget();
+        seen_ = QImage((QSizeF(content.size()) * scale()).toSize(), QImage::Format_RGB32);
+        seen_.setDevicePixelRatio(scale());
+        seen_.fill(Qt::black);
+        content.render(&seen_);
+    }
+    static double scale() { return GetParam(); }
+
+    /// In device pixels.
+    QRect onPicture(QWidget& part) {
+        const QRect place = placeOf(part);
+        return QRectF(QPointF(place.topLeft()) * scale(), QSizeF(place.size()) * scale()).toRect();
+    }
+
+    /// The rows of `area` in which something differs from the pixel before the area.
+    std::vector<int> inkedRows(const QRect& area, int tolerance) {
+        std::vector<int> rows;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            const QRgb ground = seen_.pixel(area.left() - static_cast<int>(6 * scale()), y);
+            for (int x = area.left(); x <= area.right(); ++x) {
+                if (distance(seen_.pixel(x, y), ground) <= tolerance) continue;
+                rows.push_back(y);
+                break;
+            }
+        }
+        return rows;
+    }
+
+    /// Where each run of them begins.
+    static std::vector<int> starts(const std::vector<int>& rows) {
+        std::vector<int> result;
+        const double within = 7 * scale();  // the symbols are dashed
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (i == 0 || rows[i] > rows[i - 1] + within) result.push_back(rows[i]);
+        }
+        return result;
+    }
+
+    /// Where the frame that `part` draws begins or ends, along its middle.
+    int edgeOf(QWidget& part, bool isLeft) {
+        const QRect area = onPicture(part);
+        const int reach = static_cast<int>(8 * scale());
+        const int y = area.center().y();
+        const int from = isLeft ? area.left() - reach : area.right() + reach;
+        const QRgb ground = seen_.pixel(from, y);
+        const int step = isLeft ? 1 : -1;
+        for (int x = from; std::abs(x - from) < 3 * reach; x += step) {
+            if (distance(seen_.pixel(x, y), ground) > 12) return x;
+        }
+        return -1;
+    }
+
+    QImage seen_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Scales, Neighbours, testing::Values(1.0, 1.25, 1.5, 2.0));
+
+TEST_P(Neighbours, RingsAndChartsOfProcessorAndMemoryStandOnTheSameLines) {
+    open({1280, 820});
+    const auto ringOf = [&](RingGaugeView& ring) { return inkedRows(onPicture(ring), 20); };
+    const auto cpuRing = ringOf(card().gauge());
+    const auto memoryRing = ringOf(world.view->memoryCard().figures().gauge());
+    ASSERT_FALSE(cpuRing.empty());
+    EXPECT_EQ(cpuRing, memoryRing);
+    const auto chartOf = [&](SparklineView& chart) {
+        // With what is above and below it, where nothing else may begin.
+        const int around = static_cast<int>(8 * scale());
+        const auto rows = inkedRows(onPicture(chart).adjusted(0, -around, 0, around), 14);
+        return rows.empty() ? -1 : rows.back();
+    };
+    EXPECT_GT(chartOf(card().history()), 0);
+    EXPECT_EQ(chartOf(card().history()), chartOf(world.view->memoryCard().history()));
+    const QRect neighbour = onPicture(world.view->memoryCard().history());
+    EXPECT_EQ(onPicture(card().history()).top(), neighbour.top());
+    EXPECT_EQ(onPicture(card().history()).height(), neighbour.height());
+}
+
+TEST_P(Neighbours, ListsOfProcessorAndMemoryHaveCommonRowsAndEndTogether) {
+    open({1280, 820});
+    const auto symbols = [&](ProcessMiniListView& list) {
+        QRect column = onPicture(list);
+        column.setWidth(static_cast<int>(14 * scale()));
+        column.setTop(column.top() + static_cast<int>(22 * scale()));
+        return starts(inkedRows(column, 60));
+    };
+    const auto cpu = symbols(card().processes());
+    const auto memory = symbols(world.view->memoryCard().processes());
+    ASSERT_GE(cpu.size(), 3u);
+    ASSERT_GT(memory.size(), cpu.size());
+    EXPECT_EQ(cpu.back(), memory.back());
+    EXPECT_TRUE(std::equal(cpu.rbegin(), cpu.rend(), memory.rbegin()));
+}
+
+TEST_P(Neighbours, TheFirstTitlesUnderTheChartsStandOnOneLine) {
+    open({1280, 820});
+    const QRect memory = onPicture(world.view->memoryCard().processes());
+    QWidget* title = nullptr;
+    for (QWidget* child : card().findChildren<QWidget*>()) {
+        const auto* const line = dynamic_cast<TextLineView*>(child);
+        if (line && line->text() == u"Core Activity") title = child;
+    }
+    ASSERT_NE(title, nullptr);
+    EXPECT_EQ(onPicture(*title).top(), memory.top());
+}
+
+TEST_P(Neighbours, RowsOfListsAndOfTheTableHaveOnePitch) {
+    open({1280, 820});
+    const auto pitches = [&](QRect column) {
+        const auto tops = starts(inkedRows(column, 60));
+        std::vector<int> result;
+        for (std::size_t i = 1; i < tops.size(); ++i)
+            result.push_back(tops[i] - tops[i - 1]);
+        return result;
+    };
+    QRect list = onPicture(world.view->memoryCard().processes());
+    list.setWidth(static_cast<int>(14 * scale()));
+    list.setTop(list.top() + static_cast<int>(22 * scale()));
+    const auto listPitches = pitches(list);
+    ASSERT_GE(listPitches.size(), 4u);
+    EXPECT_THAT(listPitches, Each(listPitches.front()));
+    QRect table = onPicture(world.view->explorer().table());
+    table.setLeft(table.left() + static_cast<int>(8 * scale()));
+    table.setWidth(static_cast<int>(14 * scale()));
+    table.setTop(table.top() + static_cast<int>(26 * scale()));
+    const auto tablePitches = pitches(table);
+    ASSERT_GE(tablePitches.size(), 12u);
+    EXPECT_THAT(tablePitches, Each(tablePitches.front()));
+}
+
+TEST_P(Neighbours, HeaderCardsAndExplorerShareTheirEdges) {
+    for (const QSize size : {QSize(1280, 820), QSize(1281, 820), QSize(900, 700)}) {
+        open(size);
+        DashboardView& view = *world.view;
+        const int left = edgeOf(view.header(), true);
+        const int right = edgeOf(view.header(), false);
+        ASSERT_GT(left, 0);
+        const bool isOneColumn = size.width() == 900;
+        QWidget& last = isOneColumn ? static_cast<QWidget&>(view.cpuCard()) : view.memoryCard();
+        EXPECT_EQ(edgeOf(view.cpuCard(), true), left) << size.width();
+        EXPECT_EQ(edgeOf(last, false), right) << size.width();
+        EXPECT_EQ(edgeOf(view.explorer(), true), left) << size.width();
+        EXPECT_EQ(edgeOf(view.explorer(), false), right) << size.width();
+    }
+}
+
+}  // namespace
+}  // namespace vantor::neighbours_test
