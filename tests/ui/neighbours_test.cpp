@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLayout>
+#include <QMenuBar>
+
 #include <algorithm>
 #include <cstdlib>
 #include <vector>
@@ -177,6 +180,56 @@ TEST_P(Neighbours, HeaderCardsAndExplorerShareTheirEdges) {
         EXPECT_EQ(edgeOf(view.explorer(), true), left) << size.width();
         EXPECT_EQ(edgeOf(view.explorer(), false), right) << size.width();
     }
+}
+
+class FirstScreen : public DashboardViewTest {
+  protected:
+    int bottomOf(QWidget& part) {
+        return part.mapTo(world.view.get(), QPoint(0, part.height())).y();
+    }
+};
+
+TEST_F(FirstScreen, At1280By820TheHeadlineFiguresOfTheSecondRowAreWhole) {
+    world.open({1280, 820});
+    world.goLive();
+    world.advance(std::chrono::seconds(3));
+    EXPECT_LE(bottomOf(world.view->gpuCard().figures().gauge()), 820);
+    EXPECT_LE(bottomOf(world.view->networkCard().downloadTile()), 820);
+    QMenuBar bar;
+    bar.addMenu(QStringLiteral("File"));
+    world.view->setMenuBar(&bar);
+    world.settle();
+    EXPECT_LE(bottomOf(world.view->gpuCard().figures().gauge()), 820);
+    EXPECT_EQ(card().processes().rowLimit(), 3u);
+    world.view->layout()->setMenuBar(nullptr);
+}
+
+TEST_F(FirstScreen, At1920By1080AllCardsAreWhole) {
+    world.open({1920, 1080});
+    world.goLive();
+    world.advance(std::chrono::seconds(3));
+    constexpr int menuBar = 26;
+    EXPECT_LE(bottomOf(world.view->storageCard()), 1080 - menuBar);
+    EXPECT_LE(bottomOf(world.view->systemCard()), 1080 - menuBar);
+}
+
+TEST_F(FirstScreen, AHighWindowShowsMoreProcesses) {
+    world.open({1280, 790});
+    EXPECT_EQ(card().processes().rowLimit(), 3u);
+    world.open({1280, 1100});
+    EXPECT_EQ(card().processes().rowLimit(), 5u);
+}
+
+TEST_F(FirstScreen, NoCardStandsAloneInALastRow) {
+    const AdaptiveColumns columns;
+    EXPECT_EQ(columns.balancedCount(2300, 6), 3) << "three and three, not five and one";
+    EXPECT_EQ(columns.balancedCount(1880, 6), 4);
+    EXPECT_EQ(columns.balancedCount(1400, 6), 3);
+    EXPECT_EQ(columns.balancedCount(2700, 6), 6);
+    EXPECT_EQ(columns.balancedCount(1240, 6), 2);
+    world.open({2340, 1000});
+    EXPECT_EQ(placeOf(world.view->gpuCard()).left(), placeOf(world.view->cpuCard()).left());
+    EXPECT_GT(placeOf(world.view->gpuCard()).top(), placeOf(world.view->cpuCard()).top());
 }
 
 }  // namespace

@@ -6,6 +6,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
+
 #include "ui/cards/cpu_card.h"
 #include "ui/cards/gpu_card.h"
 #include "ui/cards/memory_card.h"
@@ -35,6 +38,12 @@ constexpr int cardCount = 6;
 constexpr int footerSpacing = 4;
 constexpr double headerBreakpoint = 900;
 constexpr double footerBreakpoint = 720;
+constexpr int fewestProcesses = 3;
+constexpr int mostProcesses = 5;
+// What is above and below the list of processes up to the end of the next row's rings, and of its
+// cards.
+constexpr double heightBesidesRows = 716;
+constexpr double heightBesidesWideRows = 980;
 
 }  // namespace
 
@@ -74,6 +83,7 @@ void DashboardView::setMenuBar(QMenuBar* bar) {
     // The bar has the space above the content.
     QLayout& content = *findChild<QScrollArea*>()->widget()->layout();
     content.setContentsMargins(outerPadding, paddingUnderMenuBar, outerPadding, outerPadding);
+    fitFirstScreen();
 }
 
 void DashboardView::addHeader(QWidget* content) {
@@ -197,6 +207,25 @@ void DashboardView::reportFirstLiveFrame() {
         repaint();
         environment_.onFirstLiveFrame();
     });
+}
+
+/// A short window shows fewer processes and the figures of the next row of cards whole; with three
+/// columns and more, it shows all of that row.
+void DashboardView::fitFirstScreen() {
+    const auto* const bar = qobject_cast<QMenuBar*>(layout()->menuBar());
+    const int room = height() - (bar && !bar->isNativeMenuBar() ? bar->sizeHint().height() : 0);
+    const bool isWide = environment_.dashboardColumns.count(width() - 2 * outerPadding) >= 3;
+    const double others = Typography::scaled(isWide ? heightBesidesWideRows : heightBesidesRows);
+    const double fitting = std::floor((room - others) / cpuCard_->processes().pitch());
+    const auto rows = static_cast<std::size_t>(
+        std::clamp(fitting, double{fewestProcesses}, double{mostProcesses}));
+    cpuCard_->processes().setRowLimit(rows);
+    memoryCard_->processes().setRowLimit(rows);
+}
+
+void DashboardView::resizeEvent(QResizeEvent* event) {
+    fitFirstScreen();
+    BackgroundView::resizeEvent(event);
 }
 
 void DashboardView::showEvent(QShowEvent* event) {

@@ -66,6 +66,7 @@ class DashboardView : public BackgroundView {
 
   protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
@@ -81,6 +82,7 @@ class DashboardView : public BackgroundView {
     void showIfSeen(const DashboardState& state);
     void catchUp();
     void reportFirstLiveFrame();
+    void fitFirstScreen();
 
     Environment environment_;
     DashboardHeaderView* header_ = nullptr;  // all owned by this widget, as its children
