@@ -128,23 +128,6 @@ INSTANTIATE_TEST_SUITE_P(
                     MemoryRow{{"LargestNumbers"}, UINT64_MAX / 2, UINT64_MAX, 0.5}),
     rowName<MemoryRow>);
 
-TEST(Commit, EachSampleKeepsTheUptimeOfItsCommit) {
-    DashboardState state;
-    for (const double uptime : {10.0, 11.0, 700.0}) {
-        PendingUpdate update;
-        update.cpu = cpuReading(0.5);
-        update.network = networkReading(3, 4);
-        if (uptime > 10) update.memory = memoryReading(1, 2);
-        applyUpdate(std::move(update), state, 2, noon, uptime);
-    }
-    EXPECT_THAT(state.histories.times.cpu, ElementsAre(11, 700));
-    EXPECT_THAT(state.histories.times.memory, ElementsAre(11, 700));
-    EXPECT_THAT(state.histories.times.network, ElementsAre(11, 700));
-    EXPECT_THAT(state.histories.times.gpu, IsEmpty());
-    EXPECT_TRUE(trimHistories(state.histories, 1));
-    EXPECT_THAT(state.histories.times.cpu, ElementsAre(700));
-}
-
 TEST(Commit, NetworkReadingGoesIntoTwoHistories) {
     DashboardState state;
     PendingUpdate update;
