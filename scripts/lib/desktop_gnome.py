@@ -30,6 +30,9 @@ ITEM = """JSON.stringify(Object.keys(imports.ui.main.panel.statusArea).filter(k 
 class Gnome(Session):
     app = "com.kestrone.Vantor.desktop"
     cannot = {}
+    programs_place_windows = False
+    # Once is for the menu.
+    presses_for_panel = 2
 
     def __init__(self, tree, folder, log):
         super().__init__("gnome", tree, folder, log, {
@@ -38,18 +41,22 @@ class Gnome(Session):
         own = folder + "/.local/share/gnome-shell/extensions/" + EXTENSION
         os.makedirs(own)
         with open(own + "/metadata.json", "w") as file:
-            json.dump({"uuid": EXTENSION, "name": EXTENSION, "description": "", "shell-version": ["43", "44"]}, file)
+            json.dump({"uuid": EXTENSION, "name": EXTENSION, "description": "Looks inside", "shell-version": ["43", "44"]}, file)
         with open(own + "/extension.js", "w") as file:
             file.write(LOOK_INSIDE)
         self.run("gsettings", "set", "org.gnome.shell", "enabled-extensions", str([EXTENSION, TRAY]))
         self.run("gsettings", "set", "org.gnome.shell", "welcome-dialog-last-shown-version", "999")
         self.run("gsettings", "set", "org.gnome.desktop.interface", "enable-animations", "false")
+        self.run("gsettings", "set", "org.gnome.desktop.notifications", "show-banners", "false")
         self.start("gnome-shell", "--nested", "--wayland", "--wayland-display", "wayland-desktop", "--sm-disable")
         until("the shell is there", lambda: os.path.exists(folder + "/run/wayland-desktop"), 40)
         self.set_for_services(WAYLAND_DISPLAY="wayland-desktop", QT_QPA_PLATFORM="wayland", GDK_BACKEND="wayland")
         until("the shell answers", lambda: self.has_service("org.gnome.Shell"), 40)
         until("the shell lets look inside", lambda: self.ask("1 + 1") == "2", 20)
-        self.ask("imports.ui.main.overview.hide()")
+        # It begins with the overview.
+        until("the shell has started", lambda: self.ask("imports.ui.main.layoutManager._startingUp") == "false", 40)
+        until("the overview goes", lambda: self.ask(
+            "imports.ui.main.overview.hide(); imports.ui.main.overview.visible") == "false")
         until("the tray is there", lambda: self.has_service("org.kde.StatusNotifierWatcher"))
 
     def ask(self, script):
@@ -71,6 +78,9 @@ class Gnome(Session):
     def item_places(self):
         return [(round(x + width / 2), round(y + height / 2))
                 for x, y, width, height in json.loads(self.ask(ITEM) or "[]")]
+
+    def close_menu(self):
+        self.ask("imports.ui.main.panel.menuManager.activeMenu.close(0)")
 
     def close(self, window):
         self.ask("global.get_window_actors().map(a => a.meta_window).find(w => w.get_stable_sequence() === %d)"

@@ -100,8 +100,14 @@ class Session:
         return float(self.run("import", "-silent", "-window", "root", "-crop", "%dx%d+%d+%d" % (width, height, x, y),
                               "-colorspace", "Gray", "-format", "%[fx:mean]", "info:"))
 
-    def press(self, x, y, button=1):
-        self.run("xdotool", "mousemove", x, y, "sleep", "0.3", "click", button)
+    presses_for_panel = 1
+    programs_place_windows = True
+
+    def press(self, x, y, button=1, repeat=1):
+        self.run("xdotool", "mousemove", x, y, "sleep", "0.3", "click", "--repeat", repeat, "--delay", 80, button)
+
+    def close_menu(self):
+        self.keys("Escape")
 
     def keys(self, *names):
         self.run("xdotool", "key", *names)
