@@ -63,7 +63,7 @@ class Session:
 
     def start(self, *command, stdout=None, pass_fds=(), **more):
         return subprocess.Popen(command, env={**self.env, **more}, stdin=subprocess.DEVNULL,
-                                stdout=stdout or self.log, stderr=self.log, pass_fds=pass_fds)
+                                stdout=stdout or self.log, stderr=self.log, pass_fds=pass_fds, cwd=self.env["HOME"])
 
     def run(self, *command):
         """What the command prints."""
