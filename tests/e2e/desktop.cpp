@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+#include "support/session_bus_config.h"
+
 namespace vantor {
 
 bool isNear(QRgb pixel, const QColor& color) {
@@ -87,9 +89,7 @@ bool Desktop::startWindowManager() {
 QString Desktop::startSessionBus() {
     sessionBus_.setProcessEnvironment(environment_);
     sessionBus_.setStandardErrorFile(QProcess::nullDevice());
-    sessionBus_.start(QStringLiteral("dbus-daemon"),
-                      {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                       QStringLiteral("--print-address=1")});
+    sessionBus_.start(QStringLiteral("dbus-daemon"), sessionBusArguments(home_.path()));
     if (!sessionBus_.waitForReadyRead(toolPatience)) return {};
     const QString address = QString::fromLatin1(sessionBus_.readLine()).trimmed();
     environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address);

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+#include "support/session_bus_config.h"
+
 #include "e2e/assistive_client.h"
 #include "e2e/desktop.h"
 
@@ -75,9 +77,7 @@ class OnWayland : public testing::Test {
     void startBus() {
         bus_.setProcessEnvironment(environment_);
         bus_.setStandardErrorFile(QProcess::nullDevice());
-        bus_.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                    QStringLiteral("--print-address=1")});
+        bus_.start(QStringLiteral("dbus-daemon"), sessionBusArguments(home_.path()));
         ASSERT_TRUE(bus_.waitForReadyRead(patience)) << "no session bus";
         address_ = QString::fromLatin1(bus_.readLine()).trimmed();
         environment_.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address_);

@@ -8,6 +8,8 @@
 
 #include <csignal>
 
+#include "support/session_bus_config.h"
+
 namespace vantor {
 
 /// A session bus of the test's own.
@@ -38,9 +40,7 @@ class SessionBus {
         process_.setProcessEnvironment(environment);
         process_.setStandardErrorFile(QProcess::nullDevice());
         process_.start(QStringLiteral("dbus-daemon"),
-                       QStringList{QStringLiteral("--session"), QStringLiteral("--nofork"),
-                                   QStringLiteral("--print-address=1")} +
-                           arguments);
+                       sessionBusArguments(home_.path()) + arguments);
         if (process_.waitForReadyRead(20'000))
             address_ = QString::fromLatin1(process_.readLine()).trimmed();
     }
