@@ -59,6 +59,10 @@ constexpr auto menuDescription =
     "      <arg type=\"i\" name=\"parent\"/>\n"
     "    </signal>\n";
 
+QString menuInterface() {
+    return QStringLiteral("com.canonical.dbusmenu");
+}
+
 /// One line under a letter would mark a key, two are one line.
 QString labelOf(QString title) {
     return title.replace(u'_', QStringLiteral("__"));
@@ -106,24 +110,29 @@ const QDBusArgument& operator>>(const QDBusArgument& in, BusMenuEntry& entry) {
     return in;
 }
 
-BusMenu::BusMenu(const QString& path, Ask ask)
-    : BusObject(path, QStringLiteral("com.canonical.dbusmenu"),
-                QString::fromLatin1(menuDescription)),
-      ask_(std::move(ask)) {
+BusMenu::BusMenu(const QString& path, Ask ask, Send send)
+    : BusObject(path, menuInterface(), QString::fromLatin1(menuDescription)),
+      ask_(std::move(ask)),
+      send_(std::move(send)),
+      entries_(ask_()) {
     qDBusRegisterMetaType<BusMenuNode>();
     qDBusRegisterMetaType<BusMenuEntry>();
     qDBusRegisterMetaType<QList<BusMenuEntry>>();
-    refresh();
 }
 
-/// Whether anything that is shown has changed.
+/// Whether anything that is shown has changed. Of several readers all are told: the one that asked
+/// knows it now, and what the others have is old.
 bool BusMenu::refresh() {
     std::vector<StatusMenuEntry> now = ask_();
     const bool isSame =
         std::ranges::equal(now, entries_, {}, &StatusMenuEntry::title, &StatusMenuEntry::title);
     entries_ = std::move(now);
-    if (!isSame) ++revision_;
-    return !isSame;
+    if (isSame) return false;
+    QDBusMessage signal =
+        QDBusMessage::createSignal(path(), menuInterface(), QStringLiteral("LayoutUpdated"));
+    signal << ++revision_ << root;
+    send_(signal);
+    return true;
 }
 
 bool BusMenu::has(int id) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusArgument>
+#include <QDBusMessage>
 #include <QList>
 #include <QObject>
 #include <QVariantMap>
@@ -35,8 +36,10 @@ const QDBusArgument& operator>>(const QDBusArgument& in, BusMenuEntry& entry);
 class BusMenu : public BusObject {
   public:
     using Ask = std::function<std::vector<StatusMenuEntry>()>;
+    /// Sends the signal to everybody on the bus.
+    using Send = std::function<void(const QDBusMessage& signal)>;
 
-    BusMenu(const QString& path, Ask ask);
+    BusMenu(const QString& path, Ask ask, Send send);
 
   protected:
     QVariantMap properties() const override;
@@ -53,6 +56,7 @@ class BusMenu : public BusObject {
     QList<int> happened(const QDBusArgument& events);
 
     Ask ask_;
+    Send send_;
     std::vector<StatusMenuEntry> entries_;
     uint revision_ = 1;
     QObject context_;  // of tasks for a later turn of the loop

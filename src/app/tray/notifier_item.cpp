@@ -196,7 +196,9 @@ NotifierItem::NotifierItem(const BusConnector& connect, int number, StatusItemCo
       onDecided_(std::move(onDecided)),
       name_(nameOf(number)),
       bus_(connect(name_)),
-      menu_(menuPath, [this] { return content_.menu(); }) {
+      menu_(
+          menuPath, [this] { return content_.menu(); },
+          [this](const QDBusMessage& signal) { bus_.send(signal); }) {
     qDBusRegisterMetaType<BusPixmap>();
     qDBusRegisterMetaType<QList<BusPixmap>>();
     qDBusRegisterMetaType<BusToolTip>();

@@ -156,6 +156,23 @@ TEST_F(NotifierItemTest, TellsAboutToShowWhetherAnythingHasChanged) {
     EXPECT_TRUE(isChanged());
 }
 
+TEST_F(NotifierItemTest, AChangeOfTheMenuThatOneReaderFindsIsToldToAll) {
+    entries = {{QStringLiteral("CPU  —"), {}}};
+    tray->menu();
+    QTimer heard;
+    QDBusConnection other = QDBusConnection::connectToBus(bus.address(), QStringLiteral("other"));
+    ASSERT_TRUE(other.connect({}, QStringLiteral("/MenuBar"),
+                              QStringLiteral("com.canonical.dbusmenu"),
+                              QStringLiteral("LayoutUpdated"), &heard, SLOT(start())));
+    tray->menu();
+    settleEvents();
+    EXPECT_FALSE(heard.isActive()) << "nothing has changed";
+    entries[0].title = QStringLiteral("CPU  1%");
+    tray->menu();
+    EXPECT_TRUE(handleEventsUntil([&] { return heard.isActive(); }));
+    QDBusConnection::disconnectFromBus(QStringLiteral("other"));
+}
+
 TEST_F(NotifierItemTest, AnEntryThatIsChosenIsDoneAndMayTakeTheItemAway) {
     int done = 0;
     entries = {{QStringLiteral("Figure"), {}}, {QStringLiteral("Do"), [&] {
