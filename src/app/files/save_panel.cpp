@@ -183,7 +183,7 @@ void SavePanel::choose(const FolderEntry& entry) {
     edited();
 }
 
-void SavePanel::open(const FolderEntry& entry) {
+void SavePanel::enter(const FolderEntry& entry) {
     if (entry.kind != FolderEntry::Kind::file) return goTo(shown_ / entry.name);
     choose(entry);
     save();

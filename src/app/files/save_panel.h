@@ -59,7 +59,7 @@ class SavePanel : public QDialog {
                     const std::optional<FolderContents>& contents);
     void follow(const std::filesystem::path& folder, const std::vector<FolderEntry>& entries);
     void choose(const FolderEntry& entry);
-    void open(const FolderEntry& entry);
+    void enter(const FolderEntry& entry);
     void edited();
     void askForNewFolder();
     void makeNewFolder(const QString& name);

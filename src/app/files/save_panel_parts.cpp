@@ -56,7 +56,7 @@ void SavePanel::build() {
     places_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_ = makeChild<FolderView>(
         self, FolderView::Actions{[this](const FolderEntry& entry) { choose(entry); },
-                                  [this](const FolderEntry& entry) { open(entry); }});
+                                  [this](const FolderEntry& entry) { enter(entry); }});
     notice_ = makeChild<SaveNotice>(self);
     auto* const buttons = makeChild<QDialogButtonBox>(self);
     save_ = buttons->addButton(QStringLiteral("&Save"), QDialogButtonBox::AcceptRole);
