@@ -208,18 +208,21 @@ Outcome runProgram(const QStringList& arguments, const QString& home, bool hasDi
     return run;
 }
 
+/// Milliseconds, on a busy machine; what waits for something waits for three seconds or more.
+constexpr int atOnce = 2500;
+
 TEST_F(VantorAppTest, TheProgramQuitsAtOnceWhileAProbeHangsForEver) {
     const Outcome run = runProgram({QStringLiteral("hanging")}, folder.path());
     ASSERT_TRUE(run.ended) << run.errors.toStdString();
     EXPECT_EQ(run.status, 7) << run.errors.toStdString();
-    EXPECT_LT(run.millisecondsToEnd, 1000);
+    EXPECT_LT(run.millisecondsToEnd, atOnce);
 }
 
 TEST_F(VantorAppTest, TheProgramQuitsOrderlyWhenAllProbesAnswer) {
     const Outcome run = runProgram({QStringLiteral("answering")}, folder.path());
     ASSERT_TRUE(run.ended) << run.errors.toStdString();
     EXPECT_EQ(run.status, 7) << run.errors.toStdString();
-    EXPECT_LT(run.millisecondsToEnd, 1000);
+    EXPECT_LT(run.millisecondsToEnd, atOnce);
 }
 
 TEST_F(VantorAppTest, WithoutADisplayItSaysSoInASentenceAndEndsInsteadOfAborting) {

@@ -35,7 +35,7 @@ class Filler {
             value = name + ' ' + std::to_string(++number_);
         } else {
             forEachField(value, [this](const char* field, auto& member) {
-                fill(member, field);
+                this->fill(member, field);
                 return true;
             });
         }
