@@ -170,6 +170,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/power/linux_power_sources_test.cpp
         platform/linux/storage/patient_file_systems_test.cpp
         platform/linux/processes/pid_tracker_test.cpp
+        platform/linux/sensors/processor_sensors_search_test.cpp
         platform/linux/sensors/processor_sensors_test.cpp
         platform/linux/storage/served_volumes_test.cpp
         platform/linux/storage/silent_file_system_test.cpp
