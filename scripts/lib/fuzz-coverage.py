@@ -25,6 +25,10 @@ PARSERS_AMONG_READERS = {
         "inBrackets", "shortVendor", "hex", "withVendor", "anyName", "graphicsName"],
     "src/platform/linux/graphics/runtime_status.cpp": ["saysAwake"],
     "src/platform/linux/memory/zram_devices.cpp": ["parseZramUsedBytes"],
+    "src/platform/linux/network/link_source.cpp": [
+        "readName", "readCounters<unsigned int>", "readCounters<unsigned long>", "parseLink",
+        "parseAddress"],
+    "src/platform/linux/network/route_source.cpp": ["numberIn", "firstHop", "parseRoute"],
     "src/platform/linux/power/low_power_mode.cpp": ["isQuietTheLowestOf"],
     "src/platform/linux/processor/cpu_identity.cpp": ["findInCPUInfo", "frequencyInName"],
     "src/platform/linux/sensors/thermal_zones.cpp": ["parseTemperature", "add", "judge"],
