@@ -28,7 +28,8 @@ struct Exception {
 constexpr std::array exceptions{
     Exception{"/usr/share/X11/locale/.*", "the first key: libX11's table of composed characters"},
     Exception{".*/\\.?XCompose", "the first key: the user's own such table"},
-    Exception{".*/(\\.icons|icons|pixmaps)/.*", "a new shape of the pointer: libXcursor's themes"},
+    Exception{".*/(\\.icons|icons|pixmaps|cursors)/.*",
+              "a new shape of the pointer: libXcursor's themes"},
     Exception{".*/plugins/[a-z]+", "the first screen reader: the toolkit's extensions"},
     Exception{".*/src/(accessible|iconengines|imageformats)", "and where they may lie"},
     Exception{".*/(fonts|fontconfig)(/.*)?", "a character that no font in use has: fontconfig"},
