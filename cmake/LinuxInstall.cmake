@@ -11,6 +11,10 @@ install(FILES ${packaging}/${VANTOR_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATA
 install(FILES ${packaging}/${VANTOR_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(DIRECTORY ${packaging}/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
 install(FILES ${packaging}/vantor.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+foreach(language IN LISTS vantor_languages)
+    install(FILES ${packaging}/manuals/vantor.${language}.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1 RENAME vantor.1)
+endforeach()
 install(FILES ${CMAKE_SOURCE_DIR}/docs/snapshot.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vantor)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION ${VANTOR_DOCUMENTS_FOLDER})
 

@@ -4,6 +4,7 @@
 #include <QStyleFactory>
 #include <QTabWidget>
 
+#include "app/user_language.h"
 #include "ui/components/accessible_views.h"
 #include "ui/components/make_child.h"
 
@@ -19,6 +20,13 @@ std::vector<Number> numbers(const QString& text) {
     std::vector<Number> result;
     for (const QString& part : text.split(u','))
         result.push_back(static_cast<Number>(part.toDouble()));
+    return result;
+}
+
+std::vector<QSize> sizes(const QString& text) {
+    std::vector<QSize> result;
+    for (const QString& part : text.split(u',', Qt::SkipEmptyParts))
+        result.emplace_back(part.section(u'x', 0, 0).toInt(), part.section(u'x', 1).toInt());
     return result;
 }
 
@@ -62,14 +70,28 @@ int main(int argc, char** argv) {
     const QCommandLineOption simulated(
         QStringLiteral("simulated"),
         QStringLiteral("Draw the dashboards of the simulated Macs as well."));
-    parser.addOptions({pictures, widths, scales, fontScale, simulated});
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("The texts' and the numbers' language."),
+                                      QStringLiteral("code"), QStringLiteral("en"));
+    const QCommandLineOption windows(
+        QStringLiteral("windows"),
+        QStringLiteral("Sizes of windows, as 1280x820, to draw the dashboards in."),
+        QStringLiteral("list"));
+    parser.addOptions({pictures, widths, scales, windows, fontScale, simulated, language});
     parser.process(application);
+    const vantor::UserLanguage texts({parser.value(language)});
+    if (!texts.name().isEmpty()) {
+        QLocale numbers(texts.name());
+        numbers.setNumberOptions(numbers.numberOptions() | QLocale::OmitGroupSeparator);
+        QLocale::setDefault(numbers);
+    }
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() * parser.value(fontScale).toDouble());
     QApplication::setFont(font);
     if (!parser.isSet(pictures)) return showGallery();
     const bool isDone =
         vantor::takePictures({parser.value(pictures), numbers<int>(parser.value(widths)),
-                              numbers<double>(parser.value(scales)), parser.isSet(simulated)});
+                              numbers<double>(parser.value(scales)), sizes(parser.value(windows)),
+                              parser.isSet(simulated)});
     return isDone ? 0 : 1;
 }

@@ -44,6 +44,14 @@ QString suffix(int width, double scale, const PictureOptions& options) {
 bool takeDashboard(LivedDashboard& dashboard, ColorScheme scheme, const QString& name,
                    const PictureOptions& options) {
     bool isSaved = true;
+    for (const QSize size : options.windows) {
+        const QString file = QStringLiteral("%1/dashboard-%2-%3-%4x%5.png")
+                                 .arg(options.folder, name, nameOf(scheme))
+                                 .arg(size.width())
+                                 .arg(size.height());
+        isSaved = save(dashboard.view(), size, 1, file) && isSaved;
+    }
+    if (!options.windows.empty()) return isSaved;
     for (const int width : options.widths) {
         for (const double scale : options.scales) {
             const QString file =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 #include <vector>
@@ -11,7 +12,8 @@ struct PictureOptions {
     QString folder;
     std::vector<int> widths{1280};
     std::vector<double> scales{1};
-    bool simulated = false;  ///< the dashboards of the simulated Macs, too
+    std::vector<QSize> windows{};  ///< in place of the widths: as much as such a window shows
+    bool simulated = false;        ///< the dashboards of the simulated Macs, too
 };
 
 /// Draws the gallery and each recorded machine's dashboard, dark and light, into PNG files. False

@@ -12,6 +12,7 @@ add_executable(vantor_e2e_tests
     e2e/assistive_client.cpp
     e2e/appearance_test.cpp
     e2e/assistive_test.cpp
+    e2e/languages_test.cpp
     e2e/bus_tray_test.cpp
     e2e/confined_minute_test.cpp
     e2e/confined_on_wayland_test.cpp
@@ -51,6 +52,7 @@ target_compile_definitions(vantor_e2e_tests PRIVATE
     VANTOR_PROGRAM="$<TARGET_FILE:vantor>"
     VANTOR_STRICT_PROGRAM="$<TARGET_FILE:strict_program>"
     VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
+    VANTOR_TRANSLATIONS="${CMAKE_SOURCE_DIR}/translations"
     VANTOR_PYTHON="${VANTOR_PYTHON}")
 target_link_libraries(vantor_e2e_tests PRIVATE vantor_app)
 add_dependencies(vantor_e2e_tests instance_program strict_program vantor)

@@ -92,6 +92,8 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/window/dock_reopen_test.cpp
     app/tray/menu_bar_test.cpp
     app/tray/menu_bar_commands_test.cpp
+    app/languages/pseudo_language_test.cpp
+    app/languages/room_test.cpp
     app/readable_texts_test.cpp
     app/vantor_app_test.cpp
     app/vantor_app_actions_test.cpp
@@ -100,6 +102,10 @@ vantor_add_tests(app_tests WIDGETS LABEL ui LIBRARIES vantor_app Qt6::Test SOURC
     app/files/autostart_test.cpp
     app/app_delegate_test.cpp
     app/app_commands_test.cpp
+    app/languages/catalogues_test.cpp
+    app/languages/user_language_test.cpp
+    app/languages/plurals_test.cpp
+    app/languages/translated_files_test.cpp
     app/session/changing_bus_test.cpp
     app/session/command_line_test.cpp
     app/window/launch_stabilizer_test.cpp
@@ -130,11 +136,30 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         app/tray/notifier_item_test.cpp
         app/files/save_panel_test.cpp
         app/files/save_panel_folders_test.cpp
+        app/languages/pseudo_dialogs_test.cpp
         support/fake_notifier_tray.cpp
         support/fake_portal.cpp
         support/fake_settings_portal.cpp)
 endif()
+# Catalogues of the tests' own, for the rules of languages: without the translators' tools there are none.
+set(vantor_test_catalogues)
+if(VANTOR_LRELEASE AND NOT CMAKE_CROSSCOMPILING)
+    foreach(language ar pl ru)
+        set(source ${CMAKE_CURRENT_SOURCE_DIR}/fixtures/translations/vantor_${language}.ts)
+        set(compiled ${CMAKE_CURRENT_BINARY_DIR}/translations/vantor_${language}.qm)
+        add_custom_command(OUTPUT ${compiled}
+            COMMAND ${VANTOR_LRELEASE} -silent ${source} -qm ${compiled}
+            DEPENDS ${source} VERBATIM)
+        list(APPEND vantor_test_catalogues ${compiled})
+    endforeach()
+    file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/translations)
+endif()
+add_custom_target(vantor_test_catalogues DEPENDS ${vantor_test_catalogues})
+add_dependencies(app_tests vantor_test_catalogues)
 target_compile_definitions(app_tests PRIVATE
+    VANTOR_TRANSLATIONS="${CMAKE_SOURCE_DIR}/translations"
+    VANTOR_PACKAGING="${CMAKE_SOURCE_DIR}/packaging/linux"
+    VANTOR_TEST_CATALOGUES="${CMAKE_CURRENT_BINARY_DIR}/translations"
     VANTOR_ENDING_PROGRAM="$<TARGET_FILE:ending_program>"
     VANTOR_INSTANCE_PROGRAM="$<TARGET_FILE:instance_program>"
     VANTOR_QUITTING_PROGRAM="$<TARGET_FILE:quitting_program>")

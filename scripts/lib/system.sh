@@ -13,8 +13,8 @@ fail() {
 # Those who source this use them.
 # shellcheck disable=SC2034
 {
-    build_packages=(g++ cmake ninja-build libicu-dev libxcb1-dev qt6-base-dev)
-    screen_packages=(xvfb x11-utils imagemagick fonts-inter fonts-dejavu-core)
+    build_packages=(g++ cmake ninja-build libicu-dev libxcb1-dev qt6-base-dev qt6-l10n-tools)
+    screen_packages=(xvfb x11-utils imagemagick fonts-inter fonts-dejavu-core fonts-droid-fallback)
     test_packages=(mold nlohmann-json3-dev qt6-svg-dev libgtest-dev libgmock-dev libbenchmark-dev xdotool openbox trayer weston qt6-wayland qt6-gtk-platformtheme procps iproute2 dbus-daemon at-spi2-core python3-jsonschema strace)
     clang_packages=(clang libclang-rt-14-dev)
     macos_packages=(cmake ninja-build nlohmann-json3-dev binutils file llvm-14)

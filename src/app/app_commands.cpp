@@ -8,18 +8,31 @@
 #include <QWidget>
 
 #include "ui/components/make_child.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
 AppCommands::AppCommands(Actions actions, bool sharesMenuBar)
-    : about_(add(QStringLiteral("About Vantor"), {}, actions.about)),
-      refresh_(add(QStringLiteral("Refresh Now"), {QStringLiteral("Ctrl+R"), QStringLiteral("F5")},
-                   actions.refresh)),
-      export_(add(QStringLiteral("Export Snapshot…"), {QStringLiteral("Ctrl+E")},
-                  actions.exportSnapshot)),
-      settings_(add(QStringLiteral("Settings…"), {QStringLiteral("Ctrl+,")}, actions.settings)),
-      help_(add(QStringLiteral("Vantor Help"), {QStringLiteral("F1")}, actions.help)),
-      quit_(add(QStringLiteral("Quit"), {QStringLiteral("Ctrl+Q")}, actions.quit)) {
+    : about_(add(
+          //: a command of the menu
+          translate("AppCommands", "About Vantor"), {}, actions.about)),
+      refresh_(add(
+          //: a command of the menu: read everything now
+          translate("AppCommands", "Refresh Now"), {QStringLiteral("Ctrl+R"), QStringLiteral("F5")},
+          actions.refresh)),
+      export_(add(
+          //: a command of the menu
+          translate("AppCommands", "Export Snapshot…"), {QStringLiteral("Ctrl+E")},
+          actions.exportSnapshot)),
+      settings_(add(
+          //: a command of the menu
+          translate("AppCommands", "Settings…"), {QStringLiteral("Ctrl+,")}, actions.settings)),
+      help_(add(
+          //: a command of the menu
+          translate("AppCommands", "Vantor Help"), {QStringLiteral("F1")}, actions.help)),
+      quit_(add(
+          //: a command of the menu
+          translate("AppCommands", "Quit"), {QStringLiteral("Ctrl+Q")}, actions.quit)) {
     about_->setMenuRole(QAction::AboutRole);
     settings_->setMenuRole(QAction::PreferencesRole);
     quit_->setMenuRole(QAction::QuitRole);
@@ -43,7 +56,9 @@ QAction* AppCommands::add(const QString& title, const std::vector<QString>& keys
 }
 
 QAction* AppCommands::closing(QWidget* window) {
-    auto* action = makeChild<QAction>(window, QStringLiteral("Close Window"));
+    auto* action = makeChild<QAction>(window,
+                                      //: a command of the menu
+                                      translate("AppCommands", "Close Window"));
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+W")));
     const bool isShared = window == sharedBar_.get();
     connect(action, &QAction::triggered, window, [window, isShared] {
@@ -60,7 +75,9 @@ QMenuBar* AppCommands::makeMenuBar(QWidget* window) {
 }
 
 void AppCommands::fill(QMenuBar& bar, QAction* closing) {
-    QMenu* const file = bar.addMenu(QStringLiteral("&File"));
+    QMenu* const file = bar.addMenu(
+        //: a menu; the letter behind & is pressed together with Alt
+        translate("AppCommands", "&File"));
     file->addAction(refresh_);
     file->addAction(export_);
     file->addSeparator();
@@ -68,7 +85,9 @@ void AppCommands::fill(QMenuBar& bar, QAction* closing) {
     file->addSeparator();
     file->addAction(closing);
     file->addAction(quit_);
-    QMenu* const help = bar.addMenu(QStringLiteral("&Help"));
+    QMenu* const help = bar.addMenu(
+        //: a menu; the letter behind & is pressed together with Alt
+        translate("AppCommands", "&Help"));
     help->addAction(help_);
     help->addAction(about_);
 }

@@ -9,6 +9,7 @@
 
 #include "app/window/front_window.h"
 #include "ui/components/make_child.h"
+#include "ui/core_words.h"
 #include "ui/shown_text.h"
 
 namespace vantor {
@@ -32,8 +33,8 @@ void showPlain(const QMessageBox& box, const QString& label, const QString& text
 
 QMessageBox* makeBox(const AlertText& text, QWidget* window) {
     auto* const box = makeChild<QMessageBox>(window);
-    const QString message = shownText(text.message);
-    const QString information = shownText(text.informativeText);
+    const QString message = wordedForPeople(text.message);
+    const QString information = wordedForPeople(text.informativeText);
     box->setIcon(QMessageBox::Critical);
     box->setTextFormat(Qt::PlainText);
     box->setWindowTitle(message);

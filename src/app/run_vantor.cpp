@@ -1,6 +1,7 @@
 #include "app/run_vantor.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -23,6 +24,7 @@
 #include "app/session/session_end.h"
 #include "app/session/single_instance.h"
 #include "app/session/termination_signals.h"
+#include "app/user_language.h"
 #include "app/vantor_app.h"
 #include "app/window/window_activation.h"
 #include "platform/posix/end_watchdog.h"
@@ -88,6 +90,8 @@ int runVantor(int argc, char** argv, const std::shared_ptr<Machine>& machine,
     QApplication::setApplicationName(QStringLiteral("vantor"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     QApplication::setDesktopFileName(QString::fromLatin1(applicationIdentifier));
+    adoptNumbersOfTheUser();
+    const UserLanguage language(QLocale::system().uiLanguages());
     auto instance = std::make_unique<SingleInstance>(Activation{line.action, activationToken});
     if (instance->role() == SingleInstance::Role::second) return EXIT_SUCCESS;
     installViewAccessibility();

@@ -15,6 +15,7 @@
 #include "app/window/window_activation.h"
 #include "platform/native_machine.h"
 #include "ui/settings/settings_view.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -108,7 +109,9 @@ std::unique_ptr<DashboardWindow> VantorApp::makeDashboardWindow(const QString& i
     window->setObjectName(identifier);
     geometry_ =
         std::make_unique<WindowGeometry>(*window, identifier.toStdString(), frames_, mainLoop_);
-    window->setWindowIconText(QStringLiteral("Vantor (collecting live data)"));
+    window->setWindowIconText(
+        //: the name of the window until figures have been read
+        translate("VantorApp", "Vantor (collecting live data)"));
     return window;
 }
 
@@ -131,8 +134,9 @@ void VantorApp::openSettings(const QString& activationToken) {
             settings_, machine_, metadata_, [this] { monitor_->exportSnapshot(); },
             std::shared_ptr<Published<std::string>>(defaults_, &defaults_->notSaved()), loginItem_,
             hasTray_});
-        settingsWindow_ =
-            std::make_unique<ContentWindow>(QStringLiteral("Vantor Settings"), std::move(view));
+        settingsWindow_ = std::make_unique<ContentWindow>(
+            //: the title of a window
+            translate("VantorApp", "Vantor Settings"), std::move(view));
         commands_.addTo(settingsWindow_.get());
     }
     settingsWindow_->open(activationToken);

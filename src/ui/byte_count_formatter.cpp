@@ -1,14 +1,31 @@
 #include "ui/byte_count_formatter.h"
 
-#include <QLatin1StringView>
+#include <QCoreApplication>
 
 #include <array>
+
+#include "ui/formatters.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr std::array units{"bytes", "KB", "MB", "GB", "TB", "PB", "EB"};
+constexpr auto byteCountContext = "ByteCountFormatter";
+/// Those of 1024 and of 1000 bytes are called the same. The first one has a plural.
+constexpr std::array units{"",
+                           //: an amount of 1000 or 1024 bytes each
+                           QT_TRANSLATE_NOOP("ByteCountFormatter", "%1 KB"),
+                           //: an amount of about a million bytes each
+                           QT_TRANSLATE_NOOP("ByteCountFormatter", "%1 MB"),
+                           //: an amount of 1000 or 1024 MB each
+                           QT_TRANSLATE_NOOP("ByteCountFormatter", "%1 GB"),
+                           //: an amount of 1000 or 1024 GB each
+                           QT_TRANSLATE_NOOP("ByteCountFormatter", "%1 TB"),
+                           //: an amount of 1000 or 1024 TB each
+                           QT_TRANSLATE_NOOP("ByteCountFormatter", "%1 PB"),
+                           //: an amount of 1000 or 1024 PB each
+                           QT_TRANSLATE_NOOP("ByteCountFormatter", "%1 EB")};
 constexpr std::size_t megabytes = 2;
 
 struct Fraction {
@@ -38,9 +55,17 @@ QString fractionText(Fraction fraction) {
     return u'.' + digits.mid(1);  // the leading 1 has kept the zeros before the digits
 }
 
+QString inBytes(int count, const QLocale& locale) {
+    QString text = translate("ByteCountFormatter", "%Ln byte(s)", nullptr, count);
+    // The toolkit counts in its default locale, whatever is passed here.
+    const QLocale counted;
+    if (counted != locale) text.replace(counted.toString(count), Formatters::count(count, locale));
+    return text;
+}
+
 }  // namespace
 
-QString ByteCountFormatter::string(std::int64_t count) const {
+QString ByteCountFormatter::string(std::int64_t count, const QLocale& locale) const {
     // NOLINTBEGIN(clang-analyzer-core.DivideZero): the sixth power of 1024 still fits
     const std::uint64_t bytes = count > 0 ? static_cast<std::uint64_t>(count) : 0;
     std::size_t unit = 0;
@@ -60,8 +85,9 @@ QString ByteCountFormatter::string(std::int64_t count) const {
         whole = 1;
         ++unit;
     }
-    const char* const name = unit == 0 && whole == 1 ? "byte" : units[unit];
-    return QString::number(whole) + fractionText(fraction) + u' ' + QLatin1StringView(name);
+    if (unit == 0) return inBytes(static_cast<int>(whole), locale);
+    return translate(byteCountContext, units[unit])
+        .arg(Formatters::localised(QString::number(whole) + fractionText(fraction), locale));
 }
 
 }  // namespace vantor

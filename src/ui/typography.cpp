@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/drawing/digits.h"
+
 namespace vantor::Typography {
 
 namespace {
@@ -16,14 +18,11 @@ double systemPixelSize() {
     return QFontInfo(QApplication::font()).pixelSize();
 }
 
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
-
-double widestDigit(const QFontMetricsF& metrics) {
+double widestDigit(const QFontMetricsF& metrics, QChar zero) {
     double widest = 0;
-    for (char16_t c = u'0'; c <= u'9'; ++c) {
-        widest = std::max(widest, metrics.horizontalAdvance(QChar(c)));
+    for (char16_t value = 0; value <= 9; ++value) {
+        const QChar digit(static_cast<char16_t>(zero.unicode() + value));
+        widest = std::max(widest, metrics.horizontalAdvance(digit));
     }
     return widest;
 }
@@ -77,8 +76,8 @@ bool differInDigitsOnly(const QString& one, const QString& other) {
 
 double digitTextWidth(const QString& text, const QFontMetricsF& metrics) {
     // Measuring ten digits costs: not for the many texts that have none.
-    const bool hasDigits = std::any_of(text.begin(), text.end(), isDigit);
-    const double digitWidth = hasDigits ? widestDigit(metrics) : 0;
+    const auto first = std::find_if(text.begin(), text.end(), isDigit);
+    const double digitWidth = first != text.end() ? widestDigit(metrics, zeroOf(*first)) : 0;
     double width = 0;
     forEachRun(text, [&](const QString& run, bool digit) {
         width += digit ? digitWidth : metrics.horizontalAdvance(run);

@@ -94,13 +94,38 @@ bool AssistiveClient::act(const AccessibleElement& element, const char* action) 
     return bus_->send(call);
 }
 
-bool AssistiveClient::isShowing(const AccessibleElement& element) const {
-    constexpr unsigned showing = 25;  // of the states of the protocol
+bool AssistiveClient::hasState(const AccessibleElement& element, unsigned state) const {
     const QVariantList values =
         answer(*bus_, element.service, element.path.path(), accessible, "GetState");
     if (values.isEmpty()) return false;
     const auto states = qdbus_cast<QList<uint>>(values.first());
-    return !states.isEmpty() && ((states.first() >> showing) & 1U) != 0;
+    return !states.isEmpty() && ((states.first() >> state) & 1U) != 0;
+}
+
+bool AssistiveClient::isShowing(const AccessibleElement& element) const {
+    constexpr unsigned showing = 25;  // of the states of the protocol
+    return hasState(element, showing);
+}
+
+bool AssistiveClient::isChecked(const AccessibleElement& element) const {
+    constexpr unsigned checked = 4;
+    return hasState(element, checked);
+}
+
+std::optional<int> AssistiveClient::leftOf(const AccessibleElement& element) const {
+    constexpr uint inWindow = 1;
+    auto question = QDBusMessage::createMethodCall(element.service, element.path.path(),
+                                                   QStringLiteral("org.a11y.atspi.Component"),
+                                                   QStringLiteral("GetExtents"));
+    question << inWindow;
+    const QList<QVariant> values = bus_->call(question).arguments();
+    if (values.isEmpty() || !values.first().canConvert<QDBusArgument>()) return std::nullopt;
+    int left = 0;
+    const auto area = values.first().value<QDBusArgument>();
+    area.beginStructure();
+    area >> left;
+    area.endStructure();
+    return left;
 }
 
 void AssistiveClient::collect(const AccessibleElement& element,

@@ -39,7 +39,14 @@ class AssistiveClient {
     /// Whether it is on the screen, as far as its own program can tell.
     bool isShowing(const AccessibleElement& element) const;
 
+    /// Whether it is the one of its group that is chosen.
+    bool isChecked(const AccessibleElement& element) const;
+
+    /// Where its left edge is in its window; none where it does not say.
+    std::optional<int> leftOf(const AccessibleElement& element) const;
+
   private:
+    bool hasState(const AccessibleElement& element, unsigned state) const;
     std::vector<AccessibleElement> childrenOf(const AccessibleElement& element) const;
     QString property(const AccessibleElement& element, const char* name) const;
     void collect(const AccessibleElement& element, std::vector<AccessibleElement>& all) const;

@@ -68,6 +68,9 @@ Desktop::Desktop(QSize screen) : environment_(QProcessEnvironment::systemEnviron
     environment_.insert(QStringLiteral("XDG_RUNTIME_DIR"), home_.path());
     environment_.insert(QStringLiteral("FONTCONFIG_FILE"),
                         QStringLiteral(VANTOR_SOURCE_DIR "/scripts/virtual-display/fonts.conf"));
+    for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LC_NUMERIC", "LC_TIME", "LANGUAGE"})
+        environment_.remove(QLatin1StringView(name));
+    setLanguage(QStringLiteral("C.UTF-8"));
     environment_.remove(QStringLiteral("WAYLAND_DISPLAY"));
     environment_.remove(QStringLiteral("QT_QPA_PLATFORM"));
     QDir().mkpath(home_.filePath(QStringLiteral("config/vantor")));

@@ -26,6 +26,9 @@ class Desktop {
     bool isUp() const { return isUp_; }
     const QProcessEnvironment& environment() const { return environment_; }
 
+    /// The user's, as "de_DE.UTF-8", for programs that are started from now on.
+    void setLanguage(const QString& name) { environment_.insert(QStringLiteral("LANG"), name); }
+
     /// Gives the desktop a session bus of its own, with assistive technology switched on for every
     /// program that is started from then on; its address, empty when it did not start.
     QString startSessionBus();

@@ -20,6 +20,7 @@ $(printf "share/icons/hicolor/%s/apps/$id.png\n" {16x16,22x22,24x24,32x32,48x48,
 share/icons/hicolor/scalable/apps/$id.svg
 share/icons/hicolor/symbolic/apps/$id-symbolic.svg
 share/man/man1/vantor.1
+$(sed -n 's|^[^#].*|share/man/&/man1/vantor.1|p' "$(dirname "$0")/../../translations/complete")
 share/metainfo/$id.metainfo.xml
 share/vantor/snapshot.schema.json
 END

@@ -140,10 +140,10 @@ TEST_F(ChartViewTest, IsReadAloudWhileItIsReadByKey) {
 TEST_F(ChartViewTest, ItsHelpSaysWhatHeightAndWidthMean) {
     hover(chart, {20, 20});
     EXPECT_EQ(utf8(QToolTip::text()),
-              "The height is 0.0% to 100.0%; the width is the last 10 min 1 s.");
+              "The height is 0.0% to 100.0%. The width is the last 10 min 1 s.");
     QAccessibleInterface* const element = QAccessible::queryAccessibleInterface(&chart);
     EXPECT_EQ(utf8(element->text(QAccessible::Description)),
-              "75%, The height is 0.0% to 100.0%; the width is the last 10 min 1 s.");
+              "75%, The height is 0.0% to 100.0%. The width is the last 10 min 1 s.");
     QToolTip::hideText();
 }
 
@@ -153,7 +153,7 @@ TEST(ChartView, WithoutARangeItsHelpNamesTheSmallestAndTheLargest) {
               "The height is the smallest to the largest value shown.");
     chart.show(QStringLiteral("2 KB/s"), std::array{500.0, 2000.0}, std::array{5.0, 65.0});
     EXPECT_EQ(utf8(chart.accessibleHelp()),
-              "The height is the smallest to the largest value shown, 500 bytes/s – 2 KB/s; the "
+              "The height is the smallest to the largest value shown: 500 bytes/s – 2 KB/s. The "
               "width is the last 1 min.");
 }
 

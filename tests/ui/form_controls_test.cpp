@@ -19,7 +19,8 @@ constexpr auto minNumber = std::numeric_limits<std::int64_t>::min();
 constexpr auto greatestNumber = std::numeric_limits<std::int64_t>::max();
 
 Stepper history() {
-    return {QStringLiteral("Chart history"), QStringLiteral("samples"), 30, 300};
+    return {QStringLiteral("Chart history"),
+            [](std::int64_t value) { return QStringLiteral("%1 samples").arg(value); }, 30, 300};
 }
 
 TEST(Stepper, StepsWithinItsBounds) {

@@ -143,21 +143,51 @@ struct CommaNumbers : std::numpunct<char> {
     std::string do_grouping() const override { return "\3"; }
 };
 
-TEST(Formatters, WriteTheSameInEveryLocale) {
+TEST(Formatters, WriteTheSameInEveryLocaleOfTheLibraryForC) {
     const std::locale before = std::locale::global(
         std::locale(std::locale::classic(), std::make_unique<CommaNumbers>().release()));
     for (const char* const installed : {"de_DE.UTF-8", "fr_FR.UTF-8", "C.UTF-8"}) {
         if (std::setlocale(LC_NUMERIC, installed)) break;
     }
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(percent(0.4567, 1), "45.7%");
     EXPECT_EQ(rate(1'250'000), "1.25 MB/s");
     EXPECT_EQ(utf8(Formatters::bytes(1023)), "1023 bytes");
     EXPECT_EQ(utf8(Formatters::fixed(12345.678, 2)), "12345.68");
     EXPECT_EQ(uptime(5000 * 86'400.0), "5000d 0h 0m");
-    QLocale::setDefault(QLocale::c());
     std::setlocale(LC_NUMERIC, "C");
     std::locale::global(before);
+}
+
+TEST(Formatters, WriteTheDecimalSignOfTheLocale) {
+    const QLocale german(QLocale::German, QLocale::Germany);
+    EXPECT_EQ(utf8(Formatters::percent(0.4567, 1, german)), "45,7%");
+    EXPECT_EQ(utf8(Formatters::rate(1'250'000, german)), "1,25 MB/s");
+    EXPECT_EQ(utf8(Formatters::bytes(1'610'612'736, german)), "1,5 GB");
+    EXPECT_EQ(utf8(Formatters::bytes(1023, german)), "1023 bytes");
+    EXPECT_EQ(utf8(Formatters::fixed(12345.678, 2, german)), "12345,68");
+    EXPECT_EQ(utf8(Formatters::number(0.5, german)), "0,5");
+}
+
+TEST(Formatters, WriteTheDigitsOfTheLocale) {
+    const QLocale egyptian(QLocale::Arabic, QLocale::Egypt);
+    EXPECT_EQ(utf8(Formatters::fixed(-45.678, 1, egyptian)), "-٤٥٫٧");
+    EXPECT_EQ(utf8(Formatters::count(1234567890, egyptian)), "١٢٣٤٥٦٧٨٩٠");
+    EXPECT_EQ(utf8(Formatters::bytes(1023, egyptian)), "١٠٢٣ bytes");
+    EXPECT_EQ(utf8(Formatters::uptime(5000 * 86'400.0, egyptian)), "٥٠٠٠d ٠h ٠m");
+    const QLocale chakma(QLocale::Chakma);  // whose own are beyond the first plane
+    EXPECT_EQ(utf8(Formatters::count(1234, chakma)), "1234");
+}
+
+TEST(Formatters, WriteTheSameForEnglishAsWithoutAnyLocale) {
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    EXPECT_EQ(utf8(Formatters::fixed(12345.678, 2, english)), "12345.68");
+    EXPECT_EQ(utf8(Formatters::count(5000, english)), "5000");
+}
+
+TEST(Formatters, FollowTheUserWhereNoLocaleIsPassed) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(percent(0.4567, 1), "45,7%");
+    QLocale::setDefault(QLocale::c());
 }
 
 }  // namespace

@@ -40,6 +40,48 @@ TEST(GlyphRunCache, FiguresEndWhereItsAlignmentSays) {
     EXPECT_EQ(paintedPixels(image, QRectF(201, 0, 199, 40)), 0);
 }
 
+QImage figures(const QString& text) {
+    return drawn(text, 400, [](QPainter& painter, const QRectF& area, const QString& content) {
+        GlyphRunCache().drawFigures(painter, plain, area, Qt::AlignLeft | Qt::AlignVCenter,
+                                    content);
+    });
+}
+
+TEST(GlyphRunCache, DigitsAreEquallyWideInEveryScript) {
+    for (const char16_t zero : {u'0', u'\u0660', u'\u06F0', u'\u0966'}) {
+        GlyphRunCache shapes;
+        const double width = shapes.figuresWidth(plain, QString(3, QChar(zero)));
+        EXPECT_GT(width, 0);
+        for (char16_t value = 1; value <= 9; ++value) {
+            const QString number(3, QChar(static_cast<char16_t>(zero + value)));
+            EXPECT_DOUBLE_EQ(shapes.figuresWidth(plain, number), width) << utf8(number);
+            EXPECT_NEAR(Typography::digitTextWidth(number, QFontMetricsF(Typography::font(plain))),
+                        width, 0.5)
+                << utf8(number);
+        }
+    }
+}
+
+TEST(GlyphRunCache, ANumberAmongWordsFromTheRightIsDrawnRightOfThem) {
+    // Arabic zeros are dots: what has much ink is the letter.
+    const QString letter = QStringLiteral("\u0633");
+    const double width = GlyphRunCache().figuresWidth(plain, letter);
+    const int ink = paintedPixels(figures(letter), QRectF(0, 0, 400, 40));
+    const QImage both = figures(QStringLiteral("\u0660\u0660\u0660\u0660 ") + letter);
+    EXPECT_GE(paintedPixels(both, QRectF(0, 0, width + 1, 40)), ink * 4 / 5);
+}
+
+TEST(GlyphRunCache, ANumberReadsFromTheLeftWithItsSignAlsoInArabic) {
+    const auto width = [](const QString& text) {
+        return GlyphRunCache().figuresWidth(plain, text);
+    };
+    // One narrow digit and one wide one: at the left is the first.
+    const QImage mixed = figures(QStringLiteral("\u0661\u0668"));
+    const QImage first = figures(QStringLiteral("\u0661"));
+    const int half = static_cast<int>(width(QStringLiteral("\u0661")));
+    EXPECT_EQ(mixed.copy(0, 0, half, 40), first.copy(0, 0, half, 40));
+}
+
 TEST(GlyphRunCache, ALineThatDoesNotFitEndsInAnEllipsisWithinItsArea) {
     const QString longText(200, u'm');
     const QImage image = line(longText, 100);

@@ -51,6 +51,7 @@ TEST(Typography, AllDigitsAreAsWideAsTheWidest) {
 TEST(Typography, TextsThatDifferInDigitsOnlyAreEquallyWide) {
     EXPECT_TRUE(Typography::differInDigitsOnly(QStringLiteral("Updated 09:05:07"),
                                                QStringLiteral("Updated 23:58:41")));
+    EXPECT_TRUE(Typography::differInDigitsOnly(QStringLiteral("٩٫٥%"), QStringLiteral("١٫٧%")));
     EXPECT_FALSE(Typography::differInDigitsOnly(QStringLiteral("9.9%"), QStringLiteral("10.1%")));
     EXPECT_FALSE(Typography::differInDigitsOnly(QStringLiteral("1 AM"), QStringLiteral("1 PM")));
     EXPECT_FALSE(Typography::differInDigitsOnly(QStringLiteral("1x"), QStringLiteral("x1")));

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "ui/translate.h"
+
 namespace vantor {
 
 /// A kind of file, as dialogs call it.
@@ -15,8 +17,10 @@ struct FileKind {
 /// By its MIME type.
 inline FileKind kindOfFile(const std::string& contentType) {
     if (contentType == "application/json")
-        return {QStringLiteral("JSON document"), QStringLiteral("json")};
-    return {QStringLiteral("All files"), QString()};
+        return {//: a kind of file
+                translate("SavePanel", "JSON document"), QStringLiteral("json")};
+    return {//: a kind of file: any
+            translate("SavePanel", "All files"), QString()};
 }
 
 }  // namespace vantor

@@ -8,6 +8,7 @@
 
 #include "app/files/save_location.h"
 #include "ui/components/make_child.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -39,7 +40,10 @@ class FolderView::Model : public QAbstractListModel {
             case Qt::ToolTipRole:
                 return name;
             case Qt::AccessibleTextRole:
-                return isFile ? name : QStringLiteral("%1, folder").arg(name);
+                return isFile ? name
+                              : /*: for screen readers; %1 is the name of a folder */ translate(
+                                    "SavePanel", "%1, folder")
+                                    .arg(name);
             case Qt::DecorationRole:  // from what is known already: no file is opened for it
                 return view_->style()->standardIcon(isFile ? QStyle::SP_FileIcon
                                                            : QStyle::SP_DirIcon);
@@ -62,7 +66,9 @@ FolderView::FolderView(Actions actions, QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAccessibleName(QStringLiteral("Folders and files"));
+    setAccessibleName(
+        //: for screen readers: the contents of a folder
+        translate("SavePanel", "Folders and files"));
     connect(this, &QListView::activated, this, [this](const QModelIndex& index) {
         if (const FolderEntry* const entry = model_->at(index)) {
             const FolderEntry opened = *entry;  // opening it replaces the list

@@ -10,6 +10,7 @@
 #include "app/files/file_kind.h"
 #include "app/files/save_panel.h"
 #include "app/window/front_window.h"
+#include "ui/core_words.h"
 
 namespace vantor {
 
@@ -29,7 +30,7 @@ class LinuxSaveDialogs::Dialog : public SaveDialog {
     Dialog(Surroundings surroundings, const SaveRequest& request,
            std::shared_ptr<std::filesystem::path> lastFolder)
         : surroundings_(std::move(surroundings)),
-          title_(QString::fromStdString(request.title)),
+          title_(wordedForPeople(request.title)),
           proposedName_(QString::fromStdString(request.proposedName)),
           kind_(kindOfFile(request.contentType)),
           mayCreateFolders_(request.mayCreateFolders),

@@ -13,6 +13,7 @@
 #include "app/files/save_location.h"
 #include "app/window/front_window.h"
 #include "ui/components/make_child.h"
+#include "ui/core_words.h"
 
 namespace vantor {
 
@@ -27,7 +28,7 @@ QString folderToOpen(const QString& lastFolder) {
 QFileDialog* makeDialog(const SaveRequest& request, const QString& folder) {
     const FileKind kind = kindOfFile(request.contentType);
     auto* const dialog = makeChild<QFileDialog>(frontWindow());
-    dialog->setWindowTitle(QString::fromStdString(request.title));
+    dialog->setWindowTitle(wordedForPeople(request.title));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setSupportedSchemes({QStringLiteral("file")});

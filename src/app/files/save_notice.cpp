@@ -7,6 +7,7 @@
 
 #include "app/qt_alerts.h"
 #include "ui/components/make_child.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -27,7 +28,9 @@ SaveNotice::SaveNotice(QWidget* parent)
     layout->addWidget(symbol_, 0, Qt::AlignVCenter);
     layout->addWidget(label_, 1, Qt::AlignVCenter);
     symbol_->hide();
-    symbol_->setAccessibleName(QStringLiteral("Warning"));
+    symbol_->setAccessibleName(
+        //: for screen readers: the sign beside a warning
+        translate("SavePanel", "Warning"));
     label_->setTextFormat(Qt::PlainText);  // a file's name may look like markup
     label_->setWordWrap(true);
     setFixedHeight(fontMetrics().lineSpacing() * noticeLines);

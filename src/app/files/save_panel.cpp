@@ -12,45 +12,18 @@
 #include <utility>
 
 #include "app/files/save_location.h"
+#include "app/files/save_panel_texts.h"
 #include "platform/posix/file_error.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/core_words.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
 namespace {
 
 using SavePath = std::filesystem::path;
-
-const auto diskDoesNotAnswer =
-    QStringLiteral("The disk does not answer. Please choose another folder, or try again.");
-
-QString whyNotRead(int error) {
-    switch (error) {
-        case ENOENT:
-            return QStringLiteral("The folder does not exist.");
-        case ENOTDIR:
-            return QStringLiteral("This is not a folder.");
-        case EACCES:
-        case EPERM:
-            return QStringLiteral("You do not have the permission to look into this folder.");
-        default:
-            return QStringLiteral("The folder cannot be read.");
-    }
-}
-
-QString whyNotMade(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return QStringLiteral("You do not have the permission to make a folder here.");
-        case ENAMETOOLONG:
-            return QStringLiteral("The name is too long.");
-        default:
-            return QStringLiteral("The folder could not be made.");
-    }
-}
 
 }  // namespace
 
@@ -75,7 +48,7 @@ void SavePanel::keyPressEvent(QKeyEvent* event) {
 }
 
 void SavePanel::begin() {
-    notice_->say(QStringLiteral("Looking for your folders…"));
+    notice_->say(translate("SavePanel", "Looking for your folders…"));
     placesAsked_ = disk_->ask<std::vector<SavePlace>>(
         findSavePlaces, [this](std::optional<std::vector<SavePlace>> found) {
             // Without an answer home is as good a guess as any; it is asked about in its turn.
@@ -101,10 +74,13 @@ void SavePanel::showPlaces(const std::vector<SavePlace>& places) {
     };
     bool isLastKnown = request_.folder.empty();
     for (const SavePlace& place : places) {
-        add(QString::fromStdString(place.name), place.folder);
+        add(nameOfSavePlace(place), place.folder);
         isLastKnown = isLastKnown || place.folder == request_.folder;
     }
-    if (!isLastKnown) add(QStringLiteral("Last used"), request_.folder);
+    if (!isLastKnown)
+        add(
+            //: the folder that was saved to before
+            translate("SavePanel", "Last used"), request_.folder);
 }
 
 void SavePanel::tryNextStart() {
@@ -128,7 +104,7 @@ void SavePanel::lookInto(const SavePath& folder) {
     list_->show({});
     list_->scrollToTop();
     // A check is already under way: the user was faster than the disk.
-    if (!fileAsked_) notice_->say(QStringLiteral("Looking into the folder…"));
+    if (!fileAsked_) notice_->say(translate("SavePanel", "Looking into the folder…"));
     folderAsked_ = disk_->ask<FolderContents>(
         [folder, ending = request_.ending.toStdString()] { return readFolder(folder, ending); },
         [this, folder](const std::optional<FolderContents>& contents) {
@@ -149,13 +125,14 @@ void SavePanel::showFolder(const SavePath& folder, const std::optional<FolderCon
         follow(folder, contents->entries);
     }
     if (fileAsked_) return;
-    if (!contents) return warn(diskDoesNotAnswer);
-    if (!isThere) return warn(whyNotRead(contents->error));
+    if (!contents) return warn(diskDoesNotAnswer());
+    if (!isThere) return warn(whyFolderIsNotRead(contents->error));
     if (!contents->isWritable) {
-        warn(QStringLiteral("You do not have the permission to save in this folder."));
+        warn(translate("SavePanel", "You do not have the permission to save in this folder."));
     } else if (!contents->isWhole) {
-        notice_->say(QStringLiteral("Only the first %1 of this folder are shown.")
-                         .arg(FolderContents::maxEntries));
+        constexpr int most = FolderContents::maxEntries;
+        notice_->say(translate("SavePanel", "Only the first %Ln of this folder are shown.",
+                               "files and folders", most));
     } else {
         notice_->clear();
     }
@@ -199,9 +176,13 @@ void SavePanel::edited() {
 void SavePanel::askForNewFolder() {
     auto* const box = makeChild<QInputDialog>(static_cast<QWidget*>(this));
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(QStringLiteral("New Folder"));
-    box->setLabelText(QStringLiteral("Name of the new folder:"));
-    box->setOkButtonText(QStringLiteral("&Create"));
+    box->setWindowTitle(
+        //: the title of a box
+        translate("SavePanel", "New Folder"));
+    box->setLabelText(translate("SavePanel", "Name of the new folder:"));
+    box->setOkButtonText(
+        //: a button; the letter behind & is pressed together with Alt
+        translate("SavePanel", "&Create"));
     connect(box, &QInputDialog::textValueSelected, this,
             [this](const QString& name) { makeNewFolder(name.trimmed()); });
     box->QDialog::open();
@@ -210,12 +191,12 @@ void SavePanel::askForNewFolder() {
 void SavePanel::makeNewFolder(const QString& name) {
     if (name.isEmpty()) return;
     const SavePath folder = folderOf(name, currentFolder());
-    notice_->say(QStringLiteral("Making the folder…"));
+    notice_->say(translate("SavePanel", "Making the folder…"));
     folderAsked_ = disk_->ask<int>([folder] { return makeFolder(folder); },
                                    [this, folder](std::optional<int> error) {
-                                       if (!error) return warn(diskDoesNotAnswer);
+                                       if (!error) return warn(diskDoesNotAnswer());
                                        if (*error == 0 || *error == EEXIST) return goTo(folder);
-                                       warn(whyNotMade(*error));
+                                       warn(whyFolderIsNotMade(*error));
                                    });
 }
 
@@ -232,10 +213,12 @@ SavePath SavePanel::typedFile() const {
 
 void SavePanel::save() {
     const SavePath file = typedFile();
-    if (file.empty()) return warn(QStringLiteral("Please type a name for the file."));
-    if (file.is_relative()) return warn(QStringLiteral("Please choose a folder first."));
+    if (file.empty()) return warn(translate("SavePanel", "Please type a name for the file."));
+    if (file.is_relative()) return warn(translate("SavePanel", "Please choose a folder first."));
     setChecking(true);
-    notice_->say(QStringLiteral("Checking…"));
+    notice_->say(
+        //: whether a file can be saved there
+        translate("SavePanel", "Checking…"));
     fileAsked_ = disk_->ask<DestinationLook>(
         [file] { return lookAtDestination(file); },
         [this, file](const std::optional<DestinationLook>& look) { judge(file, look); });
@@ -248,9 +231,9 @@ void SavePanel::setChecking(bool isChecking) {
 void SavePanel::judge(const SavePath& file, const std::optional<DestinationLook>& look) {
     fileAsked_.reset();
     setChecking(false);
-    if (!look) return warn(diskDoesNotAnswer);
+    if (!look) return warn(diskDoesNotAnswer());
     const auto refuse = [&](int error) {
-        warn(QString::fromStdString(describeFileError(error, file).description));
+        warn(wordedForPeople(describeFileError(error, file).description));
     };
     switch (look->found) {
         case Destination::free:

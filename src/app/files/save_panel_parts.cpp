@@ -17,6 +17,7 @@
 #include "app/files/save_panel.h"
 #include "app/qt_alerts.h"
 #include "ui/components/make_child.h"
+#include "ui/translate.h"
 
 /// The panel's widgets.
 namespace vantor {
@@ -52,14 +53,18 @@ void SavePanel::build() {
     name_->setObjectName(QStringLiteral("name"));
     name_->selectAll();
     places_ = makeChild<QListWidget>(self);
-    places_->setAccessibleName(QStringLiteral("Places"));
+    places_->setAccessibleName(
+        //: for screen readers: the list of well-known folders
+        translate("SavePanel", "Places"));
     places_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_ = makeChild<FolderView>(
         self, FolderView::Actions{[this](const FolderEntry& entry) { choose(entry); },
                                   [this](const FolderEntry& entry) { enter(entry); }});
     notice_ = makeChild<SaveNotice>(self);
     auto* const buttons = makeChild<QDialogButtonBox>(self);
-    save_ = buttons->addButton(QStringLiteral("&Save"), QDialogButtonBox::AcceptRole);
+    save_ = buttons->addButton(
+        //: a button; the letter behind & is pressed together with Alt
+        translate("SavePanel", "&Save"), QDialogButtonBox::AcceptRole);
     save_->setDefault(true);
     QPushButton* const cancel = buttons->addButton(QDialogButtonBox::Cancel);
     cancel->setAutoDefault(false);
@@ -68,9 +73,15 @@ void SavePanel::build() {
     grid->setContentsMargins(savePanelMargin, savePanelMargin, savePanelMargin, savePanelMargin);
     grid->setSpacing(savePanelGap);
     QWidget* const folderLine = makeFolderLine();
-    grid->addWidget(makeLabel(QStringLiteral("&Name:"), name_, this), 0, 0);
+    grid->addWidget(makeLabel(
+                        //: of the file; the letter behind & is pressed together with Alt
+                        translate("SavePanel", "&Name:"), name_, this),
+                    0, 0);
     grid->addWidget(name_, 0, 1);
-    grid->addWidget(makeLabel(QStringLiteral("&Folder:"), folder_, this), 1, 0);
+    grid->addWidget(makeLabel(
+                        //: the letter behind & is pressed together with Alt
+                        translate("SavePanel", "&Folder:"), folder_, this),
+                    1, 0);
     grid->addWidget(folderLine, 1, 1);
     grid->addWidget(places_, 2, 0);
     grid->addWidget(list_, 2, 1);
@@ -102,8 +113,12 @@ QWidget* SavePanel::makeFolderLine() {
     auto* const line = makeChild<QWidget>(static_cast<QWidget*>(this));
     folder_ = makeChild<QLineEdit>(line);
     folder_->setObjectName(QStringLiteral("folder"));
-    up_ = makeTool(QStyle::SP_FileDialogToParent, QStringLiteral("Parent folder (Alt+Up)"), line);
-    newFolder_ = makeTool(QStyle::SP_FileDialogNewFolder, QStringLiteral("New folder"), line);
+    up_ = makeTool(QStyle::SP_FileDialogToParent,
+                   //: a button; Alt+Up is what can be pressed instead
+                   translate("SavePanel", "Parent folder (Alt+Up)"), line);
+    newFolder_ = makeTool(QStyle::SP_FileDialogNewFolder,
+                          //: a button
+                          translate("SavePanel", "New folder"), line);
     newFolder_->setVisible(request_.mayCreateFolders);
     auto* const layout = makeLayout<QHBoxLayout>(line);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -150,12 +165,16 @@ void SavePanel::askToReplace(const std::filesystem::path& file) {
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(QMessageBox::Warning);
     box->setTextFormat(Qt::PlainText);
-    box->setWindowTitle(QStringLiteral("Replace File"));
-    box->setText(
-        QtAlerts::breakable(QStringLiteral("\"%1\" already exists. Do you want to replace it?")
-                                .arg(shownPath(file.filename()))));
-    QPushButton* const replace =
-        box->addButton(QStringLiteral("&Replace"), QMessageBox::AcceptRole);
+    box->setWindowTitle(
+        //: the title of a box
+        translate("SavePanel", "Replace File"));
+    box->setText(QtAlerts::breakable(
+        //: %1 is the name of a file
+        translate("SavePanel", "\"%1\" already exists. Do you want to replace it?")
+            .arg(shownPath(file.filename()))));
+    QPushButton* const replace = box->addButton(
+        //: a button; the letter behind & is pressed together with Alt
+        translate("SavePanel", "&Replace"), QMessageBox::AcceptRole);
     QPushButton* const keep = box->addButton(QMessageBox::Cancel);
     box->setDefaultButton(keep);
     box->setEscapeButton(keep);

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "ui/menu_bar/menu_bar_dashboard.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -55,10 +56,9 @@ QString MenuBarController::toolTip() const {
     const auto figure = [](const QString& title, const QString& value) {
         return title + u' ' + value;
     };
-    return QStringList{
-        figure(now.cpu.title, now.cpu.value), figure(now.memory.title, now.memory.value),
-        figure(now.download.title, now.download.value), figure(now.upload.title, now.upload.value)}
-        .join(QStringLiteral(", "));
+    return listed({figure(now.cpu.title, now.cpu.value), figure(now.memory.title, now.memory.value),
+                   figure(now.download.title, now.download.value),
+                   figure(now.upload.title, now.upload.value)});
 }
 
 void MenuBarController::removeStatusItem() {
@@ -91,12 +91,17 @@ std::vector<StatusMenuEntry> MenuBarController::menu() const {
             figure(now.download.title, now.download.value),
             figure(now.upload.title, now.upload.value),
             {},
-            {QStringLiteral("Open Dashboard"), actions_.openDashboard},
+            {//: a button
+             translate("MenuBarDashboard", "Open Dashboard"), actions_.openDashboard},
             {now.pauseTitle(), [monitor = monitor_] { monitor->togglePause(); }},
-            {QStringLiteral("Refresh"), [monitor = monitor_] { monitor->forceRefresh(); }},
-            {QStringLiteral("Settings…"), actions_.openSettings},
+            {//: a button: read everything now
+             translate("MenuBarDashboard", "Refresh"),
+             [monitor = monitor_] { monitor->forceRefresh(); }},
+            {//: opens the settings
+             translate("MenuBarDashboard", "Settings…"), actions_.openSettings},
             {},
-            {QStringLiteral("Quit"), actions_.quit}};
+            {//: a button: end the program
+             translate("MenuBarDashboard", "Quit"), actions_.quit}};
 }
 
 }  // namespace vantor

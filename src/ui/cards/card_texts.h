@@ -10,6 +10,7 @@
 #include "ui/components/metric_row.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
+#include "ui/translate.h"
 
 /// What cards show for missing figures.
 namespace vantor::CardTexts {
@@ -21,12 +22,16 @@ inline QString unknownYet() {
 
 /// A figure that was read and is not available.
 inline QString notPublished() {
-    return QStringLiteral("Not published");
+    return
+        //: a figure that the machine does not tell
+        translate("CardTexts", "Not published");
 }
 
 inline std::optional<QString> temperature(std::optional<double> celsius) {
     if (!celsius) return std::nullopt;
-    return Formatters::fixed(*celsius, 0) + QStringLiteral(" °C");
+    return
+        //: a temperature
+        translate("CardTexts", "%1 °C").arg(Formatters::fixed(*celsius, 0));
 }
 
 inline std::optional<QString> bytes(std::optional<std::uint64_t> count) {
@@ -38,11 +43,6 @@ inline std::optional<QString> bytes(std::optional<std::uint64_t> count) {
 inline std::optional<QString> known(const std::string& text) {
     if (text.empty()) return std::nullopt;
     return shownText(text);
-}
-
-/// A text of the platform's.
-inline QString text(std::string_view words) {
-    return QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
 }
 
 /// A row with a figure, or with the words for its absence.

@@ -11,6 +11,7 @@
 #include "ui/formatters.h"
 #include "ui/pixels.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -33,12 +34,18 @@ QColor CoreActivity::fill(double usage) {
     return VantorTheme::faded(VantorTheme::green(), 0.55 + 0.45 * std::min(usage, 1.0));
 }
 
+QString CoreActivity::number(std::size_t index) {
+    return Formatters::count(static_cast<std::int64_t>(index) + 1);
+}
+
 QString CoreActivity::help(std::size_t index, double usage) {
-    return QStringLiteral("Core %1: ").arg(index + 1) + Formatters::percent(usage, 1);
+    return
+        //: %1 is the number of a logical processor, %2 how busy it is
+        translate("CoreActivity", "Core %1: %2").arg(number(index), Formatters::percent(usage, 1));
 }
 
 QString CoreActivity::text(std::size_t index, double usage) {
-    return QString::number(index + 1) + QStringLiteral("  ") + Formatters::percent(usage, 0);
+    return number(index) + QStringLiteral("  ") + Formatters::percent(usage, 0);
 }
 
 CoreGridGeometry CoreGridGeometry::make(std::size_t count, double width, double scale) {
@@ -141,7 +148,7 @@ QString CoreActivityView::accessibleValueText() const {
     for (std::size_t i = 0; i < usage_.size(); ++i) {
         texts << CoreActivity::help(i, usage_[i]);
     }
-    return texts.join(QStringLiteral(", "));
+    return listed(texts);
 }
 
 int CoreActivityView::heightForWidth(int width) const {
@@ -195,7 +202,7 @@ void CoreActivityView::paintCell(ViewPainter& painter, const QRectF& cell, std::
     vantorForeground(painter, VantorTheme::labelOn(fill, painter.scheme()));
     painter.figures(
         numberStyle, Pixels::snapped(painter, cell), Qt::AlignHCenter | Qt::AlignVCenter,
-        hasShare ? CoreActivity::text(index, usage_[index]) : QString::number(index + 1));
+        hasShare ? CoreActivity::text(index, usage_[index]) : CoreActivity::number(index));
 }
 
 }  // namespace vantor

@@ -12,6 +12,7 @@
 
 #include "ui/components/painted_view.h"
 #include "ui/drawing/view_painter.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -20,7 +21,8 @@ namespace vantor {
 /// Cells are numbered from 1 in the kernel's order, as people count: the readings carry no numbers
 /// of their own, and offline processors have no cell.
 struct CoreActivity {
-    static QColor fill(double usage);  ///< a processor below 1 % counts as idle
+    static QColor fill(double usage);          ///< a processor below 1 % counts as idle
+    static QString number(std::size_t index);  ///< as people count: the first one is 1
     static QString help(std::size_t index, double usage);
 
     /// What a cell says where it is wide enough: "3  42%".
@@ -57,7 +59,11 @@ class CoreActivityView : public PaintedView {
     std::size_t count() const { return usage_.size(); }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
-    QString accessibleLabel() const override { return QStringLiteral("Core Activity"); }
+    QString accessibleLabel() const override {
+        return
+            //: how busy each logical processor is
+            translate("CoreActivity", "Core Activity");
+    }
     QString accessibleValueText() const override;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;

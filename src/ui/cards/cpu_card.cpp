@@ -8,9 +8,11 @@
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/core_words.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -30,18 +32,24 @@ CPUCard CPUCard::of(const DashboardState& state) {
 }
 
 DashboardCard CPUCard::frame() const {
-    const QString subtitle = isWaiting() ? shownText(stats.model)
-                                         : QStringLiteral("%1 physical • %2 logical cores")
-                                               .arg(stats.physicalCoreCount)
-                                               .arg(stats.logicalCoreCount);
-    return {QStringLiteral("CPU"), subtitle, QStringLiteral("cpu"), VantorTheme::cyan()};
+    const QString subtitle =
+        isWaiting()
+            ? wordedForPeople(stats.model)
+            : /*: the numbers of cores; %1 stays in front where both are read as one phrase */
+            translate("CPUCard", "%1 physical • %2 logical cores")
+                .arg(Formatters::count(stats.physicalCoreCount),
+                     Formatters::count(stats.logicalCoreCount));
+    return {//: the title of the card
+            translate("CPUCard", "CPU"), subtitle, QStringLiteral("cpu"), VantorTheme::cyan()};
 }
 
 RingGauge CPUCard::gauge() const {
     const QString title =
         isWaiting() ? CardTexts::unknownYet() : Formatters::percent(stats.totalUsage, 0);
-    return {isWaiting() ? RingGauge::noValue : stats.totalUsage, title, QStringLiteral("CPU Load"),
-            VantorTheme::cyan(), GaugeAndRowsView::gaugeLineWidth};
+    return {isWaiting() ? RingGauge::noValue : stats.totalUsage, title,
+            //: under the share of the processor that is busy
+            translate("CPUCard", "CPU Load"), VantorTheme::cyan(),
+            GaugeAndRowsView::gaugeLineWidth};
 }
 
 std::array<MetricRow, 4> CPUCard::rows() const {
@@ -51,15 +59,20 @@ std::array<MetricRow, 4> CPUCard::rows() const {
     };
     std::optional<QString> nominal;
     if (stats.nominalFrequencyHz) {
-        nominal = Formatters::fixed(static_cast<double>(*stats.nominalFrequencyHz) / 1e9, 2) +
-                  QStringLiteral(" GHz");
+        const double gigahertz = static_cast<double>(*stats.nominalFrequencyHz) / 1e9;
+        //: a frequency
+        nominal = translate("CPUCard", "%1 GHz").arg(Formatters::fixed(gigahertz, 2));
     }
     using CardTexts::row;
-    return {row(QStringLiteral("User"), share(stats.userUsage), absent, VantorTheme::orange()),
-            row(QStringLiteral("System"), share(stats.systemUsage), absent, VantorTheme::blue()),
-            row(QStringLiteral("Nominal"), nominal, absent, VantorTheme::pink()),
-            row(QStringLiteral("Temperature"), CardTexts::temperature(stats.temperatureCelsius),
-                absent, VantorTheme::purple())};
+    return {
+        row(  //: the share of time spent in programs
+            translate("CPUCard", "User"), share(stats.userUsage), absent, VantorTheme::orange()),
+        row(  //: the share of time spent in the operating system
+            translate("CPUCard", "System"), share(stats.systemUsage), absent, VantorTheme::blue()),
+        row(  //: the frequency that the processor is sold with
+            translate("CPUCard", "Nominal"), nominal, absent, VantorTheme::pink()),
+        row(translate("CPUCard", "Temperature"), CardTexts::temperature(stats.temperatureCelsius),
+            absent, VantorTheme::purple())};
 }
 
 QString CPUCard::loadAverageText() const {
@@ -67,7 +80,9 @@ QString CPUCard::loadAverageText() const {
     for (const double average : stats.loadAverage)
         averages << Formatters::fixed(average, 2);
     if (averages.isEmpty()) averages << CardTexts::unknownYet();
-    return QStringLiteral("Load avg ") + averages.join(QStringLiteral("  "));
+    return
+        //: %1 are the averages of the last minutes, such as 0.52  0.58  0.59
+        translate("CPUCard", "Load avg %1").arg(averages.join(QStringLiteral("  ")));
 }
 
 CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
@@ -81,13 +96,17 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     // Beside the ring, so that the chart begins where the neighbour's does.
     figures_->addLine(loadAverage_);
     // The whole range, not the values' own: an idle machine must look idle.
-    history_ = makeChild<SparklineView>(this, QStringLiteral("CPU history"),
+    history_ = makeChild<SparklineView>(this,
+                                        //: of the chart, for screen readers
+                                        translate("CPUCard", "CPU history"),
                                         Sparkline{{}, VantorTheme::cyan(), std::pair{0.0, 1.0}},
                                         cpuCardChartHeight);
     body().addWidget(history_);
     auto* activity = makeInnerLayout<QVBoxLayout>();
     activity->setSpacing(sectionSpacing);
-    activity->addWidget(makeChild<TextLineView>(this, QStringLiteral("Core Activity"),
+    activity->addWidget(makeChild<TextLineView>(this,
+                                                //: how busy each logical processor is
+                                                translate("CPUCard", "Core Activity"),
                                                 Typography::caption, QFont::Normal,
                                                 TextLineView::Tone::secondary));
     cores_ = makeChild<CoreActivityView>(this);
@@ -95,7 +114,10 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
     body().addLayout(activity);
     processes_ = makeChild<ProcessMiniListView>(
         this,
-        ProcessMiniList{QStringLiteral("Top CPU Processes"), {}, ProcessMiniList::Metric::cpu},
+        ProcessMiniList{//: the processes that keep the processor busiest
+                        translate("CPUCard", "Top CPU Processes"),
+                        {},
+                        ProcessMiniList::Metric::cpu},
         cpuCardProcessRows, processSymbol(versions));
     processes_->fillHeight();
     body().addWidget(processes_, 1);
@@ -110,7 +132,7 @@ CPUCardView::CPUCardView(const ProcessInfo& versions, QWidget* parent)
 
 void CPUCardView::explain(const FigureMeanings& meanings) {
     constexpr std::size_t nominalRow = 2;
-    row(nominalRow).explain(CardTexts::text(meanings.nominal));
+    row(nominalRow).explain(wordedForPeople(meanings.nominal));
 }
 
 void CPUCardView::show(const CPUCard& card) {

@@ -5,9 +5,11 @@
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/core_words.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -17,10 +19,6 @@ namespace {
 constexpr int gpuCardChartHeight = 62;
 constexpr int gpuCardCardSpacing = 16;
 constexpr int deviceSpacing = 10;
-
-QString words(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 
@@ -32,18 +30,22 @@ GPUCard GPUCard::of(const DashboardState& state) {
 DashboardCard GPUCard::frame() const {
     std::optional<QString> subtitle;
     if (isWaiting) {
-        subtitle = QStringLiteral("Waiting for graphics data");
+        subtitle = translate("GPUCard", "Waiting for graphics data");
     } else if (!gpus.empty()) {
         subtitle = shownText(gpus.front().name);
     }
-    return {QStringLiteral("Graphics"), subtitle, QStringLiteral("display"), VantorTheme::purple()};
+    return {//: the title of the card
+            translate("GPUCard", "Graphics"), subtitle, QStringLiteral("display"),
+            VantorTheme::purple()};
 }
 
 RingGauge GPUCard::gauge() const {
     const double load =
         gpus.empty() ? std::numeric_limits<double>::quiet_NaN()
                      : gpus.front().utilization.value_or(std::numeric_limits<double>::quiet_NaN());
-    return {load, Formatters::percent(load, 0), QStringLiteral("GPU Load"), VantorTheme::purple(),
+    return {load, Formatters::percent(load, 0),
+            //: under the share of the graphics device that is busy
+            translate("GPUCard", "GPU Load"), VantorTheme::purple(),
             GaugeAndRowsView::gaugeLineWidth};
 }
 
@@ -53,19 +55,21 @@ std::array<MetricRow, 3> GPUCard::rows() const {
     const GPUStats none;
     const GPUStats& gpu = isKnown ? gpus.front() : none;
     using CardTexts::row;
-    return {row(QStringLiteral("Temperature"), CardTexts::temperature(gpu.temperatureCelsius),
+    return {row(translate("GPUCard", "Temperature"), CardTexts::temperature(gpu.temperatureCelsius),
                 absent, VantorTheme::orange()),
             // Without a dot its label would not be aligned with the other two.
-            row(QStringLiteral("VRAM Used"), CardTexts::bytes(gpu.vramUsedBytes), absent,
+            row(  //: memory of the graphics device
+                translate("GPUCard", "VRAM Used"), CardTexts::bytes(gpu.vramUsedBytes), absent,
                 VantorTheme::purple()),
-            row(QStringLiteral("VRAM Total"), CardTexts::bytes(gpu.vramTotalBytes), absent,
+            row(  //: memory of the graphics device
+                translate("GPUCard", "VRAM Total"), CardTexts::bytes(gpu.vramTotalBytes), absent,
                 VantorTheme::blue())};
 }
 
 EmptyState GPUCard::emptyState(const PlatformWords& platform) {
-    return {words(platform.noGraphicsTitle),
+    return {wordedForPeople(platform.noGraphicsTitle),
             QStringLiteral("display.trianglebadge.exclamationmark"),
-            words(platform.noGraphicsMessage)};
+            wordedForPeople(platform.noGraphicsMessage)};
 }
 
 GPUCardView::GPUCardView(const PlatformWords& platform, QWidget* parent)
@@ -82,14 +86,18 @@ GPUCardView::GPUCardView(const PlatformWords& platform, QWidget* parent)
     column->setSpacing(gpuCardCardSpacing);
     figures_ = makeChild<GaugeAndRowsView>(filled_, card.gauge(), card.rows());
     column->addWidget(figures_);
-    history_ = makeChild<SparklineView>(filled_, QStringLiteral("GPU history"),
+    history_ = makeChild<SparklineView>(filled_,
+                                        //: of the chart, for screen readers
+                                        translate("GPUCard", "GPU history"),
                                         Sparkline{{}, VantorTheme::purple(), std::pair{0.0, 1.0}},
                                         gpuCardChartHeight);
     column->addWidget(history_);
     list_ = makeInnerLayout<QVBoxLayout>();
     list_->setSpacing(deviceSpacing);
     devicesTitle_ =
-        makeChild<TextLineView>(filled_, QStringLiteral("Graphics Devices"), Typography::caption,
+        makeChild<TextLineView>(filled_,
+                                //: the heading of a list
+                                translate("GPUCard", "Graphics Devices"), Typography::caption,
                                 QFont::Normal, TextLineView::Tone::secondary);
     list_->addWidget(devicesTitle_);
     column->addLayout(list_);

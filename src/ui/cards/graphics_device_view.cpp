@@ -6,10 +6,12 @@
 
 #include "ui/cards/card_texts.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/core_words.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -27,7 +29,9 @@ double lineHeight(const QWidget* widget) {
                  QFontMetricsF(Typography::font(graphicsDeviceDetailStyle), widget).height()));
 }
 QString workingSetLabel() {
-    return QStringLiteral("Recommended Working Set");
+    return
+        //: how much graphics memory the driver recommends to use
+        translate("GraphicsDeviceView", "Recommended Working Set");
 }
 
 }  // namespace
@@ -35,8 +39,11 @@ QString workingSetLabel() {
 GraphicsDeviceBlock GraphicsDeviceBlock::of(const GPUStats& gpu, const PlatformWords& words) {
     GraphicsDeviceBlock block;
     block.name = shownText(gpu.name);
-    block.kind = gpu.isUnifiedMemory ? QStringLiteral("Unified memory architecture")
-                                     : QStringLiteral("Discrete graphics");
+    block.kind = gpu.isUnifiedMemory
+                     ? /*: graphics that share the memory of the processor */ translate(
+                           "GraphicsDeviceView", "Unified memory architecture")
+                     : /*: a graphics device with memory of its own */ translate(
+                           "GraphicsDeviceView", "Discrete graphics");
     block.utilization =
         gpu.utilization ? Formatters::percent(*gpu.utilization, 1) : CardTexts::notPublished();
     block.isLoadKnown = gpu.utilization.has_value();
@@ -46,8 +53,7 @@ GraphicsDeviceBlock GraphicsDeviceBlock::of(const GPUStats& gpu, const PlatformW
     const bool isMarked = !words.graphicsLoadNoteMark.empty() &&
                           gpu.name.find(words.graphicsLoadNoteMark) != std::string::npos;
     if (isMarked && gpu.utilization) {
-        block.note = QString::fromUtf8(words.graphicsLoadNote.data(),
-                                       static_cast<qsizetype>(words.graphicsLoadNote.size()));
+        block.note = wordedForPeople(words.graphicsLoadNote);
     }
     return block;
 }
@@ -71,7 +77,7 @@ QString GraphicsDeviceView::accessibleValueText() const {
     QStringList texts{block_.kind, block_.utilization};
     if (!block_.note.isEmpty()) texts << block_.note;
     if (block_.workingSet) texts << workingSetLabel() + u' ' + *block_.workingSet;
-    return texts.join(QStringLiteral(", "));
+    return listed(texts);
 }
 
 QSize GraphicsDeviceView::sizeHint() const {

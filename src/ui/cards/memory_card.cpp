@@ -2,8 +2,10 @@
 
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
+#include "ui/core_words.h"
 #include "ui/formatters.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -28,16 +30,22 @@ MemoryCard MemoryCard::of(const DashboardState& state) {
 
 DashboardCard MemoryCard::frame() const {
     const QString subtitle =
-        isWaiting() ? QStringLiteral("Waiting for memory data")
-                    : Formatters::bytes(stats.totalBytes) + QStringLiteral(" installed");
-    return {QStringLiteral("Memory"), subtitle, QStringLiteral("memorychip"), VantorTheme::pink()};
+        isWaiting() ? translate("MemoryCard", "Waiting for memory data")
+                    : /*: %1 is an amount of memory */ translate("MemoryCard", "%1 installed")
+                          .arg(Formatters::bytes(stats.totalBytes));
+    return {//: the title of the card
+            translate("MemoryCard", "Memory"), subtitle, QStringLiteral("memorychip"),
+            VantorTheme::pink()};
 }
 
 RingGauge MemoryCard::gauge() const {
     const double used = usedFraction(stats);
     return {isWaiting() ? RingGauge::noValue : used,
             isWaiting() ? CardTexts::unknownYet() : Formatters::percent(used, 0),
-            QStringLiteral("In Use"), VantorTheme::pink(), GaugeAndRowsView::gaugeLineWidth};
+
+            //: under the share of memory that is used
+            translate("MemoryCard", "In Use"), VantorTheme::pink(),
+            GaugeAndRowsView::gaugeLineWidth};
 }
 
 std::array<MetricRow, 4> MemoryCard::rows() const {
@@ -47,10 +55,15 @@ std::array<MetricRow, 4> MemoryCard::rows() const {
     const auto row = [&](const QString& label, std::uint64_t count, const QColor& color) {
         return CardTexts::row(label, size(count), CardTexts::unknownYet(), color);
     };
-    return {row(QStringLiteral("Active"), stats.activeBytes, VantorTheme::blue()),
-            row(QStringLiteral("Wired"), stats.wiredBytes, VantorTheme::pink()),
-            row(QStringLiteral("Compressed"), stats.compressedBytes, VantorTheme::orange()),
-            row(QStringLiteral("Available"), stats.availableBytes, VantorTheme::green())};
+    return {
+        row(  //: memory used lately; the short label of a figure
+            translate("MemoryCard", "Active"), stats.activeBytes, VantorTheme::blue()),
+        row(  //: memory that the system keeps and cannot swap out; the short label of a figure
+            translate("MemoryCard", "Wired"), stats.wiredBytes, VantorTheme::pink()),
+        row(  //: memory that is kept compressed; the short label of a figure
+            translate("MemoryCard", "Compressed"), stats.compressedBytes, VantorTheme::orange()),
+        row(  //: memory that programs can have; the short label of a figure
+            translate("MemoryCard", "Available"), stats.availableBytes, VantorTheme::green())};
 }
 
 MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
@@ -59,14 +72,18 @@ MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
     const MemoryCard card = MemoryCard::of(none);
     figures_ = makeChild<GaugeAndRowsView>(this, card.gauge(), card.rows());
     body().addWidget(figures_);
-    history_ = makeChild<SparklineView>(this, QStringLiteral("Memory history"),
+    history_ = makeChild<SparklineView>(this,
+                                        //: of the chart, for screen readers
+                                        translate("MemoryCard", "Memory history"),
                                         Sparkline{{}, VantorTheme::pink(), std::pair{0.0, 1.0}},
                                         memoryCardChartHeight);
     body().addWidget(history_);
     processes_ = makeChild<ProcessMiniListView>(
         this,
-        ProcessMiniList{
-            QStringLiteral("Top Memory Processes"), {}, ProcessMiniList::Metric::memory},
+        ProcessMiniList{//: the processes that use most memory
+                        translate("MemoryCard", "Top Memory Processes"),
+                        {},
+                        ProcessMiniList::Metric::memory},
         memoryCardProcessRows, processSymbol(versions));
     processes_->fillHeight();
     body().addWidget(processes_, 1);
@@ -75,8 +92,8 @@ MemoryCardView::MemoryCardView(const ProcessInfo& versions, QWidget* parent)
 void MemoryCardView::explain(const FigureMeanings& meanings) {
     constexpr std::size_t wiredRow = 1;
     constexpr std::size_t compressedRow = 2;
-    figures_->row(wiredRow).explain(CardTexts::text(meanings.wired));
-    figures_->row(compressedRow).explain(CardTexts::text(meanings.compressed));
+    figures_->row(wiredRow).explain(wordedForPeople(meanings.wired));
+    figures_->row(compressedRow).explain(wordedForPeople(meanings.compressed));
 }
 
 void MemoryCardView::show(const MemoryCard& card) {

@@ -10,6 +10,7 @@
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -33,13 +34,17 @@ NetworkCard NetworkCard::of(const DashboardState& state) {
 }
 
 DashboardCard NetworkCard::frame() const {
-    QString subtitle = QStringLiteral("Waiting for network data");
+    QString subtitle = translate("NetworkCard", "Waiting for network data");
     if (!isWaiting()) {
-        subtitle = stats.primaryInterfaceName ? QStringLiteral("Active interface: ") +
-                                                    shownText(*stats.primaryInterfaceName)
-                                              : QStringLiteral("No active interface");
+        subtitle = stats.primaryInterfaceName
+                       ? /*: %1 is the name of a network interface */ translate(
+                             "NetworkCard", "Active interface: %1")
+                             .arg(isolatedText(shownText(*stats.primaryInterfaceName)))
+                       : translate("NetworkCard", "No active interface");
     }
-    return {QStringLiteral("Network"), subtitle, QStringLiteral("network"), VantorTheme::green()};
+    return {//: the title of the card
+            translate("NetworkCard", "Network"), subtitle, QStringLiteral("network"),
+            VantorTheme::green()};
 }
 
 QString NetworkCard::downloadText() const {
@@ -51,12 +56,14 @@ QString NetworkCard::uploadText() const {
 }
 
 SpeedTile NetworkCard::downloadTile() const {
-    return {QStringLiteral("Download"), downloadText(), QStringLiteral("arrow.down"),
+    return {//: the speed at which data comes in
+            translate("NetworkCard", "Download"), downloadText(), QStringLiteral("arrow.down"),
             VantorTheme::green(), isWaiting()};
 }
 
 SpeedTile NetworkCard::uploadTile() const {
-    return {QStringLiteral("Upload"), uploadText(), QStringLiteral("arrow.up"),
+    return {//: the speed at which data goes out
+            translate("NetworkCard", "Upload"), uploadText(), QStringLiteral("arrow.up"),
             VantorTheme::orange(), isWaiting()};
 }
 
@@ -65,12 +72,20 @@ std::array<MetricRow, 4> NetworkCard::rows() const {
         return CardTexts::row(label, isWaiting() ? std::nullopt : CardTexts::known(text),
                               isWaiting() ? CardTexts::unknownYet() : absence, std::nullopt);
     };
-    const QString unassigned = QStringLiteral("Not assigned");
-    return {
-        row(QStringLiteral("Hostname"), stats.hostname, QStringLiteral("Unknown")),
-        row(QStringLiteral("IPv4"), stats.primaryIPv4Address.value_or(std::string{}), unassigned),
-        row(QStringLiteral("IPv6"), stats.primaryIPv6Address.value_or(std::string{}), unassigned),
-        row(QStringLiteral("Interfaces"), std::to_string(stats.interfaces.size()), {})};
+    const QString unassigned =
+        //: no address
+        translate("NetworkCard", "Not assigned");
+    return {row(translate("NetworkCard", "Hostname"), stats.hostname,
+                //: a host without a name
+                translate("NetworkCard", "Unknown")),
+            row(translate("NetworkCard", "IPv4"), stats.primaryIPv4Address.value_or(std::string{}),
+                unassigned),
+            row(translate("NetworkCard", "IPv6"), stats.primaryIPv6Address.value_or(std::string{}),
+                unassigned),
+            row(  //: the number of network interfaces; the short label of a figure
+                translate("NetworkCard", "Interfaces"),
+                Formatters::count(static_cast<std::int64_t>(stats.interfaces.size())).toStdString(),
+                {})};
 }
 
 QString NetworkCard::interfacesHelp() const {
@@ -101,9 +116,13 @@ NetworkCardView::NetworkCardView(QWidget* parent)
     tiles->addWidget(uploadTile_, 1);
     body().addLayout(tiles);
     downloadHistory_ = makeChild<LabeledSparklineView>(
-        this, sparkline(QStringLiteral("Download"), VantorTheme::green()));
+        this, sparkline(
+                  //: the speed at which data comes in
+                  translate("NetworkCard", "Download"), VantorTheme::green()));
     uploadHistory_ = makeChild<LabeledSparklineView>(
-        this, sparkline(QStringLiteral("Upload"), VantorTheme::orange()));
+        this, sparkline(
+                  //: the speed at which data goes out
+                  translate("NetworkCard", "Upload"), VantorTheme::orange()));
     body().addWidget(downloadHistory_);
     body().addWidget(uploadHistory_);
     auto* column = makeInnerLayout<QVBoxLayout>();

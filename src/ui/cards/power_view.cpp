@@ -7,11 +7,13 @@
 
 #include "ui/components/card_chrome.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/core_words.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -52,18 +54,23 @@ QColor PowerBlock::chargeColor(const std::optional<PowerStats>& power) {
 PowerBlock PowerBlock::of(const PowerStats& power, const ProcessInfo& versions) {
     PowerBlock block;
     block.symbol = batterySymbol(power.isConnectedToAC, versions);
-    block.text =
-        power.isConnectedToAC ? QStringLiteral("AC connected") : QStringLiteral("On battery");
+    block.text = power.isConnectedToAC
+                     ? /*: the computer is plugged in */ translate("PowerView", "AC connected")
+                     : translate("PowerView", "On battery");
     const double charge = std::clamp(power.chargeFraction, 0.0, 1.0);
-    block.charge = QString::number(std::llround(charge * 100)) + u'%';
+    block.charge = Formatters::percentOf(Formatters::count(std::llround(charge * 100)));
     block.color = chargeColor(power);
-    QStringList lines{shownText(power.name)};
+    QStringList lines{wordedForPeople(power.name)};
     if (power.timeRemainingMinutes) {
-        lines << timeText(*power.timeRemainingMinutes) + (power.isCharging
-                                                              ? QStringLiteral(" until full")
-                                                              : QStringLiteral(" remaining"));
+        const QString time = timeText(*power.timeRemainingMinutes);
+        //: %1 is a time, such as 1h 20m
+        lines << (power.isCharging ? translate("PowerView", "%1 until full").arg(time)
+                                   //: %1 is a time, such as 1h 20m
+                                   : translate("PowerView", "%1 remaining").arg(time));
     }
-    if (power.cycleCount) lines << QStringLiteral("%1 charge cycles").arg(*power.cycleCount);
+    if (power.cycleCount)
+        lines << translate("PowerView", "%Ln charge cycle(s)", "of the battery",
+                           countForPlural(*power.cycleCount));
     block.help = lines.join(u'\n');
     return block;
 }

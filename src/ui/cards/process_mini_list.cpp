@@ -13,6 +13,7 @@
 #include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -28,7 +29,7 @@ constexpr std::size_t mostFillingRows = 14;
 constexpr double evenStep = 4;
 
 QString waitingText() {
-    return QStringLiteral("Waiting for process data…");
+    return translate("ProcessMiniList", "Waiting for process data…");
 }
 constexpr TextStyle processMiniListNameStyle{Typography::caption};
 constexpr TextStyle processMiniListValueStyle{Typography::caption, QFont::Medium};
@@ -37,7 +38,7 @@ constexpr TextStyle processMiniListValueStyle{Typography::caption, QFont::Medium
 
 QString ProcessMiniList::value(const ProcessStats& process, Metric metric) {
     if (metric == Metric::memory) return Formatters::bytes(process.residentMemoryBytes);
-    return Formatters::fixed(process.cpuPercent, 1) + u'%';
+    return Formatters::percentOf(Formatters::fixed(process.cpuPercent, 1));
 }
 
 QString processSymbol(const ProcessInfo& versions) {
@@ -94,7 +95,7 @@ QString ProcessMiniListView::accessibleValueText() const {
     QStringList texts;
     for (const Row& row : std::span(rows_).first(rowCount()))
         texts << isolatedText(row.name) + u' ' + row.value;
-    return texts.join(QStringLiteral(", "));
+    return listed(texts);
 }
 
 double ProcessMiniListView::rowHeight() const {

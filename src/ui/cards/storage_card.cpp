@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "ui/components/make_child.h"
+#include "ui/core_words.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -18,10 +20,11 @@ StorageCard StorageCard::of(const DashboardState& state) {
 }
 
 DashboardCard StorageCard::frame() const {
-    const QString subtitle = isWaiting ? QStringLiteral("Waiting for storage data")
-                                       : QStringLiteral("%1 mounted volume").arg(volumes.size()) +
-                                             (volumes.size() == 1 ? QString() : QString(u's'));
-    return {QStringLiteral("Storage"), subtitle, QStringLiteral("internaldrive"),
+    const QString subtitle = isWaiting ? translate("StorageCard", "Waiting for storage data")
+                                       : translate("StorageCard", "%Ln mounted volume(s)", nullptr,
+                                                   countForPlural(volumes.size()));
+    return {//: the title of the card
+            translate("StorageCard", "Storage"), subtitle, QStringLiteral("internaldrive"),
             VantorTheme::blue()};
 }
 
@@ -30,9 +33,10 @@ std::span<const VolumeStats> StorageCard::shownVolumes() const {
 }
 
 EmptyState StorageCard::emptyState(const PlatformWords& words) {
-    return {QStringLiteral("No Volumes"), QStringLiteral("externaldrive.badge.questionmark"),
-            QString::fromUtf8(words.noVolumesMessage.data(),
-                              static_cast<qsizetype>(words.noVolumesMessage.size()))};
+    return {
+        //: there is no disk to be shown
+        translate("StorageCard", "No Volumes"), QStringLiteral("externaldrive.badge.questionmark"),
+        wordedForPeople(words.noVolumesMessage)};
 }
 
 StorageCardView::StorageCardView(const PlatformWords& words, QWidget* parent)

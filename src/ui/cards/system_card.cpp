@@ -8,9 +8,11 @@
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
 #include "ui/components/tool_tip_text.h"
+#include "ui/core_words.h"
 #include "ui/formatters.h"
 #include "ui/shown_text.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -27,9 +29,10 @@ SystemCard SystemCard::of(const DashboardState& state) {
 }
 
 DashboardCard SystemCard::frame() const {
-    const QString subtitle =
-        isWaiting() ? QStringLiteral("Waiting for system data") : shownText(stats.hardwareModel);
-    return {QStringLiteral("System"), subtitle, QStringLiteral("desktopcomputer"),
+    const QString subtitle = isWaiting() ? translate("SystemCard", "Waiting for system data")
+                                         : wordedForPeople(stats.hardwareModel);
+    return {//: the title of the card: the whole machine
+            translate("SystemCard", "System"), subtitle, QStringLiteral("desktopcomputer"),
             VantorTheme::orange()};
 }
 
@@ -43,23 +46,35 @@ QColor SystemCard::thermalColor(const std::string& state, ColorScheme scheme) {
 std::array<MetricRow, 6> SystemCard::rows() const {
     const auto row = [&](const QString& label, const std::optional<QString>& value) {
         return CardTexts::row(label, isWaiting() ? std::nullopt : value,
-                              isWaiting() ? CardTexts::unknownYet() : QStringLiteral("Unknown"),
+                              isWaiting() ? CardTexts::unknownYet()
+                                          : /*: a text that the machine does not tell */
+                                  translate("SystemCard", "Unknown"),
                               VantorTheme::blue());
     };
-    using CardTexts::known;
+    const auto known = [](const std::string& value) {
+        return value.empty() ? std::nullopt : std::optional(wordedForPeople(value));
+    };
     std::optional<QString> uptime;
     if (stats.uptimeSeconds >= 0 && std::isfinite(stats.uptimeSeconds))
         uptime = Formatters::uptime(stats.uptimeSeconds);
     // The record's own word where nobody tells the state.
     const bool hasState = stats.thermalState != "Unknown";
-    return {
-        row(QStringLiteral("Operating System"), known(stats.operatingSystem)),
-        row(QStringLiteral("Kernel Build"), known(stats.kernelVersion)),
-        row(QStringLiteral("Architecture"), known(stats.architecture)),
-        row(QStringLiteral("Uptime"), uptime),
-        row(QStringLiteral("Thermal State"), hasState ? known(stats.thermalState) : std::nullopt),
-        row(QStringLiteral("Low Power Mode"),
-            stats.lowPowerModeEnabled ? QStringLiteral("Enabled") : QStringLiteral("Disabled"))};
+    return {row(translate("SystemCard", "Operating System"), known(stats.operatingSystem)),
+            row(translate("SystemCard", "Kernel Build"), known(stats.kernelVersion)),
+            row(
+                //: of the processor
+                translate("SystemCard", "Architecture"), known(stats.architecture)),
+            row(
+                //: the time since the machine was started
+                translate("SystemCard", "Uptime"), uptime),
+            row(
+                //: how hot the machine is, in words
+                translate("SystemCard", "Thermal State"),
+                hasState ? known(stats.thermalState) : std::nullopt),
+            row(translate("SystemCard", "Low Power Mode"),
+                stats.lowPowerModeEnabled
+                    ? /*: the low power mode */ translate("SystemCard", "Enabled")
+                    : /*: the low power mode */ translate("SystemCard", "Disabled"))};
 }
 
 SystemCardView::SystemCardView(const ProcessInfo& versions, QWidget* parent)
@@ -81,8 +96,8 @@ SystemCardView::SystemCardView(const ProcessInfo& versions, QWidget* parent)
 }
 
 void SystemCardView::explain(const FigureMeanings& meanings) {
-    rows_[thermalRow]->explain(CardTexts::text(meanings.thermalState));
-    rows_[lowPowerRow]->explain(CardTexts::text(meanings.lowPowerMode));
+    rows_[thermalRow]->explain(wordedForPeople(meanings.thermalState));
+    rows_[lowPowerRow]->explain(wordedForPeople(meanings.lowPowerMode));
 }
 
 void SystemCardView::show(const SystemCard& card) {

@@ -10,6 +10,7 @@
 #include "ui/shown_text.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -41,10 +42,17 @@ VolumeBlock VolumeBlock::of(const VolumeStats& volume) {
         block.usedFraction = static_cast<double>(used) / static_cast<double>(volume.totalBytes);
     }
     block.accent = block.usedFraction >= fullFrom ? VantorTheme::red() : VantorTheme::blue();
-    block.usedText = Formatters::bytes(used) + QStringLiteral(" used");
-    block.freeText = Formatters::bytes(free) + QStringLiteral(" free");
+    block.usedText =
+        //: %1 is an amount, of a disk
+        translate("VolumeView", "%1 used").arg(Formatters::bytes(used));
+    block.freeText =
+        //: %1 is an amount, of a disk
+        translate("VolumeView", "%1 free").arg(Formatters::bytes(free));
     block.help = shownText(volume.path);
-    if (volume.isReadOnly) block.help = isolatedText(block.help) + QStringLiteral(" (read only)");
+    if (volume.isReadOnly)
+        block.help =
+            //: %1 is where a disk is found, such as /home
+            translate("VolumeView", "%1 (read only)").arg(isolatedText(block.help));
     return block;
 }
 
@@ -64,8 +72,10 @@ void VolumeView::show(const VolumeStats& volume) {
 }
 
 QString VolumeView::accessibleValueText() const {
-    return Formatters::percent(block_.usedFraction, 0) + QStringLiteral(" full, ") +
-           block_.usedText + QStringLiteral(", ") + block_.freeText;
+    return
+        //: for screen readers: %1 is a share such as 45%, %2 "120 GB used", %3 "90 GB free"
+        translate("VolumeView", "%1 full, %2, %3")
+            .arg(Formatters::percent(block_.usedFraction, 0), block_.usedText, block_.freeText);
 }
 
 QSize VolumeView::sizeHint() const {

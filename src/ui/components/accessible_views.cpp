@@ -8,6 +8,7 @@
 
 #include "ui/components/dashboard_card.h"
 #include "ui/components/painted_view.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -132,7 +133,7 @@ class AccessiblePaintedView : public QAccessibleWidget, public QAccessibleValueI
         if (value.isEmpty() || help.isEmpty() || value == help) {
             return value.isEmpty() ? help : value;
         }
-        return value + QStringLiteral(", ") + help;
+        return listed({value, help});
     }
 
     PaintedView& view_;

@@ -10,8 +10,10 @@
 #include <cmath>
 
 #include "ui/components/tool_tip_text.h"
+#include "ui/formatters.h"
 #include "ui/pixels.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -27,12 +29,17 @@ constexpr double chartLabelBorderOpacity = 0.2;
 
 QString durationText(double seconds) {
     const auto whole = static_cast<qint64>(std::floor(seconds));
-    if (whole < 60) return QStringLiteral("%1 s").arg(whole);
+    const auto count = [](qint64 number) { return Formatters::count(number); };
+    //: seconds, as short as possible
+    if (whole < 60) return translate("ChartView", "%1 s").arg(count(whole));
     if (whole < 3600) {
-        const QString minutes = QStringLiteral("%1 min").arg(whole / 60);
-        return whole % 60 == 0 ? minutes : minutes + QStringLiteral(" %1 s").arg(whole % 60);
+        //: minutes, as short as possible
+        if (whole % 60 == 0) return translate("ChartView", "%1 min").arg(count(whole / 60));
+        //: minutes and seconds, as short as possible
+        return translate("ChartView", "%1 min %2 s").arg(count(whole / 60), count(whole % 60));
     }
-    return QStringLiteral("%1 h %2 min").arg(whole / 3600).arg(whole % 3600 / 60);
+    //: hours and minutes, as short as possible
+    return translate("ChartView", "%1 h %2 min").arg(count(whole / 3600), count(whole % 3600 / 60));
 }
 
 }  // namespace
@@ -41,7 +48,7 @@ QString ChartReading::text() const {
     QStringList texts{value};
     if (!age.isEmpty()) texts << age;
     texts << range;
-    return texts.join(QStringLiteral(", "));
+    return listed(texts);
 }
 
 ChartView::ChartView(Format format, QWidget* parent)
@@ -51,10 +58,12 @@ ChartView::ChartView(Format format, QWidget* parent)
 }
 
 QString ChartView::ageText(double seconds) {
-    if (!(seconds >= 1)) return QStringLiteral("now");
+    //: a sample of a chart, that was taken just now
+    if (!(seconds >= 1)) return translate("ChartView", "now");
     // Beyond that, somebody set a clock.
     constexpr double longest = 1e9;
-    return durationText(std::min(seconds, longest)) + QStringLiteral(" ago");
+    //: %1 is a time: when a sample of a chart was taken
+    return translate("ChartView", "%1 ago").arg(durationText(std::min(seconds, longest)));
 }
 
 QRectF ChartView::labelArea(const QRectF& area, double x, const QSizeF& size) {
@@ -88,7 +97,8 @@ std::optional<double> ChartView::ageOf(std::size_t sample) const {
 
 QString ChartView::rangeText() const {
     const auto [lowest, highest] = std::ranges::minmax(samples());
-    return format_(lowest) + QStringLiteral(" – ") + format_(highest);
+    //: from the smallest to the largest value
+    return translate("ChartView", "%1 – %2").arg(format_(lowest), format_(highest));
 }
 
 std::optional<ChartReading> ChartView::reading() const {
@@ -105,19 +115,27 @@ QString ChartView::accessibleValueText() const {
 }
 
 QString ChartView::accessibleHelp() const {
-    QString help;
+    const QString help = heightHelp();
+    if (times_.size() < 2) return help;
+    //: of a chart; %1 is a time
+    return help + u' ' +
+           translate("ChartView", "The width is the last %1.")
+               .arg(durationText(std::round(times_.back() - times_.front())));
+}
+
+QString ChartView::heightHelp() const {
     if (const auto range = fixedRange()) {
-        help = QStringLiteral("The height is %1 to %2")
-                   .arg(format_(range->first), format_(range->second));
-    } else {
-        help = QStringLiteral("The height is the smallest to the largest value shown");
-        if (!samples().empty()) help += QStringLiteral(", ") + rangeText();
+        //: of a chart; both are values: 0 % and 100 %
+        return translate("ChartView", "The height is %1 to %2.")
+            .arg(format_(range->first), format_(range->second));
     }
-    if (times_.size() > 1) {
-        help += QStringLiteral("; the width is the last ") +
-                durationText(std::round(times_.back() - times_.front()));
+    if (samples().empty()) {
+        //: of a chart
+        return translate("ChartView", "The height is the smallest to the largest value shown.");
     }
-    return help + u'.';
+    //: of a chart; %1 are these two values
+    return translate("ChartView", "The height is the smallest to the largest value shown: %1.")
+        .arg(rangeText());
 }
 
 /// A sample that was chosen stays chosen as it moves away from the newest one.

@@ -78,6 +78,7 @@ class ChartView : public PaintedView {
     std::optional<std::size_t> current() const;
     std::optional<double> ageOf(std::size_t sample) const;
     QString rangeText() const;
+    QString heightHelp() const;
     double placeOf(std::size_t sample) const;
     void point(std::optional<double> x);
     void choose(std::optional<std::size_t> stepsBack);

@@ -9,6 +9,7 @@
 #include "ui/components/symbol_tile.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -97,7 +98,7 @@ QString DashboardCardView::summary() const {
         const QString text = (view->accessibleLabel() + u' ' + view->accessibleValueText());
         texts << text.simplified();
     }
-    return texts.join(QStringLiteral(", "));
+    return listed(texts);
 }
 
 QColor DashboardCardView::borderColor() const {

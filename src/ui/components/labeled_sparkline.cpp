@@ -20,7 +20,8 @@ constexpr TextStyle labeledSparklineTextStyle{Typography::caption2};
 }  // namespace
 
 LabeledSparklineView::LabeledSparklineView(LabeledSparkline sparkline, QWidget* parent)
-    : ChartView(Formatters::rate, parent), sparkline_(std::move(sparkline)) {
+    : ChartView([](double bytesPerSecond) { return Formatters::rate(bytesPerSecond); }, parent),
+      sparkline_(std::move(sparkline)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

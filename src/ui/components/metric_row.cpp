@@ -57,7 +57,7 @@ QSize MetricRowView::sizeHint() const {
     const QFontMetricsF label(Typography::font(metricRowLabelStyle), this);
     const QFontMetricsF value(Typography::font(metricRowValueStyle), this);
     const double width = MetricRowGeometry::make(0, row_.color.has_value()).labelLeft +
-                         label.horizontalAdvance(row_.label) + metricRowSpacing +
+                         wholeLineWidth(*this, metricRowLabelStyle, row_.label) + metricRowSpacing +
                          Typography::digitTextWidth(row_.value, value);
     return {static_cast<int>(std::ceil(width)),
             static_cast<int>(std::ceil(std::max(label.height(), value.height())))};

@@ -40,7 +40,7 @@ SegmentButton::SegmentButton(const QString& title, QWidget* parent) : QAbstractB
 
 QSize SegmentButton::sizeHint() const {
     const QFontMetricsF metrics(Typography::font(segmentedPickerTitleStyle), this);
-    return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()) +
+    return {static_cast<int>(std::ceil(wholeLineWidth(*this, segmentedPickerTitleStyle, text()) +
                                        2 * segmentedPickerHorizontalPadding)),
             static_cast<int>(std::ceil(metrics.height() + 2 * segmentedPickerVerticalPadding))};
 }

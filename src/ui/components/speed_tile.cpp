@@ -43,7 +43,7 @@ QSize SpeedTileView::sizeHint() const {
     const QFontMetricsF title(Typography::font(speedTileTitleStyle), this);
     const QFontMetricsF value(Typography::font(speedTileValueStyle), this);
     const double icon = Typography::scaled(speedTileIconShape.side);
-    const double text = std::max(title.horizontalAdvance(tile_.title),
+    const double text = std::max(wholeLineWidth(*this, speedTileTitleStyle, tile_.title),
                                  Typography::digitTextWidth(tile_.value, value));
     return {static_cast<int>(std::ceil(2 * padding() + icon + speedTileSpacing + text)),
             static_cast<int>(

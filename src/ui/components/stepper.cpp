@@ -62,7 +62,7 @@ void StepperView::show(std::int64_t value) {
 }
 
 QString StepperView::accessibleValueText() const {
-    return QString::number(value_) + u' ' + stepper_.unit;
+    return stepper_.valueText(value_);
 }
 
 std::optional<AccessibleRange> StepperView::accessibleRange() const {

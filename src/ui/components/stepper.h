@@ -13,8 +13,8 @@ namespace vantor {
 
 /// A whole number within bounds that is changed one by one.
 struct Stepper {
-    QString label;  ///< for assistive technology
-    QString unit;   ///< "samples"
+    QString label;                                   ///< for assistive technology
+    std::function<QString(std::int64_t)> valueText;  ///< "60 samples"
     std::int64_t lowest = 0;
     std::int64_t highest = 0;
 

@@ -1,5 +1,6 @@
 #include "ui/components/text_line.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "ui/drawing/view_painter.h"
@@ -31,8 +32,9 @@ void TextLineView::setAlignment(Qt::Alignment alignment) {
 
 QSize TextLineView::sizeHint() const {
     const QFontMetricsF metrics(Typography::font(size_, weight_), this);
-    return {static_cast<int>(std::ceil(Typography::digitTextWidth(text_, metrics))),
-            static_cast<int>(std::ceil(metrics.height()))};
+    const double width = std::max(wholeLineWidth(*this, {size_, weight_}, text_),
+                                  Typography::digitTextWidth(text_, metrics));
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(metrics.height()))};
 }
 
 QSize TextLineView::minimumSizeHint() const {

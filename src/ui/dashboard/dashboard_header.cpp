@@ -9,6 +9,7 @@
 #include "ui/dashboard/horizontal_fit.h"
 #include "ui/formatters.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -22,11 +23,15 @@ constexpr int stackedSpacing = 14;
 }  // namespace
 
 QString DashboardHeader::statusText() const {
-    return isPaused ? QStringLiteral("Paused") : QStringLiteral("Live");
+    return isPaused
+               ? /*: the state: the figures stand still */ translate("DashboardHeader", "Paused")
+               : /*: the state: the figures follow the machine */ translate("DashboardHeader",
+                                                                            "Live");
 }
 
 QString DashboardHeader::pauseTitle() const {
-    return isPaused ? QStringLiteral("Resume") : QStringLiteral("Pause");
+    return isPaused ? /*: a button: go on reading */ translate("DashboardHeader", "Resume")
+                    : /*: a button: stop reading */ translate("DashboardHeader", "Pause");
 }
 
 QString DashboardHeader::pauseSymbol() const {
@@ -37,7 +42,10 @@ QString DashboardHeader::intervalText(double seconds) {
     // A setting can hold any number until the next load repairs it; it is used as 0.5 to 10.
     const bool isShowable = std::isfinite(seconds) && std::abs(seconds) < 1e5;
     const auto whole = static_cast<double>(isShowable ? std::llround(seconds) : 1);
-    return Formatters::interval(seconds == 0.5 ? seconds : whole, QStringLiteral("s"));
+    return
+        //: a number of seconds, short
+        translate("DashboardHeader", "%1 s")
+            .arg(Formatters::number(seconds == 0.5 ? seconds : whole));
 }
 
 DashboardHeaderView::DashboardHeaderView(DashboardHeader header, std::string_view subtitle,
@@ -65,16 +73,22 @@ QWidget* DashboardHeaderView::makeControls() {
     flow->addWidget(interval_);
     const std::array buttons{
         CapsuleButton{header_.pauseTitle(), header_.pauseSymbol(), header_.onTogglePause},
-        CapsuleButton{QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"),
+        CapsuleButton{//: a button: read everything now
+                      translate("DashboardHeader", "Refresh"), QStringLiteral("arrow.clockwise"),
                       header_.onRefresh},
-        CapsuleButton{QStringLiteral("Export"), QStringLiteral("square.and.arrow.up"),
+        CapsuleButton{//: a button: save a snapshot to a file
+                      translate("DashboardHeader", "Export"), QStringLiteral("square.and.arrow.up"),
                       header_.onExport},
-        CapsuleButton{QStringLiteral("Quit"), QStringLiteral("power"), header_.onQuit}};
+        CapsuleButton{
+            //: a button: end the program
+            translate("DashboardHeader", "Quit"), QStringLiteral("power"), header_.onQuit}};
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         buttons_[i] = makeChild<CapsuleButtonView>(controls, buttons[i]);
         flow->addWidget(buttons_[i]);
     }
-    pauseButton().reserveWidthFor(QStringLiteral("Resume"));
+    pauseButton().reserveWidthFor(
+        //: a button: go on reading
+        translate("DashboardHeader", "Resume"));
     exportButton().setEnabled(header_.onExport != nullptr);
     return controls;
 }

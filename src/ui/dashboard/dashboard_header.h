@@ -11,6 +11,7 @@
 #include "ui/components/card_frame.h"
 #include "ui/components/menu_picker.h"
 #include "ui/components/painted_view.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -45,7 +46,11 @@ class StatusPillView : public PaintedView {
     void show(bool isPaused);
     bool isPaused() const { return isPaused_; }
 
-    QString accessibleLabel() const override { return QStringLiteral("Status"); }
+    QString accessibleLabel() const override {
+        return
+            //: for screen readers: whether the figures are live
+            translate("DashboardHeader", "Status");
+    }
     QString accessibleValueText() const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -3,10 +3,12 @@
 
 #include "settings/app_settings.h"
 #include "ui/components/symbol_tile.h"
+#include "ui/core_words.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/pixels.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -61,8 +63,8 @@ QString StatusPillView::accessibleValueText() const {
 QSize StatusPillView::sizeHint() const {
     const QFontMetricsF metrics(Typography::font(pillStyle), this);
     // Wide enough for either word: the controls beside the pill must not move on a pause.
-    const double text = std::max(metrics.horizontalAdvance(statusText(true)),
-                                 metrics.horizontalAdvance(statusText(false)));
+    const double text = std::max(wholeLineWidth(*this, pillStyle, statusText(true)),
+                                 wholeLineWidth(*this, pillStyle, statusText(false)));
     return {static_cast<int>(std::ceil(2 * pillHorizontalPadding + pillDot + pillSpacing + text)),
             static_cast<int>(std::ceil(metrics.height() + 2 * pillVerticalPadding))};
 }
@@ -87,8 +89,7 @@ void StatusPillView::paintEvent(QPaintEvent*) {
 }
 
 IdentityView::IdentityView(std::string_view subtitle, QWidget* parent)
-    : PaintedView(parent),
-      subtitle_(QString::fromUtf8(subtitle.data(), static_cast<qsizetype>(subtitle.size()))) {
+    : PaintedView(parent), subtitle_(wordedForPeople(subtitle)) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
@@ -96,8 +97,8 @@ QSize IdentityView::sizeHint() const {
     const QFontMetricsF name(Typography::font(headerPartsNameStyle), this);
     const QFontMetricsF subtitle(Typography::font(headerPartsSubtitleStyle), this);
     const double side = Typography::scaled(headerPartsTileShape.side);
-    const double text =
-        std::max(name.horizontalAdvance(accessibleLabel()), subtitle.horizontalAdvance(subtitle_));
+    const double text = std::max(wholeLineWidth(*this, headerPartsNameStyle, accessibleLabel()),
+                                 wholeLineWidth(*this, headerPartsSubtitleStyle, subtitle_));
     return {static_cast<int>(std::ceil(side + identitySpacing + text)),
             static_cast<int>(std::ceil(std::max(side, name.height() + subtitle.height())))};
 }
@@ -127,12 +128,16 @@ void IdentityView::paintEvent(QPaintEvent*) {
 
 IntervalMenuView::IntervalMenuView(const std::function<void(double)>& onChange, QWidget* parent)
     : MenuPickerView(
-          QStringLiteral("Refresh interval"), intervalTexts(),
+
+          //: how often the figures are read
+          translate("DashboardHeader", "Refresh interval"), intervalTexts(),
           [onChange](std::size_t choice) {
               if (onChange) onChange(AppSettings::refreshIntervals.at(choice));
           },
           parent) {
-    setToolTip(QStringLiteral("Refresh interval"));
+    setToolTip(
+        //: how often the figures are read
+        translate("DashboardHeader", "Refresh interval"));
 }
 
 void IntervalMenuView::show(double interval) {

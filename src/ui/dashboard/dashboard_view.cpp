@@ -137,8 +137,8 @@ void DashboardView::addFooter(QWidget* content) {
     };
     lastUpdate_ = line(lastUpdateText_.of(SystemSnapshot::empty().timestamp, locale()));
     footer_ = makeChild<VantorHorizontalFit>(
-        content, line(QStringLiteral("Vantor ") + environment_.metadata.version()), lastUpdate_,
-        footerGap, footerSpacing, breakpoint(footerBreakpoint));
+        content, line(QStringLiteral("Vantor %1").arg(environment_.metadata.version())),
+        lastUpdate_, footerGap, footerSpacing, breakpoint(footerBreakpoint));
     content->layout()->addWidget(footer_);
 }
 

@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include "model/system_snapshot.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -61,14 +62,16 @@ std::int64_t LastUpdateText::offsetAt(std::int64_t second) {
 
 QString LastUpdateText::of(Timestamp timestamp, const QLocale& locale) {
     if (timestamp == SystemSnapshot::empty().timestamp)
-        return QStringLiteral("Collecting live data…");
+        return translate("LastUpdateText", "Collecting live data…");
     adopt(locale);
     const std::int64_t second =
         std::chrono::floor<std::chrono::seconds>(timestamp.time_since_epoch()).count();
     const std::int64_t local = second + offsetAt(second);
     const std::int64_t ofDay = (local % secondsPerDay + secondsPerDay) % secondsPerDay;
     const QTime time = QTime::fromMSecsSinceStartOfDay(static_cast<int>(ofDay * 1000));
-    return QStringLiteral("Updated ") + locale.toString(time, format_);
+    return
+        //: %1 is a time of day
+        translate("LastUpdateText", "Updated %1").arg(locale.toString(time, format_));
 }
 
 }  // namespace vantor

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/drawing/digits.h"
 #include "ui/shown_text.h"
 
 namespace vantor {
@@ -15,10 +16,6 @@ namespace {
 
 constexpr int uncut = -1;
 constexpr double unlimited = 1e6;
-
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 
 /// Whether a character stands for itself, whatever its neighbours are.
 bool isPlain(QChar c) {
@@ -31,6 +28,24 @@ double left(const QRectF& area, Qt::Alignment alignment, double width) {
     if (alignment & Qt::AlignRight) return area.right() - width;
     if (alignment & Qt::AlignHCenter) return area.left() + (area.width() - width) / 2;
     return area.left();
+}
+
+/// Calls visit(part) for each number of a text that reads from the right, and for what is between,
+/// the last one first. Within themselves numbers read from the left in every script.
+template <class Visit>
+void forEachNumber(const QString& text, Visit&& visit) {
+    for (qsizetype end = text.size(); end > 0;) {
+        const bool isNumber = isDigit(text[end - 1]);
+        qsizetype start = end - 1;
+        while (start > 0) {
+            const bool isSign = start > 1 && isDigit(text[start]) && isDigit(text[start - 2]) &&
+                                text[start - 1].isPunct();
+            if ((isDigit(text[start - 1]) || isSign) != isNumber) break;
+            --start;
+        }
+        visit(text.mid(start, end - start));
+        end = start;
+    }
 }
 
 double top(const QRectF& area, Qt::Alignment alignment, double height) {
@@ -50,9 +65,19 @@ GlyphRunCache::Face GlyphRunCache::makeFace(const TextStyle& style, std::size_t 
     const QFontMetricsF metrics(face.font);
     face.ascent = metrics.ascent();
     face.height = metrics.height();
-    for (char16_t c = u'0'; c <= u'9'; ++c)
-        face.digitWidth = std::max(face.digitWidth, metrics.horizontalAdvance(QChar(c)));
     return face;
+}
+
+double GlyphRunCache::digitWidth(Face& face, QChar zero) {
+    if (face.zero == zero) return face.digitWidth;
+    face.zero = zero;
+    face.digitWidth = 0;
+    const QFontMetricsF metrics(face.font);
+    for (char16_t value = 0; value <= 9; ++value) {
+        const QChar digit(static_cast<char16_t>(zero.unicode() + value));
+        face.digitWidth = std::max(face.digitWidth, metrics.horizontalAdvance(digit));
+    }
+    return face.digitWidth;
 }
 
 GlyphRunCache::Face& GlyphRunCache::faceOf(const TextStyle& style) {
@@ -65,14 +90,14 @@ GlyphRunCache::Face& GlyphRunCache::faceOf(const TextStyle& style) {
     return found != faces_.end() ? *found : faces_.emplace_back(makeFace(style, faces_.size()));
 }
 
-GlyphRunCache::Figure GlyphRunCache::makeFigure(const Face& face, QChar character) {
+GlyphRunCache::Figure GlyphRunCache::makeFigure(Face& face, QChar character) {
     Figure figure{character, 0, 0, 0};
     if (!isPlain(character)) return figure;
     const QList<quint32> glyphs = face.raw.glyphIndexesForString(QString(character));
     if (glyphs.size() != 1) return figure;
     const double own = QFontMetricsF(face.font).horizontalAdvance(character);
     figure.glyph = glyphs.front();
-    figure.advance = isDigit(character) ? face.digitWidth : own;
+    figure.advance = isDigit(character) ? digitWidth(face, zeroOf(character)) : own;
     figure.inset = (figure.advance - own) / 2;
     return figure;
 }
@@ -88,6 +113,7 @@ bool GlyphRunCache::layOutFigures(Face& face, const QString& text) {
     glyphs_.clear();
     places_.clear();
     figuresWidth_ = 0;
+    if (readsFromTheRight(text)) return false;
     for (const QChar character : text) {
         const Figure& figure = figureOf(face, character);
         if (figure.glyph == 0) return false;
@@ -144,16 +170,36 @@ double GlyphRunCache::lineWidth(const TextStyle& style, const QString& text) {
     return shapeOf(faceOf(style), text, uncut).width;
 }
 
-/// Calls visit(run, width, inset) for each digit and each run of other characters.
+QStringList GlyphRunCache::cutLines() const {
+    QStringList lines;
+    if (shapes_.isEmpty()) return lines;  // the toolkit's 6.4 crashes over the keys of none
+    const QList<ShapeKey> kept = shapes_.keys();
+    for (const ShapeKey& key : kept) {
+        if (key.room != uncut) lines << key.text;
+    }
+    return lines;
+}
+
+/// Calls visit(run, width, inset) for each digit and each run of other characters, as they follow
+/// each other from the left.
 template <class Visit>
 void GlyphRunCache::forEachRun(Face& face, const QString& text, Visit&& visit) {
+    if (readsFromTheRight(text)) {
+        forEachNumber(text, [&](const QString& part) { visitRuns(face, part, visit); });
+    } else {
+        visitRuns(face, text, visit);
+    }
+}
+
+template <class Visit>
+void GlyphRunCache::visitRuns(Face& face, const QString& text, Visit&& visit) {
     for (qsizetype start = 0; start < text.size();) {
         qsizetype end = start + 1;
         const bool digit = isDigit(text[start]);
         while (!digit && end < text.size() && !isDigit(text[end]))
             ++end;
         const Shape& shape = shapeOf(face, text.mid(start, end - start), uncut);
-        const double width = digit ? face.digitWidth : shape.width;
+        const double width = digit ? digitWidth(face, zeroOf(text[start])) : shape.width;
         visit(shape, width, (width - shape.width) / 2);
         start = end;
     }

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <deque>
@@ -40,6 +41,9 @@ class GlyphRunCache {
     double lineWidth(const TextStyle& style, const QString& text);
     double figuresWidth(const TextStyle& style, const QString& text);
 
+    /// Of the kept lines, those that were drawn with an ellipsis. For tests of a window's room.
+    QStringList cutLines() const;
+
   private:
     struct Shape {
         QList<QGlyphRun> runs;
@@ -68,13 +72,15 @@ class GlyphRunCache {
         QRawFont raw;
         double ascent = 0;
         double height = 0;
+        QChar zero;  // of the script that digitWidth is of
         double digitWidth = 0;
         std::vector<Figure> figures;
     };
 
     Face& faceOf(const TextStyle& style);
     static Face makeFace(const TextStyle& style, std::size_t index);
-    static Figure makeFigure(const Face& face, QChar character);
+    static double digitWidth(Face& face, QChar zero);
+    static Figure makeFigure(Face& face, QChar character);
     static const Figure& figureOf(Face& face, QChar character);
     const Shape& shapeOf(const Face& face, const QString& text, int room,
                          Qt::TextElideMode cut = Qt::ElideRight);
@@ -82,6 +88,8 @@ class GlyphRunCache {
     void draw(QPainter& painter, const Shape& shape, QPointF place) const;
     template <class Visit>
     void forEachRun(Face& face, const QString& text, Visit&& visit);
+    template <class Visit>
+    void visitRuns(Face& face, const QString& text, Visit&& visit);
 
     QFont systemFont_;
     std::deque<Face> faces_;

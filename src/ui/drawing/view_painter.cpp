@@ -6,6 +6,12 @@
 
 namespace vantor {
 
+double wholeLineWidth(const QWidget& view, const TextStyle& style, const QString& text) {
+    BackgroundView* const below = BackgroundView::behind(view);
+    return below ? below->kit().shapes.lineWidth(style, text)
+                 : GlyphRunCache().lineWidth(style, text);
+}
+
 ViewPainter::ViewPainter(QWidget& view)
     : QPainter(&view),
       width_(view.width()),

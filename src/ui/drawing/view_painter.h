@@ -10,6 +10,10 @@
 
 namespace vantor {
 
+/// The room in which a view paints a line whole: measured as it is painted. The toolkit's own
+/// measure of a text is now and then narrower, and the line would lose its end.
+double wholeLineWidth(const QWidget& view, const TextStyle& style, const QString& text);
+
 /// Paints one view, with soft edges. Places count from the leading edge: where the language is read
 /// from right to left, `leading` and the texts mirror them, so that a view is written for one
 /// direction only. Charts and rings run one way in any language, as clocks do. Uses the window's

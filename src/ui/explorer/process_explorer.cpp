@@ -1,9 +1,12 @@
 #include "ui/explorer/process_explorer.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 #include "ui/explorer/process_search.h"
 #include "ui/formatters.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -20,7 +23,9 @@ bool isBefore(const ProcessStats& a, const ProcessStats& b, SortMode mode) {
 }  // namespace
 
 QString sortModeLabel(SortMode mode) {
-    return mode == SortMode::cpu ? QStringLiteral("CPU") : QStringLiteral("Memory");
+    return mode == SortMode::cpu
+               ? /*: sort by the share of the processor */ translate("ProcessExplorer", "CPU")
+               : /*: sort by the memory used */ translate("ProcessExplorer", "Memory");
 }
 
 ProcessExplorer ProcessExplorer::of(const DashboardState& state) {
@@ -51,21 +56,36 @@ std::vector<const ProcessStats*> ProcessExplorer::makeVisibleProcesses(
 }
 
 EmptyState ProcessExplorer::noProcesses() {
-    return {QStringLiteral("Waiting for Processes"),
+    return {translate("ProcessExplorer", "Waiting for Processes"),
             QStringLiteral("list.bullet.rectangle.portrait"),
-            QStringLiteral("No process data is available yet.")};
+            translate("ProcessExplorer", "No process data is available yet.")};
 }
 
 EmptyState ProcessExplorer::noMatch(const QString& query) {
     // More has been pasted, not typed, and need not be shown in full.
     constexpr qsizetype longest = 400;
     const QString shown = query.size() > longest ? query.left(longest) + u'…' : query;
-    return {QStringLiteral("No Matching Processes"), QStringLiteral("magnifyingglass"),
-            QStringLiteral("No process matches “") + shown + QStringLiteral("”.")};
+    return {translate("ProcessExplorer", "No Matching Processes"),
+            QStringLiteral("magnifyingglass"),
+
+            //: %1 is what the user has typed
+            translate("ProcessExplorer", "No process matches “%1”.").arg(shown)};
+}
+
+QString ProcessHeader::title(std::size_t column) {
+    static constexpr std::array titles{//: the heading of a column
+                                       QT_TRANSLATE_NOOP("ProcessHeader", "Process"),
+                                       //: the heading of a column: the number of a process
+                                       QT_TRANSLATE_NOOP("ProcessHeader", "PID"),
+                                       //: the heading of a column: the share of the processor
+                                       QT_TRANSLATE_NOOP("ProcessHeader", "CPU"),
+                                       //: the heading of a column: the memory used
+                                       QT_TRANSLATE_NOOP("ProcessHeader", "Memory")};
+    return translate("ProcessHeader", titles.at(column));
 }
 
 QString ProcessRow::cpuText() const {
-    return Formatters::fixed(process.cpuPercent, 1) + u'%';
+    return Formatters::percentOf(Formatters::fixed(process.cpuPercent, 1));
 }
 
 QString ProcessRow::memoryText() const {

@@ -45,7 +45,7 @@ struct ProcessExplorer {
 
 /// What stands above the columns.
 struct ProcessHeader {
-    static constexpr std::array<QStringView, 4> titles{u"Process", u"PID", u"CPU", u"Memory"};
+    static QString title(std::size_t column);  ///< of four
 };
 
 /// One visible process, and what its bars are measured by.

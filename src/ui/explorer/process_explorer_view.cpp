@@ -10,6 +10,7 @@
 #include "ui/components/make_child.h"
 #include "ui/components/reveal.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -19,7 +20,9 @@ namespace {
 constexpr int processExplorerControlSpacing = 12;
 
 DashboardCard explorerFrame() {
-    return {QStringLiteral("Process Explorer"), QStringLiteral("Live process activity"),
+    return {//: the title of the card
+            translate("ProcessExplorer", "Process Explorer"),
+            translate("ProcessExplorer", "Live process activity"),
             QStringLiteral("list.bullet.rectangle"), VantorTheme::cyan()};
 }
 
@@ -40,7 +43,9 @@ ProcessExplorerView::~ProcessExplorerView() {
 void ProcessExplorerView::build(const ProcessInfo& versions) {
     auto* controls = makeInnerLayout<QHBoxLayout>();
     controls->setSpacing(processExplorerControlSpacing);
-    filter_ = makeChild<FilterField>(this, QStringLiteral("Filter processes"));
+    filter_ = makeChild<FilterField>(this,
+                                     //: shown in an empty field that is typed into
+                                     translate("ProcessExplorer", "Filter processes"));
     filter_->setMaximumWidth(Typography::scaled(FilterField::widest));
     connect(filter_, &QLineEdit::textChanged, this,
             [this](const QString& text) { setQuery(text); });
@@ -54,7 +59,9 @@ void ProcessExplorerView::build(const ProcessInfo& versions) {
         table_->showSort(sortMode_);
         refresh();
     };
-    picker_ = makeChild<SegmentedPicker>(this, QStringLiteral("Sort"), labels, onChange);
+    picker_ = makeChild<SegmentedPicker>(this,
+                                         //: for screen readers: by what the list is sorted
+                                         translate("ProcessExplorer", "Sort"), labels, onChange);
     controls->addWidget(picker_);
     body().addLayout(controls);
 

@@ -46,7 +46,7 @@ void ProcessTableView::paintHeader(ViewPainter& painter) const {
     const ProcessColumns columns = this->columns();
     painter.secondary();
     const auto title = [&](std::size_t column, const QRectF& area, Qt::Alignment alignment) {
-        painter.line(figureStyle, area, alignment, ProcessHeader::titles.at(column).toString());
+        painter.line(figureStyle, area, alignment, ProcessHeader::title(column));
     };
     title(0, columns.icon.united(columns.name), Qt::AlignLeft | Qt::AlignVCenter);
     title(1, columns.pid, Qt::AlignRight | Qt::AlignVCenter);
@@ -57,7 +57,7 @@ void ProcessTableView::paintHeader(ViewPainter& painter) const {
 /// An arrow before the one that the rows are sorted by.
 void ProcessTableView::paintTitle(ViewPainter& painter, SortMode mode, const QRectF& area) const {
     const bool isSorted = mode == sort_;
-    const QString text = ProcessHeader::titles.at(mode == SortMode::cpu ? 2 : 3).toString();
+    const QString text = ProcessHeader::title(mode == SortMode::cpu ? 2 : 3);
     if (isSorted) {
         painter.primary();
     } else {

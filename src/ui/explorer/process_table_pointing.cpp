@@ -10,6 +10,7 @@
 #include "ui/components/tool_tip_text.h"
 #include "ui/explorer/process_table_view.h"
 #include "ui/formatters.h"
+#include "ui/translate.h"
 
 /// How the table of processes answers the pointer.
 namespace vantor {
@@ -17,15 +18,19 @@ namespace vantor {
 namespace {
 
 QString processTitleHelp(SortMode mode) {
-    return mode == SortMode::cpu
-               ? QStringLiteral(
-                     "100% is one processor: a process that keeps two busy has 200%. "
-                     "A click sorts by it.")
-               : QStringLiteral("The memory that a process has in use now. A click sorts by it.");
+    if (mode == SortMode::cpu) {
+        //: what a process's percentage is of; the title of a column is pointed at
+        return translate("ProcessTableView",
+                         "100% is one processor: a process that keeps two busy has 200%. "
+                         "A click sorts by it.");
+    }
+    //: the title of a column is pointed at
+    return translate("ProcessTableView",
+                     "The memory that a process has in use now. A click sorts by it.");
 }
 
 QString processBarHelp() {
-    return QStringLiteral("A full bar is the largest of the processes shown.");
+    return translate("ProcessTableView", "A full bar is the largest of the processes shown.");
 }
 
 }  // namespace
@@ -79,12 +84,17 @@ void ProcessTableView::contextMenuEvent(QContextMenuEvent* event) {
     const auto copies = [menu](const QString& title, const QString& text) {
         return menu->addAction(title, [text] { QApplication::clipboard()->setText(text); });
     };
-    copies(QStringLiteral("Copy"), rowText(*row));
-    copies(QStringLiteral("Copy Name"), chosen.name);
+    //: a command: the whole row of a process
+    copies(translate("ProcessTableView", "Copy"), rowText(*row));
+    //: a command
+    copies(translate("ProcessTableView", "Copy Name"), chosen.name);
     // Of some processes only the name is known.
-    copies(QStringLiteral("Copy Path"), chosen.command)->setEnabled(chosen.command.contains(u'/'));
+    //: a command: where the program of a process lies
+    copies(translate("ProcessTableView", "Copy Path"), chosen.command)
+        ->setEnabled(chosen.command.contains(u'/'));
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Filter by This Name"),
+    //: a command: show the processes of that name only
+    menu->addAction(translate("ProcessTableView", "Filter by This Name"),
                     [filter = actions_.filter, name = chosen.name] {
                         if (filter) filter(name);
                     });

@@ -11,6 +11,7 @@
 
 #include "ui/components/reveal.h"
 #include "ui/shown_text.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -169,17 +170,21 @@ QString ProcessTableView::rowText(std::size_t index) const {
 }
 
 QString ProcessTableView::accessibleValueText() const {
-    return QStringLiteral("%1 processes").arg(rows_.size());
+    return translate("ProcessTableView", "%Ln process(es)", "for screen readers: in the list",
+                     countForPlural(rows_.size()));
 }
 
 QString ProcessTableView::accessibleRowLabel(int row) const {
     const auto index = static_cast<std::size_t>(row);
     if (row < 0 || index >= rows_.size()) return {};
     const Row& shown = rows_[index];
-    return QStringLiteral("%1, PID %2, CPU %3, memory %4")
-        .arg(isolatedText(shown.name.left(Typography::maxLineLength)))
-        .arg(shown.pid)
-        .arg(shown.cpuText, shown.memoryText);
+    return
+        //: for screen readers: the name of a process, its number, its share of the processor, its
+        //: memory
+        translate("ProcessTableView", "%1, PID %2, CPU %3, memory %4")
+            .arg(isolatedText(shown.name.left(Typography::maxLineLength)))
+            .arg(shown.pid)
+            .arg(shown.cpuText, shown.memoryText);
 }
 
 QRect ProcessTableView::accessibleRowArea(int row) const {

@@ -14,6 +14,7 @@
 #include "ui/drawing/view_painter.h"
 #include "ui/explorer/process_columns.h"
 #include "ui/explorer/process_explorer.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -55,7 +56,11 @@ class ProcessTableView : public PaintedView {
     void copyCurrentRow() const;
 
     QAccessible::Role accessibleRole() const override { return QAccessible::List; }
-    QString accessibleLabel() const override { return QStringLiteral("Processes"); }
+    QString accessibleLabel() const override {
+        return
+            //: the list, for screen readers
+            translate("ProcessTableView", "Processes");
+    }
     QString accessibleValueText() const override;
     int accessibleRowCount() const override { return static_cast<int>(rows_.size()); }
     QString accessibleRowLabel(int row) const override;

@@ -7,6 +7,7 @@
 #include "ui/cards/network_card.h"
 #include "ui/dashboard/dashboard_header.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -32,14 +33,19 @@ MenuBarDashboard MenuBarDashboard::of(const DashboardState& state, bool isPaused
     const auto network = NetworkCard::of(state);
     const bool isWaiting = state.snapshot.timestamp == SystemSnapshot::empty().timestamp;
     const Status running = isWaiting ? Status::waiting : Status::live;
-    return {isPaused ? Status::paused : running, metric(CPUCard::of(state), QStringLiteral("CPU")),
-            metric(MemoryCard::of(state), QStringLiteral("Memory")), network.downloadTile(),
-            network.uploadTile()};
+    return {isPaused ? Status::paused : running,
+            metric(CPUCard::of(state),
+                   //: the short title of a figure
+                   translate("MenuBarDashboard", "CPU")),
+            metric(MemoryCard::of(state),
+                   //: the short title of a figure
+                   translate("MenuBarDashboard", "Memory")),
+            network.downloadTile(), network.uploadTile()};
 }
 
 QString MenuBarDashboard::statusText() const {
     // As in the dashboard's footer.
-    if (status == Status::waiting) return QStringLiteral("Collecting live data…");
+    if (status == Status::waiting) return translate("MenuBarDashboard", "Collecting live data…");
     return headerOf(status).statusText();
 }
 

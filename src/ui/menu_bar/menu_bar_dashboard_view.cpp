@@ -8,6 +8,7 @@
 
 #include "ui/components/make_child.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -73,15 +74,25 @@ void MenuBarDashboardView::addActions(QVBoxLayout& column, std::function<void()>
     };
     const auto& monitor = environment_.monitor;
     const bool canOpen = onOpenDashboard != nullptr;
-    open_ = button(QStringLiteral("Open Dashboard"), QStringLiteral("square.grid.2x2"),
-                   std::move(onOpenDashboard));
+    open_ = button(
+        //: a button
+        translate("MenuBarDashboard", "Open Dashboard"), QStringLiteral("square.grid.2x2"),
+        std::move(onOpenDashboard));
     open_->setEnabled(canOpen);
-    pause_ = button(QStringLiteral("Pause"), QStringLiteral("pause.fill"),
-                    [monitor] { monitor->togglePause(); });
-    pause_->reserveWidthFor(QStringLiteral("Resume"));
-    refresh_ = button(QStringLiteral("Refresh"), QStringLiteral("arrow.clockwise"),
-                      [monitor] { monitor->forceRefresh(); });
-    quit_ = button(QStringLiteral("Quit"), QStringLiteral("power"), environment_.onQuit);
+    pause_ = button(
+        //: a button: stop reading
+        translate("MenuBarDashboard", "Pause"), QStringLiteral("pause.fill"),
+        [monitor] { monitor->togglePause(); });
+    pause_->reserveWidthFor(
+        //: a button: go on reading
+        translate("MenuBarDashboard", "Resume"));
+    refresh_ = button(
+        //: a button: read everything now
+        translate("MenuBarDashboard", "Refresh"), QStringLiteral("arrow.clockwise"),
+        [monitor] { monitor->forceRefresh(); });
+    quit_ = button(
+        //: a button: end the program
+        translate("MenuBarDashboard", "Quit"), QStringLiteral("power"), environment_.onQuit);
     auto* actions = makeInnerLayout<QVBoxLayout>();
     actions->setSpacing(actionSpacing);
     actions->addWidget(open_);

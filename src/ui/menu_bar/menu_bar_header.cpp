@@ -28,8 +28,9 @@ MenuBarTitleView::MenuBarTitleView(QWidget* parent) : PaintedView(parent) {
 QSize MenuBarTitleView::sizeHint() const {
     const QFontMetricsF metrics(Typography::font(menuBarHeaderTitleStyle), this);
     const double side = Typography::scaled(menuBarHeaderTileShape.side);
-    return {static_cast<int>(std::ceil(side + menuBarHeaderTitleSpacing +
-                                       metrics.horizontalAdvance(accessibleLabel()) + 1)),
+    return {static_cast<int>(
+                std::ceil(side + menuBarHeaderTitleSpacing +
+                          wholeLineWidth(*this, menuBarHeaderTitleStyle, accessibleLabel()))),
             static_cast<int>(std::ceil(std::max(side, metrics.height())))};
 }
 

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "ui/components/painted_view.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -30,7 +31,11 @@ class StatusDotView : public PaintedView {
     void show(const QColor& color, const QString& text);
     const QColor& color() const { return color_; }
 
-    QString accessibleLabel() const override { return QStringLiteral("Status"); }
+    QString accessibleLabel() const override {
+        return
+            //: for screen readers: whether the figures are live
+            translate("MenuBarDashboard", "Status");
+    }
     QString accessibleValueText() const override { return text_; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

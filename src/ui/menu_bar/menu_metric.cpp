@@ -53,7 +53,7 @@ QSize MenuMetricView::sizeHint() const {
     const QFontMetricsF title(Typography::font(menuMetricTitleStyle), this);
     const QFontMetricsF value(Typography::font(menuMetricValueStyle), this);
     // Wide enough for the widest value, so that a tile does not grow with its load.
-    const double text = std::max({title.horizontalAdvance(metric_.title),
+    const double text = std::max({wholeLineWidth(*this, menuMetricTitleStyle, metric_.title),
                                   Typography::digitTextWidth(QStringLiteral("100%"), value),
                                   Typography::digitTextWidth(metric_.value, value)});
     return {static_cast<int>(std::ceil(2 * menuMetricHorizontalPadding + text)),

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/core_words.h"
 #include "ui/drawing/view_painter.h"
 #include "ui/pixels.h"
 #include "ui/symbols.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -49,7 +51,9 @@ NotSavedView::NotSavedView(QWidget* parent) : PaintedView(parent) {
 void NotSavedView::show(const QString& reason) {
     QString text;
     if (!reason.isEmpty())
-        text = QStringLiteral("Not saved: ") + reason.left(1).toLower() + reason.mid(1);
+        text = wordedAsRest(
+            //: settings that could not be stored; %1 is a sentence that says why
+            translate("SettingsView", "Not saved: %1"), reason.toStdString());
     if (text == text_) return;
     text_ = text;
     setVisible(!text_.isEmpty());

@@ -4,6 +4,7 @@
 
 #include "ui/cards/card_texts.h"
 #include "ui/formatters.h"
+#include "ui/translate.h"
 
 namespace vantor {
 
@@ -13,14 +14,21 @@ SettingsForm SettingsForm::of(const AppSettings& settings) {
 }
 
 QString SettingsForm::historyLabel() const {
-    return QStringLiteral("Chart history: %1 samples").arg(historyLength);
+    return translate("SettingsForm", "Chart history: %Ln sample(s)",
+                     "how many readings the charts keep", countForPlural(historyLength));
 }
 
 QString SettingsForm::intervalLabel(double seconds) {
     if (!std::isfinite(seconds)) return CardTexts::unknownYet();
-    const bool isOne = seconds == 0.5 || seconds == 1;
-    return Formatters::interval(seconds,
-                                isOne ? QStringLiteral("second") : QStringLiteral("seconds"));
+    if (seconds == 0.5)
+        //: half a second, as a number
+        return translate("SettingsForm", "%1 second").arg(Formatters::number(seconds));
+    if (seconds == std::floor(seconds) && std::abs(seconds) < 1e6) {
+        const auto whole = static_cast<int>(seconds);
+        return translate("SettingsForm", "%Ln second(s)", "how often the figures are read", whole);
+    }
+    //: a number of seconds that is not whole
+    return translate("SettingsForm", "%1 seconds").arg(Formatters::number(seconds));
 }
 
 QStringList SettingsForm::intervalLabels() {
@@ -33,13 +41,19 @@ QStringList SettingsForm::intervalLabels() {
 QString SettingsForm::appearanceLabel(Appearance appearance) {
     switch (appearance) {
         case Appearance::system:
-            return QStringLiteral("System");
+            return
+                //: the theme: as the desktop has it
+                translate("SettingsForm", "System");
         case Appearance::light:
-            return QStringLiteral("Light");
+            return
+                //: the theme
+                translate("SettingsForm", "Light");
         case Appearance::dark:
             break;
     }
-    return QStringLiteral("Dark");
+    return
+        //: the theme
+        translate("SettingsForm", "Dark");
 }
 
 QStringList SettingsForm::appearanceLabels() {

@@ -9,9 +9,11 @@
 #include <utility>
 
 #include "ui/components/make_child.h"
+#include "ui/core_words.h"
 #include "ui/dashboard/scroll_view.h"
 #include "ui/dashboard/width_limit_layout.h"
 #include "ui/theme.h"
+#include "ui/translate.h"
 #include "ui/typography.h"
 
 namespace vantor {
@@ -74,17 +76,18 @@ QScrollArea* SettingsView::makeScrollView(QWidget* content) {
     return view;
 }
 
-CompatibleFormSection& SettingsView::addSection(QFormLayout& form, const char* title) {
-    auto* section =
-        makeChild<CompatibleFormSection>(form.parentWidget(), style_, QString::fromLatin1(title));
+CompatibleFormSection& SettingsView::addSection(QFormLayout& form, const QString& title) {
+    auto* section = makeChild<CompatibleFormSection>(form.parentWidget(), style_, title);
     sections_.push_back(section);
     form.addRow(section);
     return *section;
 }
 
 void SettingsView::addAppearance(QFormLayout& form) {
-    CompatibleFormSection& section = addSection(form, "Appearance");
-    const QString label = QStringLiteral("Theme");
+    CompatibleFormSection& section = addSection(form, translate("SettingsView", "Appearance"));
+    const QString label =
+        //: whether colours are dark or light
+        translate("SettingsView", "Theme");
     const auto onChoose = [this](int choice) {
         const Appearance chosen = allAppearances.at(static_cast<std::size_t>(choice));
         if (chosen != form_.appearance) environment_.settings->setAppearance(chosen);
@@ -96,22 +99,31 @@ void SettingsView::addAppearance(QFormLayout& form) {
 }
 
 void SettingsView::addMonitoring(QFormLayout& form) {
-    CompatibleFormSection& section = addSection(form, "Monitoring");
+    CompatibleFormSection& section = addSection(form, translate("SettingsView", "Monitoring"));
     addIntervalAndHistory(section);
     addToggles(section);
 }
 
 void SettingsView::addIntervalAndHistory(CompatibleFormSection& section) {
     const auto& settings = environment_.settings;
-    const QString label = QStringLiteral("Refresh interval");
+    const QString label =
+        //: how often the figures are read
+        translate("SettingsView", "Refresh interval");
     const auto onChoose = [s = settings](std::size_t choice) {
         s->setRefreshInterval(AppSettings::refreshIntervals.at(choice));
     };
     interval_ =
         makeChild<MenuPickerView>(&section, label, SettingsForm::intervalLabels(), onChoose);
     section.add(makeChild<CompatibleLabeledContent>(&section, style_, label, interval_));
-    const Stepper stepper{QStringLiteral("Chart history"), QStringLiteral("samples"),
-                          AppSettings::minHistory, AppSettings::maxHistory};
+    const Stepper stepper{
+        //: how many readings the charts keep
+        translate("SettingsView", "Chart history"),
+        [](std::int64_t samples) {
+            return translate("SettingsView", "%Ln sample(s)",
+                             "for screen readers: how many readings the charts keep",
+                             countForPlural(samples));
+        },
+        AppSettings::minHistory, AppSettings::maxHistory};
     history_ =
         makeChild<StepperView>(&section, stepper, form_.historyLength,
                                [s = settings](std::int64_t value) { s->setHistoryLength(value); });
@@ -125,11 +137,16 @@ void SettingsView::addToggles(CompatibleFormSection& section) {
                                                     : ToggleRowView::Switch::leading;
     const auto& settings = environment_.settings;
     pointToPoint_ = makeChild<ToggleRowView>(
-        &section, QStringLiteral("Include point-to-point and tunnel interfaces"), place,
+        &section,
+        //: a switch: network interfaces, such as those of a VPN
+        translate("SettingsView", "Include point-to-point and tunnel interfaces"), place,
         [s = settings](bool isOn) { s->setIncludePointToPointInterfaces(isOn); });
     section.add(pointToPoint_, ToggleRowView::outset);
-    menuBar_ = makeChild<NotedToggleRow>(&section, QStringLiteral("Show menu bar dashboard"), place,
-                                         [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
+    menuBar_ =
+        makeChild<NotedToggleRow>(&section,
+                                  //: a switch: the icon in the tray and its panel
+                                  translate("SettingsView", "Show menu bar dashboard"), place,
+                                  [s = settings](bool isOn) { s->setShowMenuBar(isOn); });
     section.add(menuBar_, NotedToggleRow::outset);
     followTray();
     if (environment_.loginItem) addLogin(section, place);
@@ -138,8 +155,10 @@ void SettingsView::addToggles(CompatibleFormSection& section) {
 void SettingsView::followTray() {
     if (!environment_.hasTray) return;
     const auto tell = [this](const bool& hasTray) {
-        menuBar_->tell(hasTray ? QString()
-                               : QStringLiteral("This desktop has no tray to show it in."));
+        menuBar_->tell(hasTray
+                           ? QString()
+                           //: below the switch of the menu bar dashboard
+                           : translate("SettingsView", "This desktop has no tray to show it in."));
     };
     tell(environment_.hasTray->value());
     observations_.push_back(environment_.hasTray->observe(tell));
@@ -147,31 +166,44 @@ void SettingsView::followTray() {
 
 void SettingsView::addLogin(CompatibleFormSection& section, ToggleRowView::Switch place) {
     login_ =
-        makeChild<NotedToggleRow>(&section, QStringLiteral("Open at Login"), place,
+        makeChild<NotedToggleRow>(&section,
+                                  //: a switch: start the program when the user logs in
+                                  translate("SettingsView", "Open at Login"), place,
                                   [item = environment_.loginItem](bool isOn) { item->set(isOn); });
     section.add(login_, NotedToggleRow::outset);
     auto& state = environment_.loginItem->state();
     const auto show = [this](const LoginState& found) {
         login_->show(found.isOn);
-        login_->tell(QString::fromStdString(found.problem));
+        login_->tell(wordedForPeople(found.problem));
     };
     show(state.value());
     observations_.push_back(state.observe(show));
 }
 
 void SettingsView::addData(QFormLayout& form) {
-    CompatibleFormSection& section = addSection(form, "Data");
+    CompatibleFormSection& section = addSection(form, translate("SettingsView", "Data"));
     const PlatformWords& words = environment_.machine->words();
-    addValue(section, QStringLiteral("Network privacy"), QStringLiteral("No public IP lookup"));
-    addValue(section, QStringLiteral("Process source"),
-             QStringLiteral("Native %1 %2")
+    addValue(section,
+             //: a label
+             translate("SettingsView", "Network privacy"),
+             //: the program does not ask the internet for the address
+             translate("SettingsView", "No public IP lookup"));
+    addValue(section,
+             //: a label: where figures of processes come from
+             translate("SettingsView", "Process source"),
+
+             //: the name of the system, and of what tells of processes: "Native Linux procfs"
+             translate("SettingsView", "Native %1 %2")
                  .arg(wordsOf(words.systemName), wordsOf(words.processInterface)));
-    addValue(section, QStringLiteral("GPU telemetry"), wordsOf(words.graphicsTelemetry));
+    addValue(section,
+             //: a label: where figures of graphics come from
+             translate("SettingsView", "GPU telemetry"), wordsOf(words.graphicsTelemetry));
     auto* row = makeChild<QWidget>(&section);
     auto* line = makeLayout<QHBoxLayout>(row);
     line->setContentsMargins(0, 0, 0, 0);
     export_ = makeChild<CapsuleButtonView>(
-        row, CapsuleButton{QStringLiteral("Export Current Snapshot…"),
+        row, CapsuleButton{//: a button
+                           translate("SettingsView", "Export Current Snapshot…"),
                            QStringLiteral("square.and.arrow.up"), environment_.onExport});
     export_->setEnabled(environment_.onExport != nullptr);
     line->addWidget(export_);
@@ -180,8 +212,11 @@ void SettingsView::addData(QFormLayout& form) {
 }
 
 void SettingsView::addAbout(QFormLayout& form) {
-    addValue(addSection(form, "About"), QStringLiteral("Application"),
-             QStringLiteral("Vantor ") + environment_.metadata.version());
+    addValue(
+        addSection(form, /*: a heading: about the program */ translate("SettingsView", "About")),
+        //: a label
+        translate("SettingsView", "Application"),
+        QStringLiteral("Vantor %1").arg(environment_.metadata.version()));
 }
 
 void SettingsView::addValue(CompatibleFormSection& section, const QString& label,

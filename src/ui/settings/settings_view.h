@@ -72,7 +72,7 @@ class SettingsView : public BackgroundView {
   private:
     QWidget* makeForm(QWidget* content);
     QScrollArea* makeScrollView(QWidget* content);
-    CompatibleFormSection& addSection(QFormLayout& form, const char* title);
+    CompatibleFormSection& addSection(QFormLayout& form, const QString& title);
     void addAppearance(QFormLayout& form);
     void addMonitoring(QFormLayout& form);
     void addIntervalAndHistory(CompatibleFormSection& section);
