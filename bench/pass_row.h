@@ -1,29 +1,30 @@
 #pragma once
 
-#include <chrono>
 #include <cstddef>
 #include <vector>
 
 #include "sampling/counted_allocations.h"
 
+#include "processor_time.h"
+
 namespace vantor::bench {
 
-/// How long one kind of pass takes, from rounds that are taken in turns with other kinds so that
-/// the machine's moods touch them alike.
+/// The processor time of one kind of pass, from rounds that are taken in turns with other kinds so
+/// that the machine's moods touch them alike. Time in the processor's queue is none: beside other
+/// work a long pass waits there more often than the short one that it is compared with.
 class PassRow {
   public:
     PassRow(const char* name, int passesPerRound) : name_(name), passes_(passesPerRound) {}
 
     template <class Pass>
     void run(Pass pass) {
-        using Clock = std::chrono::steady_clock;
         const std::size_t before = countedAllocations();
-        const auto start = Clock::now();
+        const double start = processCPUSeconds();
         for (int i = 0; i < passes_; ++i)
             pass();
-        const std::chrono::duration<double, std::micro> spent = Clock::now() - start;
+        const double spent = processCPUSeconds() - start;
         allocations_ += countedAllocations() - before;
-        microseconds_.push_back(spent.count() / passes_);
+        microseconds_.push_back(spent * 1e6 / passes_);
     }
 
     void forget() {

@@ -19,6 +19,7 @@
 #include "platform/native_machine.h"
 #include "probes/process_reader.h"
 
+#include "processor_time.h"
 #include "sleeping_children.h"
 
 /// What one refresh costs per process: our pass, and two programs of the terminal that many people

@@ -12,6 +12,7 @@
 #include "platform/native_machine.h"
 #include "probes/process_reader.h"
 
+#include "processor_time.h"
 #include "sleeping_children.h"
 #include "verdict.h"
 

@@ -6,7 +6,6 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <ctime>
 
 namespace vantor::bench {
 
@@ -30,12 +29,6 @@ SleepingChildren::~SleepingChildren() {
         ::kill(pid, SIGKILL);
     for (const pid_t pid : pids_)
         ::waitpid(pid, nullptr, 0);
-}
-
-double threadCPUSeconds() {
-    struct timespec time = {};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
 }  // namespace vantor::bench

@@ -18,7 +18,4 @@ class SleepingChildren {
     std::vector<pid_t> pids_;
 };
 
-/// CPU time of the calling thread, the kernel's part included.
-double threadCPUSeconds();
-
 }  // namespace vantor::bench

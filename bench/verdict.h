@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 namespace vantor::bench {
 
 /// What the programs of this folder are asked for: the whole measurement, judged by its limits, or
@@ -11,7 +13,9 @@ class Form {
     bool isShort() const { return isShort_; }
 
     /// How often to do what the whole measurement does `rounds` times.
-    int of(int rounds) const { return isShort_ && rounds > 8 ? rounds / 8 : rounds; }
+    int of(int rounds) const {
+        return isShort_ ? std::min(rounds, std::max(20, rounds / 8)) : rounds;
+    }
 
     /// The program's exit status: a ratio of a short measurement is judged by whoever started it.
     int status(bool passes) const { return passes || isShort_ ? 0 : 1; }
