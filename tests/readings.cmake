@@ -1,7 +1,7 @@
 vantor_add_tests(model_tests LABEL core LIBRARIES vantor_record_coding SOURCES
     model/equality_test.cpp
     model/number_text_test.cpp
-    model/placeholders_test.cpp
+    model/empty_records_test.cpp
     model/record_coding_test.cpp
     model/record_fields_test.cpp
     model/record_values_test.cpp

@@ -3,6 +3,7 @@ vantor_add_tests(sampling_tests LABEL core SOURCES
     sampling/commit_test.cpp
     sampling/commit_times_test.cpp
     sampling/gpu_monitoring_test.cpp
+    sampling/histories_test.cpp
     sampling/main_task_test.cpp
     sampling/monitor_end_test.cpp
     sampling/provider_gate_test.cpp

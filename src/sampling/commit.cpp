@@ -5,8 +5,8 @@
 #include <tuple>
 #include <utility>
 
+#include "sampling/histories.h"
 #include "sampling/providers.h"
-#include "settings/app_settings.h"
 
 namespace vantor {
 
@@ -16,13 +16,6 @@ double usedFraction(const MemoryStats& memory) {
     if (memory.totalBytes == 0) return 0;
     return std::clamp(
         static_cast<double>(memory.usedBytes) / static_cast<double>(memory.totalBytes), 0.0, 1.0);
-}
-
-bool dropOldest(std::vector<double>& history, std::size_t limit) {
-    if (history.size() <= limit) return false;
-    history.erase(history.begin(),
-                  history.begin() + static_cast<std::ptrdiff_t>(history.size() - limit));
-    return true;
 }
 
 /// The history follows the first device of the list; another first device starts a new one.
@@ -134,25 +127,6 @@ bool note(Change change, std::uint64_t Revisions::*revision, DashboardState& sta
 }
 
 }  // namespace
-
-std::size_t historyLimit(std::int64_t historyLength) {
-    return static_cast<std::size_t>(AppSettings::clampHistoryLength(historyLength));
-}
-
-void appendToHistory(double value, std::vector<double>& history, std::size_t limit) {
-    history.push_back(value);
-    dropOldest(history, limit);
-}
-
-bool trimHistories(Histories& histories, std::size_t limit) {
-    bool trimmed = false;
-    for (auto* history : {&histories.cpu, &histories.memory, &histories.download, &histories.upload,
-                          &histories.gpu, &histories.times.cpu, &histories.times.memory,
-                          &histories.times.network, &histories.times.gpu}) {
-        trimmed = dropOldest(*history, limit) || trimmed;
-    }
-    return trimmed;
-}
 
 bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limit, Timestamp now,
                  double uptime) {

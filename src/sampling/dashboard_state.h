@@ -7,31 +7,9 @@
 
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
+#include "sampling/histories.h"
 
 namespace vantor {
-
-/// When each sample of a history was committed, in seconds of the machine's uptime: pauses and
-/// other intervals make the distances uneven.
-struct HistoryTimes {
-    std::vector<double> cpu;
-    std::vector<double> memory;
-    std::vector<double> network;  ///< of download and of upload
-    std::vector<double> gpu;
-
-    bool operator==(const HistoryTimes&) const = default;
-};
-
-/// The bounded series that the charts draw, each oldest first.
-struct Histories {
-    std::vector<double> cpu;       ///< total usage, 0 to 1
-    std::vector<double> memory;    ///< used fraction, 0 to 1
-    std::vector<double> download;  ///< bytes per second
-    std::vector<double> upload;
-    std::vector<double> gpu;  ///< utilization of one device, 0 to 1
-    HistoryTimes times;
-
-    bool operator==(const Histories&) const = default;
-};
 
 /// One counter per section, wrapping. A view redraws when its section's counter is not the one that
 /// it drew last.

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "sampling/commit.h"
+#include "sampling/histories.h"
 #include "sampling/system_monitor.h"
 
 /// The way in: results are collected in the pending update, and one commit shortly after the first

@@ -3,7 +3,7 @@
 #include "model/process_sample.h"
 #include "model/system_snapshot.h"
 
-namespace vantor::placeholders_test {
+namespace vantor::empty_records_test {
 namespace {
 
 // A new record is empty: tests of the tables of fields say so of every field.
@@ -50,4 +50,4 @@ TEST(Placeholders, AreBuiltOnceAndShared) {
 }
 
 }  // namespace
-}  // namespace vantor::placeholders_test
+}  // namespace vantor::empty_records_test
