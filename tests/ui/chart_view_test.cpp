@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QToolTip>
 
+#include <algorithm>
 #include <array>
 
 #include "ui/cards/cpu_card.h"
@@ -140,10 +141,22 @@ TEST_F(ChartViewTest, IsReadAloudWhileItIsReadByKey) {
 TEST_F(ChartViewTest, ItsHelpSaysWhatHeightAndWidthMean) {
     hover(chart, {20, 20});
     EXPECT_EQ(utf8(QToolTip::text()),
-              "The height is 0.0% to 100.0%. The width is the last 10 min 1 s.");
+              "The height is 0% to 100%. The width is the last 10 min 1 s.");
     QAccessibleInterface* const element = QAccessible::queryAccessibleInterface(&chart);
     EXPECT_EQ(utf8(element->text(QAccessible::Description)),
-              "75%, The height is 0.0% to 100.0%. The width is the last 10 min 1 s.");
+              "75%, The height is 0% to 100%. The width is the last 10 min 1 s.");
+    QToolTip::hideText();
+}
+
+TEST_F(ChartViewTest, ItsHelpDoesNotCoverIt) {
+    hover(chart, {20, 20});
+    const auto widgets = QApplication::topLevelWidgets();
+    const auto tip = std::ranges::find_if(widgets, [](const QWidget* widget) {
+        return widget->inherits("QTipLabel") && widget->isVisible();
+    });
+    ASSERT_NE(tip, widgets.end());
+    const QRect seen(chart.mapToGlobal(QPoint()), chart.size());
+    EXPECT_FALSE((*tip)->geometry().intersects(seen));
     QToolTip::hideText();
 }
 

@@ -182,6 +182,30 @@ TEST_P(Neighbours, HeaderCardsAndExplorerShareTheirEdges) {
     }
 }
 
+TEST_P(Neighbours, TheTableBeginsAndEndsWithWhatStandsAboveIt) {
+    for (const QSize size : {QSize(1280, 820), QSize(720, 560)}) {
+        open(size);
+        ProcessExplorerView& explorer = world.view->explorer();
+        const QRect table = onPicture(explorer.table());
+        // Of the rows alone, which have a symbol at one end and a bar at the other.
+        const QRect rows =
+            table.adjusted(0, static_cast<int>(40 * scale()), 0, -table.height() / 2);
+        int first = -1;
+        int last = -1;
+        for (int x = rows.left(); x <= rows.right(); ++x) {
+            for (int y = rows.top(); y <= rows.bottom(); ++y) {
+                if (distance(seen_.pixel(x, y), seen_.pixel(rows.left(), y)) <= 12) continue;
+                if (first < 0) first = x;
+                last = x;
+                break;
+            }
+        }
+        // The symbol's own edge is blurred.
+        EXPECT_NEAR(first, onPicture(explorer.filter()).left(), 2 * scale()) << size.width();
+        EXPECT_NEAR(last, onPicture(explorer.picker()).right(), scale()) << size.width();
+    }
+}
+
 class FirstScreen : public DashboardViewTest {
   protected:
     int bottomOf(QWidget& part) {
@@ -223,7 +247,8 @@ TEST_F(FirstScreen, AHighWindowShowsMoreProcesses) {
 TEST_F(FirstScreen, NoCardStandsAloneInALastRow) {
     const AdaptiveColumns columns;
     EXPECT_EQ(columns.balancedCount(2300, 6), 3) << "three and three, not five and one";
-    EXPECT_EQ(columns.balancedCount(1880, 6), 4);
+    EXPECT_EQ(columns.balancedCount(1880, 6), 3) << "three and three, not four and two";
+    EXPECT_EQ(columns.balancedCount(2100, 6), 4) << "three would not fill the width";
     EXPECT_EQ(columns.balancedCount(1400, 6), 3);
     EXPECT_EQ(columns.balancedCount(2700, 6), 6);
     EXPECT_EQ(columns.balancedCount(1240, 6), 2);

@@ -127,7 +127,7 @@ QString ChartView::heightHelp() const {
     if (const auto range = fixedRange()) {
         //: of a chart; both are values: 0 % and 100 %
         return translate("ChartView", "The height is %1 to %2.")
-            .arg(format_(range->first), format_(range->second));
+            .arg(Formatters::percent(range->first, 0), Formatters::percent(range->second, 0));
     }
     if (samples().empty()) {
         //: of a chart
@@ -202,7 +202,9 @@ void ChartView::paintLabel(ViewPainter& painter, const ChartReading& reading, do
 bool ChartView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), toolTipText(accessibleHelp()), this, rect());
+    // Below the chart: above it stands what is read there.
+    QToolTip::showText(mapToGlobal(QPoint(help->x(), height())), toolTipText(accessibleHelp()),
+                       this, rect());
     return true;
 }
 

@@ -56,6 +56,7 @@ class ChartView : public PaintedView {
 
   protected:
     virtual std::span<const double> samples() const = 0;
+    /// Of shares, 0 and 1; else the height is the smallest to the largest sample.
     virtual std::optional<std::pair<double, double>> fixedRange() const = 0;
     virtual QString newestText() const = 0;
     virtual QRectF chartArea() const = 0;

@@ -14,8 +14,7 @@ int AdaptiveColumns::balancedCount(double available, int items) const {
     if (columns < 3 || items <= columns) return columns;
     const int rows = (items + columns - 1) / columns;
     const int even = (items + rows - 1) / rows;
-    // What the even ones fill exactly is theirs: the used width of a width is used in the same way.
-    const bool isFilled = std::abs(even * (maximum + spacing) - spacing - available) < 1;
+    const bool isFilled = even * (maximum + spacing) - spacing > available - 1;
     return items % columns == 1 || isFilled ? even : columns;
 }
 

@@ -6,7 +6,6 @@ namespace vantor {
 
 namespace {
 
-constexpr double sideInset = 8;  // of the chosen row's background, beyond its texts
 constexpr double columnGap = 12;
 constexpr double iconWidth = 18;
 constexpr double iconGap = 8;

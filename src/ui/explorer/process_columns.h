@@ -7,6 +7,8 @@ namespace vantor {
 /// The columns of the process table. The figures stand at the trailing edge of their
 /// column's text part, so that their digits stand below each other.
 struct ProcessColumns {
+    /// Of the texts within a row, on both sides: the chosen row's background begins before them.
+    static constexpr double sideInset = 8;
     static constexpr double cpuBarWidth = 48;
     static constexpr double memoryBarWidth = 72;
 

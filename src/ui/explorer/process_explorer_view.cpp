@@ -9,6 +9,7 @@
 #include "ui/cards/process_mini_list.h"
 #include "ui/components/make_child.h"
 #include "ui/components/reveal.h"
+#include "ui/explorer/process_columns.h"
 #include "ui/theme.h"
 #include "ui/translate.h"
 #include "ui/typography.h"
@@ -25,6 +26,21 @@ DashboardCard explorerFrame() {
             translate("ProcessExplorer", "Live process activity"),
             QStringLiteral("list.bullet.rectangle"), VantorTheme::cyan()};
 }
+
+/// Reaches into the card's padding on both sides: the chosen row's background is wider than its
+/// texts, which begin and end where all else in the card does.
+class OutdentedStack : public QStackedLayout {
+  public:
+    void setGeometry(const QRect& area) override {
+        QStackedLayout::setGeometry(area.adjusted(-outdent, 0, outdent, 0));
+    }
+    QSize sizeHint() const override { return QStackedLayout::sizeHint() - both; }
+    QSize minimumSize() const override { return QStackedLayout::minimumSize() - both; }
+
+  private:
+    static constexpr int outdent = static_cast<int>(ProcessColumns::sideInset);
+    static constexpr QSize both{2 * outdent, 0};
+};
 
 }  // namespace
 
@@ -65,7 +81,7 @@ void ProcessExplorerView::build(const ProcessInfo& versions) {
     controls->addWidget(picker_);
     body().addLayout(controls);
 
-    content_ = makeInnerLayout<QStackedLayout>();
+    content_ = makeInnerLayout<OutdentedStack>();
     table_ = makeChild<ProcessTableView>(this, processSymbol(versions));
     table_->setActions({[this](SortMode mode) { picker_->choose(static_cast<int>(mode)); },
                         [this](const QString& name) { filter_->setText(name); }});
