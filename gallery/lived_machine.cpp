@@ -148,8 +148,11 @@ LivedDashboard::LivedDashboard(LivedMachine machine, ColorScheme scheme, int ste
           scheme, steps) {}
 
 int LivedDashboard::wholeHeight(int width) {
-    const auto* area = world_.view->findChild<QScrollArea*>();
-    return area->widget()->heightForWidth(width);
+    const QWidget& content = *world_.view->findChild<QScrollArea*>()->widget();
+    // A high window shows more rows, and so needs more height.
+    world_.view->resize(width, content.heightForWidth(width));
+    settleEvents();
+    return content.heightForWidth(width);
 }
 
 }  // namespace vantor

@@ -49,6 +49,38 @@ constexpr RunningFile runningFiles[]{
     {2488, "/usr/bin/wireplumber", 19, 0.008},
 };
 
+/// A recorded machine, and what of it moves.
+struct Recording {
+    const char* name;
+    const char* folder;
+    int link;  ///< that carries something
+    double activeKibibytes;
+    double availableKibibytes;
+    double movingKibibytes;            ///< of both
+    const char* processorTemperature;  ///< in /sys
+    const char* graphicsClient;        ///< in /proc; null where the driver counts by itself
+    const char* graphicsLoad;          ///< in /sys, where it does
+};
+
+constexpr Recording laptop{"linux-laptop",
+                           "laptop-two-batteries",
+                           3,
+                           4.4e6,
+                           9.3e6,
+                           2e6,
+                           "devices/platform/coretemp.0/hwmon/hwmon4/temp1_input",
+                           "2210/fdinfo/11",
+                           nullptr};
+constexpr Recording desktop{"linux-desktop",
+                            "desktop-disks-vpn",
+                            2,
+                            14e6,
+                            44.1e6,
+                            9e6,
+                            "devices/pci0000:00/0000:00:18.3/hwmon/hwmon2/temp1_input",
+                            nullptr,
+                            "devices/pci0000:00/0000:00:01.1/0000:03:00.0/gpu_busy_percent"};
+
 /// Between 0 and 1, smooth, and different for each `voice`.
 double curve(int step, int voice) {
     const double x = step * 0.19 + voice * 1.9;
@@ -74,7 +106,8 @@ void rewrite(const fs::path& path, const std::function<void(std::string& line)>&
 /// What a recorded computer does from step to step, written into its files.
 class RecordedLife {
   public:
-    explicit RecordedLife(const RecordedTree& tree) : tree_(tree) {
+    RecordedLife(const RecordedTree& tree, const Recording& recording)
+        : tree_(tree), recording_(recording) {
         for (const RunningFile& each : runningFiles)
             add(each);
         write(tree_.roots().proc / "uptime", "196323.25 1100402.11\n");
@@ -85,18 +118,15 @@ class RecordedLife {
         workProcesses(step);
         const fs::path proc = tree_.roots().proc;
         rewrite(proc / "meminfo", [&](std::string& line) {
-            const double use = curve(step, 7);
-            if (line.starts_with("Active:")) line = amount("Active:", 4.4e6 + 1.9e6 * use);
+            const double moved = recording_.movingKibibytes * curve(step, 7);
+            if (line.starts_with("Active:"))
+                line = amount("Active:", recording_.activeKibibytes + moved);
             if (line.starts_with("MemAvailable:"))
-                line = amount("MemAvailable:", 9.3e6 - 2.1e6 * use);
+                line = amount("MemAvailable:", recording_.availableKibibytes - moved);
         });
         rewrite(tree_.calls() / "links", [&](std::string& line) { carry(line, step); });
-        rewrite(proc / "2210" / "fdinfo" / "11", [&](std::string& line) {
-            rendered_ += static_cast<std::uint64_t>(1.1e7 * curve(step, 11));
-            if (line.starts_with("drm-engine-render:"))
-                line = "drm-engine-render:\t" + std::to_string(98'000'000'000 + rendered_) + " ns";
-        });
-        write(tree_.roots().sys / "devices/platform/coretemp.0/hwmon/hwmon4/temp1_input",
+        workGraphics(step);
+        write(tree_.roots().sys / recording_.processorTemperature,
               std::to_string(std::lround(58 + 9 * curve(step, 9)) * 1000) + '\n');
     }
 
@@ -126,9 +156,26 @@ class RecordedLife {
         write(tree_.roots().proc / std::to_string(file.pid) / "stat", text.str());
     }
 
+    void workGraphics(int step) {
+        const double load = curve(step, 11);
+        if (recording_.graphicsLoad) {
+            write(tree_.roots().sys / recording_.graphicsLoad,
+                  std::to_string(std::lround(8 + 60 * load * load)) + '\n');
+        }
+        if (!recording_.graphicsClient) return;
+        rewrite(tree_.roots().proc / recording_.graphicsClient, [&](std::string& line) {
+            rendered_ += static_cast<std::uint64_t>(1.1e7 * load);
+            if (line.starts_with("drm-engine-render:"))
+                line = "drm-engine-render:\t" + std::to_string(98'000'000'000 + rendered_) + " ns";
+        });
+    }
+
     void workProcessors(int step) const {
-        int index = -1;  // the first line is all of them together
-        rewrite(tree_.roots().proc / "stat", [&](std::string& line) {
+        const fs::path file = tree_.roots().proc / "stat";
+        int processors = -1;  // the first line is all of them together
+        rewrite(file, [&](const std::string& line) { processors += line.starts_with("cpu"); });
+        int index = -1;
+        rewrite(file, [&](std::string& line) {
             if (!line.starts_with("cpu")) return;
             std::istringstream words(line);
             std::string name;
@@ -136,7 +183,7 @@ class RecordedLife {
             words >> name >> user >> nice >> system >> idle;
             std::string rest;
             std::getline(words, rest);
-            const int count = index < 0 ? 8 : 1;
+            const int count = index < 0 ? processors : 1;
             for (int i = 0; i < count; ++i) {
                 const int voice = index < 0 ? i : index;
                 const double busy = voice < 2 ? 0.55 + 0.4 * curve(step, voice)
@@ -164,9 +211,9 @@ class RecordedLife {
         }
     }
 
-    /// The wireless link's line of counters, after what it carried.
-    static void carry(std::string& line, int step) {
-        if (!line.starts_with("3 ")) return;
+    /// The link's line of counters, after what it carried.
+    void carry(std::string& line, int step) const {
+        if (!line.starts_with(std::to_string(recording_.link) + ' ')) return;
         std::istringstream words(line);
         std::string index, name, flags;
         std::uint64_t received = 0, sent = 0;
@@ -182,6 +229,7 @@ class RecordedLife {
     }
 
     const RecordedTree& tree_;
+    const Recording& recording_;
     std::vector<double> spent_;
     std::uint64_t rendered_ = 0;
 };
@@ -215,14 +263,14 @@ class LivedRecording : public RecordedMachine {
     DaytimeClock daytime_;
 };
 
-std::unique_ptr<LivedDashboard> dashboardOf(const char* name, const char* recording,
-                                            ColorScheme scheme, int steps) {
-    const auto tree = std::make_shared<const RecordedTree>(recording);
+std::unique_ptr<LivedDashboard> dashboardOf(const Recording& recording, ColorScheme scheme,
+                                            int steps) {
+    const auto tree = std::make_shared<const RecordedTree>(recording.folder);
     const auto clock = std::make_shared<FakeClock>();
     const auto machine = std::make_shared<LivedRecording>(tree, clock);
-    const auto life = std::make_shared<RecordedLife>(*tree);
+    const auto life = std::make_shared<RecordedLife>(*tree, recording);
     return std::make_unique<LivedDashboard>(
-        LivedDashboard::Life{QString::fromLatin1(name), machine, clock,
+        LivedDashboard::Life{QString::fromLatin1(recording.name), machine, clock,
                              [tree, life](int step) { life->live(step); }},
         scheme, steps);
 }
@@ -231,7 +279,8 @@ std::unique_ptr<LivedDashboard> dashboardOf(const char* name, const char* record
 
 std::vector<std::unique_ptr<LivedDashboard>> recordedDashboards(ColorScheme scheme, int steps) {
     std::vector<std::unique_ptr<LivedDashboard>> dashboards;
-    dashboards.push_back(dashboardOf("linux-laptop", "laptop-two-batteries", scheme, steps));
+    for (const Recording* recording : {&laptop, &desktop})
+        dashboards.push_back(dashboardOf(*recording, scheme, steps));
     return dashboards;
 }
 
