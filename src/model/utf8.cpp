@@ -1,5 +1,6 @@
 #include "model/utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace vantor {
@@ -11,9 +12,12 @@ struct Sequence {
     bool isWhole = false;
 };
 
-/// The length of the first character, or of the bytes that could have begun one.
+/// The length of the first character, or of the bytes that could have begun one. There is a first
+/// byte.
 Sequence leadingSequence(std::string_view bytes) {
-    const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    // Not by the view's operator, which compares each index with the size once more.
+    const char* const data = bytes.data();
+    const auto at = [data](std::size_t i) { return static_cast<unsigned char>(data[i]); };
     const unsigned char lead = at(0);
     if (lead < 0x80) return {1, true};
     if (lead < 0xC2 || lead > 0xF4) return {1, false};
@@ -34,12 +38,15 @@ Sequence leadingSequence(std::string_view bytes) {
 }  // namespace
 
 bool isUTF8(std::string_view bytes) {
-    while (!bytes.empty()) {
+    const auto isASCII = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    while (true) {
+        const auto other = std::find_if_not(bytes.begin(), bytes.end(), isASCII);
+        bytes.remove_prefix(static_cast<std::size_t>(other - bytes.begin()));
+        if (bytes.empty()) return true;
         const Sequence sequence = leadingSequence(bytes);
         if (!sequence.isWhole) return false;
         bytes.remove_prefix(sequence.length);
     }
-    return true;
 }
 
 std::string_view validUTF8(std::string_view bytes, std::string& mended) {

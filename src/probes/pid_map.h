@@ -44,7 +44,7 @@ class PIDMap {
     const Value* find(std::int32_t pid) const {
         if (size_ == 0) return nullptr;
         const std::size_t place = placeOf(pid);
-        return keys_[place] == pid ? &values_[place] : nullptr;
+        return keys_.data()[place] == pid ? values_.data() + place : nullptr;
     }
     bool contains(std::int32_t pid) const { return find(pid) != nullptr; }
 
@@ -52,12 +52,14 @@ class PIDMap {
     Value& operator[](std::int32_t pid) {
         if (size_ + 1 > capacity()) rebuild(placesFor(size_ + 1));
         const std::size_t place = placeOf(pid);
-        if (keys_[place] != pid) {
-            keys_[place] = pid;
-            values_[place] = Value{};
+        std::int32_t& key = keys_.data()[place];
+        Value& value = values_.data()[place];
+        if (key != pid) {
+            key = pid;
+            value = Value{};
             ++size_;
         }
-        return values_[place];
+        return value;
     }
 
     void erase(std::int32_t pid) {
@@ -114,9 +116,13 @@ class PIDMap {
 
     /// Where `pid` is, or the gap where it would be put.
     std::size_t placeOf(std::int32_t pid) const {
+        // By the pointer: masked, a place is always within, and an operator that checks it takes
+        // longer than the comparison.
+        const std::int32_t* const keys = keys_.data();
+        const std::size_t mask = keys_.size() - 1;
         std::size_t place = homeOf(pid);
-        while (keys_[place] != 0 && keys_[place] != pid)
-            place = after(place);
+        while (keys[place] != 0 && keys[place] != pid)
+            place = (place + 1) & mask;
         return place;
     }
 

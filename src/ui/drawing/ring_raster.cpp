@@ -6,6 +6,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "ui/drawing/bounded.h"
+
 namespace vantor {
 
 namespace {
@@ -51,7 +53,7 @@ class Band {
 
     /// All arguments are relative to the ring's center.
     double covered(double distance) const {
-        return std::clamp(reach_ - std::abs(distance - radius_), 0.0, 1.0);
+        return bounded(reach_ - std::abs(distance - radius_), 0.0, 1.0);
     }
     double lit(QPointF place, double covered) const {
         if (isEmpty_) return 0;
