@@ -13,7 +13,7 @@ vantor_add_tests(model_tests LABEL core LIBRARIES vantor_record_coding SOURCES
     model/utf8_test.cpp)
 
 vantor_add_tests(probes_tests LABEL core SOURCES
-    probes/address_rules_test.cpp
+    probes/interface_rules_test.cpp
     probes/cpu_reader_cores_test.cpp
     probes/cpu_reader_identity_test.cpp
     probes/cpu_reader_test.cpp

@@ -1,16 +1,12 @@
 #include "probes/interface_accumulators.h"
 
-#include "probes/address_rules.h"
+#include "probes/interface_rules.h"
 
 namespace vantor {
 
 namespace {
 
 using InterfaceRecord = NetworkInterfaces::Record;
-
-bool isEligible(const InterfaceRecord& record) {
-    return record.isUp && record.isRunning && !record.isLoopback;
-}
 
 void takeCounters(InterfaceAccumulator& to, const InterfaceRecord& record) {
     if (record.counters) {

@@ -11,7 +11,7 @@ namespace vantor {
 
 /// How long results are collected before they are committed together, so that a tick redraws the
 /// dashboard once instead of eight times.
-inline constexpr std::chrono::nanoseconds commitDelay{30'000'000};
+inline constexpr std::chrono::milliseconds commitDelay{30};
 
 /// Folds `update` into `state` and stamps it with `now`, and its new samples with
 /// `uptime`, seconds; false when nothing changed (the state's timestamp is then not worth

@@ -23,7 +23,7 @@ namespace {
 constexpr double powerPadding = 10;
 constexpr double powerSymbolSide = 20;
 constexpr double powerSymbolGap = 9;
-constexpr double low = 0.2;
+constexpr double lowCharge = 0.2;
 constexpr double middling = 0.4;
 
 constexpr TextStyle powerTextStyle{Typography::caption, QFont::Medium};
@@ -46,7 +46,7 @@ QString timeText(std::int64_t minutes) {
 
 QColor PowerBlock::chargeColor(const std::optional<PowerStats>& power) {
     if (!power) return VantorTheme::green();
-    if (power->chargeFraction < low) return VantorTheme::red();
+    if (power->chargeFraction < lowCharge) return VantorTheme::red();
     if (power->chargeFraction < middling) return VantorTheme::orange();
     return VantorTheme::green();
 }

@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 // Thousandths of a degree. Beyond them are the numbers of broken sensors, which must not pass for
-// the processorSensorHottest one.
+// the hottest one.
 constexpr std::int64_t processorSensorColdest = -20'000;
 constexpr std::int64_t processorSensorHottest = 150'000;
 

@@ -1,4 +1,4 @@
-#include "probes/address_rules.h"
+#include "probes/interface_rules.h"
 
 #include <arpa/inet.h>
 
@@ -7,6 +7,10 @@
 #include <cstdint>
 
 namespace vantor {
+
+bool isEligible(const NetworkInterfaces::Record& record) {
+    return record.isUp && record.isRunning && !record.isLoopback;
+}
 
 bool isIPv4LinkLocal(const char* address) {
     std::array<std::uint8_t, 4> bytes{};

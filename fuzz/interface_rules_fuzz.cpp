@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "probes/address_rules.h"
+#include "probes/interface_rules.h"
 
 #include "require.h"
 

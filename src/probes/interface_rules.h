@@ -3,10 +3,17 @@
 #include <string>
 #include <string_view>
 
+#include "platform/network_interfaces.h"
+
+/// Which interfaces are shown, and which of their addresses. Pure functions.
 namespace vantor {
 
+/// Whether an interface is measured and listed at all: up, running, and not the loopback. (Those
+/// that lead from point to point are left out later, where the settings say so.)
+bool isEligible(const NetworkInterfaces::Record& record);
+
 /// Whether a numeric IPv4 address is one that a machine gives itself when nobody else does
-/// (169.254.0.0/16). Pure, as the others here.
+/// (169.254.0.0/16).
 bool isIPv4LinkLocal(const char* address);
 
 /// The same for IPv6 (fe80::/10); a "%scope" at the end does not matter.

@@ -1,12 +1,28 @@
-#include "probes/address_rules.h"
+#include "probes/interface_rules.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-namespace vantor::address_rules_test {
+namespace vantor::interface_rules_test {
 namespace {
+
+TEST(InterfaceRules, ListedIsWhatIsUpAndRunningAndNotTheLoopback) {
+    NetworkInterfaces::Record record;
+    record.isUp = record.isRunning = true;
+    EXPECT_TRUE(isEligible(record));
+    record.isPointToPoint = true;
+    EXPECT_TRUE(isEligible(record)) << "the settings decide about those";
+    record.isLoopback = true;
+    EXPECT_FALSE(isEligible(record));
+    record.isLoopback = false;
+    record.isRunning = false;
+    EXPECT_FALSE(isEligible(record));
+    record.isRunning = true;
+    record.isUp = false;
+    EXPECT_FALSE(isEligible(record));
+}
 
 TEST(AddressRules, IPv4LinkLocalIsAllOf169254AndNothingElse) {
     for (const char* address : {"169.254.0.0", "169.254.1.2", "169.254.255.255"})
@@ -66,4 +82,4 @@ TEST(AddressRules, ALinkLocalIPv6AddressIsTakenOnlyWhereThereIsNone) {
 }
 
 }  // namespace
-}  // namespace vantor::address_rules_test
+}  // namespace vantor::interface_rules_test
