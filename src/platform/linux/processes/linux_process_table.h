@@ -20,10 +20,10 @@ namespace vantor {
 /// The CPU clock of every process is read at each pass. Its stat file is opened only when it is new
 /// or its clock has moved: one that did not run did not grow. The kernel may still take memory from
 /// a sleeping process, so that figure is read again when it is five seconds old (spread, so that no
-/// pass has to read them all); it
-/// is always that of statm, because stat's is not exact. Times are nanoseconds. Where there are no
-/// clocks (a recorded machine, another pid namespace), stat is read for all, with its hundredths of
-/// a second.
+/// pass has to read them all; of more than 2,000 processes those below 16 MiB wait until they are
+/// 400 a second, at most half a minute); it is always that of statm, because stat's is not exact.
+/// Times are nanoseconds. Where there are no clocks (a recorded machine, another pid namespace),
+/// stat is read for all, with its hundredths of a second.
 class LinuxProcessTable : public ProcessTable {
   public:
     LinuxProcessTable(const LinuxRoots& roots, std::shared_ptr<ProcessClocks> clocks);
@@ -58,6 +58,7 @@ class LinuxProcessTable : public ProcessTable {
     bool update(Known& known, std::optional<std::uint64_t> clock, std::uint64_t& counted);
     bool readStat(Known& known, std::uint64_t& counted);  // by the kernel's ticks, in nanoseconds
     bool readResident(Known& known);
+    double residentPeriodOf(const Known& known) const;
     std::string_view kernelName(std::int32_t pid);
     int claimedPath(std::int32_t pid, std::span<char> buffer);
     int completedName(std::int32_t pid, std::span<char> buffer, std::size_t count);

@@ -159,6 +159,39 @@ TEST_F(LinuxProcessTableTest, TheSizeOfASleeperIsRenewedAtTheLatestWhenItIsFiveS
     }
 }
 
+TEST_F(LinuxProcessTableTest, OfThousandsOfSleepersTheSmallOnesWaitForLongerAndTheLargeOnesDoNot) {
+    constexpr std::int32_t small = 2015;  // both are first renewed after a whole period
+    constexpr std::int32_t large = 2031;
+    const std::uint64_t manyPages = (std::uint64_t{16} << 20U) / pageSize;
+    for (std::int32_t pid = 1000; pid < 4000; ++pid)
+        tree.proc(file(pid, "comm"), "sleeper\n");
+    start(small);
+    start(large, {.residentPages = manyPages});
+    pagesAfter(0, small);
+    info(large);
+    for (int renewal = 0; renewal < 2; ++renewal) {
+        SCOPED_TRACE(renewal);
+        const std::uint64_t pages = pagesAfter(0, small);
+        add(small, {.residentPages = pages + 1});
+        add(large, {.residentPages = manyPages + pages + 1});
+        EXPECT_EQ(pagesAfter(5.01, small), pages);
+        EXPECT_EQ(info(large)->residentSize, (manyPages + pages + 1) * pageSize);
+        EXPECT_EQ(pagesAfter(2.48, small), pages) << "3,000 of them, 400 a second";
+        EXPECT_EQ(pagesAfter(0.02, small), pages + 1);
+    }
+}
+
+TEST_F(LinuxProcessTableTest, NoSizeIsOlderThanHalfAMinute) {
+    constexpr std::int32_t sleeper = 2015;
+    for (std::int32_t pid = 1000; pid < 14000; ++pid)
+        tree.proc(file(pid, "comm"), "sleeper\n");
+    start(sleeper);
+    pagesAfter(0, sleeper);
+    add(sleeper, {.residentPages = 2});
+    EXPECT_EQ(pagesAfter(29.99, sleeper), 10U);
+    EXPECT_EQ(pagesAfter(0.02, sleeper), 2U);
+}
+
 TEST_F(LinuxProcessTableTest, SleepersSeenTogetherAreNotRenewedTogether) {
     for (std::int32_t pid = 160; pid < 176; ++pid)
         start(pid);
