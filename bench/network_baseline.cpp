@@ -64,7 +64,11 @@ NetworkBaseline::~NetworkBaseline() {
 }
 
 std::size_t NetworkBaseline::pass() {
-    return receiveList(LinkRequest{}) + receiveList(AddressRequest{});
+    return links() + receiveList(AddressRequest{});
+}
+
+std::size_t NetworkBaseline::links() {
+    return receiveList(LinkRequest{});
 }
 
 template <class Request>

@@ -19,6 +19,9 @@ class NetworkBaseline {
     /// Both lists; gives how many bytes they were.
     std::size_t pass();
 
+    /// The links alone, with their counters; gives how many bytes they were.
+    std::size_t links();
+
     /// /proc/net/route, from a file that is kept open; gives how many bytes it was.
     std::size_t readRoutes();
 

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace vantor::bench {
@@ -13,6 +14,9 @@ class SleepingChildren {
     SleepingChildren(const SleepingChildren&) = delete;
     SleepingChildren& operator=(const SleepingChildren&) = delete;
     ~SleepingChildren();
+
+    /// Fewer than wanted where the system allows no more.
+    std::size_t count() const { return pids_.size(); }
 
   private:
     std::vector<pid_t> pids_;

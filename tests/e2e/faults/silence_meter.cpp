@@ -48,7 +48,7 @@ SilenceMeter::SilenceMeter(const std::string& display, std::vector<Subject> subj
     const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(connection_.get(), root_, XCB_CW_EVENT_MASK, &events);
     for (const Subject& subject : subjects)
-        watched_.push_back({subject, {}, 0, 0});
+        watched_.push_back({subject, {}, 0, 0, 0});
     thread_ = std::thread([this] { run(); });
 }
 
@@ -89,9 +89,13 @@ void SilenceMeter::take(const xcb_client_message_event_t& answer) {
         if (each.subject.window != answer.data.data32[2]) continue;
         const auto question = each.open.find(answer.data.data32[1]);
         if (question == each.open.end()) return;
-        const double waited = waitedForProcessor(each.subject.process) - question->second.waited;
-        const double silence = at - question->second.asked - std::max(0.0, waited);
-        each.longest = std::max(each.longest, silence);
+        const double waited = std::max(
+            0.0, waitedForProcessor(each.subject.process) - question->second.waited);
+        const double silence = at - question->second.asked - waited;
+        if (silence > each.longest) {
+            each.longest = silence;
+            each.waitInLongest = waited;
+        }
         ++each.answers;
         each.open.erase(question);
     }
@@ -141,6 +145,14 @@ std::vector<double> SilenceMeter::longestSilences() {
         longest.push_back(silence * 1000);
     }
     return longest;
+}
+
+std::vector<double> SilenceMeter::waits() const {
+    const std::lock_guard lock(mutex_);
+    std::vector<double> waits;
+    for (const Watched& each : watched_)
+        waits.push_back(each.waitInLongest * 1000);
+    return waits;
 }
 
 std::vector<int> SilenceMeter::answers() const {

@@ -41,6 +41,9 @@ class SilenceMeter {
     /// not been answered counts with its age.
     std::vector<double> longestSilences();
 
+    /// Milliseconds that were taken off each of these, because others had the processor.
+    std::vector<double> waits() const;
+
     /// How many questions each has answered.
     std::vector<int> answers() const;
 
@@ -52,7 +55,8 @@ class SilenceMeter {
     struct Watched {
         Subject subject;
         std::map<std::uint32_t, Question> open;
-        double longest = 0;  ///< seconds
+        double longest = 0;        ///< seconds
+        double waitInLongest = 0;  ///< seconds
         int answers = 0;
     };
     struct Disconnect {
