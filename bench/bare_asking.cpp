@@ -9,9 +9,10 @@
 #include <string_view>
 #include <thread>
 
-#include "network_baseline.h"
 #include "platform/linux/processes/pid_listing.h"
 #include "platform/linux/processes/process_clocks.h"
+
+#include "network_baseline.h"
 #include "sleeping_children.h"
 
 /// `bare_asking KIND [ROUNDS]`: what the kernel takes to answer the questions that the program puts

@@ -137,6 +137,13 @@ def said(*command):
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
 
 
+def bare_percent(asking):
+    asked = said(BENCHMARKS + "/bare_asking", asking).split()
+    if not asked:
+        sys.exit("scale: the kernel did not answer")
+    return 100 * float(asked[0]) / INTERVAL
+
+
 def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("scale: ended"))
     folder = tempfile.mkdtemp(prefix="vantor-scale-")
@@ -144,19 +151,19 @@ def main():
     try:
         crowd = Crowd(folder)
         time.sleep(2)
-        asked = said(BENCHMARKS + "/bare_asking", ASKING).split()
-        if not asked:
-            sys.exit("scale: the kernel did not answer")
+        bare = bare_percent(ASKING)
+        # The program lists /proc every half a minute only.
+        clocks = "%.3f" % bare_percent("known-clocks") if KIND == "processes" else "-"
         program = Program(folder)
         try:
             time.sleep(SETTLING)
             whole, main_thread = program.shares()
             memory = program.memory()
-            silence, taken_off = program.silence()
+            silence, others = program.silence()
         finally:
             program.end()
-        print("%s\t%d\t%.3f\t%.3f\t%.3f\t%d\t%.1f\t%.1f" % (
-            KIND, COUNT, whole, main_thread, 100 * float(asked[0]) / INTERVAL, memory, silence, taken_off))
+        print("%s\t%d\t%.3f\t%.3f\t%.3f\t%s\t%d\t%.1f\t%.1f" % (
+            KIND, COUNT, whole, main_thread, bare, clocks, memory, silence, others))
     finally:
         if crowd:
             crowd.end()

@@ -89,8 +89,8 @@ void SilenceMeter::take(const xcb_client_message_event_t& answer) {
         if (each.subject.window != answer.data.data32[2]) continue;
         const auto question = each.open.find(answer.data.data32[1]);
         if (question == each.open.end()) return;
-        const double waited = std::max(
-            0.0, waitedForProcessor(each.subject.process) - question->second.waited);
+        const double waited =
+            std::max(0.0, waitedForProcessor(each.subject.process) - question->second.waited);
         const double silence = at - question->second.asked - waited;
         if (silence > each.longest) {
             each.longest = silence;
