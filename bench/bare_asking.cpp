@@ -3,12 +3,16 @@
 
 #include <array>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <thread>
 
+#include "platform/file_descriptor.h"
 #include "platform/linux/processes/pid_listing.h"
 #include "platform/linux/processes/process_clocks.h"
 
