@@ -17,6 +17,7 @@
 #include "platform/linux/processes/process_clocks.h"
 
 #include "network_baseline.h"
+#include "processor_time.h"
 #include "sleeping_children.h"
 
 /// `bare_asking KIND [ROUNDS]`: what the kernel takes to answer the questions that the program puts
@@ -25,7 +26,7 @@
 /// brought, so that a table of nothing is noticed.
 ///
 /// KIND is "clocks" (list /proc and read the CPU clock of every process), "known-clocks" (the
-/// clocks alone, of the processes of one listing), "links" (dump all links with their counters) or
+/// clocks alone, of the processes of one listing), "links" (dump the counters of all links) or
 /// "mounts" (read /proc/self/mountinfo).
 namespace vantor::bench {
 namespace {
@@ -67,7 +68,7 @@ std::size_t readMounts() {
 Asking askingFor(std::string_view kind) {
     if (kind == "mounts") return readMounts;
     if (kind == "links") {
-        return [baseline = std::make_shared<NetworkBaseline>()] { return baseline->links(); };
+        return [baseline = std::make_shared<NetworkBaseline>()] { return baseline->counters(); };
     }
     const auto clocks = std::make_shared<Clocks>();
     if (kind == "clocks") return [clocks] { return clocks->list() ? clocks->read() : 0; };

@@ -25,6 +25,10 @@ struct LinkRequest {
     rtattr attribute{sizeof(rtattr) + sizeof(std::uint32_t), IFLA_EXT_MASK};
     std::uint32_t mask = RTEXT_FILTER_SKIP_STATS;
 };
+struct CountersRequest {
+    nlmsghdr header{sizeof(CountersRequest), RTM_GETSTATS, NLM_F_REQUEST | NLM_F_DUMP, 1, 0};
+    if_stats_msg body{0, 0, 0, 0, IFLA_STATS_FILTER_BIT(IFLA_STATS_LINK_64)};
+};
 struct AddressRequest {
     nlmsghdr header{sizeof(AddressRequest), RTM_GETADDR, NLM_F_REQUEST | NLM_F_DUMP, 1, 0};
     ifaddrmsg body{};
@@ -64,11 +68,11 @@ NetworkBaseline::~NetworkBaseline() {
 }
 
 std::size_t NetworkBaseline::pass() {
-    return links() + receiveList(AddressRequest{});
+    return receiveList(LinkRequest{}) + receiveList(AddressRequest{});
 }
 
-std::size_t NetworkBaseline::links() {
-    return receiveList(LinkRequest{});
+std::size_t NetworkBaseline::counters() {
+    return receiveList(CountersRequest{});
 }
 
 template <class Request>

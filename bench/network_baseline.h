@@ -5,10 +5,10 @@
 
 namespace vantor::bench {
 
-/// The least that anyone who wants the interfaces with their counters and addresses must do: ask
-/// the kernel for both lists over a socket that is kept, receive them, and now and then read the
-/// routes. Nothing is looked at but where a list ends. What a reader costs beyond this is its own
-/// doing.
+/// What the kernel takes to tell of the interfaces: their counters alone, which change all the
+/// time, or the lists of links and addresses as well, each over a socket that is kept, and now and
+/// then the routes. Nothing is looked at but where a list ends. What a reader costs beyond the
+/// counters is its own doing.
 class NetworkBaseline {
   public:
     NetworkBaseline();
@@ -19,8 +19,8 @@ class NetworkBaseline {
     /// Both lists; gives how many bytes they were.
     std::size_t pass();
 
-    /// The links alone, with their counters; gives how many bytes they were.
-    std::size_t links();
+    /// The counters alone; gives how many bytes they were.
+    std::size_t counters();
 
     /// /proc/net/route, from a file that is kept open; gives how many bytes it was.
     std::size_t readRoutes();

@@ -83,6 +83,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/files/kernel_file_test.cpp
         platform/linux/files/kernel_list_file_test.cpp
         platform/linux/network/link_messages_test.cpp
+        platform/linux/network/link_notices_test.cpp
         platform/linux/network/link_source_test.cpp
         platform/linux/graphics/linux_accelerators_test.cpp
         platform/posix/libc_name_order_test.cpp

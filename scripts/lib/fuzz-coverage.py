@@ -27,7 +27,7 @@ PARSERS_AMONG_READERS = {
     "src/platform/linux/memory/zram_devices.cpp": ["parseZramUsedBytes"],
     "src/platform/linux/network/link_source.cpp": [
         "readName", "readCounters<unsigned int>", "readCounters<unsigned long>", "parseLink",
-        "parseAddress"],
+        "parseLinkCounters", "parseAddress"],
     "src/platform/linux/network/route_source.cpp": ["numberIn", "firstHop", "parseRoute"],
     "src/platform/linux/power/low_power_mode.cpp": ["isQuietTheLowestOf"],
     "src/platform/linux/processor/cpu_identity.cpp": ["findInCPUInfo", "frequencyInName"],

@@ -62,6 +62,12 @@ inline Bytes linkHeader(int index, unsigned flags) {
     return bytesOf(header);
 }
 
+inline Bytes statisticsHeader(std::uint32_t index) {
+    if_stats_msg header{};
+    header.ifindex = index;
+    return bytesOf(header);
+}
+
 /// Packets, packets, bytes, bytes, and what kernels have added since.
 template <class Counter>
 Bytes linkCounters(Counter received, Counter sent, std::size_t count = 24) {

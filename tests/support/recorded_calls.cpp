@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <span>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
@@ -100,6 +101,9 @@ class RecordedLinks : public LinkSource {
             return true;
         });
     }
+
+    bool mayHaveChanged() override { return true; }
+    bool counters(std::span<Link>) override { return false; }
 
     bool addresses(std::vector<Address>& list) override {
         list.clear();

@@ -23,6 +23,10 @@ struct LinkRequest {
     rtattr attribute{};
     std::uint32_t mask = 0;
 };
+struct CountersRequest {
+    nlmsghdr header{};
+    if_stats_msg body{};
+};
 struct AddressRequest {
     nlmsghdr header{};
     ifaddrmsg body{};
@@ -37,6 +41,13 @@ LinkRequest linkRequest() {
     request.attribute.rta_len = sizeof request.attribute + sizeof request.mask;
     request.attribute.rta_type = IFLA_EXT_MASK;
     request.mask = RTEXT_FILTER_SKIP_STATS;
+    return request;
+}
+
+CountersRequest countersRequest() {
+    CountersRequest request;
+    request.header.nlmsg_type = RTM_GETSTATS;
+    request.body.filter_mask = IFLA_STATS_FILTER_BIT(IFLA_STATS_LINK_64);
     return request;
 }
 
@@ -95,9 +106,51 @@ struct AddressReceiver : NetlinkDump::Receiver {
     std::vector<LinkSource::Address>& list;
 };
 
+/// Puts counters to links that are known. The kernel lists both in one order, so that a link is
+/// found behind the one before.
+struct CountersReceiver : NetlinkDump::Receiver {
+    explicit CountersReceiver(std::span<LinkSource::Link> l) : list(l) {}
+
+    void restart() override {
+        next = 0;
+        found = 0;
+        isOther = false;
+    }
+    bool take(std::uint16_t type, std::span<const std::byte> payload) override {
+        if (type != RTM_NEWSTATS) return true;
+        LinkSource::Link link;
+        if (!parseLinkCounters(payload, link)) return false;
+        const auto isIt = [&](const LinkSource::Link& known) { return known.index == link.index; };
+        const auto start = list.begin() + static_cast<std::ptrdiff_t>(next);
+        auto place = std::find_if(start, list.end(), isIt);
+        bool isKnown = place != list.end();
+        if (!isKnown) {
+            place = std::find_if(list.begin(), start, isIt);
+            isKnown = place != start;
+        }
+        isOther = isOther || !isKnown;
+        if (!isKnown) return true;
+        place->receivedBytes = link.receivedBytes;
+        place->sentBytes = link.sentBytes;
+        next = static_cast<std::size_t>(place - list.begin()) + 1;
+        ++found;
+        return true;
+    }
+    bool isWhole() const { return !isOther && found == list.size(); }
+
+    std::span<LinkSource::Link> list;
+    std::size_t next = 0;  // where the next one is expected
+    std::size_t found = 0;
+    bool isOther = false;  // one came that is not in the list
+};
+
+// A kernel that has answered none of so many questions is too old for them.
+constexpr int fewRefusals = 3;
+
 class LiveLinkSource : public LinkSource {
   public:
-    explicit LiveLinkSource(NetlinkDump::OpenSocket openSocket) : dump_(std::move(openSocket)) {}
+    LiveLinkSource(NetlinkDump::OpenSocket openSocket, LinkNotices::OpenSocket openNotices)
+        : dump_(std::move(openSocket)), notices_(std::move(openNotices)) {}
 
     bool links(std::vector<Link>& list) override {
         LinkRequest request = linkRequest();
@@ -110,8 +163,23 @@ class LiveLinkSource : public LinkSource {
         return dump_.dump(std::as_writable_bytes(std::span{&request, 1}), receiver);
     }
 
+    bool mayHaveChanged() override { return notices_.take(); }
+    bool counters(std::span<Link> list) override {
+        if (refusals_ >= fewRefusals) return false;
+        CountersRequest request = countersRequest();
+        CountersReceiver receiver(list);
+        if (!dump_.dump(std::as_writable_bytes(std::span{&request, 1}), receiver)) {
+            ++refusals_;
+            return false;
+        }
+        refusals_ = 0;
+        return receiver.isWhole();
+    }
+
   private:
     NetlinkDump dump_;
+    LinkNotices notices_;
+    int refusals_ = 0;  // of counters, since they were last had
 };
 
 }  // namespace
@@ -138,6 +206,19 @@ bool parseLink(NetlinkBytes payload, LinkSource::Link& link) {
         });
 }
 
+bool parseLinkCounters(NetlinkBytes payload, LinkSource::Link& link) {
+    const auto header = readNetlink<if_stats_msg>(payload);
+    if (!header) return false;
+    link.index = header->ifindex;
+    link.hasCounters = false;
+    const bool isWhole = forEachNetlinkAttribute(pastNetlink(payload, sizeof(if_stats_msg)),
+                                                 [&](int type, NetlinkBytes value) {
+                                                     if (type == IFLA_STATS_LINK_64)
+                                                         readCounters<std::uint64_t>(value, link);
+                                                 });
+    return isWhole && link.hasCounters;
+}
+
 AddressVerdict parseAddress(NetlinkBytes payload, LinkSource::Address& address) {
     const auto header = readNetlink<ifaddrmsg>(payload);
     if (!header) return AddressVerdict::malformed;
@@ -161,8 +242,9 @@ AddressVerdict parseAddress(NetlinkBytes payload, LinkSource::Address& address) 
     return AddressVerdict::address;
 }
 
-std::shared_ptr<LinkSource> makeLiveLinkSource(NetlinkDump::OpenSocket openSocket) {
-    return std::make_shared<LiveLinkSource>(std::move(openSocket));
+std::shared_ptr<LinkSource> makeLiveLinkSource(NetlinkDump::OpenSocket openSocket,
+                                               LinkNotices::OpenSocket openNotices) {
+    return std::make_shared<LiveLinkSource>(std::move(openSocket), std::move(openNotices));
 }
 
 }  // namespace vantor

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/linux/network/link_notices.h"
 #include "platform/linux/network/netlink_dump.h"
 
 namespace vantor {
@@ -38,12 +39,24 @@ class LinkSource {
     /// Replaces the content of the list, whose storage is reused; false when the call failed.
     virtual bool links(std::vector<Link>& list) = 0;
     virtual bool addresses(std::vector<Address>& list) = 0;
+
+    /// Whether links or addresses may be others than they were at the last call, which is then to
+    /// be found out by the lists. True at the first call.
+    virtual bool mayHaveChanged() = 0;
+
+    /// The byte counts of these links anew, and nothing else of them: by far cheaper than `links`.
+    /// False, with any counts, when they cannot be had so, or when the kernel has other links.
+    virtual bool counters(std::span<Link> list) = 0;
 };
 
 /// Reads the payload of an RTM_NEWLINK: index, name, flags, and the 64-bit counters or else the
 /// 32-bit ones. False when it is cut or malformed. A name that no link can have comes out empty.
 /// Pure; replaces all of `link`, reusing its storage.
 bool parseLink(std::span<const std::byte> payload, LinkSource::Link& link);
+
+/// Reads the payload of an RTM_NEWSTATS: index and 64-bit counters, the other members stay. False
+/// when it is cut or malformed, or has no such counters. Pure.
+bool parseLinkCounters(std::span<const std::byte> payload, LinkSource::Link& link);
 
 enum class AddressVerdict { address, notOurs, malformed };
 
@@ -52,8 +65,10 @@ enum class AddressVerdict { address, notOurs, malformed };
 /// address without its bytes. Pure; replaces all of `address`.
 AddressVerdict parseAddress(std::span<const std::byte> payload, LinkSource::Address& address);
 
-/// From netlink, over a socket that is opened when first asked and kept.
+/// From netlink, over sockets that are opened when first asked and kept. Counters by themselves
+/// come from Linux 4.7 on.
 std::shared_ptr<LinkSource> makeLiveLinkSource(
-    NetlinkDump::OpenSocket openSocket = NetlinkDump::openRouteSocket);
+    NetlinkDump::OpenSocket openSocket = NetlinkDump::openRouteSocket,
+    LinkNotices::OpenSocket openNotices = LinkNotices::openGroupSocket);
 
 }  // namespace vantor

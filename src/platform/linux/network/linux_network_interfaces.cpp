@@ -13,6 +13,8 @@ namespace {
 
 using InterfaceList = NetworkInterfaces::List;
 
+constexpr int readingsPerWholeOne = 60;
+
 bool isLinkLocal(const LinkSource::Address& address) {
     return address.isIPv6 && address.bytes[0] == 0xFE && (address.bytes[1] & 0xC0) == 0x80;
 }
@@ -53,20 +55,44 @@ void addAddress(const LinkSource::Address& address, NetworkInterfaces::Record& r
 }  // namespace
 
 bool LinuxNetworkInterfaces::read(List& list) {
+    // Asked first: what changes from here on is found by the next reading.
+    const bool mayBeOthers = source_->mayHaveChanged() || !isKnown_;
+    const bool isDue = ++readingsSinceAll_ >= readingsPerWholeOne;
+    if (!mayBeOthers && !isDue && source_->counters(links_)) {
+        takeCounters();
+    } else {
+        readingsSinceAll_ = 0;
+        isKnown_ = readAll();
+    }
+    if (!isKnown_) return false;
+    list.clear();
+    for (const Record& record : known_)
+        list.add() = record;
+    return true;
+}
+
+bool LinuxNetworkInterfaces::readAll() {
     if (!source_->links(links_) || !source_->addresses(addresses_)) return false;
     const auto hasCounters = [](const LinkSource::Link& link) { return link.hasCounters; };
     if (std::none_of(links_.begin(), links_.end(), hasCounters)) return false;
-    list.clear();
+    known_.clear();
     for (const LinkSource::Link& link : links_)
-        addLink(link, list);
+        addLink(link, known_);
     std::size_t place = 0;
     for (const LinkSource::Address& address : addresses_) {
-        const std::size_t found = placeOf(address.index, place, list);
-        if (found == list.size()) continue;
+        const std::size_t found = placeOf(address.index, place, known_);
+        if (found == known_.size()) continue;
         place = found;
-        addAddress(address, list[place]);
+        addAddress(address, known_[place]);
     }
     return true;
+}
+
+void LinuxNetworkInterfaces::takeCounters() {
+    for (std::size_t place = 0; place < links_.size(); ++place) {
+        const LinkSource::Link& link = links_[place];
+        if (link.hasCounters) known_[place].counters = {link.receivedBytes, link.sentBytes};
+    }
 }
 
 }  // namespace vantor

@@ -11,7 +11,9 @@
 namespace vantor {
 
 /// Interfaces and their addresses from one dump each of the kernel's, so that names, flags and
-/// counters are of one moment. An address whose link has come since is not there yet.
+/// counters are of one moment. An address whose link has come since is not there yet. While the
+/// kernel tells of no change, the counters alone are asked for; every sixtieth reading asks for all
+/// the same.
 class LinuxNetworkInterfaces : public NetworkInterfaces {
   public:
     explicit LinuxNetworkInterfaces(std::shared_ptr<LinkSource> source)
@@ -20,9 +22,15 @@ class LinuxNetworkInterfaces : public NetworkInterfaces {
     bool read(List& list) override;
 
   private:
+    bool readAll();
+    void takeCounters();
+
     std::shared_ptr<LinkSource> source_;
     std::vector<LinkSource::Link> links_;
     std::vector<LinkSource::Address> addresses_;
+    List known_;  // of all links, each at its place
+    bool isKnown_ = false;
+    int readingsSinceAll_ = 0;
 };
 
 }  // namespace vantor

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <string>
 #include <vector>
 
@@ -40,7 +41,8 @@ class LinkSourceTest : public testing::Test {
     }
 
     FakeProcKernel kernel;
-    std::shared_ptr<LinkSource> source = makeLiveLinkSource([this] { return kernel.open(); });
+    std::shared_ptr<LinkSource> source =
+        makeLiveLinkSource([this] { return kernel.open(); }, [] { return FileDescriptor(); });
     std::vector<LinkSource::Link> links;
     std::vector<LinkSource::Address> addresses;
 };
@@ -103,6 +105,61 @@ TEST_F(LinkSourceTest, InterfacesThatAreRemovedDuringEveryDumpGiveNoList) {
     LinuxNetworkInterfaces interfaces(source);
     NetworkInterfaces::List list;
     EXPECT_FALSE(interfaces.read(list)) << "nothing of the broken lists serves";
+}
+
+Bytes counters(std::uint32_t sequence, std::uint32_t index, std::uint64_t received) {
+    return netlinkMessage(
+        RTM_NEWSTATS, sequence,
+        statisticsHeader(index) +
+            attribute(IFLA_STATS_LINK_64, linkCounters<std::uint64_t>(received, received + 1)));
+}
+
+TEST_F(LinkSourceTest, CountersAreThoseOfTheLinksWithTheirNumbersInAnyOrder) {
+    links = {{3, 0, 1, 1, true, "a"}, {9, 0, 1, 1, true, "b"}, {4, 0, 1, 1, true, "c"}};
+    kernel.sockets = {{counters(1, 3, 30) + counters(1, 9, 90) + counters(1, 4, 40), done(1),
+                       counters(2, 4, 41), counters(2, 3, 31) + counters(2, 9, 91), done(2)}};
+    for (const std::uint64_t pass : {0u, 1u}) {
+        ASSERT_TRUE(source->counters(links));
+        EXPECT_THAT(names(), ElementsAre("a", "b", "c"));
+        EXPECT_EQ(links[0].receivedBytes, 30 + pass);
+        EXPECT_EQ(links[1].receivedBytes, 90 + pass);
+        EXPECT_EQ(links[2].receivedBytes, 40 + pass);
+        EXPECT_EQ(links[2].sentBytes, 41 + pass);
+    }
+}
+
+TEST_F(LinkSourceTest, CountersOfOtherLinksOrOfTooFewAreNone) {
+    links = {{3, 0, 1, 1, true, "a"}, {9, 0, 1, 1, true, "b"}};
+    kernel.sockets = {{counters(1, 3, 30) + counters(1, 5, 50) + counters(1, 9, 90), done(1),
+                       counters(2, 9, 90), done(2), done(3),
+                       counters(4, 3, 30) + counters(4, 9, 90), done(4)}};
+    EXPECT_FALSE(source->counters(links)) << "one has come";
+    EXPECT_FALSE(source->counters(links)) << "one has gone";
+    EXPECT_FALSE(source->counters(links)) << "all have gone";
+    EXPECT_TRUE(source->counters(links));
+}
+
+// As kernels before 4.7 do.
+TEST_F(LinkSourceTest, AKernelThatRefusesCountersIsNotAskedForEver) {
+    links = {{3, 0, 1, 1, true, "a"}};
+    const auto refusal = [](std::uint32_t sequence) {
+        return netlinkMessage(NLMSG_ERROR, sequence, bytesOf(-EOPNOTSUPP));
+    };
+    kernel.sockets = {{refusal(1)}, {refusal(2)}, {refusal(3)}, {link(4, 3, "a"), done(4)}};
+    for (int i = 0; i < 6; ++i)
+        EXPECT_FALSE(source->counters(links));
+    EXPECT_EQ(kernel.sockets.size(), 1u) << "three times";
+    EXPECT_TRUE(source->links(links)) << "the lists are had as ever";
+}
+
+TEST_F(LinkSourceTest, AMalformedMessageFailsTheCounters) {
+    links = {{3, 0, 1, 1, true, "a"}};
+    kernel.sockets = {{netlinkMessage(RTM_NEWSTATS, 1, Bytes(4)), done(1)},
+                      {netlinkMessage(RTM_NEWSTATS, 2, statisticsHeader(3)), done(2)},
+                      {counters(3, 3, 30), done(3)}};
+    EXPECT_FALSE(source->counters(links));
+    EXPECT_FALSE(source->counters(links)) << "no counters in it";
+    EXPECT_TRUE(source->counters(links));
 }
 
 TEST_F(LinkSourceTest, AMalformedMessageFailsTheList) {

@@ -30,6 +30,17 @@ class FakeLinks : public LinkSource {
         return true;
     }
 
+    bool mayHaveChanged() override { return hasChanged; }
+    bool counters(std::span<Link> list) override {
+        ++counterDumps;
+        if (countersFail || list.size() != theLinks.size()) return false;
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            list[i].receivedBytes = theLinks[i].receivedBytes;
+            list[i].sentBytes = theLinks[i].sentBytes;
+        }
+        return true;
+    }
+
     void add(const std::string& name, std::uint32_t index, std::uint64_t received = 0,
              std::uint64_t sent = 0) {
         theLinks.push_back({index, IFF_UP | IFF_RUNNING, received, sent, true, name});
@@ -48,6 +59,9 @@ class FakeLinks : public LinkSource {
     bool addressesFail = false;
     int linkDumps = 0;
     int addressDumps = 0;
+    bool hasChanged = true;
+    bool countersFail = false;
+    int counterDumps = 0;
 };
 
 /// What a list says, as "name address address".
@@ -110,6 +124,76 @@ TEST_F(LinuxNetworkInterfacesTest, ALinkWhoseNumberIsPast16BitsIsOneLikeTheOther
     EXPECT_EQ(list[1].counters, (Counters{5, 6}));
     EXPECT_EQ(list[2].index, 2'000'000'000u);
     EXPECT_EQ(list[2].counters, (Counters{7, 8}));
+}
+
+TEST_F(LinuxNetworkInterfacesTest, WhileNothingChangesOnlyTheCountersAreAskedFor) {
+    links->add("lo", 1, 10, 20);
+    links->add("eth0", 4, 30, 40);
+    links->addAddress(4, "10.0.0.1");
+    links->addAddress(4, "fe80::1");
+    read();
+    links->hasChanged = false;
+    for (std::uint64_t pass = 1; pass <= 3; ++pass) {
+        links->theLinks[1].receivedBytes = 100 * pass;
+        links->theLinks[1].sentBytes = 200 * pass;
+        list.clear();
+        EXPECT_THAT(read(), ElementsAre("lo", "eth0 10.0.0.1 fe80::1%eth0"));
+        EXPECT_EQ(list[0].counters, (Counters{10, 20}));
+        EXPECT_EQ(list[1].counters, (Counters{100 * pass, 200 * pass}));
+        EXPECT_TRUE(list[1].isUp && list[1].isRunning);
+        EXPECT_EQ(list[1].index, 4u);
+    }
+    EXPECT_EQ(links->linkDumps, 1);
+    EXPECT_EQ(links->addressDumps, 1);
+    EXPECT_EQ(links->counterDumps, 3);
+}
+
+TEST_F(LinuxNetworkInterfacesTest, AChangeAndOtherLinksAreFoundByTheSameReading) {
+    links->add("eth0", 4, 30, 40);
+    read();
+    links->addAddress(4, "10.0.0.1");
+    EXPECT_THAT(read(), ElementsAre("eth0 10.0.0.1")) << "a notice came";
+    links->hasChanged = false;
+    links->add("eth1", 5);
+    EXPECT_THAT(read(), ElementsAre("eth0 10.0.0.1", "eth1")) << "its counters came";
+    links->countersFail = true;
+    links->theLinks[0].receivedBytes = 99;
+    EXPECT_THAT(read(), ElementsAre("eth0 10.0.0.1", "eth1"));
+    EXPECT_EQ(list[0].counters, (Counters{99, 40})) << "no counters came, but links";
+}
+
+TEST_F(LinuxNetworkInterfacesTest, WhatTheCallerDoesToItsListIsForgotten) {
+    links->add("eth0", 4, 30, 40);
+    read();
+    links->hasChanged = false;
+    list[0].name = "other";
+    list[0].isUp = false;
+    EXPECT_THAT(read(), ElementsAre("eth0"));
+    EXPECT_TRUE(list[0].isUp);
+}
+
+TEST_F(LinuxNetworkInterfacesTest, AfterAFailureAllIsAskedForAgain) {
+    links->add("eth0", 4);
+    read();
+    links->linksFail = true;
+    EXPECT_FALSE(interfaces.read(list));
+    links->linksFail = false;
+    links->hasChanged = false;
+    EXPECT_THAT(read(), ElementsAre("eth0"));
+    EXPECT_EQ(links->counterDumps, 0);
+}
+
+TEST_F(LinuxNetworkInterfacesTest, NowAndThenAllIsAskedForThoughNothingChanged) {
+    links->add("eth0", 4);
+    read();
+    links->hasChanged = false;
+    for (int pass = 1; pass < 60; ++pass)
+        read();
+    EXPECT_EQ(links->linkDumps, 1);
+    read();
+    EXPECT_EQ(links->linkDumps, 2);
+    read();
+    EXPECT_EQ(links->linkDumps, 2);
 }
 
 TEST_F(LinuxNetworkInterfacesTest, EveryListIsFreshFromOneDumpOfEach) {

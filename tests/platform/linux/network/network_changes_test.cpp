@@ -228,6 +228,43 @@ TEST_F(NetworkChanges, ADefaultRouteOfAnotherTableMakesNoPrimaryLink) {
     EXPECT_EQ(primary(), "b0") << "the first of several hops";
 }
 
+// While nothing changes the kernel is asked for counters alone.
+TEST_F(NetworkChanges, WhatComesGoesAndIsAlteredIsInTheNextReading) {
+    ASSERT_TRUE(makePair("quiet0", "quiet1", "10.1.0.1"));
+    ASSERT_TRUE(ip("route add default via 10.1.0.99"));
+    ASSERT_TRUE(makePair("a0", "a1", "10.2.0.1"));
+    const auto steady = [&] {
+        for (int i = 0; i < 3; ++i)
+            read();
+        return row(read(), "a0");
+    };
+    ASSERT_NE(steady(), nullptr);
+    EXPECT_EQ(steady()->ipv4Address, "10.2.0.1");
+    ASSERT_TRUE(ip("addr del 10.2.0.1/24 dev a0"));
+    EXPECT_EQ(row(read(), "a0")->ipv4Address, std::nullopt);
+    steady();
+    ASSERT_TRUE(ip("addr add 10.2.0.7/24 dev a0"));
+    EXPECT_EQ(row(read(), "a0")->ipv4Address, "10.2.0.7");
+    steady();
+    if (enableIPv6("a0") && steady() && ip("-6 addr add fd02::7/64 dev a0 nodad")) {
+        EXPECT_EQ(row(read(), "a0")->ipv6Address, "fd02::7");
+        steady();
+    }
+    ASSERT_TRUE(ip("link set a0 down"));
+    EXPECT_EQ(row(read(), "a0"), nullptr);
+    read();
+    ASSERT_TRUE(ip("link set a0 up") && waitUntilRunning("a0"));
+    EXPECT_NE(row(read(), "a0"), nullptr);
+    steady();
+    ASSERT_TRUE(ip("link set a1 down"));
+    const auto isGone = [&] { return row(read(), "a0") == nullptr; };
+    bool hasGone = false;
+    // The loss of the carrier is handed on by the kernel itself, within a second or so.
+    for (int i = 0; i < 50 && !hasGone; ++i)
+        hasGone = isGone();
+    EXPECT_TRUE(hasGone);
+}
+
 /// A process of its own that makes, exchanges and removes links as fast as it can.
 class Churn {
   public:
