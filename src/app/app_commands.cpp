@@ -12,7 +12,7 @@
 
 namespace vantor {
 
-AppCommands::AppCommands(Actions actions, bool sharesMenuBar)
+AppCommands::AppCommands(const Actions& actions, bool sharesMenuBar)
     : about_(add(
           //: a command of the menu
           translate("AppCommands", "About Vantor"), {}, actions.about)),

@@ -27,7 +27,7 @@ class AppCommands : public QObject {
     };
 
     /// Where all windows share one menu bar, it is made at once and belongs to none of them.
-    explicit AppCommands(Actions actions, bool sharesMenuBar = false);
+    explicit AppCommands(const Actions& actions, bool sharesMenuBar = false);
     ~AppCommands() override;
 
     /// Null where each window has its own.

@@ -11,7 +11,8 @@ namespace vantor {
 /// The interfaces of the machine with their counters and addresses, all of one moment. One thread
 /// at a time.
 ///
-/// Linux: rtnetlink's dumps of links and addresses, and of counters while it tells of no change. macOS: see platform/darwin/interface_calls.h.
+/// Linux: rtnetlink's dumps of links and addresses, and of counters while it tells of no change.
+/// macOS: see platform/darwin/interface_calls.h.
 class NetworkInterfaces {
   public:
     /// Bytes.

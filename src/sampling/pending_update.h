@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -34,7 +35,7 @@ struct PendingUpdate {
         return true;
     }
     template <class Record>
-    bool put(std::optional<Record> PendingUpdate::*section, Record&& result) {
+    bool put(std::optional<Record> PendingUpdate::*section, std::type_identity_t<Record>&& result) {
         return put(section, std::optional(std::move(result)));
     }
     bool put(std::optional<ProcessSample> PendingUpdate::*section, ProcessSample&& result) {

@@ -50,7 +50,7 @@ void SavePanel::keyPressEvent(QKeyEvent* event) {
 void SavePanel::begin() {
     notice_->say(translate("SavePanel", "Looking for your folders…"));
     placesAsked_ = disk_->ask<std::vector<SavePlace>>(
-        findSavePlaces, [this](std::optional<std::vector<SavePlace>> found) {
+        findSavePlaces, [this](const std::optional<std::vector<SavePlace>>& found) {
             // Without an answer home is as good a guess as any; it is asked about in its turn.
             const std::vector<SavePlace> home{{"Home", folderOf(QStringLiteral("~"), {})}};
             const std::vector<SavePlace> places = found.value_or(home);

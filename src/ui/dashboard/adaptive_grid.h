@@ -13,8 +13,8 @@ struct AdaptiveColumns {
     /// At least one, however narrow the space.
     int count(double available) const;
 
-    /// For that many items: fewer columns where as many rows of them leave no gap at the end, if they
-    /// fill the width or the last row would have one item alone.
+    /// For that many items: fewer columns where as many rows of them leave no gap at the end, if
+    /// they fill the width or the last row would have one item alone.
     int balancedCount(double available, int items) const;
 
     /// Of one of as many as fit, and of one of `columns`.
