@@ -200,6 +200,27 @@ TEST_F(CoreActivityViewTest, RepaintsOnlyWhatHasAnotherColour) {
     EXPECT_EQ(paints.take(), 1);
 }
 
+// A picture that is cut by hundreds of pieces takes many times as long.
+TEST_F(CoreActivityViewTest, FewChangedCellsAreRepaintedByThemselvesAndManyAsOneArea) {
+    const auto piecesOf = [&](std::size_t changed) {
+        std::vector<double> usage(128, 0.1);
+        view.show(usage);
+        settleEvents();
+        PaintCount paints;
+        paints.watch(view);
+        for (std::size_t i = 0; i < changed; ++i)
+            usage[2 * i] = 0.9;
+        view.show(usage);
+        settleEvents();
+        EXPECT_EQ(paints.take(), 1);
+        return paints.pieces();
+    };
+    view.resize(600, 200);
+    view.setVisible(true);
+    EXPECT_EQ(piecesOf(3), 3);
+    EXPECT_EQ(piecesOf(64), 1);
+}
+
 TEST_F(CoreActivityViewTest, TellsTheNumberAndUsageOfTheCoreUnderThePointer) {
     drawn({0.123, 0.5});
     view.setVisible(true);

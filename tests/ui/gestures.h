@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QObject>
+#include <QPaintEvent>
+#include <QRegion>
 #include <QWidget>
 
 namespace vantor {
@@ -47,15 +49,20 @@ class PaintCount : public QObject {
             child->installEventFilter(this);
     }
     int take() { return std::exchange(count_, 0); }
+    /// Of the last one: how many rectangles it was.
+    int pieces() const { return pieces_; }
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) ++count_;
+        if (event->type() != QEvent::Paint) return false;
+        ++count_;
+        pieces_ = static_cast<QPaintEvent*>(event)->region().rectCount();
         return false;
     }
 
   private:
     int count_ = 0;
+    int pieces_ = 0;
 };
 
 }  // namespace vantor

@@ -26,6 +26,7 @@ constexpr double cellCorner = 4;
 constexpr TextStyle numberStyle{7, QFont::Bold, 9};
 constexpr double idleBelow = 0.01;
 constexpr double cellTextPadding = 5;
+constexpr std::size_t fewCells = 24;
 
 }  // namespace
 
@@ -102,12 +103,28 @@ void CoreActivityView::show(std::span<const double> usage) {
     }
     const auto grid = gridFor(width());
     const bool withShares = hasShares(grid);
+    std::vector<QRect>& changed = changedCells_;
+    changed.clear();
     for (std::size_t i = 0; i < usage.size(); ++i) {
-        if (looksTheSame(usage_[i], usage[i], withShares)) continue;
-        update(placeOf(grid.cell(i)));
+        if (!looksTheSame(usage_[i], usage[i], withShares))
+            changed.push_back(placeOf(grid.cell(i)));
     }
     usage_.assign(usage.begin(), usage.end());
+    repaintCells(changed);
     announceValue();
+}
+
+void CoreActivityView::repaintCells(const std::vector<QRect>& cells) {
+    if (cells.size() <= fewCells) {
+        for (const QRect& cell : cells)
+            update(cell);
+        return;
+    }
+    // Each fill would be cut by as many pieces as there are.
+    QRect all;
+    for (const QRect& cell : cells)
+        all |= cell;
+    update(all);
 }
 
 /// All cells say their share, or none: the widest text decides, so that nothing jumps.

@@ -80,11 +80,13 @@ class CoreActivityView : public PaintedView {
     QRect placeOf(QRectF cell) const;
     void paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index,
                    bool hasShare) const;
+    void repaintCells(const std::vector<QRect>& cells);
     bool hasShares(const CoreGridGeometry& grid) const;
     bool looksTheSame(double before, double after, bool hasShares) const;
 
     std::function<double(double)> heightRule_;
     std::vector<double> usage_;
+    std::vector<QRect> changedCells_;          // of one call, for its storage
     mutable std::optional<double> textWidth_;  ///< of the longest text, once needed
 };
 
