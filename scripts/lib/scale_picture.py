@@ -4,9 +4,9 @@ import math
 import sys
 from xml.sax.saxutils import escape
 
-PANELS = (("processes", "sleeping processes, each asked at each tick"),
-          ("links", "network links, all dumped at each tick"),
-          ("mounts", "mounts, read every 15 s; bare: twice a second"))
+PANELS = (("processes", "sleeping processes"),
+          ("links", "network links"),
+          ("mounts", "mounts (read every 15 s)"))
 CURVES = (("processor_percent", "the program, window visible", "#0a66c2", ""),
           ("main_thread_percent", "of it the main thread", "#7a8794", "2 4"),
           ("bare_percent", "the bare asking alone", "#c2410c", "7 4"),
@@ -74,12 +74,12 @@ def main():
            "<title>Processor time in percent of one processor, at 0.5 s, over the number of processes, links and "
            "mounts</title>",
            '<rect width="%d" height="%d" rx="8" fill="%s"/>' % (width, height, GROUND),
-           '<text x="%d" y="28" font-size="14" font-weight="600">Percent of one processor, at 0.5 s</text>' % LEFT]
-    x = LEFT + 250
+           '<text x="%d" y="28" font-size="14" font-weight="600">Percent of one processor</text>' % LEFT]
+    x = LEFT + 236
     for _, words, colour, dashes in CURVES:
         out.append('<path d="M%d 24h34" stroke="%s" stroke-width="2" stroke-dasharray="%s"/>' % (x, colour, dashes))
         out.append('<text x="%d" y="28">%s</text>' % (x + 42, escape(words)))
-        x += 52 + 6 * len(words)
+        x += 56 + 6.6 * len(words)
     for place, (_, title, rows) in enumerate(panels):
         Panel(rows, LEFT + place * (WIDTH + GAP + 8)).draw(out, title)
     out.append("</svg>")
