@@ -44,6 +44,7 @@ bool holdsEnd(const std::byte* bytes, std::size_t length) {
     while (length >= sizeof header) {
         std::memcpy(&header, bytes, sizeof header);
         if (header.nlmsg_type == NLMSG_DONE) return true;
+        if (header.nlmsg_type == NLMSG_ERROR) giveUp("the kernel refuses a list");
         const std::size_t step = NLMSG_ALIGN(header.nlmsg_len);
         if (step == 0 || step >= length) return false;
         bytes += step;

@@ -11,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-// More than its buffer can hold: whoever goes on and on writing does not keep the reader.
+// More than its buffer can hold: a sender that never stops does not hold up the reader.
 constexpr int mostAtOnce = 4096;
 
 }  // namespace
