@@ -25,8 +25,12 @@ class BusTray : public ProgramInATray {
         ASSERT_FALSE(address_.isEmpty()) << "no session bus";
     }
     void startTray(Manner manner = Manner::honest) { tray_.emplace(address_, manner); }
+    /// Waits until the program knows, too, that the tray has its item: what is done before that is
+    /// done without a tray. It learns it from a list, and answers a question after that.
     bool hasItem() {
-        return handleEventsUntil([this] { return !tray_->items().isEmpty(); }, patience);
+        const auto isKnown = [this] { return !tray_->items().isEmpty() && tray_->listings() > 0; };
+        return handleEventsUntil(isKnown, patience) &&
+               tray_->property(QStringLiteral("Title")).isValid();
     }
     void startWithItem() {
         startTray();

@@ -13,6 +13,7 @@ namespace {
 
 const auto watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
+const auto itemList = QStringLiteral("RegisteredStatusNotifierItems");
 const auto menuInterface = QStringLiteral("com.canonical.dbusmenu");
 const auto itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
 const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
@@ -35,13 +36,19 @@ class FakeNotifierTray::Service : public BusObject {
                                                         : QString::fromLatin1(watcherDescription)),
           tray_(tray) {}
 
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        const bool isHandled = BusObject::handleMessage(message, connection);
+        const QVariantList arguments = message.arguments();
+        if (!arguments.isEmpty() && arguments.constLast() == itemList) ++tray_.listings_;
+        return isHandled;
+    }
+
   protected:
     QVariantMap properties() const override {
         ++tray_.looks_;
         QVariantMap all{{QStringLiteral("IsStatusNotifierHostRegistered"), tray_.hasHost_},
                         {QStringLiteral("ProtocolVersion"), 0}};
-        if (tray_.manner_ != Manner::discreet)
-            all.insert(QStringLiteral("RegisteredStatusNotifierItems"), names());
+        if (tray_.manner_ != Manner::discreet) all.insert(itemList, names());
         return all;
     }
     std::optional<QVariantList> call(const QString& method, const QString& signature,

@@ -39,6 +39,10 @@ class FakeNotifierTray {
     /// How often anybody has asked what it has.
     int looks() const { return looks_; }
 
+    /// How often anybody has asked which items it has; a program believes that its item was taken
+    /// once it has found it there.
+    int listings() const { return listings_; }
+
     /// A host comes to a service without one, or goes.
     void setHost(bool isThere);
 
@@ -65,6 +69,7 @@ class FakeNotifierTray {
     bool hasHost_;
     QStringList items_;
     int looks_ = 0;
+    int listings_ = 0;
     QDBusServiceWatcher owners_;
     std::unique_ptr<Service> service_;
 };
