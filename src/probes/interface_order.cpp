@@ -12,20 +12,36 @@ bool InterfaceOrder::comesFirst(const Place& a, const Place& b) {
     return a.row < b.row;
 }
 
+InterfaceOrder::Place InterfaceOrder::placeOf(const NetworkInterfaceStats& row, std::size_t at,
+                                              const std::string* primaryName) const {
+    return {primaryName && row.name == *primaryName,
+            row.ipv4Address.has_value() || row.ipv6Address.has_value(),
+            row.downloadBytesPerSecond + row.uploadBytesPerSecond, ranks_.of(row.name), at};
+}
+
 void InterfaceOrder::sort(std::vector<NetworkInterfaceStats>& rows,
                           const std::string* primaryName) {
     ranks_.learn(rows);
-    places_.clear();
-    for (const NetworkInterfaceStats& row : rows) {
-        places_.push_back({primaryName && row.name == *primaryName,
-                           row.ipv4Address.has_value() || row.ipv6Address.has_value(),
-                           row.downloadBytesPerSecond + row.uploadBytesPerSecond,
-                           ranks_.of(row.name), places_.size()});
+    if (places_.size() != rows.size()) {
+        places_.resize(rows.size());
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            places_[i].row = i;
     }
-    std::sort(places_.begin(), places_.end(), comesFirst);
+    // Those of quiet interfaces are in order as they were the last time.
+    for (Place& place : places_)
+        place = placeOf(rows[place.row], place.row, primaryName);
+    if (!std::is_sorted(places_.begin(), places_.end(), comesFirst))
+        std::sort(places_.begin(), places_.end(), comesFirst);
     others_.resize(rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i)
         std::swap(others_[i], rows[places_[i].row]);
+    rows.swap(others_);
+}
+
+void InterfaceOrder::undo(std::vector<NetworkInterfaceStats>& rows) {
+    if (rows.size() != places_.size()) return;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        std::swap(others_[places_[i].row], rows[i]);
     rows.swap(others_);
 }
 

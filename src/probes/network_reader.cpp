@@ -94,13 +94,12 @@ NetworkReader::Deltas NetworkReader::replaceBaseline(std::string_view name,
     return result;
 }
 
-/// The rows of the last record are taken up again: sorted by name they meet their own interfaces,
-/// whose texts fit into their storage.
+/// The rows of the last record are taken up again: back in their places they meet their own
+/// interfaces, whose texts fit into their storage.
 void NetworkReader::makeRows(bool includePointToPointInterfaces, double uptime) {
     measuredRateInterfaceBuffer_.clear();
     auto& rows = stats_.interfaces;
-    std::sort(rows.begin(), rows.end(),
-              [](const auto& a, const auto& b) { return a.name < b.name; });
+    order_.undo(rows);
     std::size_t count = 0;
     accumulators_.map().forEach([&](const std::string& name, const InterfaceAccumulator& now) {
         const Deltas deltas = replaceBaseline(name, now, uptime);

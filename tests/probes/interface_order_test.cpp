@@ -116,5 +116,49 @@ TEST(InterfaceOrder, SumsPastTheLargestNumberAreEqual) {
                 ElementsAre("a", "b"));
 }
 
+std::vector<std::string> namesOf(const std::vector<NetworkInterfaceStats>& rows) {
+    std::vector<std::string> names;
+    for (const auto& r : rows)
+        names.push_back(r.name);
+    return names;
+}
+
+TEST(InterfaceOrder, UndoingItPutsEachRowBack) {
+    InterfaceOrder order(makeNativeNameOrder());
+    std::vector<NetworkInterfaceStats> rows;
+    order.undo(rows);
+    EXPECT_THAT(rows, testing::IsEmpty());
+    rows = {row("b"), row("a", false), row("c", true, 9)};
+    const auto before = rows;
+    for (int i = 0; i < 3; ++i) {
+        order.sort(rows, nullptr);
+        EXPECT_THAT(namesOf(rows), ElementsAre("c", "b", "a"));
+        order.undo(rows);
+        EXPECT_EQ(rows, before);
+    }
+}
+
+TEST(InterfaceOrder, TheLastOrderHasNoPartInTheNext) {
+    InterfaceOrder order(makeNativeNameOrder());
+    std::vector<NetworkInterfaceStats> rows{row("a", true, 1), row("b", true, 2),
+                                            row("c", true, 3)};
+    order.sort(rows, nullptr);
+    EXPECT_THAT(namesOf(rows), ElementsAre("c", "b", "a"));
+    order.undo(rows);
+    for (auto& each : rows)
+        each.downloadBytesPerSecond = 0;
+    order.sort(rows, nullptr);
+    EXPECT_THAT(namesOf(rows), ElementsAre("a", "b", "c"));
+    order.undo(rows);
+    rows.insert(rows.begin(), row("A", false, 50));
+    rows.push_back(row("0", true, 0));
+    order.sort(rows, nullptr);
+    EXPECT_THAT(namesOf(rows), ElementsAre("0", "a", "b", "c", "A"));
+    order.undo(rows);
+    rows.resize(2);
+    order.sort(rows, nullptr);
+    EXPECT_THAT(namesOf(rows), ElementsAre("a", "A"));
+}
+
 }  // namespace
 }  // namespace vantor::interface_order_test
