@@ -114,6 +114,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/power/low_power_mode_test.cpp
         platform/linux/memory/mem_info_test.cpp
         platform/linux/memory/memory_breakdown_test.cpp
+        platform/linux/storage/mount_table_file_test.cpp
         platform/linux/storage/mount_table_test.cpp
         platform/linux/network/netlink_dump_test.cpp
         platform/linux/network/netlink_messages_test.cpp

@@ -50,13 +50,16 @@ std::optional<std::string_view> KernelFile::read() {
 
 std::optional<std::string> readKernelFile(const std::filesystem::path& path, std::size_t most) {
     const FileDescriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)};
-    if (!file) return std::nullopt;
+    return file ? readOpenKernelFile(file.get(), most) : std::nullopt;
+}
+
+std::optional<std::string> readOpenKernelFile(int file, std::size_t most) {
     std::string content;
     std::size_t size = 0;
     while (size < most) {
         if (size == content.size())
             content.resize(std::min(std::max(2 * size, kernelFileFirstBufferSize), most));
-        const ssize_t count = ::read(file.get(), content.data() + size, content.size() - size);
+        const ssize_t count = ::read(file, content.data() + size, content.size() - size);
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;
         if (count == 0) break;

@@ -38,6 +38,9 @@ constexpr std::size_t kernelFileLargestSize = std::size_t{16} * 1024 * 1024;
 std::optional<std::string> readKernelFile(const std::filesystem::path& path,
                                           std::size_t most = kernelFileLargestSize);
 
+/// The same of an open file, from where it stands.
+std::optional<std::string> readOpenKernelFile(int file, std::size_t most = kernelFileLargestSize);
+
 /// The content without the blanks and line ends around it (device-tree texts end with a zero byte,
 /// which goes too); absent when nothing is left. Pure; the text lies within `content`.
 std::optional<std::string_view> trimmedText(std::string_view content);

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <limits>
 
-#include "platform/linux/files/kernel_file.h"
 #include "platform/linux/storage/block_device.h"
 
 namespace vantor {
@@ -34,7 +33,7 @@ bool saysReadOnly(std::string_view options) {
 }  // namespace
 
 void LinuxMountedVolumes::take(std::string table) {
-    // Of the same table the same is said: it seldom changes.
+    // Of the same table the same is said.
     if (table == table_) return;
     table_ = std::move(table);
     parseMountTable(table_, mounts_);
@@ -49,9 +48,11 @@ void LinuxMountedVolumes::take(std::string table) {
 }
 
 std::optional<std::vector<MountedVolumes::Volume>> LinuxMountedVolumes::mountedVolumes() {
-    auto text = readKernelFile(roots_.proc / "self/mountinfo");
-    take(text ? std::move(*text) : std::string());
-    if (!text) return std::nullopt;
+    if (tableFile_.mayHaveChanged()) {
+        auto text = tableFile_.read();
+        take(text ? std::move(*text) : std::string());
+        if (!text) return std::nullopt;
+    }
     fileSystems_->beginPass(mayHang_);
     std::vector<Volume> volumes;
     volumes.reserve(paths_.size());
