@@ -149,7 +149,8 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/posix/posix_shared_file_test.cpp)
     if(ICU_FOUND)
         target_sources(linux_tests PRIVATE
-            platform/posix/icu_name_order_test.cpp)
+            platform/posix/icu_name_order_test.cpp
+            platform/posix/plain_name_key_test.cpp)
     endif()
     vantor_add_failing_reads(linux_tests)
     # The libraries that nvml_library_test.cpp loads.

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/posix/key_ranks.h"
+#include "platform/posix/plain_name_key.h"
 
 namespace vantor {
 
@@ -56,7 +57,22 @@ std::string ICUNameOrder::keyOf(const std::string& name) {
     return key;
 }
 
+std::optional<std::vector<std::string>> ICUNameOrder::plainKeys(
+    std::span<const std::string> names) const {
+    if (!hasPlainOrder(language_)) return std::nullopt;
+    std::vector<std::string> keys;
+    keys.reserve(names.size());
+    for (const std::string& name : names) {
+        std::optional<std::string> key = plainKeyOf(name);
+        if (!key) return std::nullopt;
+        keys.push_back(std::move(*key));
+    }
+    return keys;
+}
+
 std::vector<std::uint32_t> ICUNameOrder::ranks(std::span<const std::string> names) {
+    if (names.size() < 2) return std::vector<std::uint32_t>(names.size(), 0);
+    if (auto keys = plainKeys(names)) return ranksOfKeys(std::move(*keys));
     const bool isOpen = open();
     std::vector<std::string> keys;
     keys.reserve(names.size());

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -13,8 +14,8 @@ struct UCollator;
 
 namespace vantor {
 
-/// The collation of a language by ICU, which the toolkit loads as well. Opened with the first
-/// question, and kept.
+/// The collation of a language by ICU, which the toolkit loads as well. Opened, and kept, when
+/// first asked for names that are not all plain.
 class ICUNameOrder : public NameOrder {
   public:
     /// As ICU names it ("de", "sv_SE"); "" is the order common to all languages.
@@ -27,6 +28,7 @@ class ICUNameOrder : public NameOrder {
         void operator()(UCollator* collator) const;
     };
 
+    std::optional<std::vector<std::string>> plainKeys(std::span<const std::string> names) const;
     bool open();
     std::string keyOf(const std::string& name);
 
