@@ -168,18 +168,27 @@ int LinuxProcessTable::taskAllInfo(std::int32_t pid, TaskAllInfo& info) {
 
 bool LinuxProcessTable::update(Known& known, std::optional<std::uint64_t> clock,
                                std::uint64_t& counted) {
-    // A process that has spent nothing yet cannot be told from another one by its clock.
-    const bool hasNotRun = known.isRead && clock && *clock == known.clock && *clock != 0;
+    const bool hasRun = !known.isRead || !clock || *clock != known.clock;
+    const bool isSame = known.isRead && clock && isTheSame(known, *clock);
     known.clock = clock.value_or(0);
-    if (!hasNotRun) {
+    if (hasRun) known.hasRunSincePath = true;
+    if (!isSame) {
         known.hasRunSincePath = true;
         return readStat(known, counted);
     }
-    const bool isDue = now_ > known.residentDue && !known.isKernelThread;
-    if (!isDue) return true;
+    const bool isDue = hasRun || now_ > known.residentDue;
+    if (!isDue || known.isKernelThread) return true;
     known.isRead = readResident(known);
     known.residentDue = now_ + residentPeriodOf(known);
     return known.isRead;
+}
+
+/// Where identifiers can be followed, only one that was assigned anew can be another process.
+/// Otherwise only one that has not run is the same for sure, and one that has spent nothing yet
+/// cannot be told from another one by its clock.
+bool LinuxProcessTable::isTheSame(const Known& known, std::uint64_t clock) const {
+    if (clock < known.clock) return false;
+    return !tracker_.mayBeNew(known.pid) || (clock == known.clock && clock != 0);
 }
 
 /// What stands at the top of a list is never older than the shortest period.

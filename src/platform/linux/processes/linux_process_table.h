@@ -17,11 +17,13 @@ namespace vantor {
 
 /// The processes of /proc, with as few questions as exact figures allow.
 ///
-/// The CPU clock of every process is read at each pass. Its stat file is opened only when it is new
-/// or its clock has moved: one that did not run did not grow. The kernel may still take memory from
-/// a sleeping process, so that figure is read again when it is five seconds old (spread, so that no
-/// pass has to read them all; of more than 2,000 processes those below 16 MiB wait until they are
-/// 400 a second, at most half a minute); it is always that of statm, because stat's is not exact.
+/// The CPU clock of every process is read at each pass. Its stat file is opened only when it may be
+/// another process than before, as its identifier has been assigned anew; where the kernel does not
+/// tell, when its clock has moved. The resident size is always that of statm, because stat's is not
+/// exact, and is read when the clock has moved: one that did not run did not grow. The kernel may
+/// still take memory from a sleeping process, so that figure is read again when it is five seconds
+/// old (spread, so that no pass has to read them all; of more than 2,000 processes those below
+/// 16 MiB wait until they are 400 a second, at most half a minute). Kernel threads have none.
 /// Times are nanoseconds. Where there are no clocks (a recorded machine, another pid namespace),
 /// stat is read for all, with its hundredths of a second.
 class LinuxProcessTable : public ProcessTable {
@@ -56,6 +58,7 @@ class LinuxProcessTable : public ProcessTable {
     void adoptListing();
     Known* find(std::int32_t pid);
     bool update(Known& known, std::optional<std::uint64_t> clock, std::uint64_t& counted);
+    bool isTheSame(const Known& known, std::uint64_t clock) const;
     bool readStat(Known& known, std::uint64_t& counted);  // by the kernel's ticks, in nanoseconds
     bool readResident(Known& known);
     double residentPeriodOf(const Known& known) const;

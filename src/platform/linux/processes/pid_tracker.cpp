@@ -51,6 +51,7 @@ bool PIDTracker::list(double now) {
     // so is who had an identifier but was not there yet.
     lastSeen_ = seenBefore_ = lastPID();
     if (seenBefore_) seenBefore_ = std::max(*seenBefore_ - inTheMaking, 0);
+    followedFrom_.reset();
     listedUptime_ = now;
     ++listings_;
     if (!listing_.read(proc_)) {
@@ -84,6 +85,7 @@ bool PIDTracker::tryToFollow(double now, std::span<const std::int32_t> gone) {
     nextPIDs_.insert(nextPIDs_.end(), born_.begin(), born_.end());
     std::inplace_merge(nextPIDs_.begin(), nextPIDs_.begin() + middle, nextPIDs_.end());
     pids_.swap(nextPIDs_);
+    followedFrom_ = seenBefore_;
     seenBefore_ = lastSeen_;
     lastSeen_ = last;
     return true;

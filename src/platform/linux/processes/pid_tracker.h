@@ -34,6 +34,13 @@ class PIDTracker {
     /// Ascending, which is the kernel's own order.
     std::span<const std::int32_t> pids() const { return pids_; }
 
+    /// Whether the identifier may be of another process than before the last update: it has been
+    /// assigned since, or nobody knows. One that a process chose for itself is known by the next
+    /// listing.
+    bool mayBeNew(std::int32_t pid) const {
+        return !followedFrom_ || (pid > *followedFrom_ && pid <= *lastSeen_);
+    }
+
     /// How often the folder has been listed.
     std::uint64_t listings() const { return listings_; }
 
@@ -53,6 +60,7 @@ class PIDTracker {
     // made has its identifier already but is not there yet, so each range is looked through twice.
     std::optional<std::int32_t> lastSeen_;
     std::optional<std::int32_t> seenBefore_;
+    std::optional<std::int32_t> followedFrom_;  // by the last update; none where it listed
     double listedUptime_ = 0;
     double updatedUptime_ = 0;
     std::uint64_t listings_ = 0;

@@ -1,9 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -59,8 +61,81 @@ class LinuxProcessTableListingTest : public testing::Test, protected ProcessTree
         return read;
     }
 
+    /// In the kernel's ticks, as the table has it after a pass.
+    std::uint64_t startTicksOf(std::int32_t pid) {
+        ProcessTable::TaskAllInfo info;
+        processes.taskAllInfo(pid, info);
+        return info.startSeconds * 100 + info.startMicroseconds / 10'000;
+    }
+    std::uint64_t residentPagesOf(std::int32_t pid) {
+        ProcessTable::TaskAllInfo info;
+        processes.taskAllInfo(pid, info);
+        return info.residentSize / static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE));
+    }
+
     LinuxProcessTable processes = ownTable();
 };
+
+TEST_F(LinuxProcessTableListingTest, OneThatRanIsTheSameWhileItsIdentifierIsNotAssignedAnew) {
+    passAfter(0);
+    passAfter(1);
+    add(40, {.startTicks = 5000, .residentPages = 20});
+    clocks->values[40] += 1;
+    passAfter(1);
+    EXPECT_EQ(startTicksOf(40), 100U) << "its stat was not read";
+    EXPECT_EQ(residentPagesOf(40), 20U);
+}
+
+TEST_F(LinuxProcessTableListingTest, OneThatHasSpentNothingIsTheSameUntilItsIdentifierIsAssigned) {
+    clocks->values[40] = 0;
+    passAfter(0);
+    passAfter(1);
+    add(40, {.startTicks = 5000});
+    passAfter(1);
+    EXPECT_EQ(startTicksOf(40), 100U);
+    passAfter(28);
+    EXPECT_EQ(startTicksOf(40), 5000U) << "it may have chosen the identifier";
+}
+
+TEST_F(LinuxProcessTableListingTest, AnIdentifierThatWasAssignedAnewHasItsOwnStart) {
+    passAfter(0);
+    start(1001, {.startTicks = 300});
+    sayLastPID(1001);
+    passAfter(1);
+    EXPECT_EQ(startTicksOf(1001), 300U);
+    start(1001, {.startTicks = 5000});
+    clocks->values[1001] = 2000;
+    passAfter(1);
+    EXPECT_EQ(startTicksOf(1001), 5000U) << "the kernel was there between two looks";
+}
+
+TEST_F(LinuxProcessTableListingTest, AClockThatWentBackIsAnothersWhateverTheKernelSays) {
+    passAfter(0);
+    passAfter(1);
+    start(40, {.startTicks = 5000});
+    clocks->values[40] = 999;
+    passAfter(1);
+    EXPECT_EQ(startTicksOf(40), 5000U);
+}
+
+TEST_F(LinuxProcessTableListingTest, OfAKernelThreadThatRanNoFileIsRead) {
+    add(40, {.flags = kernelThreadFlags, .residentPages = 0});
+    passAfter(0);
+    passAfter(1);
+    tree.removeProc("40/stat");
+    tree.removeProc("40/statm");
+    clocks->values[40] += 1;
+    EXPECT_THAT(passAfter(1), ElementsAre(5, 40, 900));
+}
+
+TEST_F(LinuxProcessTableListingTest, OneThatRanAndWhoseSizeCannotBeReadIsGone) {
+    passAfter(0);
+    passAfter(1);
+    tree.removeProc("40/stat");
+    tree.removeProc("40/statm");
+    clocks->values[40] += 1;
+    EXPECT_THAT(passAfter(1), ElementsAre(5, 900));
+}
 
 TEST_F(LinuxProcessTableListingTest, ListsInAscendingOrder) {
     EXPECT_THAT(listed(), ElementsAre(5, 40, 900));
