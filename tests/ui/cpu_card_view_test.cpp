@@ -59,6 +59,26 @@ TEST_F(CPUCardViewTest, ShowsTheReading) {
     EXPECT_EQ(view.revision(), 1u);
 }
 
+TEST_F(CPUCardViewTest, AProcessorThatTurnsOutToBeAnotherIsNamedAnew) {
+    showCard();
+    ++state.revisions.cpu;
+    state.snapshot.cpu.logicalCoreCount = 6;
+    showCard();
+    EXPECT_EQ(utf8(view.header().accessibleValueText()), "4 physical \u2022 6 logical cores");
+    ++state.revisions.cpu;
+    state.snapshot.cpu.physicalCoreCount = 3;
+    state.snapshot.cpu.model = "Another Processor";
+    showCard();
+    EXPECT_EQ(utf8(view.header().accessibleValueText()), "3 physical \u2022 6 logical cores");
+    EXPECT_EQ(utf8(view.header().toolTip()), "Another Processor");
+    state.revisions.cpu = 0;
+    showCard();
+    EXPECT_EQ(utf8(view.header().accessibleValueText()), "Another Processor") << "it waits";
+    state.revisions.cpu = 4;
+    showCard();
+    EXPECT_EQ(utf8(view.header().accessibleValueText()), "3 physical \u2022 6 logical cores");
+}
+
 TEST_F(CPUCardViewTest, HistoryHasTheWholeRangeInCyan) {
     const Sparkline& history = view.history().sparkline();
     EXPECT_EQ(history.fixedRange, (std::pair{0.0, 1.0}));

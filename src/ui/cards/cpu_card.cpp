@@ -4,6 +4,8 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <optional>
+#include <utility>
 
 #include "ui/cards/card_texts.h"
 #include "ui/components/make_child.h"
@@ -135,10 +137,21 @@ void CPUCardView::explain(const FigureMeanings& meanings) {
     row(nominalRow).explain(wordedForPeople(meanings.nominal));
 }
 
+/// What hardly ever changes is not worded anew with each reading.
+void CPUCardView::showProcessor(const CPUCard& card) {
+    const CPUStats& stats = card.stats;
+    std::optional<Processor> processor;
+    if (!card.isWaiting())
+        processor = {stats.model, stats.physicalCoreCount, stats.logicalCoreCount};
+    if (processor && processor == processor_) return;
+    showCard(card.frame());
+    header().setToolTip(toolTipText(shownText(stats.model)));
+    processor_ = std::move(processor);
+}
+
 void CPUCardView::show(const CPUCard& card) {
     if (card.revision != revision_) {
-        showCard(card.frame());
-        header().setToolTip(toolTipText(shownText(card.stats.model)));
+        showProcessor(card);
         figures_->show(card.gauge(), card.rows());
         loadAverage_->show(card.loadAverageText());
         history_->show(card.history, card.gauge().title, card.historyTimes);

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
+#include <string>
 
 #include "model/cpu_stats.h"
 #include "model/process_stats.h"
@@ -65,11 +67,23 @@ class CPUCardView : public DashboardCardView {
     ProcessMiniListView& processes() { return *processes_; }
 
   private:
+    /// What the header tells.
+    struct Processor {
+        std::string model;
+        std::int64_t physicalCoreCount = 0;
+        std::int64_t logicalCoreCount = 0;
+
+        bool operator==(const Processor&) const = default;
+    };
+
+    void showProcessor(const CPUCard& card);
+
     GaugeAndRowsView* figures_ = nullptr;  // all owned by this widget, as its children
     TextLineView* loadAverage_ = nullptr;
     SparklineView* history_ = nullptr;
     CoreActivityView* cores_ = nullptr;
     ProcessMiniListView* processes_ = nullptr;
+    std::optional<Processor> processor_;  // none while it waits
     std::uint64_t revision_ = 0;
     std::uint64_t processRevision_ = 0;
 };
