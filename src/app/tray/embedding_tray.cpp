@@ -4,8 +4,9 @@
 #include <QGuiApplication>
 #include <QtGlobal>
 
+#include <cstdint>
 #include <cstdlib>
-#include <memory>
+#include <utility>
 
 #if QT_CONFIG(xcb)
 #include <xcb/xcb.h>
@@ -37,23 +38,93 @@ xcb_atom_t atomOf(xcb_connection_t* server, const QByteArray& name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+xcb_connection_t* connectionToServer() {
+    const auto* const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    // Other platforms than that of X displays may have the interface, and no connection behind it.
+    return application ? application->connection() : nullptr;
+}
+
+xcb_window_t ownerOf(xcb_connection_t* server, xcb_atom_t selection) {
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, FreeReply> reply(
+        xcb_get_selection_owner_reply(server, xcb_get_selection_owner(server, selection), nullptr));
+    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+xcb_atom_t traySelection(xcb_connection_t* server) {
+    static const xcb_atom_t selection = atomOf(server, selectionName());
+    return selection;
+}
+
+class EmbeddingTrayWatch : public QAbstractNativeEventFilter {
+  public:
+    EmbeddingTrayWatch(xcb_connection_t* server, std::function<void()> onChange)
+        : server_(server),
+          onChange_(std::move(onChange)),
+          selection_(traySelection(server)),
+          manager_(atomOf(server, "MANAGER")) {
+        watchOwner();
+        qGuiApp->installNativeEventFilter(this);
+    }
+
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr*) override {
+        if (type != "xcb_generic_event_t") return false;
+        const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+        constexpr auto sentByAClient = 0x80;
+        switch (event->response_type & ~sentByAClient) {
+            case XCB_CLIENT_MESSAGE: {
+                const auto* const said = static_cast<const xcb_client_message_event_t*>(message);
+                if (said->type != manager_ || said->data.data32[1] != selection_) return false;
+                watchOwner();
+                onChange_();
+                return false;
+            }
+            case XCB_DESTROY_NOTIFY:
+                if (static_cast<const xcb_destroy_notify_event_t*>(message)->window != owner_)
+                    return false;
+                owner_ = XCB_WINDOW_NONE;
+                onChange_();
+                return false;
+            default:
+                return false;
+        }
+    }
+
+  private:
+    void watchOwner() {
+        owner_ = ownerOf(server_, selection_);
+        if (owner_ == XCB_WINDOW_NONE) return;
+        // What the toolkit asks for as well where it has an icon there: neither takes it back.
+        const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        xcb_change_window_attributes(server_, owner_, XCB_CW_EVENT_MASK, &events);
+    }
+
+    xcb_connection_t* server_;  // of the toolkit
+    std::function<void()> onChange_;
+    xcb_atom_t selection_;
+    xcb_atom_t manager_;
+    xcb_window_t owner_ = XCB_WINDOW_NONE;
+};
+
 }  // namespace
 
 bool hasEmbeddingTray() {
-    const auto* const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms than that of X displays may have the interface, and no connection behind it.
-    xcb_connection_t* const server = application ? application->connection() : nullptr;
-    if (!server) return false;
-    static const xcb_atom_t selection = atomOf(server, selectionName());
-    const std::unique_ptr<xcb_get_selection_owner_reply_t, FreeReply> reply(
-        xcb_get_selection_owner_reply(server, xcb_get_selection_owner(server, selection), nullptr));
-    return reply && reply->owner != XCB_WINDOW_NONE;
+    xcb_connection_t* const server = connectionToServer();
+    return server && ownerOf(server, traySelection(server)) != XCB_WINDOW_NONE;
+}
+
+std::unique_ptr<QAbstractNativeEventFilter> watchEmbeddingTrays(std::function<void()> onChange) {
+    xcb_connection_t* const server = connectionToServer();
+    return server ? std::make_unique<EmbeddingTrayWatch>(server, std::move(onChange)) : nullptr;
 }
 
 #else
 
 bool hasEmbeddingTray() {
     return false;
+}
+
+std::unique_ptr<QAbstractNativeEventFilter> watchEmbeddingTrays(std::function<void()>) {
+    return nullptr;
 }
 
 #endif

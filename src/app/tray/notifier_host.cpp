@@ -17,6 +17,13 @@ namespace {
 // Milliseconds; a host that hangs shows nothing, and an embedding tray may be available.
 constexpr int hostPatience = 3000;
 
+/// The first is a bus's answer where it may not start the service, which the toolkit has no type
+/// for.
+bool isAbsence(const QDBusError& error) {
+    return error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner" ||
+           error.type() == QDBusError::ServiceUnknown;
+}
+
 }  // namespace
 
 NotifierHost::NotifierHost(const QDBusConnection& bus, std::function<void()> onAnswer)
@@ -68,7 +75,7 @@ void NotifierHost::look() {
             look();
             return;
         }
-        if (reply.error().type() == QDBusError::ServiceUnknown) hasService_ = false;
+        if (isAbsence(reply.error())) hasService_ = false;
         settle(!reply.isError() && reply.value().variant().toBool());
     });
 }

@@ -18,6 +18,8 @@ class NotifierHost {
     NotifierHost& operator=(const NotifierHost&) = delete;
 
     bool isThere() const { return isThere_; }
+    /// Whether a watcher may be there, host or not: one that does not answer may do so later.
+    bool hasService() const { return hasService_; }
 
     /// Whether it has been asked and has not answered yet.
     bool isAsked() const { return isAsked_; }

@@ -115,7 +115,8 @@ QtStatusBar::Surroundings QtStatusBar::nativeSurroundings() {
             hasEmbeddingTray,
             [](StatusItemContent content) {
                 return std::make_unique<EmbeddedItem>(std::move(content));
-            }};
+            },
+            watchEmbeddingTrays};
 }
 
 QtStatusBar::QtStatusBar(Surroundings surroundings) : surroundings_(std::move(surroundings)) {
@@ -127,6 +128,7 @@ QtStatusBar::QtStatusBar(Surroundings surroundings) : surroundings_(std::move(su
     QObject::connect(&look_, &QTimer::timeout, &look_, [this] { look(); });
     look_.setTimerType(Qt::CoarseTimer);
     look_.start(surroundings_.lookInterval);
+    if (surroundings_.watch) watch_ = surroundings_.watch([this] { soon_.start(); });
     look();
 }
 
@@ -174,10 +176,25 @@ void QtStatusBar::settle() {
         for (Item* const item : items_)
             item->show(mode_);
     }
+    pace();
     const bool isThereNow = isThere();
     if (isThereNow == isAvailable_) return;
     isAvailable_ = isThereNow;
     if (onChange_) onChange_();
+}
+
+/// Signals tell of the rest: a service that comes, a tray that is embedded in.
+bool QtStatusBar::isCalm() const {
+    const bool isWaitedFor = host_ && host_->hasService() && !host_->isThere();
+    return !isWaitedFor && std::ranges::none_of(items_, [](const Item* item) {
+        return item->has(NotifierItem::Standing::asked);
+    });
+}
+
+void QtStatusBar::pace() {
+    const auto interval = isCalm() ? surroundings_.calmLookInterval : surroundings_.lookInterval;
+    // The same interval set again would begin anew.
+    if (look_.intervalAsDuration() != interval) look_.setInterval(interval);
 }
 
 void QtStatusBar::listen(std::function<void()> onChange) {
@@ -187,6 +204,7 @@ void QtStatusBar::listen(std::function<void()> onChange) {
 std::unique_ptr<StatusItem> QtStatusBar::makeItem(StatusItemContent content) {
     auto item = std::make_unique<Item>(*this, std::move(content));
     item->show(mode_);
+    pace();
     return item;
 }
 

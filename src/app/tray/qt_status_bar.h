@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QTimer>
 
 #include <chrono>
@@ -24,8 +25,13 @@ class QtStatusBar : public StatusBar {
         BusConnector connect;
         std::function<bool()> hasEmbeddingTray;
         std::function<std::unique_ptr<StatusItem>(StatusItemContent)> embed;
-        /// Old trays send no signal when they come and go.
+        /// Calls what it is given when hasEmbeddingTray() may have changed, as long as the result
+        /// lives.
+        std::function<std::unique_ptr<QAbstractNativeEventFilter>(std::function<void()>)> watch;
+        /// While a tray of the bus owes an answer.
         std::chrono::milliseconds lookInterval = std::chrono::seconds(2);
+        /// Otherwise, should a signal be lost: each look wakes the tray, too.
+        std::chrono::milliseconds calmLookInterval = std::chrono::seconds(30);
     };
     static Surroundings nativeSurroundings();
 
@@ -43,12 +49,15 @@ class QtStatusBar : public StatusBar {
 
     void look();
     void settle();
+    void pace();
+    bool isCalm() const;
     Mode currentMode() const;
     bool isThere() const;
 
     Surroundings surroundings_;
     std::function<void()> onChange_;
     std::unique_ptr<NotifierHost> host_;  // none without a bus
+    std::unique_ptr<QAbstractNativeEventFilter> watch_;
     QTimer look_;
     QTimer soon_;  // until it settles, in a turn of its own
     Mode mode_ = Mode::none;

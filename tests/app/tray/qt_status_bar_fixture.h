@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -33,7 +35,8 @@ class QtStatusBarTest : public testing::Test {
     void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "dbus-daemon did not start"; }
 
     void start(std::chrono::milliseconds lookInterval = std::chrono::milliseconds(2),
-               bool hasBus = true) {
+               bool hasBus = true,
+               std::optional<std::chrono::milliseconds> calmLookInterval = std::nullopt) {
         QtStatusBar::Surroundings surroundings{
             [this, hasBus](const QString& name) {
                 return hasBus ? QDBusConnection::connectToBus(bus.address(), name)
@@ -44,7 +47,12 @@ class QtStatusBarTest : public testing::Test {
                 return hasEmbedding;
             },
             [this](StatusItemContent) { return std::make_unique<Embedded>(embedded); },
-            lookInterval};
+            [this](std::function<void()> onChange) {
+                embeddingChanged = std::move(onChange);
+                return nullptr;
+            },
+            lookInterval,
+            calmLookInterval.value_or(lookInterval)};
         bar = std::make_unique<QtStatusBar>(std::move(surroundings));
         bar->listen([this] { ++changes; });
         makeItem();
@@ -68,6 +76,11 @@ class QtStatusBarTest : public testing::Test {
         const int before = looks;
         return handleEventsUntil([this, before] { return looks >= before + manyLooks; });
     }
+    /// As much as many looks would take.
+    static void letTimePass() {
+        int turns = 0;
+        handleEventsUntil([&turns] { return ++turns > manyLooks; });
+    }
     bool hasItem() {
         return handleEventsUntil([this] { return tray->items().size() == 1; });
     }
@@ -80,6 +93,7 @@ class QtStatusBarTest : public testing::Test {
 
     SessionBus bus;
     bool hasEmbedding = false;
+    std::function<void()> embeddingChanged;
     std::shared_ptr<int> embedded = std::make_shared<int>(0);
     int looks = 0;
     int changes = 0;

@@ -67,6 +67,45 @@ TEST_F(QtStatusBarTest, WithoutABusTheTrayOfTheDisplayIsThereFromTheStart) {
     EXPECT_EQ(*embedded, 1);
 }
 
+TEST_F(QtStatusBarTest, ATrayOfTheDisplayThatComesAndGoesIsNoticedAtOnce) {
+    start(1h);
+    ASSERT_TRUE(handleEventsUntil([this] { return looks > 0; }));
+    hasEmbedding = true;
+    embeddingChanged();
+    ASSERT_TRUE(becomesAvailable());
+    EXPECT_EQ(*embedded, 1);
+    hasEmbedding = false;
+    embeddingChanged();
+    ASSERT_TRUE(becomesUnavailable());
+    EXPECT_EQ(*embedded, 0);
+}
+
+TEST_F(QtStatusBarTest, ATrayOfTheDisplayThatHasTheIconIsLookedForRarely) {
+    hasEmbedding = true;
+    start(1ms, true, 1h);
+    ASSERT_TRUE(becomesAvailable());
+    letTimePass();
+    const int before = looks;
+    letTimePass();
+    EXPECT_EQ(looks, before);
+}
+
+TEST_F(QtStatusBarTest, ATrayOfTheBusThatHasTheItemIsLookedForRarely) {
+    startTray();
+    start(1ms, true, 1h);
+    ASSERT_TRUE(becomesAvailable());
+    letTimePass();
+    const int before = tray->looks();
+    letTimePass();
+    EXPECT_EQ(tray->looks(), before);
+}
+
+TEST_F(QtStatusBarTest, AServiceThatNothingShowsYetIsLookedForOften) {
+    startTray(Manner::hostless);
+    start(1ms, true, 1h);
+    EXPECT_TRUE(handleEventsUntil([this] { return tray->looks() >= manyLooks; }));
+}
+
 TEST_F(QtStatusBarTest, OnceEmbeddedTheIconStaysWhereItIs) {
     hasEmbedding = true;
     start();
