@@ -1,7 +1,7 @@
 #include "ui/typography.h"
 
 #include <QApplication>
-#include <QFontInfo>
+#include <QFontMetrics>
 
 #include <algorithm>
 #include <cmath>
@@ -14,8 +14,17 @@ namespace {
 
 constexpr double referenceSize = 13;
 
+/// What QFontInfo says of a font of any size, without loading the font for it: most sizes that are
+/// asked for draw nothing.
+int pixelSizeOf(const QFont& font) {
+    if (font.pixelSize() > 0) return font.pixelSize();
+    constexpr double pointsPerInch = 72;
+    return static_cast<int>(
+        std::lround(font.pointSizeF() * QFontMetrics(font).fontDpi() / pointsPerInch));
+}
+
 double systemPixelSize() {
-    return QFontInfo(QApplication::font()).pixelSize();
+    return pixelSizeOf(QApplication::font());
 }
 
 double widestDigit(const QFontMetricsF& metrics, QChar zero) {
@@ -56,7 +65,7 @@ QFont font(double size, QFont::Weight weight) {
 
 QFont font(const TextStyle& style) {
     QFont result = font(style.size, style.weight);
-    if (style.minPixels > QFontInfo(result).pixelSize())
+    if (style.minPixels > pixelSizeOf(result))
         result.setPixelSize(static_cast<int>(std::lround(style.minPixels)));
     return result;
 }

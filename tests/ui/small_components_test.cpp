@@ -7,6 +7,7 @@
 #include "ui/components/text_line.h"
 #include "ui/gestures.h"
 #include "ui/rendering.h"
+#include "ui/typography.h"
 
 /// Speed tile, labelled chart, empty state, picker.
 namespace vantor::small_components_test {
@@ -114,6 +115,27 @@ TEST(EmptyState, ALongMessageBreaksIntoLinesAndMakesRoom) {
                          QString(QStringLiteral("word ")).repeated(150)});
     EXPECT_GT(view.heightForWidth(300), 240);
     EXPECT_GT(view.heightForWidth(300), view.heightForWidth(500));
+}
+
+TEST(EmptyState, HasRoomForEachMessageAtEachWidth) {
+    const QFontMetricsF title(Typography::font(Typography::headline, QFont::DemiBold));
+    const QFontMetricsF message(Typography::font(Typography::caption));
+    const auto least = [&](int width, const QString& text) {
+        const QRectF room(0, 0, std::min(width - 20, 420), 1e6);
+        constexpr int flags = Qt::AlignHCenter | Qt::TextWordWrap | Qt::TextWrapAnywhere;
+        return 34 + 10 + title.height() + 10 + message.boundingRect(room, flags, text).height();
+    };
+    EmptyStateView view({QStringLiteral("t"), QStringLiteral("magnifyingglass"), QString()});
+    for (const auto& piece :
+         {QStringLiteral("a bc "), QStringLiteral("middling words "), QString(40, u'W') + u' '}) {
+        for (int pieces = 1; pieces < 60; pieces += 3) {
+            const QString text = piece.repeated(pieces).trimmed();
+            view.show({QStringLiteral("t"), QStringLiteral("magnifyingglass"), text});
+            for (int width = 60; width <= 520; width += 46)
+                ASSERT_GE(view.heightForWidth(width), least(width, text))
+                    << width << ": " << utf8(text);
+        }
+    }
 }
 
 TEST(SegmentedPicker, TheTabKeyArrivesAtWhatIsChosen) {

@@ -1,5 +1,7 @@
 #include "ui/components/empty_state_view.h"
 
+#include <QEvent>
+
 #include <algorithm>
 #include <cmath>
 
@@ -41,6 +43,7 @@ EmptyStateView::EmptyStateView(EmptyState state, QWidget* parent)
 void EmptyStateView::show(const EmptyState& state) {
     if (state == state_) return;
     state_ = state;
+    messageAdvance_.reset();
     updateGeometry();
     update();
     announceValue();
@@ -53,16 +56,34 @@ double EmptyStateView::messageHeight(double width) const {
         .height();
 }
 
-double EmptyStateView::contentHeight(double width) const {
+double EmptyStateView::heightAboveMessage() const {
     return emptyStateSymbolSide * Typography::lengthScale() + emptyStateSpacing +
-           QFontMetricsF(Typography::font(emptyStateTitleStyle), this).height() +
-           emptyStateSpacing + messageHeight(width);
+           QFontMetricsF(Typography::font(emptyStateTitleStyle), this).height() + emptyStateSpacing;
+}
+
+double EmptyStateView::contentHeight(double width) const {
+    return heightAboveMessage() + messageHeight(width);
+}
+
+/// Breaking a text into lines is most of what laying this out costs. Two lines that follow one
+/// another hold more than one width of text, so there are never more than twice as many as that.
+bool EmptyStateView::certainlyFits(double width, double height) const {
+    const QFontMetricsF metrics(Typography::font(messageStyle), this);
+    if (!messageAdvance_) messageAdvance_ = metrics.horizontalAdvance(shownText(state_.message));
+    const double lines = 2 * std::ceil(*messageAdvance_ / std::max(1.0, messageWidth(width)));
+    return heightAboveMessage() + lines * metrics.lineSpacing() <= height;
 }
 
 int EmptyStateView::heightForWidth(int width) const {
     const double least = minHeight * Typography::lengthScale();
-    return static_cast<int>(
-        std::ceil(std::max(least, contentHeight(width)) + 2 * emptyStatePadding));
+    const double needed =
+        certainlyFits(width, least) ? least : std::max(least, contentHeight(width));
+    return static_cast<int>(std::ceil(needed + 2 * emptyStatePadding));
+}
+
+void EmptyStateView::changeEvent(QEvent* event) {
+    PaintedView::changeEvent(event);
+    if (event->type() == QEvent::ApplicationFontChange) messageAdvance_.reset();
 }
 
 QSize EmptyStateView::sizeHint() const {

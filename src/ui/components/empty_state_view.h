@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 #include "ui/components/painted_view.h"
 
 namespace vantor {
@@ -31,13 +33,17 @@ class EmptyStateView : public PaintedView {
     QSize minimumSizeHint() const override;
 
   protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    bool certainlyFits(double width, double height) const;
+    double heightAboveMessage() const;
     double messageHeight(double width) const;
     double contentHeight(double width) const;
 
     EmptyState state_;
+    mutable std::optional<double> messageAdvance_;  // in one line
 };
 
 }  // namespace vantor
