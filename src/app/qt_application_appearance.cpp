@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "app/window/window_frames.h"
 #include "ui/theme.h"
 
 namespace vantor {
@@ -90,10 +91,15 @@ void QtApplicationAppearance::choose(Appearance choice) {
 
 void QtApplicationAppearance::apply() const {
     if (!choice_) return;
+    setPalette(*choice_);
+    renewWindowFrames();
+}
+
+void QtApplicationAppearance::setPalette(Appearance choice) const {
     using Scheme = DesktopLook::Scheme;
-    const bool isSystem = *choice_ == Appearance::system;
+    const bool isSystem = choice == Appearance::system;
     const bool hasHighContrast = look_.hasHighContrast;
-    bool isDark = isSystem ? look_.scheme == Scheme::dark : *choice_ == Appearance::dark;
+    bool isDark = isSystem ? look_.scheme == Scheme::dark : choice == Appearance::dark;
     if (isSystem && look_.scheme == Scheme::unknown) {
         QApplication::setPalette(QPalette());  // no palette of ours: the toolkit's, now and later
         if (!hasHighContrast) return;

@@ -26,6 +26,7 @@ class QtApplicationAppearance : public ApplicationAppearance {
   private:
     void choose(Appearance choice);
     void apply() const;
+    void setPalette(Appearance choice) const;
 
     std::shared_ptr<DesktopAppearance> desktop_;  // null: as if it said nothing
     DesktopLook look_;

@@ -59,9 +59,29 @@ class FollowedAppearance : public ProgramOnADesktop {
     static bool isBlack(const QColor& color) { return color == Qt::black; }
     static bool isWhite(const QColor& color) { return color == Qt::white; }
 
+    /// What window managers with the themes of GTK draw the frame in.
+    QString frameVariant() {
+        const QString said = desktop_.run(QStringLiteral("xprop"),
+                                          {QStringLiteral("-name"), QStringLiteral("Vantor"),
+                                           QStringLiteral("_GTK_THEME_VARIANT")});
+        return said.contains(u'"') ? said.section(u'"', 1, 1) : QString();
+    }
+
     QString address_;
     std::optional<FakeSettingsPortal> portal_;
 };
+
+TEST_F(FollowedAppearance, TheWindowsFrameIsDarkAndLightAsTheWindow) {
+    choose("system");
+    startPortal({{scheme, 1U}, {contrast, 0U}});
+    startAnswering();
+    EXPECT_EQ(frameVariant(), u"dark") << "from the start";
+    portal_->change(scheme, 2U);
+    ASSERT_TRUE(becomes(isLight));
+    EXPECT_TRUE(eventually([this] { return frameVariant().isEmpty(); }, patience));
+    portal_->change(scheme, 1U);
+    EXPECT_TRUE(eventually([this] { return frameVariant() == u"dark"; }, patience));
+}
 
 TEST_F(FollowedAppearance, SystemIsDarkAndLightAsTheDesktopAndRaisesItsContrast) {
     choose("system");

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -35,10 +37,11 @@ class OnWayland : public testing::Test {
         startBus();
         compositor_.setProcessEnvironment(environment_);
         compositor_.setStandardErrorFile(QProcess::nullDevice());
-        compositor_.start(QStringLiteral("weston"),
-                          {QStringLiteral("--backend=headless-backend.so"),
-                           QStringLiteral("--socket=wayland-test"), QStringLiteral("--width=1400"),
-                           QStringLiteral("--height=900")});
+        compositor_.start(
+            QStringLiteral("weston"),
+            {QStringLiteral("--backend=headless-backend.so"), QStringLiteral("--use-pixman"),
+             QStringLiteral("--debug"), QStringLiteral("--socket=wayland-test"),
+             QStringLiteral("--width=1400"), QStringLiteral("--height=900")});
         ASSERT_TRUE(compositor_.waitForStarted(patience)) << "no compositor";
         ASSERT_TRUE(eventually(
             [this] { return QFile::exists(home_.filePath(QStringLiteral("wayland-test"))); }));
@@ -56,6 +59,18 @@ class OnWayland : public testing::Test {
         program_.setProcessEnvironment(environment_);
         program_.start(program, QStringList());
         ASSERT_TRUE(program_.waitForStarted(patience));
+    }
+
+    /// What the screen would show; null when that failed.
+    QImage picture() {
+        QTemporaryDir folder;
+        QProcess photographer;
+        photographer.setProcessEnvironment(environment_);
+        photographer.setWorkingDirectory(folder.path());
+        photographer.start(QStringLiteral("weston-screenshooter"), QStringList());
+        if (!photographer.waitForFinished(patience)) return {};
+        const QStringList files = QDir(folder.path()).entryList(QDir::Files);
+        return files.isEmpty() ? QImage() : QImage(folder.filePath(files.constFirst()));
     }
 
     /// What the gauge of the processor says; empty while there is none.

@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "app/session/instance_claim.h"
+#include "app/window/window_frames.h"
 #include "app/window/window_system.h"
 #include "ui/components/make_child.h"
 
@@ -74,6 +75,7 @@ void bringToFront(QWidget& window, const QString& activationToken) {
     if (isWayland() && !activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toLatin1());
     if (window.isMinimized()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    if (!window.isVisible()) frameWindow(window);
     window.show();
     if (QGuiApplication::platformName() == u"xcb") makeChild<X11Activation>(&window);
     // This is also what sends the change on its way: the toolkit holds requests back otherwise.
