@@ -75,12 +75,18 @@ TEST_F(FollowedAppearance, TheWindowsFrameIsDarkAndLightAsTheWindow) {
     choose("system");
     startPortal({{scheme, 1U}, {contrast, 0U}});
     startAnswering();
-    EXPECT_EQ(frameVariant(), u"dark") << "from the start";
+    EXPECT_TRUE(eventually([this] { return frameVariant() == u"dark"; }, patience));
     portal_->change(scheme, 2U);
     ASSERT_TRUE(becomes(isLight));
     EXPECT_TRUE(eventually([this] { return frameVariant().isEmpty(); }, patience));
     portal_->change(scheme, 1U);
     EXPECT_TRUE(eventually([this] { return frameVariant() == u"dark"; }, patience));
+}
+
+TEST_F(FollowedAppearance, AWindowThatOpensDarkHasADarkFrame) {
+    choose("dark");
+    start();
+    EXPECT_EQ(frameVariant(), u"dark");
 }
 
 TEST_F(FollowedAppearance, SystemIsDarkAndLightAsTheDesktopAndRaisesItsContrast) {
