@@ -1,4 +1,6 @@
-"""The program on a desktop, as its user meets it: python3 desktops.py DESKTOP TREE HOME PICTURES."""
+"""The program on a desktop, as its user meets it: python3 desktops.py DESKTOP TREE HOME PICTURES [EMPTY_WINDOW].
+
+With the program of an empty window: what it costs there, instead."""
 import importlib
 import os
 import subprocess
@@ -7,6 +9,7 @@ import time
 
 from gi.repository import GLib
 
+import desktop_cost
 from desktop_session import VANTOR, Missed, until
 
 # At the most; the dashboard is never as narrow.
@@ -135,13 +138,16 @@ class Trial:
 
 
 def main():
-    kind, tree, home, pictures = sys.argv[1:]
+    kind, tree, home, pictures, *empty_window = sys.argv[1:]
     module, name = DESKTOPS[kind]
     try:
         desktop = getattr(importlib.import_module(module), name)(tree, home, "%s/%s.log" % (pictures, kind))
     except Missed as missed:
         print("  no desktop: missed %s" % missed)
         return 1
+    if empty_window:
+        desktop_cost.report(desktop, empty_window[0])
+        return 0
     trial = Trial(desktop)
     failures = 0
     for step in (trial.starts_by_its_desktop_file, trial.tray_menu_opens, trial.has_a_tray_item_with_a_menu,
