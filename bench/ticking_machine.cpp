@@ -1,6 +1,5 @@
 #include "ticking_machine.h"
 
-#include "platform/derived_machine.h"
 #include "platform/native_machine.h"
 
 namespace vantor::bench {
@@ -30,14 +29,16 @@ class TickingProcessors : public HostProcessors {
     std::uint32_t spent_ = 0;
 };
 
-class TickingMachine : public DerivedMachine {
+class TickingMachine : public Machine {
   public:
-    TickingMachine() : DerivedMachine(makeNativeMachine()) {}
+    TickingMachine() { calls_.hostProcessors = processors_; }
 
-    HostProcessors& hostProcessors() override { return processors_; }
+    const MachineCalls& calls() const override { return calls_; }
 
   private:
-    TickingProcessors processors_{origin()->hostProcessors()};
+    std::shared_ptr<Machine> origin_ = makeNativeMachine();
+    TickingProcessors processors_{origin_->hostProcessors()};
+    MachineCalls calls_{origin_->calls()};
 };
 
 }  // namespace

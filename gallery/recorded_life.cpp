@@ -255,9 +255,9 @@ class LivedRecording : public RecordedMachine {
   public:
     LivedRecording(const std::shared_ptr<const RecordedTree>& tree,
                    const std::shared_ptr<FakeClock>& clock)
-        : RecordedMachine(tree, clock), daytime_(clock) {}
-
-    WallClock& wallClock() override { return daytime_; }
+        : RecordedMachine(tree, clock), daytime_(clock) {
+        ownCalls().wallClock = daytime_;
+    }
 
   private:
     DaytimeClock daytime_;

@@ -24,7 +24,6 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/gpu_names_test.cpp
     probes/gpu_reader_rows_test.cpp
     probes/gpu_reader_test.cpp
-    probes/gpu_temperature_test.cpp
     probes/top_n_test.cpp
     probes/interface_order_test.cpp
     probes/memory_reader_test.cpp
@@ -100,7 +99,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/processes/linux_process_table_listing_test.cpp
         platform/linux/processes/linux_process_table_names_test.cpp
         platform/linux/processes/linux_process_table_test.cpp
-        platform/linux/sensors/linux_temperatures_test.cpp
+        platform/linux/sensors/linux_sensors_test.cpp
         platform/linux/memory/live_memory_test.cpp
         platform/linux/network/live_network_test.cpp
         platform/linux/processes/live_process_churn_test.cpp
@@ -191,7 +190,7 @@ vantor_add_tests(darwin_tests LABEL core SOURCES
     platform/darwin/chip_family_test.cpp
     platform/darwin/darwin_network_interfaces_test.cpp
     platform/darwin/darwin_primary_interface_test.cpp
-    platform/darwin/darwin_temperatures_test.cpp
+    platform/darwin/darwin_sensors_test.cpp
     platform/darwin/gpu_sensors_test.cpp
     platform/darwin/hid_sensors_test.cpp
     platform/darwin/hid_temperature_reader_test.cpp

@@ -54,10 +54,8 @@ class CPUReader::PortGuard {
     HostProcessors::Port port_;
 };
 
-CPUReader::CPUReader(std::shared_ptr<Machine> machine, CPUTemperatureQuery temperature)
-    : machine_(std::move(machine)),
-      temperature_(std::move(temperature)),
-      loadAverageBuffer_(loadAverageCount) {}
+CPUReader::CPUReader(std::shared_ptr<Machine> machine)
+    : machine_(std::move(machine)), loadAverageBuffer_(loadAverageCount) {}
 
 const CPUStats* CPUReader::read() {
     const PortGuard guard(machine_->hostProcessors());
@@ -84,7 +82,7 @@ const CPUStats* CPUReader::read() {
     stats_.physicalCoreCount = hardware.physicalCoreCount;
     stats_.loadAverage = lastLoadAverage_;
     stats_.nominalFrequencyHz = hardware.nominalFrequencyHz;
-    stats_.temperatureCelsius = temperature_ ? temperature_() : std::nullopt;
+    stats_.temperatureCelsius = machine_->sensors().processorTemperature();
     return &stats_;
 }
 

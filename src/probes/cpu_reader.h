@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,16 +11,13 @@
 
 namespace vantor {
 
-/// Asks for the processor's temperature in degrees Celsius; absent when no sensor answers.
-using CPUTemperatureQuery = std::function<std::optional<double>()>;
-
 /// Turns the kernel's cumulative processor ticks into usage over the interval since the last read.
 ///
 /// One thread at a time: the sampler calls it on the cpu provider's queue only. Its lists and the
 /// record it hands out are kept and reused, so that a read in the steady state allocates nothing.
 class CPUReader {
   public:
-    explicit CPUReader(std::shared_ptr<Machine> machine, CPUTemperatureQuery temperature = {});
+    explicit CPUReader(std::shared_ptr<Machine> machine);
 
     /// The usage since the last read; null on the first read after creation or reset, when the
     /// counters cannot be read, and when no tick has passed. The record stays the reader's own and
@@ -49,8 +45,6 @@ class CPUReader {
     const HardwareInfo& hardwareInfo();
 
     std::shared_ptr<Machine> machine_;
-    CPUTemperatureQuery temperature_;
-
     std::optional<TickSet> previousTotalTicks_;
     std::vector<TickSet> previousCoreTicks_;
     std::vector<TickSet> coreTickBuffer_;  // receives a read, then trades places with the previous

@@ -63,8 +63,7 @@ void setFigures(const RegistryStats& entry, GPUStats& row) {
 
 }  // namespace
 
-GPUReader::GPUReader(std::shared_ptr<Machine> machine, GPUTemperatureSources temperatures)
-    : machine_(std::move(machine)), temperatures_(std::move(temperatures)) {}
+GPUReader::GPUReader(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
 
 std::optional<std::vector<GPUStats>> GPUReader::read() {
     const std::vector<MetalDeviceMetadata>& devices = metalDeviceMetadata();
@@ -173,7 +172,7 @@ std::vector<GPUStats> GPUReader::rowsOfDevices(const std::vector<MetalDeviceMeta
 }
 
 std::optional<double> GPUReader::hardwareTemperature(HardwareTemperature& known) const {
-    if (!known) known = temperatures_.hardware();
+    if (!known) known = machine_->sensors().graphicsTemperature();
     return *known;
 }
 

@@ -9,7 +9,6 @@
 #include "platform/machine.h"
 #include "probes/gpu_records.h"
 #include "probes/gpu_statistics.h"
-#include "probes/gpu_temperature.h"
 
 namespace vantor {
 
@@ -18,7 +17,7 @@ namespace vantor {
 /// at a time.
 class GPUReader {
   public:
-    explicit GPUReader(std::shared_ptr<Machine> machine, GPUTemperatureSources temperatures = {});
+    explicit GPUReader(std::shared_ptr<Machine> machine);
 
     /// The devices in the system's order, the default one first; or the services, where the system
     /// lists no devices. Absent when there are no devices and the services could not be looked up.
@@ -39,7 +38,6 @@ class GPUReader {
     std::optional<double> hardwareTemperature(HardwareTemperature& known) const;
 
     std::shared_ptr<Machine> machine_;
-    GPUTemperatureSources temperatures_;
     std::vector<MetalDeviceMetadata> cachedMetalDevices_;
     std::optional<double> lastMetalMetadataRefreshUptime_;  ///< absent before the first
     // Working storage without meaning between two reads.

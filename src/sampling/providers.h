@@ -7,7 +7,6 @@
 #include "platform/machine.h"
 #include "probes/cpu_reader.h"
 #include "probes/gpu_reader.h"
-#include "probes/hardware_temperature_reader.h"
 #include "probes/memory_reader.h"
 #include "probes/network_reader.h"
 #include "probes/power_reader.h"
@@ -17,19 +16,13 @@
 #include "sampling/pending_update.h"
 
 /// The table of providers. Each entry has what the sampler and the monitor need: the queue's label,
-/// the reader, how it is read and reset, how often and from which stage on, and the section that
-/// its results are of. An incomplete entry does not compile.
+/// the reader, which is made of the machine, how it is read and reset, how often and from which
+/// stage on, and the section that its results are of. An incomplete entry does not compile.
 ///
 /// `minInterval`: seconds between two readings where the refresh interval is shorter. `stage`: 0
 /// for one that is read with the first tick; the others are staged in after it, in the order of
 /// these numbers, and then join the ticks.
 namespace vantor {
-
-/// What readers are made from; all of them share the sensors.
-struct ReaderSources {
-    std::shared_ptr<Machine> machine;
-    std::shared_ptr<HardwareTemperatureReader> temperatures;
-};
 
 /// What a reading depends on beside the machine.
 struct ReadingOptions {
@@ -43,10 +36,6 @@ struct CPUProvider {
     static constexpr auto section = &PendingUpdate::cpu;
     using Reader = CPUReader;
 
-    static Reader makeReader(const ReaderSources& sources) {
-        return Reader(sources.machine,
-                      [sensors = sources.temperatures] { return sensors->cpuTemperature(); });
-    }
     static const CPUStats* read(Reader& reader, Machine&, const ReadingOptions&) {
         return reader.read();
     }
@@ -60,7 +49,6 @@ struct MemoryProvider {
     static constexpr auto section = &PendingUpdate::memory;
     using Reader = MemoryReader;
 
-    static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
 };
 
@@ -71,7 +59,6 @@ struct NetworkProvider {
     static constexpr auto section = &PendingUpdate::network;
     using Reader = NetworkReader;
 
-    static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
     static const NetworkStats* read(Reader& reader, Machine& machine,
                                     const ReadingOptions& options) {
         // Not the instant of the gate: rates are measured from reading to reading.
@@ -88,7 +75,6 @@ struct SystemInfoProvider {
     static constexpr auto section = &PendingUpdate::system;
     using Reader = SystemInfoReader;
 
-    static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
     static const SystemInfoStats& read(Reader& reader, Machine&, const ReadingOptions&) {
         return reader.read();
     }
@@ -101,7 +87,6 @@ struct ProcessProvider {
     static constexpr auto section = &PendingUpdate::processSample;
     using Reader = ProcessReader;
 
-    static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
     static void resetDeltas(Reader& reader) { reader.resetDeltas(); }
 };
@@ -113,9 +98,6 @@ struct GPUProvider {
     static constexpr auto section = &PendingUpdate::gpus;
     using Reader = GPUReader;
 
-    static Reader makeReader(const ReaderSources& sources) {
-        return Reader(sources.machine, GPUTemperatureSources::of(sources.temperatures));
-    }
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
 };
 
@@ -126,7 +108,6 @@ struct VolumeProvider {
     static constexpr auto section = &PendingUpdate::volumes;
     using Reader = StorageReader;
 
-    static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
 };
 
@@ -137,7 +118,6 @@ struct PowerProvider {
     static constexpr auto section = &PendingUpdate::power;
     using Reader = PowerReader;
 
-    static Reader makeReader(const ReaderSources& sources) { return Reader(sources.machine); }
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
 };
 

@@ -23,9 +23,7 @@ std::shared_ptr<SystemSampler> SystemSampler::make(std::shared_ptr<Machine> mach
 }
 
 SystemSampler::SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactory& queues)
-    : machine_(std::move(machine)),
-      slots_(makeSlots(AllProviders{},
-                       {machine_, std::make_shared<HardwareTemperatureReader>(machine_)})) {
+    : machine_(std::move(machine)), slots_(makeSlots(AllProviders{}, machine_)) {
     // Not in the slots' constructors: a tuple does not construct its elements in order everywhere.
     forEachProvider([&]<class Provider>(Provider) {
         slot<Provider>().queue = queues.makeQueue(Provider::label);

@@ -98,7 +98,7 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
   private:
     template <class Provider>
     struct Slot {
-        explicit Slot(const ReaderSources& sources) : reader(Provider::makeReader(sources)) {}
+        explicit Slot(const std::shared_ptr<Machine>& machine) : reader(machine) {}
 
         typename Provider::Reader reader;  // touched on the provider's queue only
         std::unique_ptr<SerialQueue> queue;
@@ -106,11 +106,12 @@ class SystemSampler : public std::enable_shared_from_this<SystemSampler> {
     };
     template <class... Providers>
     static std::tuple<Slot<Providers>...> makeSlots(std::tuple<Providers...>,
-                                                    const ReaderSources& sources) {
+                                                    const std::shared_ptr<Machine>& machine) {
         // Each is made in its place: readers are not moved.
-        return std::tuple<Slot<Providers>...>((static_cast<void>(Providers{}), sources)...);
+        return std::tuple<Slot<Providers>...>((static_cast<void>(Providers{}), machine)...);
     }
-    using Slots = decltype(makeSlots(AllProviders{}, std::declval<const ReaderSources&>()));
+    using Slots =
+        decltype(makeSlots(AllProviders{}, std::declval<const std::shared_ptr<Machine>&>()));
 
     SystemSampler(std::shared_ptr<Machine> machine, SerialQueueFactory& queues);
 

@@ -53,7 +53,6 @@ TEST(Calls, AreLookedForInTheFolderItself) {
     const std::string withDefault = "struct A {\n    virtual int a();\n};\n";
     sample.write("linux/a.h", withDefault);
     sample.write("a.cpp", withDefault);
-    sample.write("derived_machine.h", withDefault);
     EXPECT_THAT(findDefaults(sample.root()), IsEmpty());
 }
 

@@ -193,8 +193,9 @@ class MeasuredHost : public SimulatedHostProcessors {
 
 class MeasuredMachine : public SimulatedMachine {
   public:
+    MeasuredMachine() { calls().hostProcessors = measured; }
+
     MeasuredHost measured;
-    SimulatedHostProcessors& hostProcessors() override { return measured; }
 };
 
 TEST(CPUReader, GivesTheArrayBackWithItsSizeInBytes) {

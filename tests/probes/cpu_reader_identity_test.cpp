@@ -7,6 +7,7 @@
 
 #include "platform/simulated/simulated_machine.h"
 #include "probes/cpu_reader.h"
+#include "support/scripted_sensors.h"
 
 namespace vantor::cpu_reader_identity_test {
 namespace {
@@ -50,9 +51,13 @@ TEST_P(ProcessorModel, FallsBackToTheNextName) {
 
 class HardwareIdentity : public testing::Test {
   protected:
+    // A Mac's own sensors ask for the processor's name, too.
+    HardwareIdentity() { machine->calls().sensors = sensors; }
+
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
     SimulatedKernelValues& values = machine->kernelValues();
     SimulatedProcessInfo& surroundings = machine->processInfo();
+    ScriptedSensors sensors;
     CPUReader reader{machine};
 };
 
@@ -145,13 +150,19 @@ TEST_F(HardwareIdentityDeathTest, TheLargest32BitCountDoesNot) {
 
 class Temperature : public testing::Test {
   protected:
+    Temperature() {
+        machine->calls().sensors = sensors;
+        sensors.processor = [this] {
+            ++questions;
+            return answer;
+        };
+    }
+
     std::shared_ptr<SimulatedMachine> machine = SimulatedMachine::laptop();
     int questions = 0;
     std::optional<double> answer = 61.5;
-    CPUReader reader{machine, [this] {
-                         ++questions;
-                         return answer;
-                     }};
+    CPUReader reader{machine};
+    ScriptedSensors sensors;
 };
 
 TEST_F(Temperature, IsAskedForOncePerReadThatHasShares) {
@@ -179,8 +190,9 @@ TEST_F(Temperature, IsAbsentAgainWhenTheSensorFallsSilent) {
 }
 
 TEST_F(Temperature, IsAbsentWithoutASensor) {
-    CPUReader blind(machine);
-    EXPECT_EQ(secondRead(blind, *machine).temperatureCelsius, std::nullopt);
+    const auto blind = SimulatedMachine::laptop();
+    CPUReader itsReader(blind);
+    EXPECT_EQ(secondRead(itsReader, *blind).temperatureCelsius, std::nullopt);
 }
 
 }  // namespace

@@ -11,12 +11,21 @@
 #include "platform/simulated/simulated_graphics.h"
 #include "platform/simulated/simulated_machine.h"
 #include "probes/gpu_reader.h"
+#include "support/scripted_sensors.h"
 
 namespace vantor {
 
 /// A reader on a machine without graphics, and the sources of a temperature by script.
 class GPUReaderTest : public testing::Test {
   protected:
+    GPUReaderTest() {
+        machine->calls().sensors = sensors;
+        sensors.graphics = [this] {
+            ++temperatureReads;
+            return chipTemperature;
+        };
+    }
+
     using RawDictionary = SimulatedAccelerators::RawDictionary;
     using Rows = std::optional<std::vector<GPUStats>>;
 
@@ -74,10 +83,8 @@ class GPUReaderTest : public testing::Test {
 
     std::optional<double> chipTemperature = 47.5;  ///< of the machine's own graphics
     int temperatureReads = 0;
-    GPUReader reader{machine, {.hardware = [this] {
-                         ++temperatureReads;
-                         return chipTemperature;
-                     }}};
+    ScriptedSensors sensors;
+    GPUReader reader{machine};
 };
 
 }  // namespace vantor

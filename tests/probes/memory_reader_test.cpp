@@ -123,7 +123,7 @@ TEST_F(MemoryReaderTest, OffersARoomyBufferOfZeroes) {
         std::uint64_t sum = 0;
     };
     struct GreedyMachine : SimulatedMachine {
-        SimulatedHostMemory& hostMemory() override { return memory; }
+        GreedyMachine() { calls().hostMemory = memory; }
         Greedy memory;
     };
     const auto greedy = std::make_shared<GreedyMachine>();

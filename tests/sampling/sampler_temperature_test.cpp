@@ -10,7 +10,6 @@
 
 #include "platform/simulated/fake_serial_queue.h"
 #include "platform/simulated/simulated_macs.h"
-#include "probes/hardware_temperature_reader.h"
 #include "sampling/system_sampler.h"
 #include "support/named_row.h"
 
@@ -113,7 +112,7 @@ TEST_P(GraphicsOfAChip, AskForNoKeyThatTheProcessorAsksFor) {
         ofGraphics.insert(call.key);
     controller.forgetCalls();
     EXPECT_EQ(ofGraphics.empty(), !GetParam().hasKeys);
-    HardwareTemperatureReader(machine).cpuTemperature();
+    machine->sensors().processorTemperature();
     for (const auto& call : controller.calls())
         EXPECT_FALSE(ofGraphics.contains(call.key)) << call.key;
 }

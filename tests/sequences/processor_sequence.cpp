@@ -27,6 +27,8 @@ Ticks someTicks(Chance& chance) {
 }  // namespace
 
 ProcessorSequence::ProcessorSequence(std::uint64_t seed) : chance_(seed) {
+    machine_->calls().sensors = sensors_;
+    sensors_.processor = [this] { return temperature_; };
     host_.total = someTicks(chance_);
     host_.processors.resize(1 + chance_.below(chance_.oneIn(8) ? 64 : 6));
     for (Ticks& processor : host_.processors)

@@ -8,6 +8,7 @@
 
 #include "platform/simulated/simulated_machine.h"
 #include "probes/cpu_reader.h"
+#include "support/scripted_sensors.h"
 
 #include "sequences/chance.h"
 #include "sequences/processor_oracle.h"
@@ -34,7 +35,8 @@ class ProcessorSequence : public Sequence {
     std::shared_ptr<SimulatedMachine> machine_ = std::make_shared<SimulatedMachine>();
     SimulatedHostProcessors& host_ = machine_->hostProcessors();
     std::optional<double> temperature_;
-    CPUReader reader_{machine_, [this] { return temperature_; }};
+    ScriptedSensors sensors_;
+    CPUReader reader_{machine_};
     ProcessorOracle oracle_;
     bool coresFail_ = false;
 };

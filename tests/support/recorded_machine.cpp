@@ -26,11 +26,14 @@ RecordedMachine::RecordedMachine(std::shared_ptr<const RecordedTree> tree)
 
 RecordedMachine::RecordedMachine(std::shared_ptr<const RecordedTree> tree,
                                  std::shared_ptr<FakeClock> clock)
-    : DerivedMachine(
-          std::make_shared<LinuxMachine>(tree->roots(), recordedCalls(tree->calls(), clock))),
-      tree_(std::move(tree)),
+    : tree_(std::move(tree)),
       clock_(std::move(clock)),
-      processInfo_(origin()->processInfo(), clock_) {
+      adapters_(
+          std::make_shared<LinuxMachine>(tree_->roots(), recordedCalls(tree_->calls(), clock_))),
+      processInfo_(adapters_->processInfo(), clock_),
+      calls_(adapters_->calls()) {
+    calls_.processInfo = processInfo_;
+    calls_.wallClock = wallClock_;
     const auto uptime = tree_->calls() / "monotonic";
     if (std::filesystem::exists(uptime)) {
         clock_->setNow(nanoseconds(std::stod(readRecordedFile(uptime))));

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "platform/derived_machine.h"
 #include "platform/linux/linux_machine.h"
 #include "platform/simulated/fake_clock.h"
 #include "support/recorded_tree.h"
@@ -47,7 +46,7 @@ class StoppedWallClock : public WallClock {
 };
 
 /// The Linux adapters on a machine recorded in tests/machines.
-class RecordedMachine : public DerivedMachine {
+class RecordedMachine : public Machine {
   public:
     explicit RecordedMachine(const std::string& name);
     /// On a tree that others may share, and damage.
@@ -64,14 +63,19 @@ class RecordedMachine : public DerivedMachine {
 
     const RecordedTree& tree() const { return *tree_; }
 
-    ProcessInfo& processInfo() override { return processInfo_; }
-    WallClock& wallClock() override { return wallClock_; }
+    const MachineCalls& calls() const override { return calls_; }
+
+  protected:
+    /// To put others in their places.
+    MachineCalls& ownCalls() { return calls_; }
 
   private:
     std::shared_ptr<const RecordedTree> tree_;
     std::shared_ptr<FakeClock> clock_;
+    std::shared_ptr<Machine> adapters_;
     RecordedProcessInfo processInfo_;
     StoppedWallClock wallClock_;
+    MachineCalls calls_;
 };
 
 }  // namespace vantor

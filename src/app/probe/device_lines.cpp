@@ -103,8 +103,8 @@ void reportGraphics(Machine& machine, Report& report) {
 }
 
 void reportSensors(Machine& machine, Report& report) {
-    report.line("processor, degrees Celsius", machine.temperatures().processor());
-    report.line("graphics of the chip, degrees Celsius", machine.temperatures().graphics());
+    for (const auto& [name, read] : sensorCalls)
+        report.line(name, (machine.sensors().*read)());
 }
 
 }  // namespace vantor

@@ -14,7 +14,7 @@
 #include "platform/linux/processes/linux_process_table.h"
 #include "platform/linux/processor/linux_host_processors.h"
 #include "platform/linux/processor/linux_load_averages.h"
-#include "platform/linux/sensors/linux_temperatures.h"
+#include "platform/linux/sensors/linux_sensors.h"
 #include "platform/linux/storage/linux_mounted_volumes.h"
 #include "platform/linux/system/linux_kernel_values.h"
 #include "platform/linux/system/linux_process_info.h"
@@ -41,23 +41,9 @@ class LinuxMachine : public Machine {
           primaryInterface_(roots, calls.routes),
           processInfo_(roots),
           processTable_(roots, calls.processClocks),
-          temperatures_(std::make_shared<ProcessorSensors>(roots)) {}
+          sensors_(std::make_shared<ProcessorSensors>(roots)) {}
 
-    Accelerators& accelerators() override { return accelerators_; }
-    GraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    HostMemory& hostMemory() override { return hostMemory_; }
-    HostProcessors& hostProcessors() override { return hostProcessors_; }
-    KernelValues& kernelValues() override { return kernelValues_; }
-    LoadAverages& loadAverages() override { return loadAverages_; }
-    MountedVolumes& mountedVolumes() override { return mountedVolumes_; }
-    NetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
-    PowerSources& powerSources() override { return powerSources_; }
-    PrimaryInterface& primaryInterface() override { return primaryInterface_; }
-    ProcessInfo& processInfo() override { return processInfo_; }
-    ProcessTable& processTable() override { return processTable_; }
-    Temperatures& temperatures() override { return temperatures_; }
-    WallClock& wallClock() override { return wallClock_; }
-    const PlatformWords& words() const override { return words_; }
+    const MachineCalls& calls() const override { return calls_; }
 
   private:
     std::shared_ptr<GraphicsCards> graphicsCards_;  // for both that tell of them
@@ -73,7 +59,7 @@ class LinuxMachine : public Machine {
     LinuxPrimaryInterface primaryInterface_;
     LinuxProcessInfo processInfo_;
     LinuxProcessTable processTable_;
-    LinuxTemperatures temperatures_;
+    LinuxSensors sensors_;
     SystemWallClock wallClock_;
     PlatformWords words_{
         .systemName = "Linux",
@@ -100,6 +86,21 @@ class LinuxMachine : public Machine {
                             "hot, Critical where it switches off.",
             .lowPowerMode = "Low Power Mode is on while the firmware's profile or the processors' "
                             "own preference is to save power."}};
+    MachineCalls calls_{.accelerators = accelerators_,
+                        .graphicsDevices = graphicsDevices_,
+                        .hostMemory = hostMemory_,
+                        .hostProcessors = hostProcessors_,
+                        .kernelValues = kernelValues_,
+                        .loadAverages = loadAverages_,
+                        .mountedVolumes = mountedVolumes_,
+                        .networkInterfaces = networkInterfaces_,
+                        .powerSources = powerSources_,
+                        .primaryInterface = primaryInterface_,
+                        .processInfo = processInfo_,
+                        .processTable = processTable_,
+                        .sensors = sensors_,
+                        .wallClock = wallClock_,
+                        .words = words_};
 };
 
 }  // namespace vantor

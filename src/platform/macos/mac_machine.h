@@ -4,7 +4,7 @@
 
 #include "platform/darwin/darwin_network_interfaces.h"
 #include "platform/darwin/darwin_primary_interface.h"
-#include "platform/darwin/darwin_temperatures.h"
+#include "platform/darwin/darwin_sensors.h"
 #include "platform/machine.h"
 #include "platform/macos/frameworks/frameworks.h"
 #include "platform/macos/graphics/mac_accelerators.h"
@@ -26,8 +26,7 @@
 
 namespace vantor {
 
-/// The Mac that the program runs on. Every call is answered here and by no base class: see
-/// answered_calls.cpp.
+/// The Mac that the program runs on.
 class MacMachine final : public Machine {
   public:
     explicit MacMachine(const std::shared_ptr<const Frameworks>& frameworks = loadFrameworks())
@@ -40,21 +39,7 @@ class MacMachine final : public Machine {
           processInfo_(frameworks),
           systemController_(frameworks) {}
 
-    MacAccelerators& accelerators() override { return accelerators_; }
-    MacGraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    MacHostMemory& hostMemory() override { return hostMemory_; }
-    MacHostProcessors& hostProcessors() override { return hostProcessors_; }
-    MacKernelValues& kernelValues() override { return kernelValues_; }
-    MacLoadAverages& loadAverages() override { return loadAverages_; }
-    MacMountedVolumes& mountedVolumes() override { return mountedVolumes_; }
-    DarwinNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
-    MacPowerSources& powerSources() override { return powerSources_; }
-    DarwinPrimaryInterface& primaryInterface() override { return primaryInterface_; }
-    MacProcessInfo& processInfo() override { return processInfo_; }
-    MacProcessTable& processTable() override { return processTable_; }
-    DarwinTemperatures& temperatures() override { return temperatures_; }
-    SystemWallClock& wallClock() override { return wallClock_; }
-    const PlatformWords& words() const override { return macWords; }
+    const MachineCalls& calls() const override { return calls_; }
 
   private:
     MacAccelerators accelerators_;
@@ -75,8 +60,22 @@ class MacMachine final : public Machine {
     // What these are read by are calls above.
     DarwinNetworkInterfaces networkInterfaces_{interfaceCalls_};
     DarwinPrimaryInterface primaryInterface_{dynamicStore_};
-    DarwinTemperatures temperatures_{kernelValues_, systemController_, hidEventSystem_,
-                                     processInfo_};
+    DarwinSensors sensors_{kernelValues_, systemController_, hidEventSystem_, processInfo_};
+    MachineCalls calls_{.accelerators = accelerators_,
+                        .graphicsDevices = graphicsDevices_,
+                        .hostMemory = hostMemory_,
+                        .hostProcessors = hostProcessors_,
+                        .kernelValues = kernelValues_,
+                        .loadAverages = loadAverages_,
+                        .mountedVolumes = mountedVolumes_,
+                        .networkInterfaces = networkInterfaces_,
+                        .powerSources = powerSources_,
+                        .primaryInterface = primaryInterface_,
+                        .processInfo = processInfo_,
+                        .processTable = processTable_,
+                        .sensors = sensors_,
+                        .wallClock = wallClock_,
+                        .words = macWords};
 };
 
 }  // namespace vantor

@@ -7,7 +7,7 @@
 
 #include "platform/darwin/darwin_network_interfaces.h"
 #include "platform/darwin/darwin_primary_interface.h"
-#include "platform/darwin/darwin_temperatures.h"
+#include "platform/darwin/darwin_sensors.h"
 #include "platform/machine.h"
 #include "platform/macos/system/mac_words.h"
 #include "platform/simulated/fake_clock.h"
@@ -99,22 +99,25 @@ class SimulatedMachine : public Machine {
 
     const std::shared_ptr<FakeClock>& clock() const { return clock_; }
 
-    SimulatedAccelerators& accelerators() override { return accelerators_; }
-    SimulatedGraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    SimulatedHostMemory& hostMemory() override { return hostMemory_; }
-    SimulatedHostProcessors& hostProcessors() override { return hostProcessors_; }
-    SimulatedKernelValues& kernelValues() override { return kernelValues_; }
-    SimulatedLoadAverages& loadAverages() override { return loadAverages_; }
-    SimulatedMountedVolumes& mountedVolumes() override { return mountedVolumes_; }
-    SimulatedPowerSources& powerSources() override { return powerSources_; }
-    SimulatedProcessInfo& processInfo() override { return processInfo_; }
-    SimulatedProcessTable& processTable() override { return processTable_; }
-    SimulatedWallClock& wallClock() override { return wallClock_; }
-    const PlatformWords& words() const override { return macWords; }
+    const MachineCalls& calls() const override { return calls_; }
+    /// To put others in their places.
+    MachineCalls& calls() { return calls_; }
 
-    DarwinNetworkInterfaces& networkInterfaces() override { return networkInterfaces_; }
-    DarwinPrimaryInterface& primaryInterface() override { return primaryInterface_; }
-    DarwinTemperatures& temperatures() override { return temperatures_; }
+    // The same calls, to be scripted.
+    SimulatedAccelerators& accelerators() { return accelerators_; }
+    SimulatedGraphicsDevices& graphicsDevices() { return graphicsDevices_; }
+    SimulatedHostMemory& hostMemory() { return hostMemory_; }
+    SimulatedHostProcessors& hostProcessors() { return hostProcessors_; }
+    SimulatedKernelValues& kernelValues() { return kernelValues_; }
+    SimulatedLoadAverages& loadAverages() { return loadAverages_; }
+    SimulatedMountedVolumes& mountedVolumes() { return mountedVolumes_; }
+    SimulatedPowerSources& powerSources() { return powerSources_; }
+    SimulatedProcessInfo& processInfo() { return processInfo_; }
+    SimulatedProcessTable& processTable() { return processTable_; }
+    SimulatedWallClock& wallClock() { return wallClock_; }
+    DarwinNetworkInterfaces& networkInterfaces() { return networkInterfaces_; }
+    DarwinPrimaryInterface& primaryInterface() { return primaryInterface_; }
+    DarwinSensors& sensors() { return sensors_; }
     // What these ask.
     SimulatedInterfaceCalls& interfaceCalls() { return interfaceCalls_; }
     SimulatedDynamicStore& dynamicStore() { return dynamicStore_; }
@@ -140,8 +143,22 @@ class SimulatedMachine : public Machine {
     SimulatedWallClock wallClock_;
     DarwinNetworkInterfaces networkInterfaces_{interfaceCalls_};
     DarwinPrimaryInterface primaryInterface_{dynamicStore_};
-    DarwinTemperatures temperatures_{kernelValues_, systemController_, hidEventSystem_,
-                                     processInfo_};
+    DarwinSensors sensors_{kernelValues_, systemController_, hidEventSystem_, processInfo_};
+    MachineCalls calls_{.accelerators = accelerators_,
+                        .graphicsDevices = graphicsDevices_,
+                        .hostMemory = hostMemory_,
+                        .hostProcessors = hostProcessors_,
+                        .kernelValues = kernelValues_,
+                        .loadAverages = loadAverages_,
+                        .mountedVolumes = mountedVolumes_,
+                        .networkInterfaces = networkInterfaces_,
+                        .powerSources = powerSources_,
+                        .primaryInterface = primaryInterface_,
+                        .processInfo = processInfo_,
+                        .processTable = processTable_,
+                        .sensors = sensors_,
+                        .wallClock = wallClock_,
+                        .words = macWords};
 };
 
 }  // namespace vantor

@@ -6,7 +6,6 @@
 #include <cstring>
 #include <string>
 
-#include "platform/derived_machine.h"
 #include "platform/macos/fake_mac_kernel.h"
 #include "platform/macos/memory/mac_host_memory.h"
 #include "platform/macos/processes/mac_process_table.h"
@@ -26,20 +25,24 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// A simulated machine whose kernel is asked by the Mac's own classes.
-class MachineOfCalls : public DerivedMachine {
+class MachineOfCalls : public Machine {
   public:
-    explicit MachineOfCalls(std::shared_ptr<SimulatedMachine> rest)
-        : DerivedMachine(std::move(rest)) {}
-    HostMemory& hostMemory() override { return memory_; }
-    HostProcessors& hostProcessors() override { return processors_; }
-    KernelValues& kernelValues() override { return values_; }
-    ProcessTable& processTable() override { return table_; }
+    explicit MachineOfCalls(std::shared_ptr<SimulatedMachine> rest) : rest_(std::move(rest)) {
+        calls_.hostMemory = memory_;
+        calls_.hostProcessors = processors_;
+        calls_.kernelValues = values_;
+        calls_.processTable = table_;
+    }
+
+    const MachineCalls& calls() const override { return calls_; }
 
   private:
+    std::shared_ptr<SimulatedMachine> rest_;
     MacHostMemory memory_;
     MacHostProcessors processors_;
     MacKernelValues values_;
     MacProcessTable table_;
+    MachineCalls calls_{rest_->calls()};
 };
 
 class MacKernelCalls : public testing::Test {
@@ -68,7 +71,7 @@ TEST_F(MacKernelCalls, GiveTheReaderItsProcessors) {
     setNumber("hw.physicalcpu", std::int32_t{2});
     kernel.total = {1000, 500, 8000, 100};
     kernel.perProcessor = {100, 50, 800, 10, 900, 450, 7200, 90};
-    CPUReader reader(machine, {});
+    CPUReader reader(machine);
     EXPECT_EQ(reader.read(), nullptr);
     kernel.total = {1010, 505, 8080, 105};
     kernel.perProcessor = {100, 50, 900, 10, 930, 460, 7260, 90};
@@ -83,7 +86,7 @@ TEST_F(MacKernelCalls, GiveTheReaderItsProcessors) {
 }
 
 TEST_F(MacKernelCalls, LeaveNothingHeldWhenTheyFail) {
-    CPUReader cpu(machine, {});
+    CPUReader cpu(machine);
     MemoryReader memory(machine);
     kernel.fails = true;
     EXPECT_EQ(cpu.read(), nullptr);

@@ -5,9 +5,8 @@
 #include <string>
 
 #include "platform/darwin/darwin_primary_interface.h"
-#include "platform/darwin/darwin_temperatures.h"
+#include "platform/darwin/darwin_sensors.h"
 #include "platform/darwin/smc_record.h"
-#include "platform/derived_machine.h"
 #include "platform/macos/frameworks/frameworks_test_support.h"
 #include "platform/macos/graphics/mac_accelerators.h"
 #include "platform/macos/graphics/mac_graphics_devices.h"
@@ -18,8 +17,6 @@
 #include "platform/macos/storage/mac_mounted_volumes.h"
 #include "platform/simulated/simulated_macs.h"
 #include "probes/gpu_reader.h"
-#include "probes/gpu_temperature.h"
-#include "probes/hardware_temperature_reader.h"
 #include "probes/network_reader.h"
 #include "probes/power_reader.h"
 #include "probes/storage_reader.h"
@@ -30,10 +27,10 @@ namespace {
 using testing::Optional;
 
 /// What the frameworks answer, answered by them; the rest is simulated.
-class FakeMac : public DerivedMachine {
+class FakeMac : public Machine {
   public:
     FakeMac(std::shared_ptr<Machine> rest, const std::shared_ptr<const Frameworks>& frameworks)
-        : DerivedMachine(std::move(rest)),
+        : rest_(std::move(rest)),
           accelerators_(frameworks),
           dynamicStore_(frameworks),
           primaryInterface_(dynamicStore_),
@@ -42,17 +39,20 @@ class FakeMac : public DerivedMachine {
           mountedVolumes_(frameworks),
           powerSources_(frameworks),
           systemController_(frameworks),
-          temperatures_(origin()->kernelValues(), systemController_, hidEventSystem_,
-                        origin()->processInfo()) {}
+          sensors_(rest_->kernelValues(), systemController_, hidEventSystem_,
+                   rest_->processInfo()) {
+        calls_.accelerators = accelerators_;
+        calls_.graphicsDevices = graphicsDevices_;
+        calls_.mountedVolumes = mountedVolumes_;
+        calls_.powerSources = powerSources_;
+        calls_.primaryInterface = primaryInterface_;
+        calls_.sensors = sensors_;
+    }
 
-    Accelerators& accelerators() override { return accelerators_; }
-    GraphicsDevices& graphicsDevices() override { return graphicsDevices_; }
-    MountedVolumes& mountedVolumes() override { return mountedVolumes_; }
-    PowerSources& powerSources() override { return powerSources_; }
-    PrimaryInterface& primaryInterface() override { return primaryInterface_; }
-    Temperatures& temperatures() override { return temperatures_; }
+    const MachineCalls& calls() const override { return calls_; }
 
   private:
+    std::shared_ptr<Machine> rest_;
     MacAccelerators accelerators_;
     MacDynamicStore dynamicStore_;
     DarwinPrimaryInterface primaryInterface_;
@@ -61,7 +61,8 @@ class FakeMac : public DerivedMachine {
     MacMountedVolumes mountedVolumes_;
     MacPowerSources powerSources_;
     MacSystemController systemController_;
-    DarwinTemperatures temperatures_;
+    DarwinSensors sensors_;
+    MachineCalls calls_{rest_->calls()};
 };
 
 /// The program's own readers, over the answers of a Mac's frameworks.
@@ -190,8 +191,7 @@ TEST_F(MacReadersTest, ReadsTheControllersTemperature) {
         size = SMCRecord::size;
         return 0;
     };
-    HardwareTemperatureReader reader(make(rest));
-    EXPECT_THAT(reader.cpuTemperature(), Optional(44.5));
+    EXPECT_THAT(make(rest)->sensors().processorTemperature(), Optional(44.5));
 }
 
 TEST_F(MacReadersTest, ReadsTheEventSystemsTemperature) {
@@ -200,8 +200,8 @@ TEST_F(MacReadersTest, ReadsTheEventSystemsTemperature) {
                       {text("PMU tdie2"), 48.5},
                       {text("PMU tdie3"), std::nullopt},
                       {nullptr, 99.0}};
-    HardwareTemperatureReader reader(make(makeAppleSiliconMac(SimulatedChip::m2)));
-    EXPECT_THAT(reader.cpuTemperature(), Optional(48.5));
+    const auto machine = make(makeAppleSiliconMac(SimulatedChip::m2));
+    EXPECT_THAT(machine->sensors().processorTemperature(), Optional(48.5));
     EXPECT_EQ(darwin.sensorListsMatched, 1);
 }
 

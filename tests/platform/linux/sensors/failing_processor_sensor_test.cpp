@@ -10,7 +10,6 @@
 #include "platform/linux/linux_machine.h"
 #include "platform/linux/sensors/processor_sensors.h"
 #include "platform/linux/sensors/sensor_tree.h"
-#include "probes/hardware_temperature_reader.h"
 #include "support/failing_read.h"
 #include "support/named_row.h"
 #include "support/silent_pipe.h"
@@ -106,8 +105,7 @@ TEST_P(FailingProcessorSensor, OfAZoneHidesNoOtherZone) {
 TEST_P(FailingProcessorSensor, LeavesTheReaderTheZoneAndThenTheCores) {
     const FailingRead failing = fail(1);
     const auto read = [this] {
-        return HardwareTemperatureReader(std::make_shared<LinuxMachine>(tree.roots()))
-            .cpuTemperature();
+        return LinuxMachine(tree.roots()).sensors().processorTemperature();
     };
     EXPECT_EQ(read(), 55) << "the hottest core";
     zone(1, "x86_pkg_temp", "60500\n");

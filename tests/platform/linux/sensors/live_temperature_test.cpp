@@ -1,17 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "platform/linux/linux_machine.h"
 #include "platform/linux/sensors/processor_sensors.h"
-#include "probes/hardware_temperature_reader.h"
 
 namespace vantor::live_temperature_test {
 namespace {
 
 TEST(LiveTemperature, IsPlausibleOrAbsent) {
-    HardwareTemperatureReader reader(std::make_shared<LinuxMachine>());
-    const auto temperature = reader.cpuTemperature();
+    const auto temperature = LinuxMachine().sensors().processorTemperature();
     const bool hasSensors = !ProcessorSensors(LinuxRoots{}).list()->sensors.empty();
     if (!hasSensors) {
         EXPECT_EQ(temperature, std::nullopt);

@@ -1,4 +1,4 @@
-#include "platform/linux/sensors/linux_temperatures.h"
+#include "platform/linux/sensors/linux_sensors.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,8 @@
 
 #include "platform/linux/linux_machine.h"
 #include "platform/linux/sensors/sensor_tree.h"
-#include "probes/hardware_temperature_reader.h"
 
-namespace vantor::linux_temperatures_test {
+namespace vantor::linux_sensors_test {
 namespace {
 
 constexpr auto none = std::nullopt;
@@ -23,12 +22,10 @@ class LinuxTemperature : public testing::Test, protected SensorTree {
         tree.proc("cpuinfo", "processor\t: 0\nmodel name\t: " + name + "\n\n");
     }
     std::optional<double> read() {
-        return HardwareTemperatureReader(std::make_shared<LinuxMachine>(tree.roots()))
-            .cpuTemperature();
+        return LinuxMachine(tree.roots()).sensors().processorTemperature();
     }
     std::optional<double> readGraphics() {
-        return HardwareTemperatureReader(std::make_shared<LinuxMachine>(tree.roots()))
-            .gpuTemperature();
+        return LinuxMachine(tree.roots()).sensors().graphicsTemperature();
     }
 };
 
@@ -99,4 +96,4 @@ TEST_F(LinuxTemperature, KeepsNoFileOfAMachineThatHasGone) {
 }
 
 }  // namespace
-}  // namespace vantor::linux_temperatures_test
+}  // namespace vantor::linux_sensors_test

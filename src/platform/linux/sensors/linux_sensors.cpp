@@ -1,8 +1,8 @@
-#include "platform/linux/sensors/linux_temperatures.h"
+#include "platform/linux/sensors/linux_sensors.h"
 
 namespace vantor {
 
-std::optional<double> LinuxTemperatures::processor() {
+std::optional<double> LinuxSensors::processorTemperature() {
     auto temperature = sensors_->hottestPackage();
     if (!temperature) temperature = sensors_->hottestCore();
     // As precise as documents have always had it.

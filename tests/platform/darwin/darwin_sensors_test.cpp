@@ -1,4 +1,4 @@
-#include "platform/darwin/darwin_temperatures.h"
+#include "platform/darwin/darwin_sensors.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@
 #include "support/named_row.h"
 #include "support/patient_threads.h"
 
-namespace vantor::darwin_temperatures_test {
+namespace vantor::darwin_sensors_test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -45,7 +45,7 @@ struct Mac {
     std::shared_ptr<SimulatedMachine> machine;
     SimulatedSystemController& controller = machine->systemController();
     SimulatedHIDEventSystem& sensors = machine->hidEventSystem();
-    DarwinTemperatures& temperatures = machine->temperatures();
+    DarwinSensors& chips = machine->sensors();
 };
 
 struct ChipRow : NamedRow {
@@ -68,91 +68,91 @@ INSTANTIATE_TEST_SUITE_P(Chips, EachChip,
 
 TEST_P(EachChip, IsAskedByItsControllersKeysAndThenByItsSensors) {
     Mac mac(makeAppleSiliconMac(GetParam().chip));
-    EXPECT_TRUE(mac.temperatures.isAppleSilicon());
-    EXPECT_EQ(mac.temperatures.processor(), GetParam().byController.value_or(58.25));
+    EXPECT_TRUE(mac.chips.isAppleSilicon());
+    EXPECT_EQ(mac.chips.processorTemperature(), GetParam().byController.value_or(58.25));
     EXPECT_EQ(mac.sensors.enumerations(), GetParam().byController ? 0 : 1);
     mac.failAllKeys();
-    EXPECT_EQ(mac.temperatures.processor(), 58.25);
+    EXPECT_EQ(mac.chips.processorTemperature(), 58.25);
     EXPECT_EQ(mac.sensors.enumerations(), 1);
 }
 
 TEST_P(EachChip, HasItsGraphicsKeysToo) {
     Mac mac(makeAppleSiliconMac(GetParam().chip));
-    const auto keys = mac.temperatures.cachedAppleSiliconGPUKeys();
+    const auto keys = mac.chips.cachedAppleSiliconGPUKeys();
     EXPECT_EQ(keys.empty(), !GetParam().byController);
-    EXPECT_EQ(mac.temperatures.graphics(), GetParam().byController ? 52.75 : 49.5);
+    EXPECT_EQ(mac.chips.graphicsTemperature(), GetParam().byController ? 52.75 : 49.5);
     EXPECT_EQ(mac.sensors.enumerations(), GetParam().byController ? 0 : 1);
     mac.failAllKeys();
-    EXPECT_EQ(mac.temperatures.graphics(), 49.5);
+    EXPECT_EQ(mac.chips.graphicsTemperature(), 49.5);
 }
 
-TEST(DarwinTemperatures, A18OrUnknownChipHasNoKeysAndReliesOnItsSensorsAlone) {
+TEST(DarwinSensors, A18OrUnknownChipHasNoKeysAndReliesOnItsSensorsAlone) {
     for (const auto chip : {SimulatedChip::a18, SimulatedChip::unknown}) {
         Mac mac(makeAppleSiliconMac(chip));
         for (const char* key : {"Tp09", "Tp01", "Te05", "Tp00"})
             mac.controller.setFixed(key, 90);
-        EXPECT_THAT(mac.temperatures.cachedAppleSiliconCPUKeys(), IsEmpty());
-        EXPECT_THAT(mac.temperatures.cachedAppleSiliconGPUKeys(), IsEmpty());
-        EXPECT_EQ(mac.temperatures.processor(), 58.25);
+        EXPECT_THAT(mac.chips.cachedAppleSiliconCPUKeys(), IsEmpty());
+        EXPECT_THAT(mac.chips.cachedAppleSiliconGPUKeys(), IsEmpty());
+        EXPECT_EQ(mac.chips.processorTemperature(), 58.25);
         EXPECT_EQ(mac.controller.connectionsOpened(), 0);
     }
 }
 
-TEST(DarwinTemperatures, OnAnM2WhoseKeysAllFailTheDiesSensorCounts) {
+TEST(DarwinSensors, OnAnM2WhoseKeysAllFailTheDiesSensorCounts) {
     Mac mac(makeAppleSiliconMac(SimulatedChip::m2));
     mac.failAllKeys();
     mac.sensors.services = {{"PMU tdie4", 48.2}, {"NAND CH0 temp", 70}};
-    EXPECT_EQ(mac.temperatures.processor(), 48.2);
+    EXPECT_EQ(mac.chips.processorTemperature(), 48.2);
 }
 
-TEST(DarwinTemperatures, ASensorCalledTdevOf12800Is50) {
+TEST(DarwinSensors, ASensorCalledTdevOf12800Is50) {
     Mac mac(makeAppleSiliconMac(SimulatedChip::m2));
     mac.failAllKeys();
     mac.sensors.services = {{"PMU tdev2", 12'800}};
-    EXPECT_EQ(mac.temperatures.processor(), 50.0);
+    EXPECT_EQ(mac.chips.processorTemperature(), 50.0);
 }
 
-TEST(DarwinTemperatures, WithoutAnySensorThereIsNoTemperature) {
+TEST(DarwinSensors, WithoutAnySensorThereIsNoTemperature) {
     Mac mac(makeAppleSiliconMac(SimulatedChip::m1));
     mac.controller.isPresent = false;
     mac.sensors.services.clear();
-    EXPECT_EQ(mac.temperatures.processor(), std::nullopt);
-    EXPECT_EQ(mac.temperatures.graphics(), std::nullopt);
+    EXPECT_EQ(mac.chips.processorTemperature(), std::nullopt);
+    EXPECT_EQ(mac.chips.graphicsTemperature(), std::nullopt);
     for (const auto& machine : {SimulatedMachine::laptop(), SimulatedMachine::broken()}) {
-        EXPECT_EQ(machine->temperatures().processor(), std::nullopt);
-        EXPECT_EQ(machine->temperatures().graphics(), std::nullopt);
+        EXPECT_EQ(machine->sensors().processorTemperature(), std::nullopt);
+        EXPECT_EQ(machine->sensors().graphicsTemperature(), std::nullopt);
     }
 }
 
-TEST(DarwinTemperatures, OnIntelOnlyTheControllerIsAsked) {
+TEST(DarwinSensors, OnIntelOnlyTheControllerIsAsked) {
     Mac mac(makeIntelMac());
     mac.sensors.hasLibrary = true;
     mac.sensors.services = {{"PMU tdie1", 80}, {"GPU MTR Temp Sensor1", 60}};
     mac.controller.setFixed("Tg05", 50);
-    EXPECT_FALSE(mac.temperatures.isAppleSilicon());
-    EXPECT_THAT(mac.temperatures.cachedAppleSiliconCPUKeys(), IsEmpty());
-    EXPECT_THAT(mac.temperatures.cachedAppleSiliconGPUKeys(), IsEmpty());
-    EXPECT_EQ(mac.temperatures.processor(), 67);
+    EXPECT_FALSE(mac.chips.isAppleSilicon());
+    EXPECT_THAT(mac.chips.cachedAppleSiliconCPUKeys(), IsEmpty());
+    EXPECT_THAT(mac.chips.cachedAppleSiliconGPUKeys(), IsEmpty());
+    EXPECT_EQ(mac.chips.processorTemperature(), 67);
     mac.controller.keys.erase("TC0D");
-    EXPECT_EQ(mac.temperatures.processor(), 64.5) << "its hottest core";
+    EXPECT_EQ(mac.chips.processorTemperature(), 64.5) << "its hottest core";
     for (const char* core : {"TC0C", "TC1C", "TC2C", "TC3C"})
         mac.controller.keys.erase(core);
-    EXPECT_EQ(mac.temperatures.processor(), 52);
+    EXPECT_EQ(mac.chips.processorTemperature(), 52);
     mac.controller.keys.clear();
-    EXPECT_EQ(mac.temperatures.processor(), std::nullopt);
+    EXPECT_EQ(mac.chips.processorTemperature(), std::nullopt);
     const int connections = mac.controller.connectionsOpened();
-    EXPECT_EQ(mac.temperatures.graphics(), std::nullopt);
+    EXPECT_EQ(mac.chips.graphicsTemperature(), std::nullopt);
     EXPECT_EQ(mac.controller.connectionsOpened(), connections);
     EXPECT_EQ(mac.sensors.librariesOpened(), 0);
 }
 
-TEST(DarwinTemperatures, DetectsThePlatformOnceAndNotBeforeItIsAsked) {
+TEST(DarwinSensors, DetectsThePlatformOnceAndNotBeforeItIsAsked) {
     Mac mac(makeAppleSiliconMac(SimulatedChip::m1));
     EXPECT_EQ(mac.machine->kernelValues().valueReads("hw.optional.arm64"), 0);
-    mac.temperatures.processor();
+    mac.chips.processorTemperature();
     mac.machine->kernelValues().setText("machdep.cpu.brand_string", "Apple M2");
-    mac.temperatures.processor();
-    EXPECT_EQ(mac.temperatures.cachedAppleSiliconGPUKeys().size(), 4U);
+    mac.chips.processorTemperature();
+    EXPECT_EQ(mac.chips.cachedAppleSiliconGPUKeys().size(), 4U);
     EXPECT_EQ(mac.machine->kernelValues().valueReads("hw.optional.arm64"), 1);
     EXPECT_EQ(mac.machine->kernelValues().valueReads("machdep.cpu.brand_string"), 1);
 }
@@ -164,8 +164,8 @@ struct SharedSensors {
         mac.failAllKeys();
     }
 
-    std::optional<double> processor() const { return mac.temperatures.processor(); }
-    std::optional<double> graphics() const { return mac.temperatures.graphics(); }
+    std::optional<double> processor() const { return mac.chips.processorTemperature(); }
+    std::optional<double> graphics() const { return mac.chips.graphicsTemperature(); }
 
     Mac mac;
 };
@@ -262,7 +262,7 @@ TEST(SharedSensors, AreListedFourTimesASecondHoweverManyAskAtOnce) {
     }
 }
 
-TEST(DarwinTemperatures, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
+TEST(DarwinSensors, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
     Mac mac(makeAppleSiliconMac(SimulatedChip::m3));
     constexpr int rounds = 300;
     std::atomic<int> wrong{0};
@@ -271,11 +271,11 @@ TEST(DarwinTemperatures, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
         for (int thread = 0; thread < 2; ++thread) {
             threads.start([&] {
                 for (int i = 0; i < rounds; ++i)
-                    if (mac.temperatures.processor() != 61.5) ++wrong;
+                    if (mac.chips.processorTemperature() != 61.5) ++wrong;
             });
             threads.start([&] {
                 for (int i = 0; i < rounds; ++i)
-                    if (mac.temperatures.graphics() != 52.75) ++wrong;
+                    if (mac.chips.graphicsTemperature() != 52.75) ++wrong;
             });
         }
     }
@@ -284,4 +284,4 @@ TEST(DarwinTemperatures, KeysOfProcessorAndGraphicsMayBeAskedForAtOnce) {
 }
 
 }  // namespace
-}  // namespace vantor::darwin_temperatures_test
+}  // namespace vantor::darwin_sensors_test

@@ -5,20 +5,20 @@
 #include "platform/darwin/chip_family.h"
 #include "platform/darwin/hid_temperature_reader.h"
 #include "platform/darwin/smc_temperature_reader.h"
-#include "platform/temperatures.h"
+#include "platform/sensors.h"
 
 namespace vantor {
 
-/// The temperatures of a Mac. With Apple silicon the controller's keys for the chip's family, else
+/// The sensors of a Mac. With Apple silicon the controller's keys for the chip's family, else
 /// the event system's sensors; of other processors the controller's keys alone, and no graphics.
 /// What it is given must outlive it.
-class DarwinTemperatures : public Temperatures {
+class DarwinSensors : public Sensors {
   public:
-    DarwinTemperatures(KernelValues& values, SystemController& controller, HIDEventSystem& sensors,
-                       const ProcessInfo& processInfo);
+    DarwinSensors(KernelValues& values, SystemController& controller, HIDEventSystem& sensors,
+                  const ProcessInfo& processInfo);
 
-    std::optional<double> processor() override;
-    std::optional<double> graphics() override;
+    std::optional<double> processorTemperature() override;
+    std::optional<double> graphicsTemperature() override;
 
     bool isAppleSilicon() { return platform().isAppleSilicon; }
 
