@@ -127,14 +127,14 @@ TEST_F(AppearanceTest, TheSettingChangesTheDashboardWhileItIsOpen) {
     DashboardWorld world;
     AppSettings settings(world.defaults, std::make_shared<QtApplicationAppearance>());
     world.open();
-    EXPECT_EQ(colorScheme(world.view->cpuCard()), ColorScheme::dark);
+    EXPECT_EQ(colorScheme(world.view->card<CPUCardView>()), ColorScheme::dark);
     settings.setAppearance(Appearance::light);
     settleEvents();
-    EXPECT_EQ(colorScheme(world.view->cpuCard()), ColorScheme::light);
+    EXPECT_EQ(colorScheme(world.view->card<CPUCardView>()), ColorScheme::light);
     EXPECT_EQ(colorScheme(world.view->header().interval()), ColorScheme::light);
     settings.setAppearance(Appearance::dark);
     settleEvents();
-    EXPECT_EQ(colorScheme(world.view->cpuCard()), ColorScheme::dark);
+    EXPECT_EQ(colorScheme(world.view->card<CPUCardView>()), ColorScheme::dark);
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ TEST_F(VantorAppTest, ShowsLiveFiguresAndSaysSoByTheNameOfItsIcon) {
         machine->clock()->wind(20ms);
         return window.windowIconText() == QStringLiteral("Vantor");
     }));
-    EXPECT_EQ(utf8(window.dashboard().cpuCard().gauge().gauge().title), "40%");
+    EXPECT_EQ(utf8(window.dashboard().card<CPUCardView>().gauge().gauge().title), "40%");
     EXPECT_TRUE(app.shutDown(5s));
 }
 

@@ -72,7 +72,7 @@ TEST(Accessibility, ACardReadsAsText) {
     world.open();
     world.goLive();
     QAccessibleInterface* const card =
-        QAccessible::queryAccessibleInterface(&world.view->cpuCard());
+        QAccessible::queryAccessibleInterface(&world.view->card<CPUCardView>());
     ASSERT_NE(card, nullptr);
     EXPECT_EQ(card->role(), QAccessible::Grouping);
     EXPECT_EQ(utf8(card->text(QAccessible::Name)), "CPU");

@@ -215,7 +215,7 @@ TEST(ChartsOfTheDashboard, AreReachedByTabAndReadTheMachinesOwnHistory) {
     world.open();
     world.goLive();
     world.advance(std::chrono::seconds(30));
-    SparklineView& chart = world.view->cpuCard().history();
+    SparklineView& chart = world.view->card<CPUCardView>().history();
     EXPECT_TRUE(chart.focusPolicy() & Qt::TabFocus);
     sendMouse(chart, QEvent::MouseMove, {0, 10});
     ASSERT_TRUE(chart.reading());

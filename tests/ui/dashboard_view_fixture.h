@@ -38,7 +38,7 @@ class DashboardViewTest : public testing::Test {
         world.view.reset();
         QApplication::setPalette(paletteOf(ColorScheme::dark));
     }
-    CPUCardView& card() { return world.view->cpuCard(); }
+    CPUCardView& card() { return world.view->card<CPUCardView>(); }
     std::string footer() { return utf8(world.view->lastUpdate().text()); }
     QScrollArea& scrollArea() { return *world.view->findChild<QScrollArea*>(); }
     QRect placeOf(QWidget& part) {

@@ -109,12 +109,12 @@ TEST_F(DashboardViewTest, EveryCardShowsItsOwnWaitingState) {
     const auto subtitle = [](DashboardCardView& waiting) {
         return utf8(waiting.header().accessibleValueText());
     };
-    EXPECT_EQ(subtitle(view.cpuCard()), "Detecting processor\u2026");
-    EXPECT_EQ(subtitle(view.memoryCard()), "Waiting for memory data");
-    EXPECT_EQ(subtitle(view.networkCard()), "Waiting for network data");
-    EXPECT_EQ(subtitle(view.gpuCard()), "Waiting for graphics data");
-    EXPECT_EQ(subtitle(view.storageCard()), "Waiting for storage data");
-    EXPECT_EQ(subtitle(view.systemCard()), "Waiting for system data");
+    EXPECT_EQ(subtitle(view.card<CPUCardView>()), "Detecting processor\u2026");
+    EXPECT_EQ(subtitle(view.card<MemoryCardView>()), "Waiting for memory data");
+    EXPECT_EQ(subtitle(view.card<NetworkCardView>()), "Waiting for network data");
+    EXPECT_EQ(subtitle(view.card<GPUCardView>()), "Waiting for graphics data");
+    EXPECT_EQ(subtitle(view.card<StorageCardView>()), "Waiting for storage data");
+    EXPECT_EQ(subtitle(view.card<SystemCardView>()), "Waiting for system data");
     EXPECT_EQ(utf8(view.explorer().emptyState().accessibleValueText()),
               "No process data is available yet.");
 }

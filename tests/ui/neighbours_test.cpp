@@ -98,7 +98,7 @@ TEST_P(Neighbours, RingsAndChartsOfProcessorAndMemoryStandOnTheSameLines) {
     open({1280, 820});
     const auto ringOf = [&](RingGaugeView& ring) { return inkedRows(onPicture(ring), 20); };
     const auto cpuRing = ringOf(card().gauge());
-    const auto memoryRing = ringOf(world.view->memoryCard().figures().gauge());
+    const auto memoryRing = ringOf(world.view->card<MemoryCardView>().figures().gauge());
     ASSERT_FALSE(cpuRing.empty());
     EXPECT_EQ(cpuRing, memoryRing);
     const auto chartOf = [&](SparklineView& chart) {
@@ -108,8 +108,8 @@ TEST_P(Neighbours, RingsAndChartsOfProcessorAndMemoryStandOnTheSameLines) {
         return rows.empty() ? -1 : rows.back();
     };
     EXPECT_GT(chartOf(card().history()), 0);
-    EXPECT_EQ(chartOf(card().history()), chartOf(world.view->memoryCard().history()));
-    const QRect neighbour = onPicture(world.view->memoryCard().history());
+    EXPECT_EQ(chartOf(card().history()), chartOf(world.view->card<MemoryCardView>().history()));
+    const QRect neighbour = onPicture(world.view->card<MemoryCardView>().history());
     EXPECT_EQ(onPicture(card().history()).top(), neighbour.top());
     EXPECT_EQ(onPicture(card().history()).height(), neighbour.height());
 }
@@ -123,7 +123,7 @@ TEST_P(Neighbours, ListsOfProcessorAndMemoryHaveCommonRowsAndEndTogether) {
         return starts(inkedRows(column, 60));
     };
     const auto cpu = symbols(card().processes());
-    const auto memory = symbols(world.view->memoryCard().processes());
+    const auto memory = symbols(world.view->card<MemoryCardView>().processes());
     ASSERT_GE(cpu.size(), 3u);
     ASSERT_GT(memory.size(), cpu.size());
     EXPECT_EQ(cpu.back(), memory.back());
@@ -132,7 +132,7 @@ TEST_P(Neighbours, ListsOfProcessorAndMemoryHaveCommonRowsAndEndTogether) {
 
 TEST_P(Neighbours, TheFirstTitlesUnderTheChartsStandOnOneLine) {
     open({1280, 820});
-    const QRect memory = onPicture(world.view->memoryCard().processes());
+    const QRect memory = onPicture(world.view->card<MemoryCardView>().processes());
     QWidget* title = nullptr;
     for (QWidget* child : card().findChildren<QWidget*>()) {
         const auto* const line = dynamic_cast<TextLineView*>(child);
@@ -151,7 +151,7 @@ TEST_P(Neighbours, RowsOfListsAndOfTheTableHaveOnePitch) {
             result.push_back(tops[i] - tops[i - 1]);
         return result;
     };
-    QRect list = onPicture(world.view->memoryCard().processes());
+    QRect list = onPicture(world.view->card<MemoryCardView>().processes());
     list.setWidth(static_cast<int>(14 * scale()));
     list.setTop(list.top() + static_cast<int>(22 * scale()));
     const auto listPitches = pitches(list);
@@ -174,8 +174,9 @@ TEST_P(Neighbours, HeaderCardsAndExplorerShareTheirEdges) {
         const int right = edgeOf(view.header(), false);
         ASSERT_GT(left, 0);
         const bool isOneColumn = size.width() == 900;
-        QWidget& last = isOneColumn ? static_cast<QWidget&>(view.cpuCard()) : view.memoryCard();
-        EXPECT_EQ(edgeOf(view.cpuCard(), true), left) << size.width();
+        QWidget& last = isOneColumn ? static_cast<QWidget&>(view.card<CPUCardView>())
+                                    : view.card<MemoryCardView>();
+        EXPECT_EQ(edgeOf(view.card<CPUCardView>(), true), left) << size.width();
         EXPECT_EQ(edgeOf(last, false), right) << size.width();
         EXPECT_EQ(edgeOf(view.explorer(), true), left) << size.width();
         EXPECT_EQ(edgeOf(view.explorer(), false), right) << size.width();
@@ -217,13 +218,13 @@ TEST_F(FirstScreen, At1280By820TheHeadlineFiguresOfTheSecondRowAreWhole) {
     world.open({1280, 820});
     world.goLive();
     world.advance(std::chrono::seconds(3));
-    EXPECT_LE(bottomOf(world.view->gpuCard().figures().gauge()), 820);
-    EXPECT_LE(bottomOf(world.view->networkCard().downloadTile()), 820);
+    EXPECT_LE(bottomOf(world.view->card<GPUCardView>().figures().gauge()), 820);
+    EXPECT_LE(bottomOf(world.view->card<NetworkCardView>().downloadTile()), 820);
     QMenuBar bar;
     bar.addMenu(QStringLiteral("File"));
     world.view->setMenuBar(&bar);
     world.settle();
-    EXPECT_LE(bottomOf(world.view->gpuCard().figures().gauge()), 820);
+    EXPECT_LE(bottomOf(world.view->card<GPUCardView>().figures().gauge()), 820);
     EXPECT_EQ(card().processes().rowLimit(), 3u);
     world.view->layout()->setMenuBar(nullptr);
 }
@@ -233,8 +234,8 @@ TEST_F(FirstScreen, At1920By1080AllCardsAreWhole) {
     world.goLive();
     world.advance(std::chrono::seconds(3));
     constexpr int menuBar = 26;
-    EXPECT_LE(bottomOf(world.view->storageCard()), 1080 - menuBar);
-    EXPECT_LE(bottomOf(world.view->systemCard()), 1080 - menuBar);
+    EXPECT_LE(bottomOf(world.view->card<StorageCardView>()), 1080 - menuBar);
+    EXPECT_LE(bottomOf(world.view->card<SystemCardView>()), 1080 - menuBar);
 }
 
 TEST_F(FirstScreen, AHighWindowShowsMoreProcesses) {
@@ -253,8 +254,10 @@ TEST_F(FirstScreen, NoCardStandsAloneInALastRow) {
     EXPECT_EQ(columns.balancedCount(2700, 6), 6);
     EXPECT_EQ(columns.balancedCount(1240, 6), 2);
     world.open({2340, 1000});
-    EXPECT_EQ(placeOf(world.view->gpuCard()).left(), placeOf(world.view->cpuCard()).left());
-    EXPECT_GT(placeOf(world.view->gpuCard()).top(), placeOf(world.view->cpuCard()).top());
+    EXPECT_EQ(placeOf(world.view->card<GPUCardView>()).left(),
+              placeOf(world.view->card<CPUCardView>()).left());
+    EXPECT_GT(placeOf(world.view->card<GPUCardView>()).top(),
+              placeOf(world.view->card<CPUCardView>()).top());
 }
 
 }  // namespace

@@ -88,7 +88,7 @@ TEST_F(Repaint, ACommitOfOneSectionRepaintsItsCardAlone) {
     };
     const QRegion painted = paintedBy(cpu);
     EXPECT_FALSE(painted.isEmpty());
-    EXPECT_TRUE((painted - areaOf(world.view->cpuCard())).isEmpty());
+    EXPECT_TRUE((painted - areaOf(world.view->card<CPUCardView>())).isEmpty());
 }
 
 TEST_F(Repaint, ACommitOfTheMemoryRepaintsItsCardAlone) {
@@ -98,7 +98,7 @@ TEST_F(Repaint, ACommitOfTheMemoryRepaintsItsCardAlone) {
         world.monitor->receiveMemory(stats, generation());
     });
     EXPECT_FALSE(painted.isEmpty());
-    EXPECT_TRUE((painted - areaOf(world.view->memoryCard())).isEmpty());
+    EXPECT_TRUE((painted - areaOf(world.view->card<MemoryCardView>())).isEmpty());
 }
 
 TEST_F(Repaint, ACommitOfTheNetworkRepaintsItsCardAlone) {
@@ -108,14 +108,14 @@ TEST_F(Repaint, ACommitOfTheNetworkRepaintsItsCardAlone) {
         world.monitor->receiveNetwork(stats, generation());
     });
     EXPECT_FALSE(painted.isEmpty());
-    EXPECT_TRUE((painted - areaOf(world.view->networkCard())).isEmpty());
+    EXPECT_TRUE((painted - areaOf(world.view->card<NetworkCardView>())).isEmpty());
 }
 
 TEST_F(Repaint, ValuesThatStayTheSameRepaintOnlyTheCharts) {
     const QRegion painted = paintedBy([&] {
         world.monitor->receiveCPU(world.monitor->dashboardState().snapshot.cpu, generation());
     });
-    EXPECT_TRUE((painted - areaOf(world.view->cpuCard().history())).isEmpty());
+    EXPECT_TRUE((painted - areaOf(world.view->card<CPUCardView>().history())).isEmpty());
 }
 
 TEST_F(Repaint, NothingIsLaidOutWhenOnlyValuesChange) {
@@ -129,14 +129,14 @@ TEST_F(Repaint, WhatIsScrolledAwayIsNotPainted) {
     auto& bar = *world.view->findChild<QScrollArea*>()->verticalScrollBar();
     bar.setValue(bar.maximum());
     settleEvents();
-    ASSERT_TRUE(world.view->cpuCard().gauge().visibleRegion().isEmpty());
+    ASSERT_TRUE(world.view->card<CPUCardView>().gauge().visibleRegion().isEmpty());
     const QRegion painted = paintedBy([&] {
         CPUStats stats = world.monitor->dashboardState().snapshot.cpu;
         stats.totalUsage = 0.5;
         stats.userUsage = 0.4;
         world.monitor->receiveCPU(stats, generation());
     });
-    EXPECT_TRUE((painted & areaOf(world.view->cpuCard().gauge())).isEmpty());
+    EXPECT_TRUE((painted & areaOf(world.view->card<CPUCardView>().gauge())).isEmpty());
 }
 
 TEST_F(Repaint, AHiddenWindowPaintsNothing) {

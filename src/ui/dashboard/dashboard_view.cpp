@@ -9,12 +9,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/cards/cpu_card.h"
-#include "ui/cards/gpu_card.h"
-#include "ui/cards/memory_card.h"
-#include "ui/cards/network_card.h"
-#include "ui/cards/storage_card.h"
-#include "ui/cards/system_card.h"
 #include "ui/components/chart_view.h"
 #include "ui/components/make_child.h"
 #include "ui/components/text_line.h"
@@ -34,7 +28,6 @@ constexpr int outerPadding = 20;
 constexpr int paddingUnderMenuBar = 6;
 constexpr int partSpacing = 18;
 constexpr int footerGap = 16;
-constexpr int cardCount = 6;
 constexpr int footerSpacing = 4;
 constexpr double headerBreakpoint = 900;
 constexpr double footerBreakpoint = 720;
@@ -63,9 +56,9 @@ std::optional<double> DashboardView::breakpoint(double legacy) const {
 
 void DashboardView::build() {
     auto* content = makeChild<QWidget>(this);
-    auto* column =
-        std::make_unique<AlignedColumn>(environment_.dashboardColumns, cardCount, content)
-            .release();
+    auto* column = std::make_unique<AlignedColumn>(environment_.dashboardColumns,
+                                                   DashboardCards::count, content)
+                       .release();
     column->setContentsMargins(outerPadding, outerPadding, outerPadding, outerPadding);
     column->setSpacing(partSpacing);
     addHeader(content);
@@ -105,21 +98,9 @@ void DashboardView::addHeader(QWidget* content) {
 
 void DashboardView::addCards(QWidget* content) {
     const ProcessInfo& versions = environment_.machine->processInfo();
-    const PlatformWords& words = environment_.machine->words();
     auto* grid = makeInnerLayout<AdaptiveGridLayout>(environment_.dashboardColumns);
-    cpuCard_ = makeChild<CPUCardView>(content, versions);
-    memoryCard_ = makeChild<MemoryCardView>(content, versions);
-    networkCard_ = makeChild<NetworkCardView>(content);
-    gpuCard_ = makeChild<GPUCardView>(content, words);
-    storageCard_ = makeChild<StorageCardView>(content, words);
-    systemCard_ = makeChild<SystemCardView>(content, versions);
-    cpuCard_->explain(words.meanings);
-    memoryCard_->explain(words.meanings);
-    systemCard_->explain(words.meanings);
-    for (QWidget* card : std::initializer_list<QWidget*>{cpuCard_, memoryCard_, networkCard_,
-                                                         gpuCard_, storageCard_, systemCard_}) {
-        grid->addWidget(card);
-    }
+    cards_.emplace(content, *environment_.machine);
+    cards_->forEachView([&](QWidget* card) { grid->addWidget(card); });
     for (QWidget* part : content->findChildren<QWidget*>()) {
         auto* const chart = dynamic_cast<ChartView*>(part);
         if (chart) chart->setClock([&versions] { return versions.systemUptime(); });
@@ -170,12 +151,7 @@ void DashboardView::observe() {
 }
 
 void DashboardView::show(const DashboardState& state) {
-    cpuCard_->show(CPUCard::of(state));
-    memoryCard_->show(MemoryCard::of(state));
-    networkCard_->show(NetworkCard::of(state));
-    gpuCard_->show(GPUCard::of(state));
-    storageCard_->show(StorageCard::of(state));
-    systemCard_->show(SystemCard::of(state));
+    cards_->show(state);
     explorer_->show(ProcessExplorer::of(state));
     lastUpdate_->show(lastUpdateText_.of(state.snapshot.timestamp, locale()));
     if (!hasShownLiveData_ && isSeen() && state.revisions.cpu > 0) {
@@ -216,11 +192,12 @@ void DashboardView::fitFirstScreen() {
     const int room = height() - (bar && !bar->isNativeMenuBar() ? bar->sizeHint().height() : 0);
     const bool isWide = environment_.dashboardColumns.count(width() - 2 * outerPadding) >= 3;
     const double others = Typography::scaled(isWide ? heightBesidesWideRows : heightBesidesRows);
-    const double fitting = std::floor((room - others) / cpuCard_->processes().pitch());
+    ProcessMiniListView& busiest = card<CPUCardView>().processes();
+    const double fitting = std::floor((room - others) / busiest.pitch());
     const auto rows = static_cast<std::size_t>(
         std::clamp(fitting, double{fewestProcesses}, double{mostProcesses}));
-    cpuCard_->processes().setRowLimit(rows);
-    memoryCard_->processes().setRowLimit(rows);
+    busiest.setRowLimit(rows);
+    card<MemoryCardView>().processes().setRowLimit(rows);
 }
 
 void DashboardView::resizeEvent(QResizeEvent* event) {

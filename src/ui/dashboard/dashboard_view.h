@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/machine.h"
 #include "platform/main_loop.h"
@@ -12,6 +13,7 @@
 #include "settings/app_settings.h"
 #include "ui/app_metadata.h"
 #include "ui/dashboard/adaptive_grid.h"
+#include "ui/dashboard/dashboard_cards.h"
 #include "ui/dashboard/last_update_text.h"
 #include "ui/drawing/background_view.h"
 
@@ -19,14 +21,8 @@ class QMenuBar;
 
 namespace vantor {
 
-class CPUCardView;
 class DashboardHeaderView;
-class GPUCardView;
-class MemoryCardView;
-class NetworkCardView;
 class ProcessExplorerView;
-class StorageCardView;
-class SystemCardView;
 class TextLineView;
 class VantorHorizontalFit;
 
@@ -54,12 +50,10 @@ class DashboardView : public BackgroundView {
     void setMenuBar(QMenuBar* bar);
 
     DashboardHeaderView& header() { return *header_; }
-    CPUCardView& cpuCard() { return *cpuCard_; }
-    MemoryCardView& memoryCard() { return *memoryCard_; }
-    NetworkCardView& networkCard() { return *networkCard_; }
-    GPUCardView& gpuCard() { return *gpuCard_; }
-    StorageCardView& storageCard() { return *storageCard_; }
-    SystemCardView& systemCard() { return *systemCard_; }
+    template <class View>
+    View& card() {
+        return cards_->get<View>();
+    }
     ProcessExplorerView& explorer() { return *explorer_; }
     TextLineView& lastUpdate() { return *lastUpdate_; }
     VantorHorizontalFit& footer() { return *footer_; }
@@ -86,12 +80,7 @@ class DashboardView : public BackgroundView {
 
     Environment environment_;
     DashboardHeaderView* header_ = nullptr;  // all owned by this widget, as its children
-    CPUCardView* cpuCard_ = nullptr;
-    MemoryCardView* memoryCard_ = nullptr;
-    NetworkCardView* networkCard_ = nullptr;
-    GPUCardView* gpuCard_ = nullptr;
-    StorageCardView* storageCard_ = nullptr;
-    SystemCardView* systemCard_ = nullptr;
+    std::optional<DashboardCards> cards_;
     ProcessExplorerView* explorer_ = nullptr;
     VantorHorizontalFit* footer_ = nullptr;
     TextLineView* lastUpdate_ = nullptr;
