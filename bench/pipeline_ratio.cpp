@@ -67,9 +67,9 @@ class Commits {
     void commit() {
         next_ = state_;
         PendingUpdate update;
-        update.cpu = CPUStats::empty();
-        update.cpu->totalUsage = ++ticks_ * 1e-6;
-        update.processSample = sample_;
+        update.of<CPUProvider>() = CPUStats::empty();
+        update.of<CPUProvider>()->totalUsage = ++ticks_ * 1e-6;
+        update.of<ProcessProvider>() = sample_;
         sink = applyUpdate(std::move(update), next_, 120, Timestamp{}, 0) ? 1 : 0;
         std::swap(state_, next_);
     }

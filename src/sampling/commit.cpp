@@ -1,7 +1,6 @@
 #include "sampling/commit.h"
 
-#include <algorithm>
-#include <array>
+#include <functional>
 #include <tuple>
 #include <utility>
 
@@ -11,12 +10,6 @@
 namespace vantor {
 
 namespace {
-
-double usedFraction(const MemoryStats& memory) {
-    if (memory.totalBytes == 0) return 0;
-    return std::clamp(
-        static_cast<double>(memory.usedBytes) / static_cast<double>(memory.totalBytes), 0.0, 1.0);
-}
 
 /// The history follows the first device of the list; another first device starts a new one.
 void followHistoryDevice(const std::vector<GPUStats>& gpus, DashboardState& state) {
@@ -44,35 +37,7 @@ enum class Change {
     revised,  ///< the section is to be redrawn
 };
 
-// One `commitSection` for each section, found by its type: one that is missing does not compile.
-
-Change commitSection(CPUStats&& cpu, DashboardState& state, const SampleMoment& moment) {
-    std::swap(state.snapshot.cpu, cpu);
-    appendToHistory(state.snapshot.cpu.totalUsage, state.histories.cpu, moment.limit);
-    appendToHistory(moment.uptime, state.histories.times.cpu, moment.limit);
-    return Change::revised;
-}
-
-Change commitSection(MemoryStats&& memory, DashboardState& state, const SampleMoment& moment) {
-    state.snapshot.memory = memory;
-    appendToHistory(usedFraction(memory), state.histories.memory, moment.limit);
-    appendToHistory(moment.uptime, state.histories.times.memory, moment.limit);
-    return Change::revised;
-}
-
-Change commitSection(NetworkStats&& network, DashboardState& state, const SampleMoment& moment) {
-    appendToHistory(network.downloadBytesPerSecond, state.histories.download, moment.limit);
-    appendToHistory(network.uploadBytesPerSecond, state.histories.upload, moment.limit);
-    appendToHistory(moment.uptime, state.histories.times.network, moment.limit);
-    state.snapshot.network = std::move(network);
-    return Change::revised;
-}
-
-Change commitSection(SystemInfoStats&& system, DashboardState& state, const SampleMoment&) {
-    if (system == state.snapshot.system) return Change::none;
-    state.snapshot.system = std::move(system);
-    return Change::revised;
-}
+// The sections that are more than a part of the snapshot, found by their types.
 
 Change commitSection(ProcessSample&& sample, DashboardState& state, const SampleMoment&) {
     state.snapshot.processes = std::move(sample.all);
@@ -107,23 +72,23 @@ Change commitSection(std::vector<VolumeStats>&& volumes, DashboardState& state,
     return Change::revised;
 }
 
-Change commitPower(std::optional<PowerStats>&& power, DashboardState& state) {
-    if (power == state.snapshot.power) return Change::none;
-    state.snapshot.power = std::move(power);
+template <class Provider>
+Change commit(typename Provider::Section&& section, DashboardState& state,
+              const SampleMoment& moment) {
+    if constexpr (HasSeries<Provider>) {
+        const auto append = [&](const auto& series) {
+            appendToHistory(std::invoke(series.value, section), state.histories.*series.history,
+                            moment.limit);
+        };
+        std::apply([&](const auto&... series) { (append(series), ...); }, Provider::series);
+        appendToHistory(moment.uptime, state.histories.times.*Provider::times, moment.limit);
+    } else if constexpr (HasRecord<Provider>) {
+        if (section == state.snapshot.*Provider::record) return Change::none;
+    } else {
+        return commitSection(std::move(section), state, moment);
+    }
+    if constexpr (HasRecord<Provider>) state.snapshot.*Provider::record = std::move(section);
     return Change::revised;
-}
-
-/// The counter of each section, in the order of pendingSections.
-constexpr std::array sectionRevisions{
-    &Revisions::cpu,       &Revisions::memory, &Revisions::network, &Revisions::system,
-    &Revisions::processes, &Revisions::gpu,    &Revisions::storage};
-static_assert(sectionRevisions.size() == std::tuple_size_v<decltype(pendingSections)>);
-// Power is the one that is not among them; it is drawn with the system's section.
-static_assert(std::tuple_size_v<AllProviders> == sectionRevisions.size() + 1);
-
-bool note(Change change, std::uint64_t Revisions::*revision, DashboardState& state) {
-    if (change == Change::revised) ++(state.revisions.*revision);
-    return change != Change::none;
 }
 
 }  // namespace
@@ -132,16 +97,13 @@ bool applyUpdate(PendingUpdate&& update, DashboardState& state, std::size_t limi
                  double uptime) {
     state.snapshot.timestamp = now;
     bool changed = false;
-    std::size_t place = 0;
-    const auto apply = [&](auto section) {
-        const auto revision = sectionRevisions[place++];
-        if (auto& result = update.*section)
-            changed |=
-                note(commitSection(std::move(*result), state, {limit, uptime}), revision, state);
-    };
-    std::apply([&](auto... section) { (apply(section), ...); }, pendingSections);
-    if (update.hasPowerUpdate)
-        changed |= note(commitPower(std::move(update.power), state), &Revisions::system, state);
+    forEachProvider([&]<class Provider>(Provider) {
+        auto& section = update.of<Provider>();
+        if (!section) return;
+        const Change change = commit<Provider>(std::move(*section), state, {limit, uptime});
+        if (change == Change::revised) ++(state.revisions.*Provider::revision);
+        changed |= change != Change::none;
+    });
     return changed;
 }
 

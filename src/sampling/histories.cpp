@@ -26,11 +26,9 @@ void appendToHistory(double value, std::vector<double>& history, std::size_t lim
 
 bool trimHistories(Histories& histories, std::size_t limit) {
     bool trimmed = false;
-    for (auto* history : {&histories.cpu, &histories.memory, &histories.download, &histories.upload,
-                          &histories.gpu, &histories.times.cpu, &histories.times.memory,
-                          &histories.times.network, &histories.times.gpu}) {
-        trimmed = dropOldest(*history, limit) || trimmed;
-    }
+    forEachHistory(histories, [&](std::vector<double>& history) {
+        trimmed = dropOldest(history, limit) || trimmed;
+    });
     return trimmed;
 }
 

@@ -4,30 +4,9 @@
 #include <cstdint>
 #include <vector>
 
+#include "sampling/dashboard_state.h"
+
 namespace vantor {
-
-/// When each sample of a history was committed, in seconds of the machine's uptime: pauses and
-/// other intervals make the distances uneven.
-struct HistoryTimes {
-    std::vector<double> cpu;
-    std::vector<double> memory;
-    std::vector<double> network;  ///< of download and of upload
-    std::vector<double> gpu;
-
-    bool operator==(const HistoryTimes&) const = default;
-};
-
-/// The bounded series that the charts draw, each oldest first.
-struct Histories {
-    std::vector<double> cpu;       ///< total usage, 0 to 1
-    std::vector<double> memory;    ///< used fraction, 0 to 1
-    std::vector<double> download;  ///< bytes per second
-    std::vector<double> upload;
-    std::vector<double> gpu;  ///< utilization of one device, 0 to 1
-    HistoryTimes times;
-
-    bool operator==(const Histories&) const = default;
-};
 
 /// The number of samples that a history may hold for that setting.
 std::size_t historyLimit(std::int64_t historyLength);

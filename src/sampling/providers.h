@@ -1,9 +1,11 @@
 #pragma once
 
-#include <memory>
+#include <algorithm>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
+#include "model/process_sample.h"
 #include "platform/machine.h"
 #include "probes/cpu_reader.h"
 #include "probes/gpu_reader.h"
@@ -13,16 +15,28 @@
 #include "probes/process_reader.h"
 #include "probes/storage_reader.h"
 #include "probes/system_info_reader.h"
-#include "sampling/pending_update.h"
+#include "sampling/dashboard_state.h"
 
-/// The table of providers. Each entry has what the sampler and the monitor need: the queue's label,
-/// the reader, which is made of the machine, how it is read and reset, how often and from which
-/// stage on, and the section that its results are of. An incomplete entry does not compile.
+/// The table of providers. Each entry has what the sampler, the monitor and the commit need: the
+/// queue's label, the reader, which is made of the machine, how it is read and reset, how often and
+/// from which stage on, and what its result changes. An incomplete entry does not compile.
 ///
 /// `minInterval`: seconds between two readings where the refresh interval is shorter. `stage`: 0
 /// for one that is read with the first tick; the others are staged in after it, in the order of
 /// these numbers, and then join the ticks.
+///
+/// `Section`: what a result changes of the state, and `revision`: the counter of those who draw it.
+/// `record`: the section is that part of the snapshot and takes its place, where it differs;
+/// without it, commit.cpp has a function for that type of section. `series` and `times`: what a
+/// chart draws of each result, changed or not.
 namespace vantor {
+
+/// A history, and what of a record goes into it.
+template <class Value>
+struct Series {
+    std::vector<double> Histories::*history;
+    Value value;
+};
 
 /// What a reading depends on beside the machine.
 struct ReadingOptions {
@@ -33,7 +47,11 @@ struct CPUProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.cpu";
     static constexpr double minInterval = 0;
     static constexpr int stage = 0;
-    static constexpr auto section = &PendingUpdate::cpu;
+    using Section = CPUStats;
+    static constexpr auto record = &SystemSnapshot::cpu;
+    static constexpr auto revision = &Revisions::cpu;
+    static constexpr auto series = std::tuple{Series{&Histories::cpu, &CPUStats::totalUsage}};
+    static constexpr auto times = &HistoryTimes::cpu;
     using Reader = CPUReader;
 
     static const CPUStats* read(Reader& reader, Machine&, const ReadingOptions&) {
@@ -46,7 +64,17 @@ struct MemoryProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.memory";
     static constexpr double minInterval = 0;
     static constexpr int stage = 0;
-    static constexpr auto section = &PendingUpdate::memory;
+    using Section = MemoryStats;
+    static constexpr auto record = &SystemSnapshot::memory;
+    static constexpr auto revision = &Revisions::memory;
+    static double usedFraction(const MemoryStats& memory) {
+        if (memory.totalBytes == 0) return 0;
+        return std::clamp(
+            static_cast<double>(memory.usedBytes) / static_cast<double>(memory.totalBytes), 0.0,
+            1.0);
+    }
+    static constexpr auto series = std::tuple{Series{&Histories::memory, &usedFraction}};
+    static constexpr auto times = &HistoryTimes::memory;
     using Reader = MemoryReader;
 
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
@@ -56,7 +84,13 @@ struct NetworkProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.network";
     static constexpr double minInterval = 0;
     static constexpr int stage = 0;
-    static constexpr auto section = &PendingUpdate::network;
+    using Section = NetworkStats;
+    static constexpr auto record = &SystemSnapshot::network;
+    static constexpr auto revision = &Revisions::network;
+    static constexpr auto series =
+        std::tuple{Series{&Histories::download, &NetworkStats::downloadBytesPerSecond},
+                   Series{&Histories::upload, &NetworkStats::uploadBytesPerSecond}};
+    static constexpr auto times = &HistoryTimes::network;
     using Reader = NetworkReader;
 
     static const NetworkStats* read(Reader& reader, Machine& machine,
@@ -72,7 +106,9 @@ struct SystemInfoProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.system";
     static constexpr double minInterval = 5;
     static constexpr int stage = 0;
-    static constexpr auto section = &PendingUpdate::system;
+    using Section = SystemInfoStats;
+    static constexpr auto record = &SystemSnapshot::system;
+    static constexpr auto revision = &Revisions::system;
     using Reader = SystemInfoReader;
 
     static const SystemInfoStats& read(Reader& reader, Machine&, const ReadingOptions&) {
@@ -84,7 +120,8 @@ struct ProcessProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.processes";
     static constexpr double minInterval = 0;
     static constexpr int stage = 1;
-    static constexpr auto section = &PendingUpdate::processSample;
+    using Section = ProcessSample;
+    static constexpr auto revision = &Revisions::processes;
     using Reader = ProcessReader;
 
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
@@ -95,7 +132,8 @@ struct GPUProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.gpu";
     static constexpr double minInterval = 0;
     static constexpr int stage = 2;
-    static constexpr auto section = &PendingUpdate::gpus;
+    using Section = std::vector<GPUStats>;
+    static constexpr auto revision = &Revisions::gpu;
     using Reader = GPUReader;
 
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
@@ -105,7 +143,8 @@ struct VolumeProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.storage";
     static constexpr double minInterval = 15;
     static constexpr int stage = 4;
-    static constexpr auto section = &PendingUpdate::volumes;
+    using Section = std::vector<VolumeStats>;
+    static constexpr auto revision = &Revisions::storage;
     using Reader = StorageReader;
 
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
@@ -115,7 +154,9 @@ struct PowerProvider {
     static constexpr std::string_view label = "com.kestrone.Vantor.provider.power";
     static constexpr double minInterval = 10;
     static constexpr int stage = 3;
-    static constexpr auto section = &PendingUpdate::power;
+    using Section = std::optional<PowerStats>;
+    static constexpr auto record = &SystemSnapshot::power;
+    static constexpr auto revision = &Revisions::system;
     using Reader = PowerReader;
 
     static auto read(Reader& reader, Machine&, const ReadingOptions&) { return reader.read(); }
@@ -135,6 +176,17 @@ constexpr void forEachProvider(Visit&& visit) {
 template <class Provider>
 concept HasDeltas = requires(typename Provider::Reader& reader) {
     Provider::resetDeltas(reader);
+};
+
+/// Whether a section is one part of the snapshot, and whether a chart draws it.
+template <class Provider>
+concept HasRecord = requires {
+    Provider::record;
+};
+template <class Provider>
+concept HasSeries = HasRecord<Provider> && requires {
+    Provider::series;
+    Provider::times;
 };
 
 }  // namespace vantor

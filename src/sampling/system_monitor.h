@@ -82,7 +82,7 @@ class SystemMonitor : public std::enable_shared_from_this<SystemMonitor> {
     template <class Provider, class Result>
     void receive(Result result, std::uint64_t generation) {
         if (generation != generation_) return;
-        if (pendingUpdate_.put(Provider::section, std::move(result))) scheduleCommit();
+        if (pendingUpdate_.put<Provider>(std::move(result))) scheduleCommit();
     }
 
     // The same under the names of the providers.

@@ -21,7 +21,8 @@ void SystemMonitor::commitPendingUpdate() {
     pendingCommitTask_ = nullptr;
     PendingUpdate update = std::exchange(pendingUpdate_, PendingUpdate{});
     // The one section that mostly stays as it is, and is then no reason to copy the state.
-    if (update.system == dashboardState().snapshot.system) update.system.reset();
+    auto& system = update.of<SystemInfoProvider>();
+    if (system == dashboardState().snapshot.system) system.reset();
     if (update.isEmpty()) return;
     DashboardState next = copyOfState();
     if (applyUpdate(std::move(update), next, historyLimit(settings_->historyLength()),

@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 bool applyGPUs(std::vector<GPUStats> gpus, DashboardState& state) {
     PendingUpdate update;
-    update.gpus = std::move(gpus);
+    update.of<GPUProvider>() = std::move(gpus);
     return applyUpdate(std::move(update), state, 30, Timestamp{}, 5);
 }
 

@@ -26,7 +26,7 @@ bool apply(PendingUpdate update, DashboardState& state) {
 TEST(Commit, CPUReadingReplacesTheRecordAndGoesIntoItsHistory) {
     DashboardState state;
     PendingUpdate update;
-    update.cpu = cpuReading(0.25);
+    update.of<CPUProvider>() = cpuReading(0.25);
     EXPECT_TRUE(apply(update, state));
     DashboardState expected;
     expected.snapshot.timestamp = noon;
@@ -48,7 +48,7 @@ class MemoryFraction : public testing::TestWithParam<MemoryRow> {};
 TEST_P(MemoryFraction, GoesIntoTheHistory) {
     DashboardState state;
     PendingUpdate update;
-    update.memory = memoryReading(GetParam().used, GetParam().total);
+    update.of<MemoryProvider>() = memoryReading(GetParam().used, GetParam().total);
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.snapshot.memory, memoryReading(GetParam().used, GetParam().total));
     EXPECT_THAT(state.histories.memory, ElementsAre(GetParam().expected));
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Commit, NetworkReadingGoesIntoTwoHistories) {
     DashboardState state;
     PendingUpdate update;
-    update.network = networkReading(1000, 20);
+    update.of<NetworkProvider>() = networkReading(1000, 20);
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.snapshot.network, networkReading(1000, 20));
     EXPECT_THAT(state.histories.download, ElementsAre(1000));
@@ -78,9 +78,9 @@ TEST(Commit, SameCPUMemoryAndNetworkReadingsStillMoveTheGraphsOn) {
     DashboardState state;
     for (int i = 0; i < 2; ++i) {
         PendingUpdate update;
-        update.cpu = cpuReading(0.5);
-        update.memory = memoryReading(1, 2);
-        update.network = networkReading(3, 4);
+        update.of<CPUProvider>() = cpuReading(0.5);
+        update.of<MemoryProvider>() = memoryReading(1, 2);
+        update.of<NetworkProvider>() = networkReading(3, 4);
         EXPECT_TRUE(apply(update, state));
     }
     EXPECT_THAT(state.histories.cpu, ElementsAre(0.5, 0.5));
@@ -92,7 +92,7 @@ TEST(Commit, SameCPUMemoryAndNetworkReadingsStillMoveTheGraphsOn) {
 TEST(Commit, DifferentSystemInfoReplacesTheRecord) {
     DashboardState state;
     PendingUpdate update;
-    update.system = systemInfo("one");
+    update.of<SystemInfoProvider>() = systemInfo("one");
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.snapshot.system.hostName, "one");
     EXPECT_EQ(state.revisions.system, 1u);
@@ -102,7 +102,7 @@ TEST(Commit, EqualSystemInfoChangesNothing) {
     DashboardState state;
     state.snapshot.system = systemInfo("one");
     PendingUpdate update;
-    update.system = systemInfo("one");
+    update.of<SystemInfoProvider>() = systemInfo("one");
     EXPECT_FALSE(apply(update, state));
     EXPECT_EQ(state.revisions, Revisions{});
 }
@@ -111,7 +111,7 @@ TEST(Commit, ProcessListsAreTakenAsDeliveredAndNotCompared) {
     DashboardState state;
     for (std::uint64_t revision = 1; revision <= 2; ++revision) {
         PendingUpdate update;
-        update.processSample = processSample();
+        update.of<ProcessProvider>() = processSample();
         EXPECT_TRUE(apply(update, state));
         EXPECT_EQ(state.revisions.processes, revision);
     }
@@ -123,11 +123,11 @@ TEST(Commit, ProcessListsAreTakenAsDeliveredAndNotCompared) {
 TEST(Commit, VolumesCountOnlyWhenTheyDiffer) {
     DashboardState state;
     PendingUpdate update;
-    update.volumes = {volume("/"), volume("/home")};
+    update.of<VolumeProvider>() = std::vector{volume("/"), volume("/home")};
     EXPECT_TRUE(apply(update, state));
     EXPECT_FALSE(apply(update, state));
     EXPECT_EQ(state.revisions.storage, 1u);
-    update.volumes = std::vector<VolumeStats>{};
+    update.of<VolumeProvider>() = std::vector<VolumeStats>{};
     EXPECT_TRUE(apply(update, state));
     EXPECT_THAT(state.snapshot.volumes, IsEmpty());
     EXPECT_EQ(state.revisions.storage, 2u);
@@ -136,13 +136,13 @@ TEST(Commit, VolumesCountOnlyWhenTheyDiffer) {
 TEST(Commit, AnEmptyFirstListIsAnAnswerOnce) {
     DashboardState state;
     PendingUpdate update;
-    update.gpus = std::vector<GPUStats>{};
+    update.of<GPUProvider>() = std::vector<GPUStats>{};
     EXPECT_TRUE(apply(update, state));
     EXPECT_TRUE(state.answered.gpus);
     EXPECT_FALSE(state.answered.volumes);
     EXPECT_FALSE(apply(update, state));
     update = {};
-    update.volumes = std::vector<VolumeStats>{};
+    update.of<VolumeProvider>() = std::vector<VolumeStats>{};
     EXPECT_TRUE(apply(update, state));
     EXPECT_TRUE(state.answered.volumes);
     EXPECT_FALSE(apply(update, state));
@@ -161,8 +161,7 @@ TEST_P(PowerUpdate, CountsInTheSystemSectionWhenItDiffers) {
     DashboardState state;
     state.snapshot.power = GetParam().before;
     PendingUpdate update;
-    update.hasPowerUpdate = true;
-    update.power = GetParam().arrived;
+    update.of<PowerProvider>().emplace(GetParam().arrived);
     EXPECT_EQ(apply(update, state), GetParam().changes);
     EXPECT_EQ(state.snapshot.power, GetParam().arrived);
     EXPECT_EQ(state.revisions.system, GetParam().changes ? 1u : 0u);
@@ -181,7 +180,7 @@ TEST(Commit, BatteryIsKeptWhenNoPowerResultArrived) {
     DashboardState state;
     state.snapshot.power = battery(0.5);
     PendingUpdate update;
-    update.cpu = cpuReading(0.1);
+    update.of<CPUProvider>() = cpuReading(0.1);
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.snapshot.power, battery(0.5));
     EXPECT_EQ(state.revisions.system, 0u);
@@ -190,9 +189,8 @@ TEST(Commit, BatteryIsKeptWhenNoPowerResultArrived) {
 TEST(Commit, SystemInfoAndPowerTogetherCountTwice) {
     DashboardState state;
     PendingUpdate update;
-    update.system = systemInfo("one");
-    update.hasPowerUpdate = true;
-    update.power = battery(0.5);
+    update.of<SystemInfoProvider>() = systemInfo("one");
+    update.of<PowerProvider>().emplace(battery(0.5));
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.revisions.system, 2u);
 }
@@ -201,8 +199,8 @@ TEST(Commit, UnchangedSectionDoesNotHideAChangedOne) {
     DashboardState state;
     state.snapshot.system = systemInfo("one");
     PendingUpdate update;
-    update.system = systemInfo("one");
-    update.volumes = {volume("/")};
+    update.of<SystemInfoProvider>() = systemInfo("one");
+    update.of<VolumeProvider>() = std::vector{volume("/")};
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.revisions.system, 0u);
     EXPECT_EQ(state.revisions.storage, 1u);
@@ -212,7 +210,7 @@ TEST(Commit, RevisionsWrapAround) {
     DashboardState state;
     state.revisions.cpu = UINT64_MAX;
     PendingUpdate update;
-    update.cpu = cpuReading(0.5);
+    update.of<CPUProvider>() = cpuReading(0.5);
     EXPECT_TRUE(apply(update, state));
     EXPECT_EQ(state.revisions.cpu, 0u);
 }
@@ -220,7 +218,7 @@ TEST(Commit, RevisionsWrapAround) {
 TEST(PendingUpdate, PowerWithoutABatteryIsAResult) {
     PendingUpdate update;
     EXPECT_TRUE(update.isEmpty());
-    update.hasPowerUpdate = true;
+    update.of<PowerProvider>().emplace();
     EXPECT_FALSE(update.isEmpty());
 }
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "sampling/commit.h"
+#include "sampling/histories.h"
 #include "sampling/sample_records.h"
 
 namespace vantor::commit_times_test {
@@ -16,9 +17,9 @@ TEST(CommitTimes, EachSampleKeepsTheUptimeOfItsCommit) {
     DashboardState state;
     for (const double uptime : {10.0, 11.0, 700.0}) {
         PendingUpdate update;
-        update.cpu = cpuReading(0.5);
-        update.network = networkReading(3, 4);
-        if (uptime > 10) update.memory = memoryReading(1, 2);
+        update.of<CPUProvider>() = cpuReading(0.5);
+        update.of<NetworkProvider>() = networkReading(3, 4);
+        if (uptime > 10) update.of<MemoryProvider>() = memoryReading(1, 2);
         applyUpdate(std::move(update), state, 2, noon, uptime);
     }
     EXPECT_THAT(state.histories.times.cpu, ElementsAre(11, 700));
