@@ -3,7 +3,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -27,5 +30,19 @@ struct CPUStats {
     /// The placeholder until the first reading; deliberately an idle processor.
     static const CPUStats& empty();
 };
+
+template <>
+inline constexpr auto fieldsOf<CPUStats> =
+    std::tuple{Field{"model", &CPUStats::model},
+               Field{"totalUsage", &CPUStats::totalUsage},
+               Field{"userUsage", &CPUStats::userUsage},
+               Field{"systemUsage", &CPUStats::systemUsage},
+               Field{"idleUsage", &CPUStats::idleUsage},
+               Field{"perCoreUsage", &CPUStats::perCoreUsage},
+               Field{"logicalCoreCount", &CPUStats::logicalCoreCount},
+               Field{"physicalCoreCount", &CPUStats::physicalCoreCount},
+               Field{"loadAverage", &CPUStats::loadAverage},
+               Field{"nominalFrequencyHz", &CPUStats::nominalFrequencyHz},
+               Field{"temperatureCelsius", &CPUStats::temperatureCelsius}};
 
 }  // namespace vantor

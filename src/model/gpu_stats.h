@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -22,5 +25,16 @@ struct GPUStats {
     /// Identifies this row across refreshes; equality compares everything.
     const std::string& identity() const { return id; }
 };
+
+template <>
+inline constexpr auto fieldsOf<GPUStats> =
+    std::tuple{Field{"id", &GPUStats::id},
+               Field{"name", &GPUStats::name},
+               Field{"isUnifiedMemory", &GPUStats::isUnifiedMemory},
+               Field{"utilization", &GPUStats::utilization},
+               Field{"temperatureCelsius", &GPUStats::temperatureCelsius},
+               Field{"vramUsedBytes", &GPUStats::vramUsedBytes},
+               Field{"vramTotalBytes", &GPUStats::vramTotalBytes},
+               Field{"recommendedWorkingSetBytes", &GPUStats::recommendedWorkingSetBytes}};
 
 }  // namespace vantor

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <tuple>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -16,5 +19,15 @@ struct MemoryStats {
 
     bool operator==(const MemoryStats&) const = default;
 };
+
+template <>
+inline constexpr auto fieldsOf<MemoryStats> =
+    std::tuple{Field{"totalBytes", &MemoryStats::totalBytes},
+               Field{"usedBytes", &MemoryStats::usedBytes},
+               Field{"activeBytes", &MemoryStats::activeBytes},
+               Field{"wiredBytes", &MemoryStats::wiredBytes},
+               Field{"compressedBytes", &MemoryStats::compressedBytes},
+               Field{"cachedBytes", &MemoryStats::cachedBytes},
+               Field{"availableBytes", &MemoryStats::availableBytes}};
 
 }  // namespace vantor

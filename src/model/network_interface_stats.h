@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -19,5 +22,16 @@ struct NetworkInterfaceStats {
 
     bool operator==(const NetworkInterfaceStats&) const = default;
 };
+
+template <>
+inline constexpr auto fieldsOf<NetworkInterfaceStats> =
+    std::tuple{Field{"name", &NetworkInterfaceStats::name},
+               Field{"ipv4Address", &NetworkInterfaceStats::ipv4Address},
+               Field{"ipv6Address", &NetworkInterfaceStats::ipv6Address},
+               Field{"receivedBytes", &NetworkInterfaceStats::receivedBytes},
+               Field{"sentBytes", &NetworkInterfaceStats::sentBytes},
+               Field{"downloadBytesPerSecond", &NetworkInterfaceStats::downloadBytesPerSecond},
+               Field{"uploadBytesPerSecond", &NetworkInterfaceStats::uploadBytesPerSecond},
+               Field{"isPointToPoint", &NetworkInterfaceStats::isPointToPoint}};
 
 }  // namespace vantor

@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "model/field.h"
 #include "model/network_interface_stats.h"
 
 namespace vantor {
@@ -23,5 +25,15 @@ struct NetworkStats {
     /// The placeholder until the first reading.
     static const NetworkStats& empty();
 };
+
+template <>
+inline constexpr auto fieldsOf<NetworkStats> =
+    std::tuple{Field{"hostname", &NetworkStats::hostname},
+               Field{"primaryInterfaceName", &NetworkStats::primaryInterfaceName},
+               Field{"primaryIPv4Address", &NetworkStats::primaryIPv4Address},
+               Field{"primaryIPv6Address", &NetworkStats::primaryIPv6Address},
+               Field{"downloadBytesPerSecond", &NetworkStats::downloadBytesPerSecond},
+               Field{"uploadBytesPerSecond", &NetworkStats::uploadBytesPerSecond},
+               Field{"interfaces", &NetworkStats::interfaces}};
 
 }  // namespace vantor

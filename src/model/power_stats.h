@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -17,5 +20,14 @@ struct PowerStats {
 
     bool operator==(const PowerStats&) const = default;
 };
+
+template <>
+inline constexpr auto fieldsOf<PowerStats> =
+    std::tuple{Field{"name", &PowerStats::name},
+               Field{"chargeFraction", &PowerStats::chargeFraction},
+               Field{"isCharging", &PowerStats::isCharging},
+               Field{"isConnectedToAC", &PowerStats::isConnectedToAC},
+               Field{"timeRemainingMinutes", &PowerStats::timeRemainingMinutes},
+               Field{"cycleCount", &PowerStats::cycleCount}};
 
 }  // namespace vantor

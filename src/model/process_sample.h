@@ -1,7 +1,9 @@
 #pragma once
 
+#include <tuple>
 #include <vector>
 
+#include "model/field.h"
 #include "model/process_stats.h"
 
 namespace vantor {
@@ -17,5 +19,10 @@ struct ProcessSample {
     /// Three empty lists, as after a failed listing.
     static const ProcessSample& empty();
 };
+
+template <>
+inline constexpr auto fieldsOf<ProcessSample> =
+    std::tuple{Field{"all", &ProcessSample::all}, Field{"sortedByCPU", &ProcessSample::sortedByCPU},
+               Field{"sortedByMemory", &ProcessSample::sortedByMemory}};
 
 }  // namespace vantor

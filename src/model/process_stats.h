@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <tuple>
 
+#include "model/field.h"
 #include "model/shared_text.h"
 
 namespace vantor {
@@ -19,5 +21,11 @@ struct ProcessStats {
     /// Identifies this row across refreshes; equality compares everything.
     std::int32_t identity() const { return pid; }
 };
+
+template <>
+inline constexpr auto fieldsOf<ProcessStats> = std::tuple{
+    Field{"pid", &ProcessStats::pid}, Field{"name", &ProcessStats::name},
+    Field{"command", &ProcessStats::command}, Field{"cpuPercent", &ProcessStats::cpuPercent},
+    Field{"residentMemoryBytes", &ProcessStats::residentMemoryBytes}};
 
 }  // namespace vantor

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <string>
+#include <tuple>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -18,5 +21,17 @@ struct SystemInfoStats {
 
     bool operator==(const SystemInfoStats&) const = default;
 };
+
+template <>
+inline constexpr auto fieldsOf<SystemInfoStats> =
+    std::tuple{Field{"hostName", &SystemInfoStats::hostName},
+               Field{"hardwareModel", &SystemInfoStats::hardwareModel},
+               Field{"operatingSystem", &SystemInfoStats::operatingSystem},
+               Field{"kernelVersion", &SystemInfoStats::kernelVersion},
+               Field{"architecture", &SystemInfoStats::architecture},
+               Field{"isRunningUnderRosetta", &SystemInfoStats::isRunningUnderRosetta},
+               Field{"uptimeSeconds", &SystemInfoStats::uptimeSeconds},
+               Field{"thermalState", &SystemInfoStats::thermalState},
+               Field{"lowPowerModeEnabled", &SystemInfoStats::lowPowerModeEnabled}};
 
 }  // namespace vantor

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "model/cpu_stats.h"
+#include "model/field.h"
 #include "model/gpu_stats.h"
 #include "model/memory_stats.h"
 #include "model/network_stats.h"
@@ -33,5 +35,13 @@ struct SystemSnapshot {
     /// can hold, so any real one is later.
     static const SystemSnapshot& empty();
 };
+
+template <>
+inline constexpr auto fieldsOf<SystemSnapshot> = std::tuple{
+    Field{"timestamp", &SystemSnapshot::timestamp}, Field{"cpu", &SystemSnapshot::cpu},
+    Field{"memory", &SystemSnapshot::memory},       Field{"network", &SystemSnapshot::network},
+    Field{"gpus", &SystemSnapshot::gpus},           Field{"volumes", &SystemSnapshot::volumes},
+    Field{"processes", &SystemSnapshot::processes}, Field{"system", &SystemSnapshot::system},
+    Field{"power", &SystemSnapshot::power}};
 
 }  // namespace vantor

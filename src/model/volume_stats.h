@@ -2,6 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <tuple>
+
+#include "model/field.h"
 
 namespace vantor {
 
@@ -20,5 +23,15 @@ struct VolumeStats {
     /// Identifies this row across refreshes; equality compares everything.
     const std::string& identity() const { return path; }
 };
+
+template <>
+inline constexpr auto fieldsOf<VolumeStats> =
+    std::tuple{Field{"name", &VolumeStats::name},
+               Field{"path", &VolumeStats::path},
+               Field{"totalBytes", &VolumeStats::totalBytes},
+               Field{"availableBytes", &VolumeStats::availableBytes},
+               Field{"isInternal", &VolumeStats::isInternal},
+               Field{"isRemovable", &VolumeStats::isRemovable},
+               Field{"isReadOnly", &VolumeStats::isReadOnly}};
 
 }  // namespace vantor
