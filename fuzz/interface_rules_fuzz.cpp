@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "probes/interface_rules.h"
+#include "probes/interface_accumulators.h"
 
 #include "require.h"
 

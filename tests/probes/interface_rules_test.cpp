@@ -1,9 +1,9 @@
-#include "probes/interface_rules.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
+
+#include "probes/interface_accumulators.h"
 
 namespace vantor::interface_rules_test {
 namespace {
