@@ -16,7 +16,6 @@ constexpr std::string_view showMenuBarKey = "showMenuBar";
 constexpr std::string_view pointToPointKey = "includePointToPointInterfaces";
 constexpr std::string_view appearanceKey = "appearance";
 
-constexpr double defaultRefreshInterval = 0.5;
 constexpr std::int64_t defaultHistoryLength = 90;
 constexpr bool showsMenuBarByDefault = true;
 constexpr bool includesPointToPointByDefault = false;
@@ -25,7 +24,7 @@ using Value = DefaultsStore::Value;
 
 double loadRefreshInterval(const DefaultsStore& store) {
     const auto value = store.value(refreshIntervalKey);
-    double stored = defaultRefreshInterval;
+    double stored = AppSettings::defaultRefreshInterval;
     if (const auto* number = value ? std::get_if<double>(&*value) : nullptr) stored = *number;
     if (const auto* whole = value ? std::get_if<std::int64_t>(&*value) : nullptr)
         stored = static_cast<double>(*whole);

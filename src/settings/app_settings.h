@@ -23,6 +23,7 @@ class AppSettings {
     /// The refresh intervals to choose from, ascending, in seconds; the first and the last are the
     /// bounds of every other one.
     static constexpr std::array refreshIntervals{0.5, 1.0, 2.0, 5.0, 10.0};
+    static constexpr double defaultRefreshInterval = 0.5;
     /// Used where the setting's is not a number.
     static constexpr double fallbackRefreshInterval = 1.0;
     static constexpr std::int64_t minHistory = 30;  ///< samples

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "settings/app_settings.h"
 #include "ui/components/capsule_button.h"
 #include "ui/components/card_frame.h"
 #include "ui/components/menu_picker.h"
@@ -19,7 +20,7 @@ class VantorHorizontalFit;
 
 /// The product's identity and the controls. Two headers are equal when they show the same.
 struct DashboardHeader {
-    double refreshInterval = 0.5;  ///< seconds
+    double refreshInterval = AppSettings::defaultRefreshInterval;  ///< seconds
     bool isPaused = false;
     std::function<void(double)> onRefreshIntervalChange;
     std::function<void()> onTogglePause;

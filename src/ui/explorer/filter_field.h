@@ -2,17 +2,12 @@
 
 #include <QLineEdit>
 
-#include <chrono>
-
 namespace vantor {
 
 /// A text field on a rounded background, with a magnifying glass and a placeholder.
 class FilterField : public QLineEdit {
   public:
     static constexpr int widest = 260;
-    /// How long a search waits for the next keystroke: longer than between two keystrokes of a
-    /// quick typist, too short to be noticed.
-    static constexpr std::chrono::milliseconds debounceDelay{150};
 
     explicit FilterField(const QString& placeholder, QWidget* parent = nullptr);
 

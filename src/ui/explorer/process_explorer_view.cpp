@@ -116,7 +116,7 @@ void ProcessExplorerView::setQuery(const QString& query) {
         applyQuery();  // at once: there is nothing to wait for
         return;
     }
-    debounce_ = mainLoop_->runAfter(FilterField::debounceDelay, [this] {
+    debounce_ = mainLoop_->runAfter(filterDelay, [this] {
         debounce_.reset();
         applyQuery();
     });

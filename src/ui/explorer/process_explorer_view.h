@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -22,6 +23,10 @@ namespace vantor {
 /// the user types. Sort, filter and the chosen row survive every refresh. Main thread.
 class ProcessExplorerView : public DashboardCardView {
   public:
+    /// How long the filter waits for the next keystroke: longer than between two keystrokes of a
+    /// quick typist, too short to be noticed.
+    static constexpr std::chrono::milliseconds filterDelay{150};
+
     /// `mainLoop` lets time pass between a keystroke and the search.
     ProcessExplorerView(const ProcessInfo& versions, std::shared_ptr<MainLoop> mainLoop,
                         QWidget* parent = nullptr);

@@ -13,7 +13,7 @@ namespace vantor {
 /// choices.
 struct SettingsForm {
     Appearance appearance = Appearance::dark;
-    double refreshInterval = 0.5;  ///< seconds
+    double refreshInterval = AppSettings::defaultRefreshInterval;  ///< seconds
     std::int64_t historyLength = 0;
     bool includePointToPointInterfaces = false;
     bool showMenuBar = false;
