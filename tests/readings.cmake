@@ -24,6 +24,7 @@ vantor_add_tests(probes_tests LABEL core SOURCES
     probes/gpu_names_test.cpp
     probes/gpu_reader_rows_test.cpp
     probes/gpu_reader_test.cpp
+    probes/hardware_temperature_reader_test.cpp
     probes/top_n_test.cpp
     probes/interface_order_test.cpp
     probes/memory_reader_test.cpp

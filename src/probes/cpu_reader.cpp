@@ -55,7 +55,7 @@ class CPUReader::PortGuard {
 };
 
 CPUReader::CPUReader(std::shared_ptr<Machine> machine)
-    : machine_(std::move(machine)), loadAverageBuffer_(loadAverageCount) {}
+    : machine_(std::move(machine)), temperatures_(machine_), loadAverageBuffer_(loadAverageCount) {}
 
 const CPUStats* CPUReader::read() {
     const PortGuard guard(machine_->hostProcessors());
@@ -82,7 +82,7 @@ const CPUStats* CPUReader::read() {
     stats_.physicalCoreCount = hardware.physicalCoreCount;
     stats_.loadAverage = lastLoadAverage_;
     stats_.nominalFrequencyHz = hardware.nominalFrequencyHz;
-    stats_.temperatureCelsius = machine_->sensors().processorTemperature();
+    stats_.temperatureCelsius = temperatures_.cpuTemperature();
     return &stats_;
 }
 

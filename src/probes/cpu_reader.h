@@ -8,6 +8,7 @@
 #include "model/cpu_stats.h"
 #include "platform/machine.h"
 #include "probes/cpu_ticks.h"
+#include "probes/hardware_temperature_reader.h"
 
 namespace vantor {
 
@@ -45,6 +46,7 @@ class CPUReader {
     const HardwareInfo& hardwareInfo();
 
     std::shared_ptr<Machine> machine_;
+    HardwareTemperatureReader temperatures_;
     std::optional<TickSet> previousTotalTicks_;
     std::vector<TickSet> previousCoreTicks_;
     std::vector<TickSet> coreTickBuffer_;  // receives a read, then trades places with the previous

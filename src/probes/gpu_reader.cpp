@@ -63,7 +63,8 @@ void setFigures(const RegistryStats& entry, GPUStats& row) {
 
 }  // namespace
 
-GPUReader::GPUReader(std::shared_ptr<Machine> machine) : machine_(std::move(machine)) {}
+GPUReader::GPUReader(std::shared_ptr<Machine> machine)
+    : machine_(std::move(machine)), temperatures_(machine_) {}
 
 std::optional<std::vector<GPUStats>> GPUReader::read() {
     const std::vector<MetalDeviceMetadata>& devices = metalDeviceMetadata();
@@ -172,7 +173,7 @@ std::vector<GPUStats> GPUReader::rowsOfDevices(const std::vector<MetalDeviceMeta
 }
 
 std::optional<double> GPUReader::hardwareTemperature(HardwareTemperature& known) const {
-    if (!known) known = machine_->sensors().graphicsTemperature();
+    if (!known) known = temperatures_.gpuTemperature();
     return *known;
 }
 

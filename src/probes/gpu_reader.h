@@ -9,6 +9,7 @@
 #include "platform/machine.h"
 #include "probes/gpu_records.h"
 #include "probes/gpu_statistics.h"
+#include "probes/hardware_temperature_reader.h"
 
 namespace vantor {
 
@@ -38,6 +39,7 @@ class GPUReader {
     std::optional<double> hardwareTemperature(HardwareTemperature& known) const;
 
     std::shared_ptr<Machine> machine_;
+    HardwareTemperatureReader temperatures_;
     std::vector<MetalDeviceMetadata> cachedMetalDevices_;
     std::optional<double> lastMetalMetadataRefreshUptime_;  ///< absent before the first
     // Working storage without meaning between two reads.
