@@ -37,6 +37,9 @@ struct Series {
     std::vector<double> Histories::*history;
     Value value;
 };
+// Clang deduces nothing for such types before its version 17.
+template <class Value>
+Series(std::vector<double> Histories::*, Value) -> Series<Value>;
 
 /// What a reading depends on beside the machine.
 struct ReadingOptions {
