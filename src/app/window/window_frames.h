@@ -9,7 +9,7 @@ namespace vantor {
 /// colours that the program had when the window was made; on X11 window managers with the themes
 /// of GTK look for a property of the window.
 ///
-/// Main thread. Nothing on other displays.
+/// Main thread. Nothing on other displays, nor on the Mac.
 
 /// Before the window is shown.
 void frameWindow(QWidget& window);
