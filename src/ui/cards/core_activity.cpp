@@ -85,6 +85,27 @@ std::size_t CoreGridGeometry::cellAt(QPointF place, std::size_t count) const {
     return count;
 }
 
+/// The outlines of cells, which have few different sizes, a pixel apart: making one takes longer
+/// than filling it.
+class CoreActivityView::CellShapes {
+  public:
+    QPainterPath in(const QRectF& area) {
+        auto found = std::ranges::find(shapes_, area.size(), &Shape::size);
+        if (found == shapes_.end()) {
+            found = shapes_.insert(found, {area.size(), {}});
+            found->path.addRoundedRect({{}, area.size()}, cellCorner, cellCorner);
+        }
+        return found->path.translated(area.topLeft());
+    }
+
+  private:
+    struct Shape {
+        QSizeF size;
+        QPainterPath path;
+    };
+    std::vector<Shape> shapes_;
+};
+
 CoreActivityView::CoreActivityView(QWidget* parent) : PaintedView(parent) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
@@ -203,19 +224,19 @@ void CoreActivityView::paintEvent(QPaintEvent* event) {
     ViewPainter painter(*this);
     const auto grid = gridFor(width());
     const bool withShares = hasShares(grid);
+    CellShapes shapes;
     for (std::size_t i = 0; i < usage_.size(); ++i) {
         const QRectF cell = grid.cell(i);
-        if (event->region().intersects(placeOf(cell))) paintCell(painter, cell, i, withShares);
+        if (event->region().intersects(placeOf(cell)))
+            paintCell(painter, shapes, cell, i, withShares);
     }
 }
 
-void CoreActivityView::paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index,
-                                 bool hasShare) const {
+void CoreActivityView::paintCell(ViewPainter& painter, CellShapes& shapes, const QRectF& cell,
+                                 std::size_t index, bool hasShare) const {
     const QColor fill = CoreActivity::fill(usage_[index]);
     const QRectF area = Pixels::snapped(painter, painter.leading(cell));
-    QPainterPath shape;
-    shape.addRoundedRect(area, cellCorner, cellCorner);
-    vantorBackground(painter, fill, shape);
+    vantorBackground(painter, fill, shapes.in(area));
     vantorForeground(painter, VantorTheme::labelOn(fill, painter.scheme()));
     painter.figures(
         numberStyle, Pixels::snapped(painter, cell), Qt::AlignHCenter | Qt::AlignVCenter,

@@ -76,9 +76,11 @@ class CoreActivityView : public PaintedView {
     bool event(QEvent* event) override;
 
   private:
+    class CellShapes;
+
     CoreGridGeometry gridFor(double width) const;
     QRect placeOf(QRectF cell) const;
-    void paintCell(ViewPainter& painter, const QRectF& cell, std::size_t index,
+    void paintCell(ViewPainter& painter, CellShapes& shapes, const QRectF& cell, std::size_t index,
                    bool hasShare) const;
     void repaintCells(const std::vector<QRect>& cells);
     bool hasShares(const CoreGridGeometry& grid) const;
