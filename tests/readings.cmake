@@ -128,6 +128,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         platform/linux/processes/process_arguments_test.cpp
         platform/linux/processes/process_clocks_test.cpp
         platform/linux/processes/process_stat_test.cpp
+        platform/linux/processes/reclaim_watch_test.cpp
         platform/linux/sensors/processor_sensor_names_test.cpp
         platform/linux/processor/recorded_proc_stat_test.cpp
         platform/linux/network/route_source_test.cpp

@@ -24,6 +24,7 @@ constexpr std::size_t fileBufferSize = 4096;
 // processes the small ones wait for longer.
 constexpr double residentPeriod = 5.0;
 constexpr double longestResidentPeriod = 30.0;
+constexpr double calmResidentPeriod = 120.0;
 constexpr double residentsPerSecond = 400;
 constexpr std::uint64_t largeResident = std::uint64_t{16} << 20U;
 constexpr std::uint64_t microsecondsPerSecond = 1'000'000;
@@ -69,7 +70,7 @@ bool isRefusal(int error) {
 
 /// Not all on the same pass: processes seen for the first time together come due one after another.
 double firstPart(std::int32_t pid) {
-    return (1 + pid % 16) / 16.0;
+    return (1 + pid % 128) / 128.0;
 }
 
 }  // namespace
@@ -79,6 +80,7 @@ LinuxProcessTable::LinuxProcessTable(const LinuxRoots& roots, std::shared_ptr<Pr
       clocks_(std::move(clocks)),
       clocksFit_(isOwnProc(proc_) && clocks_->read(0).has_value()),
       tracker_(roots, clocksFit_ ? clocks_ : nullptr),
+      reclaim_(roots),
       buffer_(fileBufferSize),
       pageSize_(positive(::sysconf(_SC_PAGESIZE), 4096)),
       ticksPerSecond_(positive(::sysconf(_SC_CLK_TCK), 100)) {}
@@ -91,7 +93,19 @@ bool LinuxProcessTable::refreshListing() {
     }
     const bool isCounted = tracker_.update(now_, gone_);
     adoptListing();
+    watchReclaim();
     return isCounted;
+}
+
+/// What was read in calm may have changed when that is over, and is not due for long.
+void LinuxProcessTable::watchReclaim() {
+    const bool wasCalm = isCalm_;
+    isCalm_ = clocksFit_ && reclaim_.isCalm(now_);
+    if (!wasCalm || isCalm_) return;
+    for (Known& known : known_) {
+        const double soon = now_ + firstPart(known.pid) * residentPeriodOf(known);
+        known.residentDue = std::min(known.residentDue, soon);
+    }
 }
 
 /// Both lists ascend, so one pass over both finds new and ended processes.
@@ -194,6 +208,7 @@ bool LinuxProcessTable::isTheSame(const Known& known, std::uint64_t clock) const
 /// What stands at the top of a list is never older than the shortest period.
 double LinuxProcessTable::residentPeriodOf(const Known& known) const {
     if (known.residentBytes >= largeResident) return residentPeriod;
+    if (isCalm_) return calmResidentPeriod;
     return std::clamp(static_cast<double>(known_.size()) / residentsPerSecond, residentPeriod,
                       longestResidentPeriod);
 }

@@ -11,6 +11,7 @@
 #include "platform/linux/linux_roots.h"
 #include "platform/linux/processes/pid_tracker.h"
 #include "platform/linux/processes/process_clocks.h"
+#include "platform/linux/processes/reclaim_watch.h"
 #include "platform/process_table.h"
 
 namespace vantor {
@@ -21,9 +22,11 @@ namespace vantor {
 /// another process than before, as its identifier has been assigned anew; where the kernel does not
 /// tell, when its clock has moved. The resident size is always that of statm, because stat's is not
 /// exact, and is read when the clock has moved: one that did not run did not grow. The kernel may
-/// still take memory from a sleeping process, so that figure is read again when it is five seconds
-/// old (spread, so that no pass has to read them all; of more than 2,000 processes those below
-/// 16 MiB wait until they are 400 a second, at most half a minute). Kernel threads have none.
+/// still take memory from a sleeping process. While it does, that figure is read again when it is
+/// five seconds old (spread, so that no pass has to read them all; of more than 2,000 processes
+/// those below 16 MiB wait until they are 400 a second, at most half a minute). While the kernel
+/// tells that it takes none, those below 16 MiB are read again every two minutes, for what it does
+/// not tell: other programs may take memory, too. Kernel threads have none.
 /// Times are nanoseconds. Where there are no clocks (a recorded machine, another pid namespace),
 /// stat is read for all, with its hundredths of a second.
 class LinuxProcessTable : public ProcessTable {
@@ -55,6 +58,7 @@ class LinuxProcessTable : public ProcessTable {
     };
 
     bool refreshListing();
+    void watchReclaim();
     void adoptListing();
     Known* find(std::int32_t pid);
     bool update(Known& known, std::optional<std::uint64_t> clock, std::uint64_t& counted);
@@ -71,6 +75,8 @@ class LinuxProcessTable : public ProcessTable {
     std::shared_ptr<ProcessClocks> clocks_;
     bool clocksFit_;  // /proc is that of the namespace in which the clocks count, and they answer
     PIDTracker tracker_;
+    ReclaimWatch reclaim_;
+    bool isCalm_ = false;  // the kernel takes no memory from sleeping processes
     bool isListingFresh_ = false;
     double now_ = 0;
     std::vector<Known> known_;

@@ -46,6 +46,11 @@ class LinuxProcessTableTest : public testing::Test, protected ProcessTree {
         return found ? found->residentSize / pageSize : 0;
     }
 
+    /// What the kernel counts of the pages it has taken from processes.
+    void takeBack(int pages) const {
+        tree.proc("vmstat", "pgsteal_kswapd " + std::to_string(pages) + "\n");
+    }
+
     std::optional<LinuxProcessTable> table;
 };
 
@@ -139,11 +144,11 @@ TEST_F(LinuxProcessTableTest, WithoutStatmTheSizeIsStats) {
 
 /// When the size of a sleeping process is read anew after it was first seen.
 double firstRenewal(std::int32_t pid) {
-    return 5.0 * (1 + pid % 16) / 16;
+    return 5.0 * (1 + pid % 128) / 128;
 }
 
 TEST_F(LinuxProcessTableTest, TheSizeOfASleeperIsRenewedAtTheLatestWhenItIsFiveSecondsOld) {
-    for (const std::int32_t pid : {48, 55, 63}) {
+    for (const std::int32_t pid : {128, 170, 255}) {
         SCOPED_TRACE(pid);
         start(pid);
         const double first = firstRenewal(pid);
@@ -160,8 +165,8 @@ TEST_F(LinuxProcessTableTest, TheSizeOfASleeperIsRenewedAtTheLatestWhenItIsFiveS
 }
 
 TEST_F(LinuxProcessTableTest, OfThousandsOfSleepersTheSmallOnesWaitForLongerAndTheLargeOnesDoNot) {
-    constexpr std::int32_t small = 2015;  // both are first renewed after a whole period
-    constexpr std::int32_t large = 2031;
+    constexpr std::int32_t small = 2047;  // both are first renewed after a whole period
+    constexpr std::int32_t large = 2175;
     const std::uint64_t manyPages = (std::uint64_t{16} << 20U) / pageSize;
     for (std::int32_t pid = 1000; pid < 4000; ++pid)
         tree.proc(file(pid, "comm"), "sleeper\n");
@@ -182,7 +187,7 @@ TEST_F(LinuxProcessTableTest, OfThousandsOfSleepersTheSmallOnesWaitForLongerAndT
 }
 
 TEST_F(LinuxProcessTableTest, NoSizeIsOlderThanHalfAMinute) {
-    constexpr std::int32_t sleeper = 2015;
+    constexpr std::int32_t sleeper = 2047;
     for (std::int32_t pid = 1000; pid < 14000; ++pid)
         tree.proc(file(pid, "comm"), "sleeper\n");
     start(sleeper);
@@ -193,22 +198,74 @@ TEST_F(LinuxProcessTableTest, NoSizeIsOlderThanHalfAMinute) {
 }
 
 TEST_F(LinuxProcessTableTest, SleepersSeenTogetherAreNotRenewedTogether) {
-    for (std::int32_t pid = 160; pid < 176; ++pid)
+    constexpr std::int32_t first = 1280;
+    constexpr std::int32_t end = first + 128;
+    for (std::int32_t pid = first; pid < end; ++pid)
         start(pid);
     table.emplace(tree.roots(), clocks);
     table->listAllPIDs({});
-    for (std::int32_t pid = 160; pid < 176; ++pid)
+    for (std::int32_t pid = first; pid < end; ++pid)
         info(pid);
-    for (std::int32_t pid = 160; pid < 176; ++pid)
+    for (std::int32_t pid = first; pid < end; ++pid)
         add(pid, {.residentPages = 2});
-    for (int passed = 1; passed <= 16; ++passed) {
-        clocks->seconds += 5.0 / 16 + 0.001;
+    for (int passed = 1; passed <= 128; ++passed) {
+        clocks->seconds += 5.0 / 128 + 0.0001;
         table->listAllPIDs({});
         int renewed = 0;
-        for (std::int32_t pid = 160; pid < 176; ++pid)
+        for (std::int32_t pid = first; pid < end; ++pid)
             renewed += info(pid)->residentSize == 2 * pageSize ? 1 : 0;
         EXPECT_EQ(renewed, passed);
     }
+}
+
+constexpr std::int32_t calmSleeper = 255;  // first renewed after a whole period
+
+TEST_F(LinuxProcessTableTest, WhileNoMemoryIsTakenASmallSleeperIsRenewedEveryTwoMinutes) {
+    takeBack(7);
+    start(calmSleeper);
+    pagesAfter(0, calmSleeper);
+    for (const std::uint64_t pages : {2U, 3U}) {
+        const std::uint64_t before = info(calmSleeper)->residentSize / pageSize;
+        add(calmSleeper, {.residentPages = pages});
+        EXPECT_EQ(pagesAfter(119.9, calmSleeper), before);
+        EXPECT_EQ(pagesAfter(0.2, calmSleeper), pages);
+    }
+}
+
+TEST_F(LinuxProcessTableTest, WhileNoMemoryIsTakenALargeSleeperIsRenewedEveryFiveSeconds) {
+    takeBack(7);
+    const std::uint64_t manyPages = (std::uint64_t{16} << 20U) / pageSize;
+    start(calmSleeper, {.residentPages = manyPages});
+    pagesAfter(0, calmSleeper);
+    add(calmSleeper, {.residentPages = manyPages + 1});
+    EXPECT_EQ(pagesAfter(4.9, calmSleeper), manyPages);
+    EXPECT_EQ(pagesAfter(0.2, calmSleeper), manyPages + 1);
+}
+
+TEST_F(LinuxProcessTableTest, SizesAreRenewedSoonAfterMemoryWasTaken) {
+    takeBack(7);
+    start(calmSleeper);
+    pagesAfter(0, calmSleeper);
+    add(calmSleeper, {.residentPages = 2});
+    EXPECT_EQ(pagesAfter(20, calmSleeper), 10U);
+    takeBack(8);
+    EXPECT_EQ(pagesAfter(1, calmSleeper), 10U) << "not all at once";
+    EXPECT_EQ(pagesAfter(5.1, calmSleeper), 2U);
+    add(calmSleeper, {.residentPages = 3});
+    EXPECT_EQ(pagesAfter(5.1, calmSleeper), 3U) << "more may be taken";
+    pagesAfter(30, calmSleeper);
+    pagesAfter(6, calmSleeper);
+    add(calmSleeper, {.residentPages = 4});
+    EXPECT_EQ(pagesAfter(50, calmSleeper), 3U) << "it is calm again";
+}
+
+TEST_F(LinuxProcessTableTest, WhileNoMemoryIsTakenOneThatRanIsRenewedAtOnce) {
+    takeBack(7);
+    start(calmSleeper);
+    pagesAfter(0, calmSleeper);
+    add(calmSleeper, {.residentPages = 2});
+    clocks->values[calmSleeper] += 1;
+    EXPECT_EQ(pagesAfter(1, calmSleeper), 2U);
 }
 
 TEST_F(LinuxProcessTableTest, RunningPutsTheRenewalOff) {
