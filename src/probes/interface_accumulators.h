@@ -39,8 +39,8 @@ bool isIPv6LinkLocal(std::string_view address);
 void offerIPv4Address(std::string& held, const char* offered);
 void offerIPv6Address(std::string& held, const char* offered);
 
-/// Gathers the eligible interfaces, each under its name with the
-/// counters and addresses that count. One thread at a time.
+/// Gathers the eligible interfaces, each under its name with the counters and addresses that count.
+/// One thread at a time.
 class InterfaceAccumulators {
   public:
     using Map = NameMap<InterfaceAccumulator>;

@@ -41,7 +41,7 @@ class LinuxMachine : public Machine {
           primaryInterface_(roots, calls.routes),
           processInfo_(roots),
           processTable_(roots, calls.processClocks),
-          sensors_(std::make_shared<ProcessorSensors>(roots)) {}
+          sensors_(roots) {}
 
     const MachineCalls& calls() const override { return calls_; }
 

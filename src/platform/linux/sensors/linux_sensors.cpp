@@ -3,8 +3,8 @@
 namespace vantor {
 
 std::optional<double> LinuxSensors::processorTemperature() {
-    auto temperature = sensors_->hottestPackage();
-    if (!temperature) temperature = sensors_->hottestCore();
+    auto temperature = processors_.hottestPackage();
+    if (!temperature) temperature = processors_.hottestCore();
     // As precise as documents have always had it.
     if (temperature) temperature = static_cast<float>(*temperature);
     return temperature;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <memory>
-#include <utility>
+#include <optional>
 
 #include "platform/linux/sensors/processor_sensors.h"
 #include "platform/sensors.h"
@@ -12,14 +11,13 @@ namespace vantor {
 /// are part of the chip there is none: their drivers tell it.
 class LinuxSensors : public Sensors {
   public:
-    explicit LinuxSensors(std::shared_ptr<ProcessorSensors> sensors)
-        : sensors_(std::move(sensors)) {}
+    explicit LinuxSensors(const LinuxRoots& roots) : processors_(roots) {}
 
     std::optional<double> processorTemperature() override;
     std::optional<double> graphicsTemperature() override { return std::nullopt; }
 
   private:
-    std::shared_ptr<ProcessorSensors> sensors_;
+    ProcessorSensors processors_;
 };
 
 }  // namespace vantor
