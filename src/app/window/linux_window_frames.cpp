@@ -1,9 +1,8 @@
-#include "app/window/window_frames.h"
-
 #include <QGuiApplication>
 #include <QWindow>
 #include <QtGlobal>
 
+#include "app/window/window_frames.h"
 #include "app/window/window_system.h"
 #include "ui/theme.h"
 
