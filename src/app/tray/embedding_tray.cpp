@@ -5,12 +5,9 @@
 #include <QtGlobal>
 
 #include <cstdint>
-#include <cstdlib>
 #include <utility>
 
-#if QT_CONFIG(xcb)
-#include <xcb/xcb.h>
-#endif
+#include "app/window/linux_x11.h"
 
 namespace vantor {
 
@@ -18,40 +15,24 @@ namespace vantor {
 
 namespace {
 
-struct FreeReply {
-    void operator()(void* reply) const { std::free(reply); }
-};
-
 QByteArray selectionName() {
     char* host = nullptr;
     int display = 0;
     int screen = 0;
-    if (xcb_parse_display(nullptr, &host, &display, &screen) != 0) std::free(host);
+    const bool isNamed = xcb_parse_display(nullptr, &host, &display, &screen) != 0;
+    const std::unique_ptr<char, FreeXcbReply> parsed(isNamed ? host : nullptr);
     return "_NET_SYSTEM_TRAY_S" + QByteArray::number(screen);
 }
 
-xcb_atom_t atomOf(xcb_connection_t* server, const QByteArray& name) {
-    const auto request =
-        xcb_intern_atom(server, 0, static_cast<uint16_t>(name.size()), name.constData());
-    const std::unique_ptr<xcb_intern_atom_reply_t, FreeReply> reply(
-        xcb_intern_atom_reply(server, request, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-xcb_connection_t* connectionToServer() {
-    const auto* const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms than that of X displays may have the interface, and no connection behind it.
-    return application ? application->connection() : nullptr;
-}
-
 xcb_window_t ownerOf(xcb_connection_t* server, xcb_atom_t selection) {
-    const std::unique_ptr<xcb_get_selection_owner_reply_t, FreeReply> reply(
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(server, xcb_get_selection_owner(server, selection), nullptr));
     return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
 }
 
 xcb_atom_t traySelection(xcb_connection_t* server) {
-    static const xcb_atom_t selection = atomOf(server, selectionName());
+    static const xcb_atom_t selection =
+        atomOf(server, askForAtom(server, selectionName().toStdString()));
     return selection;
 }
 
@@ -61,7 +42,7 @@ class EmbeddingTrayWatch : public QAbstractNativeEventFilter {
         : server_(server),
           onChange_(std::move(onChange)),
           selection_(traySelection(server)),
-          manager_(atomOf(server, "MANAGER")) {
+          manager_(atomOf(server, askForAtom(server, "MANAGER"))) {
         watchOwner();
         qGuiApp->installNativeEventFilter(this);
     }
@@ -108,12 +89,12 @@ class EmbeddingTrayWatch : public QAbstractNativeEventFilter {
 }  // namespace
 
 bool hasEmbeddingTray() {
-    xcb_connection_t* const server = connectionToServer();
+    xcb_connection_t* const server = x11Connection();
     return server && ownerOf(server, traySelection(server)) != XCB_WINDOW_NONE;
 }
 
 std::unique_ptr<QAbstractNativeEventFilter> watchEmbeddingTrays(std::function<void()> onChange) {
-    xcb_connection_t* const server = connectionToServer();
+    xcb_connection_t* const server = x11Connection();
     return server ? std::make_unique<EmbeddingTrayWatch>(server, std::move(onChange)) : nullptr;
 }
 

@@ -2,18 +2,13 @@
 #include <QWindow>
 #include <QtGlobal>
 
+#include <cstdint>
+#include <string_view>
+
+#include "app/window/linux_x11.h"
 #include "app/window/window_frames.h"
 #include "app/window/window_system.h"
 #include "ui/theme.h"
-
-#if QT_CONFIG(xcb)
-#include <xcb/xcb.h>
-
-#include <cstdint>
-#include <cstdlib>
-#include <memory>
-#include <string_view>
-#endif
 
 namespace vantor {
 
@@ -21,28 +16,12 @@ namespace {
 
 #if QT_CONFIG(xcb)
 
-struct FreeAtom {
-    void operator()(xcb_intern_atom_reply_t* reply) const { std::free(reply); }
-};
-
-xcb_atom_t atomOf(xcb_connection_t* server, xcb_intern_atom_cookie_t question) {
-    const std::unique_ptr<xcb_intern_atom_reply_t, FreeAtom> reply(
-        xcb_intern_atom_reply(server, question, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-xcb_intern_atom_cookie_t ask(xcb_connection_t* server, std::string_view name) {
-    return xcb_intern_atom(server, 0, static_cast<std::uint16_t>(name.size()), name.data());
-}
-
 /// Without the property the frame has the desktop's own variant.
 void sayVariant(const QWindow& window, bool isDark) {
-    const auto* const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Other platforms than that of X displays may have the interface, and no connection behind it.
-    xcb_connection_t* const server = application ? application->connection() : nullptr;
+    xcb_connection_t* const server = x11Connection();
     if (!server) return;
-    const auto variantAsked = ask(server, "_GTK_THEME_VARIANT");
-    const auto textAsked = ask(server, "UTF8_STRING");
+    const auto variantAsked = askForAtom(server, "_GTK_THEME_VARIANT");
+    const auto textAsked = askForAtom(server, "UTF8_STRING");
     const xcb_atom_t variant = atomOf(server, variantAsked);
     const xcb_atom_t text = atomOf(server, textAsked);
     const auto id = static_cast<xcb_window_t>(window.winId());
