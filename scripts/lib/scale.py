@@ -1,8 +1,9 @@
 """scale.py PROGRAM BENCHMARKS KIND COUNT: one step of scripts/scale, on the DISPLAY of the environment.
 
-Surrounds itself with so many processes, links or mounts, lets the kernel alone answer what the program asks,
-then starts the program at its shortest interval and watches it. Prints one row of build/scale.tsv. Links and
-mounts are made where this process is: in namespaces that end with it."""
+Surrounds itself with so many processes, links or mounts, starts the program at its shortest interval and
+watches it, while others let the kernel alone answer what the program asks: at the same time, as the speed of a
+machine may change within a minute. Prints one row of build/scale.tsv. Links and mounts are made where this
+process is: in namespaces that end with it."""
 import ctypes
 import os
 import re
@@ -17,10 +18,11 @@ PROGRAM, BENCHMARKS, KIND, COUNT = sys.argv[1], sys.argv[2], sys.argv[3], int(sy
 LIBC = ctypes.CDLL(None, use_errno=True)
 INTERVAL = 0.5
 SETTLING = 5
-# The mount table is read every 15 seconds: two whole periods.
+# Volumes are asked for every 15 seconds: two whole periods.
 WATCHING = {"processes": 15, "links": 15, "mounts": 30}[KIND]
 LISTENING = 10
-ASKING = {"processes": "clocks", "links": "links", "mounts": "mounts"}[KIND]
+# The program lists /proc every half a minute only: the clocks are asked for without that as well.
+ASKINGS = {"processes": ["clocks", "known-clocks"], "links": ["links"], "mounts": ["mounts"]}[KIND]
 
 
 def clock_of(pid):
@@ -137,11 +139,19 @@ def said(*command):
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
 
 
-def bare_percent(asking):
-    asked = said(BENCHMARKS + "/bare_asking", asking).split()
-    if not asked:
-        sys.exit("scale: the kernel did not answer")
-    return 100 * float(asked[0]) / INTERVAL
+class BareAsking:
+    """One of the benchmark's askings, for as long as the program is watched."""
+
+    def __init__(self, kind):
+        rounds = round(WATCHING / INTERVAL)
+        self.process = subprocess.Popen([BENCHMARKS + "/bare_asking", kind, str(rounds)],
+                                        stdout=subprocess.PIPE, text=True)
+
+    def percent(self):
+        asked = self.process.communicate()[0].split()
+        if not asked:
+            sys.exit("scale: the kernel did not answer")
+        return "%.3f" % (100 * float(asked[0]) / INTERVAL)
 
 
 def main():
@@ -151,19 +161,18 @@ def main():
     try:
         crowd = Crowd(folder)
         time.sleep(2)
-        bare = bare_percent(ASKING)
-        # The program lists /proc every half a minute only.
-        clocks = "%.3f" % bare_percent("known-clocks") if KIND == "processes" else "-"
         program = Program(folder)
         try:
             time.sleep(SETTLING)
+            askings = [BareAsking(kind) for kind in ASKINGS]
             whole, main_thread = program.shares()
+            bare = [asking.percent() for asking in askings] + ["-"]
             memory = program.memory()
             silence, others = program.silence()
         finally:
             program.end()
-        print("%s\t%d\t%.3f\t%.3f\t%.3f\t%s\t%d\t%.1f\t%.1f" % (
-            KIND, COUNT, whole, main_thread, bare, clocks, memory, silence, others))
+        print("%s\t%d\t%.3f\t%.3f\t%s\t%s\t%d\t%.1f\t%.1f" % (
+            KIND, COUNT, whole, main_thread, bare[0], bare[1], memory, silence, others))
     finally:
         if crowd:
             crowd.end()
